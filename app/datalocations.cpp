@@ -1,0 +1,68 @@
+#include "app/datalocations.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace Mirrix {
+
+namespace {
+
+bool portableDecided = false;
+bool portablePortable = false;
+
+bool hasMarkerFile(const QString &name)
+{
+    return QFileInfo(QCoreApplication::applicationDirPath() + QLatin1Char('/') + name).isFile();
+}
+
+} // namespace
+
+void decidePortable(bool portable)
+{
+    portableDecided = true;
+    portablePortable = portable;
+}
+
+void undecidePortable()
+{
+    portableDecided = false;
+    portablePortable = false;
+}
+
+bool hasPortableSwitch(const QStringList &arguments)
+{
+    return arguments.contains(QLatin1String("--portable")) || arguments.contains(QLatin1String("-portable"));
+}
+
+bool isPortable()
+{
+    if (portableDecided)
+        return portablePortable;
+    return hasPortableSwitch(QCoreApplication::arguments()) || hasMarkerFile(QStringLiteral("Mirrix.portable")) ||
+           hasMarkerFile(QStringLiteral("portable.txt"));
+}
+
+QString dataDirectory()
+{
+    if (isPortable())
+        return QCoreApplication::applicationDirPath() + QLatin1String("/Data");
+    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QLatin1String("/Mirrix");
+}
+
+QString settingsFilePath()
+{
+    return settingsFilePath(dataDirectory());
+}
+
+QString settingsFilePath(const QString &directory)
+{
+    return directory + QLatin1String("/settings.json");
+}
+
+QString defaultBackupRoot(const QString &directory)
+{
+    return directory + QLatin1String("/Backup");
+}
+
+} // namespace Mirrix

@@ -1,0 +1,211 @@
+#include "app/settings.h"
+
+#include "app/datalocations.h"
+#include "app/languagecodes.h"
+#include "app/storedfile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <cmath>
+#include <limits>
+#include <type_traits>
+
+namespace Mirrix {
+
+namespace {
+
+using MirrixCore::ContentHashAlgorithm;
+
+// What each type of member becomes in JSON, and back with `fallback` for a value of another type.
+
+QJsonValue written(const QString &value)
+{
+    return value;
+}
+
+QJsonValue written(const QStringList &value)
+{
+    return QJsonArray::fromStringList(value);
+}
+
+QJsonValue written(bool value)
+{
+    return value;
+}
+
+QJsonValue written(qint32 value)
+{
+    return value;
+}
+
+QJsonValue written(qint64 value)
+{
+    return static_cast<double>(value);
+}
+
+QJsonValue written(ContentHashAlgorithm value)
+{
+    return value == ContentHashAlgorithm::Blake3 ? QStringLiteral("blake3") : QStringLiteral("md5");
+}
+
+/// A double cut to an integer type, held within its range.
+template <typename Integer>
+Integer truncated(double number)
+{
+    constexpr auto low = static_cast<double>(std::numeric_limits<Integer>::min());
+    if (std::isnan(number) || number <= low)
+        return std::numeric_limits<Integer>::min();
+    return number >= -low ? std::numeric_limits<Integer>::max() : static_cast<Integer>(number);
+}
+
+QString readAs(const QJsonValue &json, const QString &fallback)
+{
+    return json.toString(fallback);
+}
+
+QStringList readAs(const QJsonValue &json, const QStringList &)
+{
+    QStringList texts;
+    const QJsonArray array = json.toArray();
+    for (const QJsonValue &item : array) {
+        if (item.isString())
+            texts.append(item.toString());
+    }
+    return texts;
+}
+
+bool readAs(const QJsonValue &json, bool fallback)
+{
+    return json.toBool(fallback);
+}
+
+qint32 readAs(const QJsonValue &json, qint32 fallback)
+{
+    return truncated<qint32>(json.toDouble(fallback));
+}
+
+qint64 readAs(const QJsonValue &json, qint64 fallback)
+{
+    return truncated<qint64>(json.toDouble(static_cast<double>(fallback)));
+}
+
+ContentHashAlgorithm readAs(const QJsonValue &json, ContentHashAlgorithm)
+{
+    return MirrixCore::contentHashAlgorithmFrom(json.toString());
+}
+
+struct Field
+{
+    QString key;
+    QJsonValue (*write)(const Settings &);
+    void (*read)(const QJsonValue &, const Settings &defaults, Settings &);
+};
+
+template <auto Member>
+Field field(const QString &key)
+{
+    return {key, [](const Settings &values) { return written(values.*Member); },
+            [](const QJsonValue &json, const Settings &defaults, Settings &values) {
+                values.*Member = readAs(json, defaults.*Member);
+            }};
+}
+
+#define MIRRIX_SETTING(name) field<&Settings::name>(QStringLiteral(#name))
+
+/// Every stored member under its JSON key, in the order in which they are read. "uiLanguage" is normalised on top.
+const QList<Field> &table()
+{
+    static const QList<Field> fields = {
+        MIRRIX_SETTING(backupRoot),
+        MIRRIX_SETTING(lastRoots),
+        MIRRIX_SETTING(excludeDirs),
+        MIRRIX_SETTING(includeExts),
+        MIRRIX_SETTING(excludeExts),
+        MIRRIX_SETTING(minFileBytes),
+        MIRRIX_SETTING(maxFileBytes),
+        MIRRIX_SETTING(keepRule),
+        MIRRIX_SETTING(skipHidden),
+        MIRRIX_SETTING(skipSystemDirs),
+        MIRRIX_SETTING(similarThreshold),
+        MIRRIX_SETTING(largeFileMinBytes),
+        MIRRIX_SETTING(trayEnabled),
+        MIRRIX_SETTING(autoBackupBeforeDelete),
+        MIRRIX_SETTING(appTheme),
+        MIRRIX_SETTING(contentHashAlgorithm),
+        MIRRIX_SETTING(closeToTray),
+        MIRRIX_SETTING(scanDoneBeep),
+        MIRRIX_SETTING(skipScanConfirm),
+        MIRRIX_SETTING(uiLanguage),
+    };
+    return fields;
+}
+
+#undef MIRRIX_SETTING
+
+const QString languageKey = QStringLiteral("uiLanguage");
+
+} // namespace
+
+void Settings::load()
+{
+    QFile file(settingsFilePath(directory));
+    if (!file.open(QIODevice::ReadOnly))
+        return;
+    const QJsonDocument document = QJsonDocument::fromJson(file.readAll());
+    if (!document.isObject())
+        return;
+    const Settings defaults = defaultSettings(directory);
+    unknown = document.object();
+    languageWasStored = unknown.contains(languageKey);
+    for (const Field &entry : table())
+        entry.read(unknown.take(entry.key), defaults, *this);
+    uiLanguage = uiLanguage.isEmpty() ? systemLanguageCode() : normalizedLanguageCode(uiLanguage);
+}
+
+bool Settings::save() const
+{
+    QJsonObject json = unknown;
+    for (const Field &entry : table())
+        json.insert(entry.key, entry.write(*this));
+    return replaceFile(settingsFilePath(directory), QJsonDocument(json).toJson(QJsonDocument::Indented));
+}
+
+Settings defaultSettings(const QString &directory)
+{
+    Settings values;
+    values.directory = directory;
+    values.backupRoot = defaultBackupRoot(directory);
+    values.uiLanguage = systemLanguageCode();
+    return values;
+}
+
+Settings readSettings(const QString &directory)
+{
+    Settings values = defaultSettings(directory);
+    values.load();
+    return values;
+}
+
+Settings &settings()
+{
+    static Settings instance = [] {
+        Settings values = defaultSettings(dataDirectory());
+        values.portable = isPortable();
+        // What cannot be created is reported by whoever writes into it.
+        QDir().mkpath(values.directory);
+        QDir().mkpath(values.backupRoot);
+        values.load();
+        return values;
+    }();
+    return instance;
+}
+
+void applyContentHashAlgorithm(const Settings &settings)
+{
+    MirrixCore::setContentHashAlgorithm(settings.contentHashAlgorithm);
+}
+
+} // namespace Mirrix

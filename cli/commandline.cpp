@@ -1,0 +1,120 @@
+#include "cli/commandline.h"
+
+#include "app/datalocations.h"
+#include "cli/hashcommand.h"
+#include "cli/output.h"
+#include "cli/scancommand.h"
+#include "core/platform/nativepath.h"
+#include "core/walk/pathrules.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <array>
+#include <exception>
+
+namespace MirrixCli {
+
+namespace {
+
+const QString dataDirOption = QStringLiteral("data-dir");
+const QString portableOption = QStringLiteral("portable");
+
+struct Command
+{
+    QString name;
+    QString summary;
+    void (*addOptions)(QCommandLineParser &);
+    ExitStatus (*run)(const QCommandLineParser &);
+};
+
+const std::array<Command, 2> &commands()
+{
+    static const std::array<Command, 2> table = {{
+        {QStringLiteral("scan"), QStringLiteral("find duplicate files below folders"), addScanOptions, runScan},
+        {QStringLiteral("hash"), QStringLiteral("print digests of files"), addHashOptions, runHash},
+    }};
+    return table;
+}
+
+QString usageText()
+{
+    QString text = QStringLiteral("Usage: mirrix-cli COMMAND [OPTIONS] ...\n\nCommands:\n");
+    for (const Command &command : commands())
+        text += QStringLiteral("  %1  %2\n").arg(command.name, -8).arg(command.summary);
+    return text + QStringLiteral("\n\"mirrix-cli COMMAND --help\" tells the options of a command.\n"
+                                 "Exit status: 0 done, 1 some files failed, 2 wrong usage, 3 cancelled.\n");
+}
+
+QString versionText()
+{
+    return QLatin1String("mirrix-cli ") + QCoreApplication::applicationVersion() + QLatin1Char('\n');
+}
+
+ExitStatus runParsed(const Command &command, const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("%1: %2.").arg(command.name, command.summary));
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help."));
+    const QCommandLineOption version(QStringLiteral("version"), QStringLiteral("Show the version."));
+    command.addOptions(parser);
+    parser.addOption({dataDirOption, QStringLiteral("Folder of settings and caches (default: the program's own)."),
+                      QStringLiteral("DIR")});
+    parser.addOption({portableOption, QStringLiteral("Keep settings and caches beside the program.")});
+    parser.addOptions({version, help});
+    if (!parser.parse(arguments))
+        throw UsageError{parser.errorText()};
+    if (parser.isSet(help) || parser.isSet(version)) {
+        QString text = parser.isSet(help) ? parser.helpText() : versionText();
+        printText(text.replace(QLatin1String("[options]"), command.name + QLatin1String(" [options]")));
+        return ExitStatus::Done;
+    }
+    return command.run(parser);
+}
+
+/// The first argument that is no option names the command; it may stand before or after options without a value.
+ExitStatus dispatch(QStringList arguments)
+{
+    const QString word = arguments.value(1);
+    if (word.isEmpty())
+        throw UsageError{QStringLiteral("no command given")};
+    if (word == QLatin1String("--help") || word == QLatin1String("-h") || word == QLatin1String("help")) {
+        printText(usageText());
+        return ExitStatus::Done;
+    }
+    if (word == QLatin1String("--version")) {
+        printText(versionText());
+        return ExitStatus::Done;
+    }
+    const auto &table = commands();
+    const auto command =
+        std::find_if(table.begin(), table.end(), [&](const Command &candidate) { return candidate.name == word; });
+    if (command == table.end())
+        throw UsageError{QStringLiteral("unknown command \"%1\"").arg(word)};
+    arguments.removeAt(1);
+    return runParsed(*command, arguments);
+}
+
+} // namespace
+
+ExitStatus runCommandLine(const QStringList &arguments)
+{
+    try {
+        return dispatch(arguments);
+    } catch (const UsageError &error) {
+        printError(error.message);
+        printError(QStringLiteral("try \"mirrix-cli --help\""));
+        return ExitStatus::WrongUsage;
+    } catch (const std::exception &error) {
+        printError(QString::fromLocal8Bit(error.what()));
+        return ExitStatus::SomeFailed;
+    }
+}
+
+QString dataDirectoryOf(const QCommandLineParser &parser)
+{
+    const QString chosen = parser.value(dataDirOption);
+    return chosen.isEmpty() ? Mirrix::dataDirectory() : MirrixCore::cleanedPath(MirrixCore::absolutePath(chosen));
+}
+
+} // namespace MirrixCli

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QCommandLineParser>
+#include <QString>
+#include <QStringList>
+
+namespace MirrixCli {
+
+/// What the program tells its caller when it ends.
+enum class ExitStatus : int {
+    Done = 0,
+    SomeFailed = 1, ///< each failure was named on standard error
+    WrongUsage = 2,
+    Cancelled = 3,
+};
+
+/// Runs the command that `arguments` name, the program's own name first, and waits for its end.
+[[nodiscard]] ExitStatus runCommandLine(const QStringList &arguments);
+
+/// Thrown by a command for a mistake in its options; the message goes to standard error and the status is WrongUsage.
+struct UsageError
+{
+    QString message;
+};
+
+/// The data directory that the common options choose, absolute.
+[[nodiscard]] QString dataDirectoryOf(const QCommandLineParser &parser);
+
+} // namespace MirrixCli

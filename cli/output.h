@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QString>
+
+#include <memory>
+
+class QFileDevice;
+
+namespace MirrixCli {
+
+/// Writes a text to standard output, or a line to standard error behind the program's name.
+void printText(const QString &text);
+void printError(const QString &message);
+
+/// A path as the outside world is to see it: its own bytes; line breaks and control characters, which could forge
+/// lines or steer a terminal, as "?" when `forTerminal`.
+[[nodiscard]] QByteArray shownPath(const QString &path, bool forTerminal);
+
+/// Where a report goes: standard output, or a file that appears whole or not at all.
+class Output
+{
+public:
+    Output();
+    ~Output();
+
+    /// Opens `path`; standard output when it is empty. False on failure; errorText tells why.
+    [[nodiscard]] bool open(const QString &path);
+
+    /// Buffered. A failure is kept for finish.
+    void write(QByteArrayView bytes);
+
+    /// Writes what is buffered and, for a file, puts it into place. False when anything could not be written: a file
+    /// is then as it was before.
+    [[nodiscard]] bool finish();
+
+    [[nodiscard]] QString errorText() const;
+
+    /// Whether a person reads along.
+    [[nodiscard]] bool isTerminal() const;
+
+private:
+    void flush();
+
+    std::unique_ptr<QFileDevice> m_device;
+    QByteArray m_buffer;
+    bool m_isFile = false;
+    bool m_hasFailed = false;
+};
+
+} // namespace MirrixCli

@@ -1,0 +1,210 @@
+#include "cli/scancommand.h"
+
+#include "app/settings.h"
+#include "cli/output.h"
+#include "cli/progressline.h"
+#include "cli/scanreport.h"
+#include "cli/terminal.h"
+#include "core/cache/cacheroot.h"
+#include "core/match/rulekeys.h"
+#include "core/platform/nativepath.h"
+#include "core/scan/duplicatescanner.h"
+#include "core/scan/optiontable.h"
+#include "core/walk/pathrules.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QTemporaryFile>
+
+namespace MirrixCli {
+
+namespace {
+
+using namespace MirrixCore;
+
+const QString modeOption = QStringLiteral("mode");
+const QString hashOption = QStringLiteral("hash");
+const QString setOption = QStringLiteral("set");
+const QString optionsOption = QStringLiteral("options");
+const QString excludeOption = QStringLiteral("exclude");
+const QString noCacheOption = QStringLiteral("no-cache");
+const QString threadsOption = QStringLiteral("threads");
+const QString formatOption = QStringLiteral("format");
+const QString outputOption = QStringLiteral("output");
+
+constexpr int mostThreads = 256;
+
+void readOptionsFile(const QString &path, ScanOptions &options)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw UsageError{QStringLiteral("cannot read %1: %2").arg(path, file.errorString())};
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
+    if (!document.isObject()) {
+        const bool isJson = error.error == QJsonParseError::NoError;
+        throw UsageError{QStringLiteral("%1: %2").arg(
+            path, isJson ? QStringLiteral("not a JSON object") : error.errorString())};
+    }
+    const QString problem = scanOptionsFromJson(document.object(), options);
+    if (!problem.isEmpty())
+        throw UsageError{QStringLiteral("%1: %2").arg(path, problem)};
+}
+
+void applyAssignment(const QString &assignment, ScanOptions &options)
+{
+    const qsizetype equals = assignment.indexOf(QLatin1Char('='));
+    if (equals < 1)
+        throw UsageError{QStringLiteral("--set needs NAME=VALUE, not \"%1\"").arg(assignment)};
+    const QString problem = setScanOption(options, assignment.left(equals), assignment.mid(equals + 1));
+    if (!problem.isEmpty())
+        throw UsageError{problem};
+}
+
+QString absoluteFolder(const QString &path)
+{
+    if (path.isEmpty())
+        throw UsageError{QStringLiteral("an empty folder name")};
+    return cleanedPath(absolutePath(path));
+}
+
+int threadsOf(const QString &text)
+{
+    bool isNumber = false;
+    const int threads = text.toInt(&isNumber);
+    if (!isNumber || threads < 0 || threads > mostThreads)
+        throw UsageError{QStringLiteral("--threads needs a number from 0 to %1, not \"%2\"").arg(mostThreads).arg(text)};
+    return threads;
+}
+
+/// Refuses what this version would answer with an empty result.
+void refuseUnsupported(const ScanOptions &options)
+{
+    const bool isContentMode = options.searchMode == 0 && options.contentMatch == 0;
+    const bool hasOtherKind = std::any_of(options.locations.begin(), options.locations.end(),
+                                          [](const ScanLocation &location) { return location.findKind == 1; });
+    if (!isContentMode || hasOtherKind || hasRefiningRule(options) || options.duplicateFoldersOnly)
+        throw UsageError{QStringLiteral("this version finds identical content only; rules on names, dates and paths, "
+                                        "similar content, media and duplicate folders are not available yet")};
+}
+
+void applyHash(const QCommandLineParser &parser, const QString &dataDirectory)
+{
+    const QString name = parser.value(hashOption);
+    if (name.isEmpty()) {
+        Mirrix::applyContentHashAlgorithm(Mirrix::readSettings(dataDirectory));
+        return;
+    }
+    if (name != QLatin1String("md5") && name != QLatin1String("blake3"))
+        throw UsageError{QStringLiteral("--hash needs md5 or blake3, not \"%1\"").arg(name)};
+    setContentHashAlgorithm(contentHashAlgorithmFrom(name));
+}
+
+ReportFormat formatOf(const QString &name)
+{
+    if (name == QLatin1String("text"))
+        return ReportFormat::Text;
+    if (name == QLatin1String("json"))
+        return ReportFormat::Json;
+    throw UsageError{QStringLiteral("--format needs text or json, not \"%1\"").arg(name)};
+}
+
+/// Turns the cache on, and says so when it can remember nothing new.
+void useCache(const QString &dataDirectory)
+{
+    setCacheRoot(dataDirectory);
+    const QString folder = dataDirectory + QLatin1String("/fingerprint_cache");
+    QTemporaryFile probe(folder + QLatin1String("/probe"));
+    if (!QDir().mkpath(folder) || !probe.open())
+        printError(QStringLiteral("cannot write to %1: digests are not remembered for the next scan").arg(folder));
+}
+
+ScanResult scanWithProgress(const ScanOptions &options)
+{
+    ProgressLine line;
+    return DuplicateScanner::scan(
+        options, [&line](const ScanProgress &progress) { line.show(progress); }, isInterrupted);
+}
+
+} // namespace
+
+void addScanOptions(QCommandLineParser &parser)
+{
+    parser.addOptions({
+        {modeOption, QStringLiteral("What to look for: content (default)."), QStringLiteral("MODE"),
+         QStringLiteral("content")},
+        {hashOption, QStringLiteral("Digest to compare by: md5 or blake3 (default: as in the settings)."),
+         QStringLiteral("NAME")},
+        {setOption, QStringLiteral("Set a scan option. May be repeated."), QStringLiteral("NAME=VALUE")},
+        {optionsOption, QStringLiteral("Read scan options from a JSON file."), QStringLiteral("FILE")},
+        {excludeOption, QStringLiteral("Do not enter this folder. May be repeated."), QStringLiteral("DIR")},
+        {noCacheOption, QStringLiteral("Neither use nor store remembered digests.")},
+        {threadsOption, QStringLiteral("Worker threads; 0 = as many as the machine has, at most 8."),
+         QStringLiteral("N")},
+        {formatOption, QStringLiteral("Form of the report: text (default) or json."), QStringLiteral("FORMAT"),
+         QStringLiteral("text")},
+        {outputOption, QStringLiteral("Write the report to a file."), QStringLiteral("FILE")},
+    });
+    parser.addPositionalArgument(QStringLiteral("FOLDER"), QStringLiteral("Folders to scan, with all below them."),
+                                 QStringLiteral("FOLDER..."));
+}
+
+ScanOptions scanOptionsOf(const QCommandLineParser &parser)
+{
+    ScanOptions options;
+    options.collapseHardLinks = true; // further names of one file waste nothing
+    if (parser.isSet(optionsOption))
+        readOptionsFile(parser.value(optionsOption), options);
+    const QStringList assignments = parser.values(setOption);
+    for (const QString &assignment : assignments)
+        applyAssignment(assignment, options);
+    if (parser.value(modeOption) != QLatin1String("content"))
+        throw UsageError{QStringLiteral("--mode needs content, not \"%1\"").arg(parser.value(modeOption))};
+    if (parser.isSet(threadsOption))
+        options.threads = threadsOf(parser.value(threadsOption));
+    const QStringList excluded = parser.values(excludeOption);
+    for (const QString &folder : excluded)
+        options.excludeFolders.append(absoluteFolder(folder));
+    QStringList roots = options.roots + parser.positionalArguments();
+    for (QString &root : roots)
+        root = absoluteFolder(root);
+    options.roots = roots;
+    if (options.roots.isEmpty())
+        throw UsageError{QStringLiteral("no folder to scan")};
+    refuseUnsupported(options);
+    return options;
+}
+
+ExitStatus runScan(const QCommandLineParser &parser)
+{
+    const ScanOptions options = scanOptionsOf(parser);
+    const ReportFormat format = formatOf(parser.value(formatOption));
+    const QString dataDirectory = dataDirectoryOf(parser);
+    applyHash(parser, dataDirectory);
+    Output output;
+    if (!output.open(parser.value(outputOption)))
+        throw UsageError{QStringLiteral("cannot write %1: %2").arg(parser.value(outputOption), output.errorText())};
+    if (parser.isSet(noCacheOption))
+        setCacheRoot({});
+    else
+        useCache(dataDirectory);
+
+    catchInterrupts();
+    const ScanResult result = scanWithProgress(options);
+    for (const UnreadPath &unread : result.unread)
+        printError(QStringLiteral("%1: %2").arg(unread.path, unread.reason));
+    if (isInterrupted()) {
+        printError(QStringLiteral("cancelled"));
+        return ExitStatus::Cancelled;
+    }
+    writeReport(result, format, output);
+    if (!output.finish()) {
+        printError(QStringLiteral("cannot write the report: %1").arg(output.errorText()));
+        return ExitStatus::SomeFailed;
+    }
+    return result.unread.isEmpty() ? ExitStatus::Done : ExitStatus::SomeFailed;
+}
+
+} // namespace MirrixCli

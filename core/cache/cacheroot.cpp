@@ -1,0 +1,35 @@
+#include "core/cache/cacheroot.h"
+
+#include <mutex>
+
+namespace MirrixCore {
+
+namespace {
+
+struct Root
+{
+    std::mutex mutex;
+    QString folder;
+};
+
+Root &root()
+{
+    static Root instance;
+    return instance;
+}
+
+} // namespace
+
+void setCacheRoot(const QString &dataDirectory)
+{
+    const std::lock_guard lock(root().mutex);
+    root().folder = dataDirectory;
+}
+
+QString cacheRoot()
+{
+    const std::lock_guard lock(root().mutex);
+    return root().folder;
+}
+
+} // namespace MirrixCore

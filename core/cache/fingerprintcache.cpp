@@ -1,0 +1,172 @@
+#include "core/cache/fingerprintcache.h"
+
+#include "core/cache/cacheroot.h"
+#include "core/hash/contenthasher.h"
+#include "core/hash/filereader.h"
+#include "core/platform/nativepath.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <cmath>
+#include <mutex>
+
+namespace MirrixCore {
+
+namespace {
+
+namespace Key {
+const QString algorithm = QStringLiteral("algo");
+const QString size = QStringLiteral("size");
+const QString modified = QStringLiteral("mtimeMs");
+const QString quick = QStringLiteral("quick");
+const QString full = QStringLiteral("full");
+} // namespace Key
+
+std::mutex &cacheMutex()
+{
+    static std::mutex mutex;
+    return mutex;
+}
+
+/// No entry of ours comes near this size; what is larger is not one.
+constexpr qint64 largestEntryBytes = 1 << 20;
+
+/// The entry's text; empty when there is none.
+QByteArray readEntryFile(const QString &entryPath)
+{
+    FileReader reader;
+    if (!reader.open(entryPath) || reader.sizeBytes() < 1 || reader.sizeBytes() > largestEntryBytes)
+        return {};
+    QByteArray text(reader.sizeBytes(), Qt::Uninitialized);
+    text.truncate(std::max<qint64>(reader.readAt(0, text.data(), text.size()), 0));
+    return text;
+}
+
+bool writeEntryFile(const QString &entryPath, const QByteArray &text)
+{
+    QFile file(entryPath);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered))
+        return false;
+    if (file.write(text) != text.size()) // a full disk: half an entry is none, and only in the way
+        file.remove();
+    return true;
+}
+
+/// A JSON number cut to an integer; 0 for what is no number or beyond 64 bits.
+qint64 truncated(const QJsonValue &value)
+{
+    const double number = value.toDouble();
+    return std::abs(number) < 9.2e18 ? static_cast<qint64>(number) : 0;
+}
+
+bool isValidFor(const QJsonObject &entry, qint64 sizeBytes, qint64 modifiedMs)
+{
+    const QString algorithm = entry[Key::algorithm].toString();
+    return truncated(entry[Key::size]) == sizeBytes && truncated(entry[Key::modified]) == modifiedMs &&
+           (algorithm.isEmpty() || algorithm == currentHashAlgorithmName());
+}
+
+QJsonObject entryFor(qint64 sizeBytes, qint64 modifiedMs, const QByteArray &quick, const QByteArray &full)
+{
+    QJsonObject entry{{Key::algorithm, currentHashAlgorithmName()},
+                      {Key::size, static_cast<double>(sizeBytes)},
+                      {Key::modified, static_cast<double>(modifiedMs)},
+                      {Key::quick, QString::fromLatin1(quick.toHex())}};
+    if (!full.isEmpty())
+        entry.insert(Key::full, QString::fromLatin1(full.toHex()));
+    return entry;
+}
+
+/// The members of `old`, replaced and completed by those of `entry`. A full digest in `old` stays only if it describes
+/// the same state of the file by the same algorithm: kept beside a newer quick digest it would pass for the new content.
+QByteArray mergedText(const QByteArray &old, const QJsonObject &entry)
+{
+    QJsonObject merged = QJsonDocument::fromJson(old).object();
+    const bool isSameState = isValidFor(merged, truncated(entry[Key::size]), truncated(entry[Key::modified]));
+    if (!isSameState || merged[Key::full].toString().size() != 2 * currentDigestLength())
+        merged.remove(Key::full);
+    for (auto it = entry.begin(); it != entry.end(); ++it)
+        merged.insert(it.key(), it.value());
+    return QJsonDocument(merged).toJson(QJsonDocument::Compact);
+}
+
+void store(const QString &filePath, qint64 sizeBytes, qint64 modifiedMs, const QByteArray &quick,
+           const QByteArray &full)
+{
+    const QString entryPath = cachePathFor(filePath);
+    if (entryPath.isEmpty())
+        return;
+    const QJsonObject entry = entryFor(sizeBytes, modifiedMs, quick, full);
+    QByteArray text = QJsonDocument(entry).toJson(QJsonDocument::Compact);
+
+    const std::lock_guard lock(cacheMutex());
+    const QByteArray old = readEntryFile(entryPath);
+    if (!old.isEmpty())
+        text = mergedText(old, entry);
+    // Nearly always the folder is there; making sure each time would cost more than the entry.
+    if (!writeEntryFile(entryPath, text) && QDir().mkpath(QFileInfo(entryPath).path()))
+        writeEntryFile(entryPath, text);
+}
+
+} // namespace
+
+QString cachePathFor(const QString &filePath)
+{
+    const QString root = cacheRoot();
+    if (root.isEmpty())
+        return {};
+    const QByteArray digest = QCryptographicHash::hash(pathBytes(filePath), QCryptographicHash::Sha256).toHex();
+    return root + QLatin1String("/fingerprint_cache/") + QLatin1String(digest.first(2)) + QLatin1Char('/') +
+           QLatin1String(digest) + QLatin1String(".json");
+}
+
+Fingerprint lookupFingerprint(const QString &filePath, qint64 sizeBytes, qint64 modifiedMs)
+{
+    const QString entryPath = cachePathFor(filePath);
+    if (entryPath.isEmpty())
+        return {};
+    QByteArray text;
+    {
+        const std::lock_guard lock(cacheMutex());
+        text = readEntryFile(entryPath);
+    }
+    if (text.isEmpty())
+        return {};
+    const QJsonObject entry = QJsonDocument::fromJson(text).object();
+    if (!isValidFor(entry, sizeBytes, modifiedMs))
+        return {};
+    return {QByteArray::fromHex(entry[Key::quick].toString().toLatin1()),
+            QByteArray::fromHex(entry[Key::full].toString().toLatin1())};
+}
+
+bool lookupQuick(const QString &filePath, qint64 sizeBytes, qint64 modifiedMs, QByteArray &digest)
+{
+    digest = lookupFingerprint(filePath, sizeBytes, modifiedMs).quick;
+    return !digest.isEmpty();
+}
+
+bool lookupFull(const QString &filePath, qint64 sizeBytes, qint64 modifiedMs, QByteArray &digest)
+{
+    digest = lookupFingerprint(filePath, sizeBytes, modifiedMs).full;
+    return !digest.isEmpty();
+}
+
+void storeQuick(const QString &filePath, qint64 sizeBytes, qint64 modifiedMs, const QByteArray &quick)
+{
+    if (!quick.isEmpty() && sizeBytes >= 1)
+        store(filePath, sizeBytes, modifiedMs, quick, {});
+}
+
+void storeQuickAndFull(const QString &filePath, qint64 sizeBytes, qint64 modifiedMs, const QByteArray &quick,
+                       const QByteArray &full)
+{
+    if (!quick.isEmpty() && !full.isEmpty() && sizeBytes >= 1)
+        store(filePath, sizeBytes, modifiedMs, quick, full);
+}
+
+} // namespace MirrixCore

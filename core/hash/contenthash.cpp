@@ -1,0 +1,178 @@
+#include "core/hash/contenthash.h"
+
+#include "core/hash/filereader.h"
+#include "core/hash/mappedreader.h"
+#include "core/hash/samples.h"
+
+#include <algorithm>
+
+namespace MirrixCore {
+
+namespace {
+
+/// Opens `path` and notes what is known of it.
+bool openNoted(FileReader &reader, const QString &path, HashNotes *notes)
+{
+    const bool isOpen = reader.open(path);
+    if (notes && isOpen) {
+        notes->sizeBytes = reader.sizeBytes();
+        notes->modifiedMs = reader.modifiedMs();
+    } else if (notes) {
+        notes->failure = reader.errorText();
+    }
+    return isOpen;
+}
+
+/// Hands on `digest` after noting whether the file changed while it was read.
+QByteArray finished(const FileReader &reader, const QByteArray &digest, HashNotes *notes)
+{
+    if (notes)
+        notes->hasChanged = !reader.isUnchanged();
+    return digest;
+}
+
+QByteArray failed(const FileReader &reader, HashNotes *notes)
+{
+    if (notes)
+        notes->failure = reader.errorText();
+    return {};
+}
+
+enum class Streaming { Done, Cancelled, Failed };
+
+/// Feeds `add` with the file from its start to `limitBytes` or its end, in chunks of at most `chunkBytes`.
+template <typename Add>
+Streaming stream(FileReader &reader, qint64 limitBytes, qint64 chunkBytes, const CancelQuery &cancelled, Add add)
+{
+    // One byte more than the file holds lets a single read both take a small file whole and see its end.
+    const qint64 bufferBytes = std::min({chunkBytes, limitBytes, reader.sizeBytes() + 1});
+    QByteArray buffer(bufferBytes, Qt::Uninitialized);
+    for (qint64 offset = 0; offset < limitBytes;) {
+        if (isCancelled(cancelled))
+            return Streaming::Cancelled;
+        const qint64 wanted = std::min(bufferBytes, limitBytes - offset);
+        const qint64 count = reader.readAt(offset, buffer.data(), wanted);
+        if (count < 0)
+            return Streaming::Failed;
+        add(QByteArrayView(buffer.constData(), count));
+        offset += count;
+        if (count < wanted)
+            break;
+    }
+    return Streaming::Done;
+}
+
+constexpr qint64 wholeFile = std::numeric_limits<qint64>::max();
+
+/// Digest of the whole content by any hasher with addData, reset and result: mapped where that is possible, else
+/// streamed.
+template <typename Hasher>
+QByteArray wholeDigest(const QString &path, Hasher &hasher, bool mayMap, const CancelQuery &cancelled, HashNotes *notes)
+{
+    FileReader reader;
+    if (!openNoted(reader, path, notes))
+        return {};
+    if (mayMap && reader.sizeBytes() >= mapThresholdBytes) {
+        const auto feed = [&](const char *bytes, qint64 length) {
+            hasher.addData(QByteArrayView(bytes, length));
+            return !isCancelled(cancelled);
+        };
+        if (mapFileIntoSink(path, feed))
+            return finished(reader, hasher.result(), notes);
+        hasher.reset();
+    }
+    reader.expectSequentialReads();
+    const Streaming outcome = stream(reader, wholeFile, streamChunkBytes, cancelled,
+                                     [&](QByteArrayView bytes) { hasher.addData(bytes); });
+    if (outcome == Streaming::Failed)
+        return failed(reader, notes);
+    return outcome == Streaming::Done ? finished(reader, hasher.result(), notes) : QByteArray();
+}
+
+} // namespace
+
+QByteArray quickHash(const QString &path, HashNotes *notes)
+{
+    FileReader reader;
+    if (!openNoted(reader, path, notes))
+        return {};
+    const qint64 size = reader.sizeBytes();
+    if (size <= 0)
+        return {};
+    std::array<char, 2 * quickWindowBytes> window; // NOLINT: filled by the reads
+    const bool isWhole = size <= 2 * quickWindowBytes;
+    qint64 count = reader.readAt(0, window.data(), isWhole ? size : quickWindowBytes);
+    if (count <= 0)
+        return failed(reader, notes);
+    QByteArrayView head(window.data(), std::min(count, quickWindowBytes));
+    QByteArrayView tail;
+    if (isWhole && size > quickWindowBytes) {
+        const qint64 from = std::min(size - quickWindowBytes, count);
+        tail = QByteArrayView(window.data() + from, count - from);
+    } else if (!isWhole) {
+        count = reader.readAt(size - quickWindowBytes, window.data() + quickWindowBytes, quickWindowBytes);
+        if (count < 0)
+            return failed(reader, notes);
+        tail = QByteArrayView(window.data() + quickWindowBytes, count);
+    }
+    ContentHasher hasher(contentHashAlgorithm());
+    hasher.addData(QByteArray::number(size));
+    hasher.addData(head);
+    hasher.addData(tail);
+    return finished(reader, hasher.result(), notes);
+}
+
+QByteArray fullContentHash(const QString &path, const CancelQuery &cancelled, HashNotes *notes)
+{
+    ContentHasher hasher(contentHashAlgorithm());
+    return wholeDigest(path, hasher, true, cancelled, notes);
+}
+
+QByteArray fullContentHashBlake3(const QString &path, const CancelQuery &cancelled, HashNotes *notes)
+{
+    ContentHasher hasher(ContentHashAlgorithm::Blake3);
+    return wholeDigest(path, hasher, true, cancelled, notes);
+}
+
+QByteArray prefixHash(const QString &path, qint64 limitBytes, const CancelQuery &cancelled, HashNotes *notes)
+{
+    if (limitBytes < 1)
+        return fullContentHash(path, cancelled, notes);
+    FileReader reader;
+    if (!openNoted(reader, path, notes))
+        return {};
+    ContentHasher hasher(contentHashAlgorithm());
+    hasher.addData(QByteArray::number(reader.sizeBytes()));
+    const Streaming outcome = stream(reader, limitBytes, prefixChunkBytes, cancelled,
+                                     [&](QByteArrayView bytes) { hasher.addData(bytes); });
+    if (outcome == Streaming::Failed)
+        return failed(reader, notes);
+    return outcome == Streaming::Done ? finished(reader, hasher.result(), notes) : QByteArray();
+}
+
+QByteArray sampleHash(const QString &path, HashNotes *notes)
+{
+    FileReader reader;
+    if (!openNoted(reader, path, notes))
+        return {};
+    const qint64 size = reader.sizeBytes();
+    QCryptographicHash hash(QCryptographicHash::Md5);
+    hash.addData(QByteArray::number(size));
+    std::array<char, sampleBlockBytes> block; // NOLINT: filled by the reads
+    for (const qint64 offset : sampleOffsets(size)) {
+        const qint64 count = reader.readAt(offset, block.data(), sampleBlockBytes);
+        if (count < 0)
+            return failed(reader, notes);
+        hash.addData(QByteArrayView(block.data(), count));
+    }
+    return finished(reader, hash.result(), notes);
+}
+
+QByteArray hashFileWith(const QString &path, QCryptographicHash::Algorithm algorithm, const CancelQuery &cancelled,
+                        HashNotes *notes)
+{
+    QCryptographicHash hash(algorithm);
+    return wholeDigest(path, hash, false, cancelled, notes);
+}
+
+} // namespace MirrixCore

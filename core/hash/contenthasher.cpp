@@ -1,0 +1,79 @@
+#include "core/hash/contenthasher.h"
+
+#include <blake3.h>
+
+#include <atomic>
+
+namespace MirrixCore {
+
+namespace {
+std::atomic<ContentHashAlgorithm> currentAlgorithm = ContentHashAlgorithm::Md5;
+}
+
+void setContentHashAlgorithm(ContentHashAlgorithm algorithm)
+{
+    currentAlgorithm = algorithm;
+}
+
+ContentHashAlgorithm contentHashAlgorithm()
+{
+    return currentAlgorithm;
+}
+
+ContentHashAlgorithm contentHashAlgorithmFrom(const QString &name)
+{
+    return name == QLatin1String("blake3") ? ContentHashAlgorithm::Blake3 : ContentHashAlgorithm::Md5;
+}
+
+QString currentHashAlgorithmName()
+{
+    return contentHashAlgorithm() == ContentHashAlgorithm::Blake3 ? QStringLiteral("blake3") : QStringLiteral("md5");
+}
+
+int currentDigestLength()
+{
+    return contentHashAlgorithm() == ContentHashAlgorithm::Blake3 ? BLAKE3_OUT_LEN : 16;
+}
+
+struct ContentHasher::Blake3State
+{
+    blake3_hasher hasher;
+};
+
+ContentHasher::ContentHasher(ContentHashAlgorithm algorithm)
+{
+    if (algorithm == ContentHashAlgorithm::Blake3)
+        m_blake3.reset(new Blake3State); // not value-initialised: 2 KB that blake3_hasher_init need not have cleared
+    else
+        m_md5 = std::make_unique<QCryptographicHash>(QCryptographicHash::Md5);
+    reset();
+}
+
+ContentHasher::~ContentHasher() = default;
+
+void ContentHasher::addData(QByteArrayView bytes)
+{
+    if (m_blake3)
+        blake3_hasher_update(&m_blake3->hasher, bytes.data(), static_cast<size_t>(bytes.size()));
+    else
+        m_md5->addData(bytes);
+}
+
+QByteArray ContentHasher::result() const
+{
+    if (!m_blake3)
+        return m_md5->result();
+    QByteArray digest(BLAKE3_OUT_LEN, Qt::Uninitialized);
+    blake3_hasher_finalize(&m_blake3->hasher, reinterpret_cast<uint8_t *>(digest.data()), BLAKE3_OUT_LEN);
+    return digest;
+}
+
+void ContentHasher::reset()
+{
+    if (m_blake3)
+        blake3_hasher_init(&m_blake3->hasher);
+    else
+        m_md5->reset();
+}
+
+} // namespace MirrixCore

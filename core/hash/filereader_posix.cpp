@@ -1,0 +1,105 @@
+#include "core/hash/filereader.h"
+
+#include "core/platform/nativepath.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace MirrixCore {
+
+struct FileReader::State
+{
+    int descriptor = -1;
+    struct stat info = {};
+    QString error;
+
+    void closeFile()
+    {
+        if (descriptor >= 0)
+            ::close(descriptor);
+        descriptor = -1;
+    }
+
+    bool fail(int code)
+    {
+        error = systemErrorText(code);
+        closeFile();
+        return false;
+    }
+};
+
+FileReader::FileReader() : m_state(std::make_unique<State>()) {}
+
+FileReader::~FileReader()
+{
+    if (m_state)
+        m_state->closeFile();
+}
+
+FileReader::FileReader(FileReader &&) noexcept = default;
+FileReader &FileReader::operator=(FileReader &&) noexcept = default;
+
+bool FileReader::open(const QString &path)
+{
+    m_state->closeFile();
+    // Without O_NONBLOCK, a pipe that took the file's place since the walk would block for ever.
+    m_state->descriptor = ::open(pathBytes(path).constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
+    if (m_state->descriptor < 0 || fstat(m_state->descriptor, &m_state->info) != 0)
+        return m_state->fail(errno);
+    if (S_ISDIR(m_state->info.st_mode))
+        return m_state->fail(EISDIR);
+    if (!S_ISREG(m_state->info.st_mode))
+        return m_state->fail(EINVAL);
+    return true;
+}
+
+qint64 FileReader::sizeBytes() const
+{
+    return m_state->info.st_size;
+}
+
+qint64 FileReader::modifiedMs() const
+{
+    return qint64(m_state->info.st_mtim.tv_sec) * 1000 + m_state->info.st_mtim.tv_nsec / 1000000;
+}
+
+qint64 FileReader::readAt(qint64 offset, char *buffer, qint64 length)
+{
+    qint64 done = 0;
+    while (done < length) {
+        const ssize_t count = pread(m_state->descriptor, buffer + done, static_cast<size_t>(length - done), offset + done);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0) {
+            m_state->error = systemErrorText(errno);
+            return -1;
+        }
+        done += count;
+        // A regular file gives less than asked only at its end; asking again would cost a call per small file.
+        if (count == 0 || offset + done >= m_state->info.st_size)
+            break;
+    }
+    return done;
+}
+
+void FileReader::expectSequentialReads()
+{
+    posix_fadvise(m_state->descriptor, 0, 0, POSIX_FADV_SEQUENTIAL);
+}
+
+bool FileReader::isUnchanged() const
+{
+    struct stat now = {};
+    const struct stat &then = m_state->info;
+    return fstat(m_state->descriptor, &now) == 0 && now.st_size == then.st_size &&
+           now.st_mtim.tv_sec == then.st_mtim.tv_sec && now.st_mtim.tv_nsec == then.st_mtim.tv_nsec;
+}
+
+QString FileReader::errorText() const
+{
+    return m_state->error;
+}
+
+} // namespace MirrixCore

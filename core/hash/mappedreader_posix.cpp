@@ -1,0 +1,15 @@
+#include "core/hash/mappedreader.h"
+
+namespace MirrixCore {
+
+bool mapFileIntoSink(const QString &, const ByteSink &)
+{
+    return false;
+}
+
+bool mapFileIntoHash(const QString &, QCryptographicHash &)
+{
+    return false;
+}
+
+} // namespace MirrixCore

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "core/scan/scanresult.h"
+
+namespace MirrixCore {
+
+/// One group with the key "empty" that holds the files of size 0 in list order, one alone included; no group when there
+/// is none.
+[[nodiscard]] ScanResult groupEmptyFiles(const QList<FileEntry> &files);
+
+} // namespace MirrixCore

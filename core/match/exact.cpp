@@ -1,0 +1,266 @@
+#include "core/scan/duplicatescanner.h"
+
+#include "core/cache/fingerprintcache.h"
+#include "core/hash/contenthash.h"
+#include "core/match/digest.h"
+#include "core/match/hardlinks.h"
+#include "core/match/parallel.h"
+#include "core/match/rulekeys.h"
+#include "core/scan/threadpool.h"
+
+#include <QElapsedTimer>
+#include <QHash>
+
+#include <algorithm>
+#include <span>
+#include <vector>
+
+namespace MirrixCore {
+
+namespace {
+
+/// A file of a size that occurs more than once, and what is known of its content.
+struct Candidate
+{
+    quint32 file = 0; ///< index into the input list
+    Digest quick;
+    Digest full;
+    bool mustStore = false; ///< holds a digest that the cache has not
+};
+
+using Candidates = std::vector<Candidate>;
+
+/// Candidates next to each other that have a digest in common.
+using Run = std::span<Candidate>;
+
+/// How long a cancelled scan may go on writing down the digests it has gained.
+constexpr qint64 cancelledStoreMs = 100;
+
+/// Three stages, each of which can only shrink the set: equal size, equal quick digest, equal full digest.
+class ExactScan
+{
+public:
+    ExactScan(const QList<FileEntry> &files, const ScanOptions &options, const ProgressCallback &progress,
+              const CancelQuery &cancelled)
+        : m_files(files)
+        , m_options(options)
+        , m_progress(progress)
+        , m_cancelled(cancelled)
+    {
+    }
+
+    ScanResult run()
+    {
+        m_result.filesScanned = m_files.size();
+        for (const FileEntry &file : m_files)
+            m_result.totalBytes += file.size;
+        Candidates candidates = filesOfSharedSize();
+        m_result.candidates = static_cast<qint64>(candidates.size());
+        sizeThreadPool(m_options);
+
+        hashQuick(candidates);
+        if (isCancelled(m_cancelled))
+            return abandoned(candidates);
+        const qsizetype shared = moveSharedToFront(candidates, &Candidate::quick);
+        hashFull(candidates, shared);
+        if (isCancelled(m_cancelled))
+            return abandoned(candidates);
+        candidates.resize(static_cast<size_t>(shared));
+        collectGroups(candidates);
+        return std::move(m_result);
+    }
+
+private:
+    Candidates filesOfSharedSize() const
+    {
+        QHash<qint64, quint32> filesOfSize;
+        for (const FileEntry &file : m_files) {
+            if (file.size > 0)
+                ++filesOfSize[file.size];
+        }
+        Candidates candidates;
+        candidates.reserve(static_cast<size_t>(m_files.size() / 4 + 8));
+        for (qsizetype i = 0; i < m_files.size(); ++i) {
+            if (filesOfSize.value(m_files[i].size) >= 2)
+                candidates.push_back({static_cast<quint32>(i), {}, {}, false});
+        }
+        return candidates;
+    }
+
+    void hashQuick(Candidates &candidates)
+    {
+        StageProgress progress(m_progress, Phase::QuickHash, m_files.size(), std::ssize(candidates));
+        forEachParallel(std::ssize(candidates), [&](qsizetype i) {
+            if (isCancelled(m_cancelled))
+                return;
+            Candidate &candidate = candidates[static_cast<size_t>(i)];
+            const FileEntry &file = m_files[candidate.file];
+            const Fingerprint known = lookupFingerprint(file.path, file.size, file.modifiedMs);
+            candidate.quick = Digest(known.quick);
+            candidate.full = Digest(known.full);
+            if (candidate.quick.isEmpty()) {
+                HashNotes notes;
+                candidate.quick = Digest(accepted(file, quickHash(file.path, &notes), notes));
+                candidate.mustStore = describes(notes, file);
+            }
+            progress.step(file.path);
+        });
+    }
+
+    /// Hashes the first `count` candidates whole. What is left of the others is only to be written down, which goes on
+    /// between the hashing, since the one keeps the disk busy and the other the processor.
+    void hashFull(Candidates &candidates, qsizetype count)
+    {
+        StageProgress progress(m_progress, Phase::FullHash, m_files.size(), count);
+        const qsizetype all = std::ssize(candidates);
+        forEachParallel(all, [&](qsizetype i) {
+            if (isCancelled(m_cancelled))
+                return;
+            // Spreads the first `count` evenly over all steps.
+            const qsizetype before = i * count / all;
+            const bool isHashing = (i + 1) * count / all > before;
+            Candidate &candidate = candidates[static_cast<size_t>(isHashing ? before : count + i - before)];
+            if (isHashing) {
+                hashWhole(candidate);
+                progress.step(m_files[candidate.file].path);
+            }
+            store(candidate);
+        });
+    }
+
+    void hashWhole(Candidate &candidate)
+    {
+        const FileEntry &file = m_files[candidate.file];
+        if (!candidate.full.isEmpty())
+            return;
+        HashNotes notes;
+        candidate.full = Digest(accepted(file, fullContentHash(file.path, m_cancelled, &notes), notes));
+        if (!candidate.full.isEmpty())
+            candidate.mustStore = describes(notes, file);
+    }
+
+    /// `digest`, or an empty one when the file could not be read or changed meanwhile; notes why.
+    QByteArray accepted(const FileEntry &file, const QByteArray &digest, const HashNotes &notes)
+    {
+        if (!digest.isEmpty() && !notes.hasChanged)
+            return digest;
+        if (notes.hasChanged)
+            noteUnread(file, QStringLiteral("changed while it was read"));
+        else if (!notes.failure.isEmpty())
+            noteUnread(file, notes.failure);
+        return {};
+    }
+
+    /// Whether the digest was taken from the state of the file that the walk saw, so that the cache may remember it.
+    static bool describes(const HashNotes &notes, const FileEntry &file)
+    {
+        return notes.sizeBytes == file.size && notes.modifiedMs == file.modifiedMs;
+    }
+
+    void store(Candidate &candidate) const
+    {
+        if (!candidate.mustStore || candidate.quick.isEmpty())
+            return;
+        const FileEntry &file = m_files[candidate.file];
+        if (candidate.full.isEmpty())
+            storeQuick(file.path, file.size, file.modifiedMs, candidate.quick.bytes());
+        else
+            storeQuickAndFull(file.path, file.size, file.modifiedMs, candidate.quick.bytes(), candidate.full.bytes());
+        candidate.mustStore = false;
+    }
+
+    /// The result of a cancelled scan. What was hashed so far is kept for the next one as far as the time allows.
+    ScanResult abandoned(Candidates &candidates)
+    {
+        QElapsedTimer timer;
+        timer.start();
+        for (Candidate &candidate : candidates) {
+            if (timer.hasExpired(cancelledStoreMs))
+                break;
+            store(candidate);
+        }
+        return std::move(m_result);
+    }
+
+    void noteUnread(const FileEntry &file, const QString &reason)
+    {
+        const std::lock_guard lock(m_unreadMutex);
+        m_result.unread.append({file.path, reason});
+    }
+
+    /// Sorts by `digest`, input order within, and returns each run of two or more equal, non-empty ones.
+    static std::vector<Run> runsOf(Candidates &candidates, Digest Candidate::*digest)
+    {
+        std::sort(candidates.begin(), candidates.end(), [digest](const Candidate &a, const Candidate &b) {
+            const auto order = a.*digest <=> b.*digest;
+            return order != 0 ? order < 0 : a.file < b.file;
+        });
+        std::vector<Run> runs;
+        for (auto begin = candidates.begin(); begin != candidates.end();) {
+            const auto end = std::find_if(begin, candidates.end(), [&](const Candidate &candidate) {
+                return candidate.*digest != (*begin).*digest;
+            });
+            if (!((*begin).*digest).isEmpty() && end - begin >= 2)
+                runs.emplace_back(begin, end);
+            begin = end;
+        }
+        return runs;
+    }
+
+    /// Brings the candidates that share a digest with another to the front, runs together; returns their number.
+    static qsizetype moveSharedToFront(Candidates &candidates, Digest Candidate::*digest)
+    {
+        Candidates ordered;
+        std::vector<bool> isShared(candidates.size());
+        qsizetype count = 0;
+        for (const Run &run : runsOf(candidates, digest)) {
+            const auto first = static_cast<size_t>(run.data() - candidates.data());
+            std::fill_n(isShared.begin() + static_cast<std::ptrdiff_t>(first), run.size(), true);
+            count += std::ssize(run);
+        }
+        ordered.reserve(candidates.size());
+        for (const bool wanted : {true, false}) {
+            for (size_t i = 0; i < candidates.size(); ++i) {
+                if (isShared[i] == wanted)
+                    ordered.push_back(candidates[i]);
+            }
+        }
+        candidates.swap(ordered);
+        return count;
+    }
+
+    void collectGroups(Candidates &candidates)
+    {
+        for (const Run &run : runsOf(candidates, &Candidate::full)) {
+            DuplicateGroup group;
+            group.key = QString::fromLatin1(run.front().full.bytes().toHex());
+            group.files.reserve(std::ssize(run));
+            for (const Candidate &candidate : run)
+                group.files.append(m_files[candidate.file]);
+            group.wastedBytes = wasteOfEqualFiles(group.files);
+            m_result.groups.append(group);
+        }
+        m_result.groups = refineGroupsByRuleKeys(m_result.groups, m_options);
+        if (m_options.collapseHardLinks)
+            collapseHardLinks(m_result.groups);
+        m_result.wastedBytes = totalWaste(m_result.groups);
+        sortByWaste(m_result.groups);
+    }
+
+    const QList<FileEntry> &m_files;
+    const ScanOptions &m_options;
+    const ProgressCallback &m_progress;
+    const CancelQuery &m_cancelled;
+    std::mutex m_unreadMutex;
+    ScanResult m_result;
+};
+
+} // namespace
+
+ScanResult DuplicateScanner::scanExact(QList<FileEntry> files, const ScanOptions &options,
+                                       const ProgressCallback &progress, const CancelQuery &cancelled)
+{
+    return ExactScan(files, options, progress, cancelled).run();
+}
+
+} // namespace MirrixCore

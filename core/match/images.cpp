@@ -1,0 +1,11 @@
+#include "core/scan/duplicatescanner.h"
+
+namespace MirrixCore {
+
+// Not written yet: finds nothing.
+ScanResult DuplicateScanner::scanSimilarImages(QList<FileEntry>, const ScanOptions &, const ProgressCallback &, const CancelQuery &)
+{
+    return {};
+}
+
+} // namespace MirrixCore

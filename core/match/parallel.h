@@ -1,0 +1,58 @@
+#pragma once
+
+#include "core/scan/scanprogress.h"
+
+#include <QtConcurrent>
+
+#include <atomic>
+#include <functional>
+#include <mutex>
+
+namespace MirrixCore {
+
+/// Calls `task(i)` for each i in 0..count-1 on Qt's global thread pool and waits for all. A task writes only what
+/// belongs to its index. The calling thread does not take part, so the pool's size is the number of threads at work.
+/// An exception of a task is thrown again here.
+template <typename Task>
+void forEachParallel(qsizetype count, Task task)
+{
+    QList<qsizetype> indices(count);
+    std::iota(indices.begin(), indices.end(), qsizetype(0));
+    QtConcurrent::map(indices, [&task](const qsizetype &index) { task(index); }).waitForFinished();
+}
+
+/// Counts the items that the tasks of one stage finish and passes every 64th and the last on, one thread at a time.
+class StageProgress
+{
+public:
+    /// `filesFound` is the matcher's input, `total` the number of items of this stage. An empty callback is allowed.
+    StageProgress(const ProgressCallback &callback, const QString &phase, qint64 filesFound, qint64 total)
+        : m_callback(callback)
+        , m_report{filesFound, 0, total, {}, phase}
+    {
+    }
+
+    /// Counts one item. Thread-safe.
+    void step(const QString &path)
+    {
+        const qint64 done = m_done.fetch_add(1, std::memory_order_relaxed) + 1;
+        if (!m_callback || (done % itemsPerReport != 0 && done != m_report.total))
+            return;
+        const std::lock_guard lock(m_mutex);
+        if (done < m_report.processed)
+            return; // another thread was quicker to report a later count
+        m_report.processed = done;
+        m_report.currentPath = path;
+        m_callback(m_report);
+    }
+
+private:
+    static constexpr qint64 itemsPerReport = 64;
+
+    const ProgressCallback &m_callback;
+    std::atomic<qint64> m_done = 0;
+    std::mutex m_mutex;
+    ScanProgress m_report;
+};
+
+} // namespace MirrixCore

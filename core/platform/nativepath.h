@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QString>
+#include <QStringList>
+
+namespace MirrixCore {
+
+// Paths inside the program are QStrings with forward slashes. Not every file name is proper Unicode: POSIX names are
+// bytes, Windows names are 16-bit units. So that each file keeps a name of its own, a POSIX byte 0x80..0xFF that is not
+// part of valid UTF-8 becomes the lone surrogate U+DC80..U+DCFF (the scheme of Python's PEP 383), and lone surrogates
+// of Windows names are kept. The pair of functions below is the only way between such texts and bytes; never use
+// toUtf8() or QFile::encodeName() on a path, both map different odd names to one. Thread-safe.
+
+/// The path as bytes, a different text for each different path: on POSIX the bytes that the system's calls take, on
+/// Windows UTF-8 in which a lone surrogate is written as three bytes.
+[[nodiscard]] QByteArray pathBytes(const QString &path);
+
+/// The path that `bytes` stand for; pathBytes gives them back unchanged.
+[[nodiscard]] QString pathFromBytes(QByteArrayView bytes);
+
+/// `path` made absolute against the current folder; forward slashes, not cleaned.
+[[nodiscard]] QString absolutePath(const QString &path);
+
+/// A text that is equal for all spellings of one path that this system does not tell apart by its rules on letter case.
+[[nodiscard]] QString pathCaseKey(const QString &path);
+
+/// The program's command line without loss, the program's name first.
+[[nodiscard]] QStringList commandLineArguments(int argc, char **argv);
+
+/// The system's text for its error number `code` (errno, or GetLastError), without a full stop or line end.
+[[nodiscard]] QString systemErrorText(int code);
+
+} // namespace MirrixCore

@@ -1,0 +1,86 @@
+#include "core/platform/nativepath.h"
+
+#include "core/platform/surrogates.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <unistd.h>
+
+namespace MirrixCore {
+
+namespace {
+
+constexpr char16_t loneBase = 0xDC00;
+
+/// Length of the valid UTF-8 sequence at the start of `bytes` (no overlong form, no surrogate), or 0.
+qsizetype validSequence(QByteArrayView bytes)
+{
+    const auto lead = static_cast<uchar>(bytes[0]);
+    const qsizetype length = lead < 0x80 ? 1 : lead < 0xC2 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF5 ? 4 : 0;
+    if (length == 0 || length > bytes.size())
+        return 0;
+    return QByteArrayView(bytes.first(length)).isValidUtf8() ? length : 0;
+}
+
+} // namespace
+
+QByteArray pathBytes(const QString &path)
+{
+    return encodeWithSurrogates(path, [](char16_t unit, QByteArray &bytes) {
+        if (unit >= loneBase + 0x80 && unit <= loneBase + 0xFF) {
+            bytes += static_cast<char>(unit - loneBase);
+        } else { // not a name of this system; kept distinct all the same
+            bytes += static_cast<char>(0xE0 | (unit >> 12));
+            bytes += static_cast<char>(0x80 | ((unit >> 6) & 0x3F));
+            bytes += static_cast<char>(0x80 | (unit & 0x3F));
+        }
+    });
+}
+
+QString pathFromBytes(QByteArrayView bytes)
+{
+    if (bytes.isValidUtf8())
+        return QString::fromUtf8(bytes);
+    QString path;
+    path.reserve(bytes.size());
+    for (qsizetype i = 0; i < bytes.size();) {
+        const qsizetype length = validSequence(bytes.sliced(i));
+        if (length == 0)
+            path += QChar(char16_t(loneBase + static_cast<uchar>(bytes[i])));
+        else
+            path += QString::fromUtf8(bytes.sliced(i, length));
+        i += std::max<qsizetype>(length, 1);
+    }
+    return path;
+}
+
+QString absolutePath(const QString &path)
+{
+    if (path.startsWith(QLatin1Char('/')))
+        return path;
+    // QDir::currentPath() loses bytes that are not UTF-8.
+    const std::unique_ptr<char, decltype(&std::free)> current(getcwd(nullptr, 0), &std::free);
+    return pathFromBytes(current.get()) + QLatin1Char('/') + path;
+}
+
+QString pathCaseKey(const QString &path)
+{
+    return path;
+}
+
+QStringList commandLineArguments(int argc, char **argv)
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(pathFromBytes(argv[i]));
+    return arguments;
+}
+
+QString systemErrorText(int code)
+{
+    return QString::fromLocal8Bit(std::strerror(code));
+}
+
+} // namespace MirrixCore

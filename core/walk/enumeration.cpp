@@ -1,0 +1,239 @@
+#include "core/walk/enumeration.h"
+
+#include "core/platform/nativepath.h"
+#include "core/walk/filestatus.h"
+#include "core/walk/folderreader.h"
+#include "core/walk/pathrules.h"
+
+#include <QSet>
+
+#include <algorithm>
+#include <vector>
+
+namespace MirrixCore {
+
+namespace {
+
+/// Which files of a folder are taken.
+class FileFilter
+{
+public:
+    explicit FileFilter(const ScanOptions &options)
+        : m_options(options)
+        , m_include(comparableExtensions(options.includeExtensions))
+        , m_exclude(comparableExtensions(options.excludeExtensions))
+    {
+    }
+
+    [[nodiscard]] bool accepts(const FolderItem &item) const
+    {
+        if (m_options.skipHidden && item.isHidden)
+            return false;
+        if (!m_include.isEmpty() || !m_exclude.isEmpty()) {
+            const QString suffix = lowerSuffix(item.name);
+            if (m_exclude.contains(suffix) || (!m_include.isEmpty() && !m_include.contains(suffix)))
+                return false;
+        }
+        return isWithin(item.sizeBytes, m_options.minSize, m_options.maxSize) &&
+               isDateWithin(item.createdMs, m_options.createdFromMs, m_options.createdToMs) &&
+               isDateWithin(item.modifiedMs, m_options.modifiedFromMs, m_options.modifiedToMs);
+    }
+
+private:
+    static QSet<QString> comparableExtensions(const QStringList &extensions)
+    {
+        QSet<QString> comparable;
+        for (const QString &extension : extensions)
+            comparable.insert(extension.startsWith(QLatin1Char('.')) ? extension.mid(1).toLower() : extension.toLower());
+        return comparable;
+    }
+
+    /// Both ends inclusive, each one off below 1.
+    static bool isWithin(qint64 value, qint64 from, qint64 to)
+    {
+        return (from < 1 || value >= from) && (to < 1 || value <= to);
+    }
+
+    /// An unknown time is in no range.
+    static bool isDateWithin(qint64 timeMs, qint64 fromMs, qint64 toMs)
+    {
+        return isWithin(timeMs, fromMs, toMs) && (timeMs >= 1 || toMs < 1);
+    }
+
+    const ScanOptions &m_options;
+    QSet<QString> m_include;
+    QSet<QString> m_exclude;
+};
+
+/// A folder being walked.
+struct OpenFolder
+{
+    QString path;
+    FolderReader reader;
+    bool descends;         ///< whether its subfolders are walked
+    FileIdentity identity; ///< read when a folder link is met below
+    bool hasIdentity = false;
+};
+
+/// One walk over all roots. Folders are kept on an explicit stack: a tree may be deeper than a thread's stack allows.
+class Walk
+{
+public:
+    Walk(const ScanOptions &options, const FileCallback &onFile, const CancelQuery &cancelled,
+         QList<UnreadPath> *unread)
+        : m_options(options)
+        , m_onFile(onFile)
+        , m_cancelled(cancelled)
+        , m_unread(unread)
+        , m_filter(options)
+        , m_rules(options)
+    {
+        for (const ScanLocation &location : options.locations) {
+            if (!location.includeSubfolders)
+                m_flatFolders.insert(cleanedPath(location.path).toLower());
+        }
+    }
+
+    QList<FileEntry> run()
+    {
+        for (const QString &root : m_options.roots) {
+            if (isCancelled(m_cancelled))
+                break;
+            walkRoot(cleanedPath(root));
+        }
+        return std::move(m_files);
+    }
+
+private:
+    void walkRoot(const QString &root)
+    {
+        if (root.isEmpty())
+            return;
+        const FileStatus status = fileStatus(root);
+        if (status.kind == FileStatus::Kind::Missing)
+            note(root, status.reason.isEmpty() ? QStringLiteral("no such folder") : status.reason);
+        else if (status.kind != FileStatus::Kind::Folder)
+            note(root, QStringLiteral("not a folder"));
+        else if (!m_rules.isListed(root))
+            walkFolder(root);
+    }
+
+    void walkFolder(const QString &folder)
+    {
+        push(folder);
+        FolderItem item;
+        while (!m_stack.empty()) {
+            if (isCancelled(m_cancelled)) {
+                m_stack.clear();
+                return;
+            }
+            OpenFolder &current = m_stack.back();
+            if (!current.reader.next(item)) {
+                note(current.path, current.reader.errorText());
+                m_stack.pop_back();
+                continue;
+            }
+            const bool hasSlash = current.path.endsWith(QLatin1Char('/'));
+            const QString path = hasSlash ? current.path + item.name : current.path + QLatin1Char('/') + item.name;
+            if (!item.reason.isEmpty())
+                note(path, item.reason);
+            else if (item.kind == FolderItem::Kind::Folder && current.descends)
+                enter(path, item);
+            else if (item.kind == FolderItem::Kind::File)
+                take(path, item);
+        }
+    }
+
+    void enter(const QString &path, const FolderItem &item)
+    {
+        if (!m_rules.excludes(path, item.isHidden) && (!item.isFolderLink || mayFollow(path)))
+            push(path);
+    }
+
+    /// Opens a folder for reading unless an overlapping root has been walked through it before.
+    void push(const QString &path)
+    {
+        if (m_options.roots.size() > 1) {
+            const QString key = pathCaseKey(path);
+            if (m_visited.contains(key))
+                return;
+            m_visited.insert(key);
+        }
+        const bool isFlat = !m_flatFolders.isEmpty() && m_flatFolders.contains(path.toLower());
+        m_stack.push_back({path, FolderReader(path), !isFlat, {}, false});
+    }
+
+    /// Whether a folder link leads anywhere but back to a folder that is being walked. Noted as unread when that cannot
+    /// be told, since following it might never end.
+    bool mayFollow(const QString &path)
+    {
+        const FileStatus target = fileStatus(path);
+        if (!target.identity.isKnown || target.identity.index == 0) {
+            note(path, target.reason.isEmpty() ? QStringLiteral("a link of unknown target, not followed") : target.reason);
+            return false;
+        }
+        return std::none_of(m_stack.begin(), m_stack.end(), [&](OpenFolder &open) {
+            if (!open.hasIdentity)
+                open.identity = fileStatus(open.path).identity;
+            open.hasIdentity = true;
+            return open.identity.isSameAs(target.identity);
+        });
+    }
+
+    void take(const QString &path, const FolderItem &item)
+    {
+        if (!m_filter.accepts(item))
+            return;
+        if (item.isPlaceholder) {
+            note(path, QStringLiteral("only in the cloud, not compared"));
+            return;
+        }
+        FileEntry file;
+        file.path = path;
+        file.size = item.sizeBytes;
+        file.modifiedMs = item.modifiedMs;
+        file.createdMs = item.createdMs;
+        if (m_options.readFileIdentity || m_options.collapseHardLinks)
+            setIdentity(file, item.identity.isKnown ? item.identity : fileStatus(path).identity);
+        m_files.append(file);
+        if (m_onFile)
+            m_onFile(file, m_files.size());
+    }
+
+    static void setIdentity(FileEntry &file, const FileIdentity &identity)
+    {
+        if (!identity.isKnown)
+            return;
+        file.volumeSerial = identity.volume;
+        file.fileIndex = identity.index;
+        file.linkCount = identity.links;
+        file.hasFileId = true;
+    }
+
+    void note(const QString &path, const QString &reason)
+    {
+        if (m_unread && !reason.isEmpty())
+            m_unread->append({path, reason});
+    }
+
+    const ScanOptions &m_options;
+    const FileCallback &m_onFile;
+    const CancelQuery &m_cancelled;
+    QList<UnreadPath> *m_unread;
+    FileFilter m_filter;
+    FolderRules m_rules;
+    QSet<QString> m_flatFolders; ///< locations without their subfolders, lower case
+    QSet<QString> m_visited;     ///< folders walked so far; used only with several roots
+    std::vector<OpenFolder> m_stack;
+    QList<FileEntry> m_files;
+};
+
+} // namespace
+
+QList<FileEntry> enumerateFiles(const ScanOptions &options, const FileCallback &onFile, const CancelQuery &cancelled,
+                                QList<UnreadPath> *unread)
+{
+    return Walk(options, onFile, cancelled, unread).run();
+}
+
+} // namespace MirrixCore

@@ -1,0 +1,29 @@
+#include "core/walk/filestatus.h"
+
+#include "core/platform/nativepath.h"
+
+#include <cerrno>
+#include <sys/stat.h>
+
+namespace MirrixCore {
+
+FileStatus fileStatus(const QString &path)
+{
+    FileStatus status;
+    struct stat info = {};
+    if (stat(pathBytes(path).constData(), &info) != 0) {
+        if (errno != ENOENT && errno != ENOTDIR)
+            status.reason = systemErrorText(errno);
+        return status;
+    }
+    status.kind = S_ISREG(info.st_mode)   ? FileStatus::Kind::File
+                  : S_ISDIR(info.st_mode) ? FileStatus::Kind::Folder
+                                          : FileStatus::Kind::Other;
+    status.isHidden = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1).startsWith(QLatin1Char('.'));
+    status.sizeBytes = info.st_size;
+    status.modifiedMs = qint64(info.st_mtim.tv_sec) * 1000 + info.st_mtim.tv_nsec / 1000000;
+    status.identity = {static_cast<quint32>(info.st_dev), info.st_ino, static_cast<quint32>(info.st_nlink), true};
+    return status;
+}
+
+} // namespace MirrixCore

@@ -1,0 +1,96 @@
+#include "core/walk/folderreader.h"
+
+#include "core/platform/nativepath.h"
+#include "core/platform/win32.h"
+
+namespace MirrixCore {
+
+struct FolderReader::State
+{
+    HANDLE search = INVALID_HANDLE_VALUE;
+    WIN32_FIND_DATAW data = {};
+    bool hasData = false; ///< data holds an entry not yet handed out
+    QString error;
+
+    ~State()
+    {
+        if (search != INVALID_HANDLE_VALUE)
+            FindClose(search);
+    }
+
+    void advance()
+    {
+        hasData = FindNextFileW(search, &data);
+        if (!hasData && GetLastError() != ERROR_NO_MORE_FILES)
+            error = lastErrorText();
+    }
+};
+
+namespace {
+
+// Names for attributes that older SDK headers lack. Any of the three on a file means that opening it fetches it.
+constexpr DWORD recallOnDataAccess = 0x00400000;
+constexpr DWORD recallOnOpen = 0x00040000;
+
+bool isDots(const wchar_t *name)
+{
+    return name[0] == L'.' && (name[1] == L'\0' || (name[1] == L'.' && name[2] == L'\0'));
+}
+
+void fillItem(const WIN32_FIND_DATAW &data, FolderItem &item)
+{
+    const DWORD attributes = data.dwFileAttributes;
+    const bool isLink = attributes & FILE_ATTRIBUTE_REPARSE_POINT;
+    item = FolderItem();
+    item.name = QString::fromWCharArray(data.cFileName);
+    item.isHidden = attributes & FILE_ATTRIBUTE_HIDDEN;
+    item.isPlaceholder = attributes & (FILE_ATTRIBUTE_OFFLINE | recallOnDataAccess | recallOnOpen);
+    item.sizeBytes = static_cast<qint64>(joined(data.nFileSizeHigh, data.nFileSizeLow));
+    item.modifiedMs = epochMsFrom(data.ftLastWriteTime);
+    item.createdMs = epochMsFrom(data.ftCreationTime);
+    if (attributes & FILE_ATTRIBUTE_DIRECTORY) {
+        item.kind = FolderItem::Kind::Folder;
+        item.isFolderLink = isLink;
+    } else if (isLink && !item.isPlaceholder) {
+        item.kind = FolderItem::Kind::Other;
+    } else {
+        item.kind = FolderItem::Kind::File;
+    }
+}
+
+} // namespace
+
+FolderReader::FolderReader(const QString &folder) : m_state(std::make_unique<State>())
+{
+    std::wstring pattern = longPath(folder);
+    if (!pattern.ends_with(L'\\'))
+        pattern += L'\\';
+    pattern += L'*';
+    m_state->search = FindFirstFileW(pattern.c_str(), &m_state->data);
+    m_state->hasData = m_state->search != INVALID_HANDLE_VALUE;
+    // An empty drive root has no entry at all, not even ".".
+    if (!m_state->hasData && GetLastError() != ERROR_FILE_NOT_FOUND)
+        m_state->error = lastErrorText();
+}
+
+FolderReader::~FolderReader() = default;
+FolderReader::FolderReader(FolderReader &&) noexcept = default;
+FolderReader &FolderReader::operator=(FolderReader &&) noexcept = default;
+
+bool FolderReader::next(FolderItem &item)
+{
+    while (m_state->hasData && isDots(m_state->data.cFileName))
+        m_state->advance();
+    if (!m_state->hasData)
+        return false;
+    fillItem(m_state->data, item);
+    m_state->advance();
+    return true;
+}
+
+const QString &FolderReader::errorText() const
+{
+    return m_state->error;
+}
+
+} // namespace MirrixCore
