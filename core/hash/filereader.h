@@ -29,6 +29,9 @@ public:
     /// or -1 on an error; errorText tells why.
     [[nodiscard]] qint64 readAt(qint64 offset, char *buffer, qint64 length);
 
+    /// How many calls of readAt have gone to the file since it was opened.
+    [[nodiscard]] int readCount() const;
+
     /// Tells the system that the file will be read from start to end.
     void expectSequentialReads();
 

@@ -14,6 +14,7 @@ struct FileReader::State
     int descriptor = -1;
     struct stat info = {};
     QString error;
+    int readCount = 0;
 
     void closeFile()
     {
@@ -44,6 +45,7 @@ FileReader &FileReader::operator=(FileReader &&) noexcept = default;
 bool FileReader::open(const QString &path)
 {
     m_state->closeFile();
+    m_state->readCount = 0;
     // Without O_NONBLOCK, a pipe that took the file's place since the walk would block for ever.
     m_state->descriptor = ::open(pathBytes(path).constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
     if (m_state->descriptor < 0 || fstat(m_state->descriptor, &m_state->info) != 0)
@@ -67,6 +69,7 @@ qint64 FileReader::modifiedMs() const
 
 qint64 FileReader::readAt(qint64 offset, char *buffer, qint64 length)
 {
+    ++m_state->readCount;
     qint64 done = 0;
     while (done < length) {
         const ssize_t count = pread(m_state->descriptor, buffer + done, static_cast<size_t>(length - done), offset + done);
@@ -84,9 +87,16 @@ qint64 FileReader::readAt(qint64 offset, char *buffer, qint64 length)
     return done;
 }
 
+int FileReader::readCount() const
+{
+    return m_state->readCount;
+}
+
 void FileReader::expectSequentialReads()
 {
-    posix_fadvise(m_state->descriptor, 0, 0, POSIX_FADV_SEQUENTIAL);
+    constexpr qint64 worthwhileBytes = 1 << 20; // below, the system's own read-ahead has it all
+    if (m_state->info.st_size >= worthwhileBytes)
+        posix_fadvise(m_state->descriptor, 0, 0, POSIX_FADV_SEQUENTIAL);
 }
 
 bool FileReader::isUnchanged() const

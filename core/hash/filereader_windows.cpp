@@ -12,6 +12,7 @@ struct FileReader::State
     UniqueHandle file;
     BY_HANDLE_FILE_INFORMATION info = {};
     QString error;
+    int readCount = 0;
 
     [[nodiscard]] qint64 size() const { return static_cast<qint64>(joined(info.nFileSizeHigh, info.nFileSizeLow)); }
 };
@@ -23,6 +24,7 @@ FileReader &FileReader::operator=(FileReader &&) noexcept = default;
 
 bool FileReader::open(const QString &path)
 {
+    m_state->readCount = 0;
     // Without the flag for backup semantics a folder cannot be opened, which is what is wanted.
     m_state->file = UniqueHandle(CreateFileW(longPath(path).c_str(), GENERIC_READ,
                                              FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
@@ -57,6 +59,7 @@ qint64 FileReader::modifiedMs() const
 qint64 FileReader::readAt(qint64 offset, char *buffer, qint64 length)
 {
     constexpr qint64 largestRead = 1 << 30; // the count is a 32-bit number
+    ++m_state->readCount;
     qint64 done = 0;
     while (done < length) {
         const qint64 position = offset + done;
@@ -76,6 +79,11 @@ qint64 FileReader::readAt(qint64 offset, char *buffer, qint64 length)
             break;
     }
     return done;
+}
+
+int FileReader::readCount() const
+{
+    return m_state->readCount;
 }
 
 void FileReader::expectSequentialReads()
