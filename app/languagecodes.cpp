@@ -26,9 +26,9 @@ bool matches(const Language &language, const QString &tag)
 const QList<Language> &languages()
 {
     static const QList<Language> table = {
-        language(QStringLiteral("zh_TW"), QStringLiteral("繁體中文"), QString(),
-                 {QStringLiteral("zh-tw"), QStringLiteral("zh-hant"), QStringLiteral("zh-hk"),
-                  QStringLiteral("zh-mo")}),
+        language(
+            QStringLiteral("zh_TW"), QStringLiteral("繁體中文"), QString(),
+            {QStringLiteral("zh-tw"), QStringLiteral("zh-hant"), QStringLiteral("zh-hk"), QStringLiteral("zh-mo")}),
         language(sourceLanguage, QStringLiteral("简体中文"), QString(),
                  {QStringLiteral("zh-cn"), QStringLiteral("zh-hans"), QStringLiteral("cn")}),
         language(QStringLiteral("en"), QStringLiteral("English"), QStringLiteral("en_US")),

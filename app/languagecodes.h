@@ -8,10 +8,10 @@ namespace Mirrix {
 /// One language of the interface.
 struct Language
 {
-    QString code;       ///< as settings keep it
-    QString nativeName; ///< as the language menu shows it
-    QString catalogue;  ///< base name of the translation; empty for the source language
-    QString locale;     ///< locale name; empty where none is set
+    QString code;        ///< as settings keep it
+    QString nativeName;  ///< as the language menu shows it
+    QString catalogue;   ///< base name of the translation; empty for the source language
+    QString locale;      ///< locale name; empty where none is set
     QStringList aliases; ///< further system tags that mean this language, lower case
 };
 

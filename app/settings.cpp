@@ -119,26 +119,16 @@ Field field(const QString &key)
 const QList<Field> &table()
 {
     static const QList<Field> fields = {
-        MIRRIX_SETTING(backupRoot),
-        MIRRIX_SETTING(lastRoots),
-        MIRRIX_SETTING(excludeDirs),
-        MIRRIX_SETTING(includeExts),
-        MIRRIX_SETTING(excludeExts),
-        MIRRIX_SETTING(minFileBytes),
-        MIRRIX_SETTING(maxFileBytes),
-        MIRRIX_SETTING(keepRule),
-        MIRRIX_SETTING(skipHidden),
-        MIRRIX_SETTING(skipSystemDirs),
-        MIRRIX_SETTING(similarThreshold),
-        MIRRIX_SETTING(largeFileMinBytes),
-        MIRRIX_SETTING(trayEnabled),
-        MIRRIX_SETTING(autoBackupBeforeDelete),
-        MIRRIX_SETTING(appTheme),
-        MIRRIX_SETTING(contentHashAlgorithm),
-        MIRRIX_SETTING(closeToTray),
-        MIRRIX_SETTING(scanDoneBeep),
-        MIRRIX_SETTING(skipScanConfirm),
-        MIRRIX_SETTING(uiLanguage),
+        MIRRIX_SETTING(backupRoot),       MIRRIX_SETTING(lastRoots),
+        MIRRIX_SETTING(excludeDirs),      MIRRIX_SETTING(includeExts),
+        MIRRIX_SETTING(excludeExts),      MIRRIX_SETTING(minFileBytes),
+        MIRRIX_SETTING(maxFileBytes),     MIRRIX_SETTING(keepRule),
+        MIRRIX_SETTING(skipHidden),       MIRRIX_SETTING(skipSystemDirs),
+        MIRRIX_SETTING(similarThreshold), MIRRIX_SETTING(largeFileMinBytes),
+        MIRRIX_SETTING(trayEnabled),      MIRRIX_SETTING(autoBackupBeforeDelete),
+        MIRRIX_SETTING(appTheme),         MIRRIX_SETTING(contentHashAlgorithm),
+        MIRRIX_SETTING(closeToTray),      MIRRIX_SETTING(scanDoneBeep),
+        MIRRIX_SETTING(skipScanConfirm),  MIRRIX_SETTING(uiLanguage),
     };
     return fields;
 }

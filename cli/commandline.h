@@ -7,7 +7,8 @@
 namespace MirrixCli {
 
 /// What the program tells its caller when it ends.
-enum class ExitStatus : int {
+enum class ExitStatus : int
+{
     Done = 0,
     SomeFailed = 1, ///< each failure was named on standard error
     WrongUsage = 2,

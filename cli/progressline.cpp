@@ -12,7 +12,9 @@ constexpr qint64 redrawMs = 100;
 const char clearLine[] = "\r\x1b[K";
 } // namespace
 
-ProgressLine::ProgressLine() : m_isActive(isErrorTerminal()) {}
+ProgressLine::ProgressLine()
+    : m_isActive(isErrorTerminal())
+{}
 
 ProgressLine::~ProgressLine()
 {

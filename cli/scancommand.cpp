@@ -45,8 +45,8 @@ void readOptionsFile(const QString &path, ScanOptions &options)
     const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
     if (!document.isObject()) {
         const bool isJson = error.error == QJsonParseError::NoError;
-        throw UsageError{QStringLiteral("%1: %2").arg(
-            path, isJson ? QStringLiteral("not a JSON object") : error.errorString())};
+        throw UsageError{
+            QStringLiteral("%1: %2").arg(path, isJson ? QStringLiteral("not a JSON object") : error.errorString())};
     }
     const QString problem = scanOptionsFromJson(document.object(), options);
     if (!problem.isEmpty())
@@ -75,7 +75,8 @@ int threadsOf(const QString &text)
     bool isNumber = false;
     const int threads = text.toInt(&isNumber);
     if (!isNumber || threads < 0 || threads > mostThreads)
-        throw UsageError{QStringLiteral("--threads needs a number from 0 to %1, not \"%2\"").arg(mostThreads).arg(text)};
+        throw UsageError{
+            QStringLiteral("--threads needs a number from 0 to %1, not \"%2\"").arg(mostThreads).arg(text)};
     return threads;
 }
 

@@ -35,10 +35,10 @@ void writeText(const ScanResult &result, Output &output)
             output.write("  " + shownPath(file.path, isTerminal) + '\n');
         output.write("\n");
     }
-    const QString found = result.groups.isEmpty() ? QStringLiteral("No duplicates found")
-                                                  : counted(result.groups.size(), QStringLiteral("group")) +
-                                                        QStringLiteral(", %1 to free").arg(
-                                                            Mirrix::sizeText(result.wastedBytes));
+    const QString found = result.groups.isEmpty()
+                              ? QStringLiteral("No duplicates found")
+                              : counted(result.groups.size(), QStringLiteral("group")) +
+                                    QStringLiteral(", %1 to free").arg(Mirrix::sizeText(result.wastedBytes));
     output.write(QStringLiteral("%1; %2 (%3) scanned in %4 s\n")
                      .arg(found, counted(result.filesScanned, QStringLiteral("file")),
                           Mirrix::sizeText(result.totalBytes),

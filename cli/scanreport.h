@@ -5,7 +5,11 @@
 
 namespace MirrixCli {
 
-enum class ReportFormat { Text, Json };
+enum class ReportFormat
+{
+    Text,
+    Json
+};
 
 /// Writes a result for people (Text) or programs (Json: one object, described in the README). Group by group, so that
 /// a large result needs no second copy in memory.

@@ -83,7 +83,8 @@ QJsonObject entryFor(qint64 sizeBytes, qint64 modifiedMs, const QByteArray &quic
 }
 
 /// The members of `old`, replaced and completed by those of `entry`. A full digest in `old` stays only if it describes
-/// the same state of the file by the same algorithm: kept beside a newer quick digest it would pass for the new content.
+/// the same state of the file by the same algorithm: kept beside a newer quick digest it would pass for the new
+/// content.
 QByteArray mergedText(const QByteArray &old, const QJsonObject &entry)
 {
     QJsonObject merged = QJsonDocument::fromJson(old).object();

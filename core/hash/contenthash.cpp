@@ -42,7 +42,12 @@ QByteArray failed(const FileReader &reader, HashNotes *notes)
     return {};
 }
 
-enum class Streaming { Done, Cancelled, Failed };
+enum class Streaming
+{
+    Done,
+    Cancelled,
+    Failed
+};
 
 /// Feeds `add` with the file from its start to `limitBytes` or its end, in chunks of at most `chunkBytes`.
 template <typename Add>
@@ -86,8 +91,8 @@ QByteArray wholeDigest(const QString &path, Hasher &hasher, bool mayMap, const C
         hasher.reset();
     }
     reader.expectSequentialReads();
-    const Streaming outcome = stream(reader, wholeFile, streamChunkBytes, cancelled,
-                                     [&](QByteArrayView bytes) { hasher.addData(bytes); });
+    const Streaming outcome =
+        stream(reader, wholeFile, streamChunkBytes, cancelled, [&](QByteArrayView bytes) { hasher.addData(bytes); });
     if (outcome == Streaming::Failed)
         return failed(reader, notes);
     return outcome == Streaming::Done ? finished(reader, hasher.result(), notes) : QByteArray();
@@ -154,8 +159,8 @@ QByteArray prefixHash(const QString &path, qint64 limitBytes, const CancelQuery 
         return {};
     ContentHasher hasher(contentHashAlgorithm());
     hasher.addData(QByteArray::number(reader.sizeBytes()));
-    const Streaming outcome = stream(reader, limitBytes, prefixChunkBytes, cancelled,
-                                     [&](QByteArrayView bytes) { hasher.addData(bytes); });
+    const Streaming outcome =
+        stream(reader, limitBytes, prefixChunkBytes, cancelled, [&](QByteArrayView bytes) { hasher.addData(bytes); });
     if (outcome == Streaming::Failed)
         return failed(reader, notes);
     return outcome == Streaming::Done ? finished(reader, hasher.result(), notes) : QByteArray();

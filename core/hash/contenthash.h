@@ -13,17 +13,17 @@ namespace MirrixCore {
 // the file cannot be opened or read to its end, or when `cancelled` answers true (asked once per piece read). "Current"
 // means the algorithm of contentHashAlgorithm() at the time of the call. All are re-entrant.
 
-inline constexpr qint64 quickWindowBytes = 4096;      ///< head and tail of the quick hash
-inline constexpr qint64 sampleBlockBytes = 4096;      ///< one block of the sample hash
-inline constexpr qint64 streamChunkBytes = 4194304;   ///< most memory that streaming a file takes
-inline constexpr qint64 prefixChunkBytes = 1048576;   ///< the same for a prefix
+inline constexpr qint64 quickWindowBytes = 4096;    ///< head and tail of the quick hash
+inline constexpr qint64 sampleBlockBytes = 4096;    ///< one block of the sample hash
+inline constexpr qint64 streamChunkBytes = 4194304; ///< most memory that streaming a file takes
+inline constexpr qint64 prefixChunkBytes = 1048576; ///< the same for a prefix
 
 /// What a caller may want to know about the file behind a digest.
 struct HashNotes
 {
-    QString failure;       ///< the system's reason for an empty digest; empty otherwise, and when cancelled
-    qint64 sizeBytes = -1; ///< size when the file was opened
-    qint64 modifiedMs = 0; ///< modification time when the file was opened
+    QString failure;         ///< the system's reason for an empty digest; empty otherwise, and when cancelled
+    qint64 sizeBytes = -1;   ///< size when the file was opened
+    qint64 modifiedMs = 0;   ///< modification time when the file was opened
     bool hasChanged = false; ///< size or time were others after the last read: the digest may fit no state of the file
 };
 

@@ -9,7 +9,11 @@
 namespace MirrixCore {
 
 /// The process-wide choice of the digest that content comparison uses.
-enum class ContentHashAlgorithm : int { Md5 = 0, Blake3 = 1 };
+enum class ContentHashAlgorithm : int
+{
+    Md5 = 0,
+    Blake3 = 1
+};
 
 /// Sets the choice. Call between scans only; thread-safe.
 void setContentHashAlgorithm(ContentHashAlgorithm algorithm);

@@ -31,7 +31,9 @@ struct FileReader::State
     }
 };
 
-FileReader::FileReader() : m_state(std::make_unique<State>()) {}
+FileReader::FileReader()
+    : m_state(std::make_unique<State>())
+{}
 
 FileReader::~FileReader()
 {
@@ -72,7 +74,8 @@ qint64 FileReader::readAt(qint64 offset, char *buffer, qint64 length)
     ++m_state->readCount;
     qint64 done = 0;
     while (done < length) {
-        const ssize_t count = pread(m_state->descriptor, buffer + done, static_cast<size_t>(length - done), offset + done);
+        const ssize_t count =
+            pread(m_state->descriptor, buffer + done, static_cast<size_t>(length - done), offset + done);
         if (count < 0 && errno == EINTR)
             continue;
         if (count < 0) {

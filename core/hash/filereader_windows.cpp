@@ -17,7 +17,9 @@ struct FileReader::State
     [[nodiscard]] qint64 size() const { return static_cast<qint64>(joined(info.nFileSizeHigh, info.nFileSizeLow)); }
 };
 
-FileReader::FileReader() : m_state(std::make_unique<State>()) {}
+FileReader::FileReader()
+    : m_state(std::make_unique<State>())
+{}
 FileReader::~FileReader() = default;
 FileReader::FileReader(FileReader &&) noexcept = default;
 FileReader &FileReader::operator=(FileReader &&) noexcept = default;
@@ -96,8 +98,7 @@ bool FileReader::isUnchanged() const
     BY_HANDLE_FILE_INFORMATION now = {};
     const BY_HANDLE_FILE_INFORMATION &then = m_state->info;
     return GetFileInformationByHandle(m_state->file.get(), &now) && now.nFileSizeHigh == then.nFileSizeHigh &&
-           now.nFileSizeLow == then.nFileSizeLow &&
-           CompareFileTime(&now.ftLastWriteTime, &then.ftLastWriteTime) == 0;
+           now.nFileSizeLow == then.nFileSizeLow && CompareFileTime(&now.ftLastWriteTime, &then.ftLastWriteTime) == 0;
 }
 
 QString FileReader::errorText() const

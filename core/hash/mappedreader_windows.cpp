@@ -79,8 +79,7 @@ public:
     MappedView(HANDLE mapping, qint64 offset, qint64 length)
         : m_bytes(static_cast<const char *>(MapViewOfFile(mapping, FILE_MAP_READ, static_cast<DWORD>(offset >> 32),
                                                           static_cast<DWORD>(offset), static_cast<SIZE_T>(length))))
-    {
-    }
+    {}
     ~MappedView()
     {
         if (m_bytes)

@@ -6,8 +6,9 @@
 
 namespace MirrixCore {
 
-/// Where the sample blocks of a file of `sizeBytes` begin, in the order in which they are hashed and compared: the head;
-/// the middle from 8193 bytes on; the tail from 4097; first and third quarter above 16384. Empty for an empty file.
+/// Where the sample blocks of a file of `sizeBytes` begin, in the order in which they are hashed and compared: the
+/// head; the middle from 8193 bytes on; the tail from 4097; first and third quarter above 16384. Empty for an empty
+/// file.
 [[nodiscard]] QList<qint64> sampleOffsets(qint64 sizeBytes);
 
 /// How many positions two blocks of equal length have in common.

@@ -46,8 +46,7 @@ public:
         , m_options(options)
         , m_progress(progress)
         , m_cancelled(cancelled)
-    {
-    }
+    {}
 
     ScanResult run()
     {

@@ -3,7 +3,8 @@
 namespace MirrixCore {
 
 // Not written yet: finds nothing.
-ScanResult DuplicateScanner::scanSimilarImages(QList<FileEntry>, const ScanOptions &, const ProgressCallback &, const CancelQuery &)
+ScanResult DuplicateScanner::scanSimilarImages(QList<FileEntry>, const ScanOptions &, const ProgressCallback &,
+                                               const CancelQuery &)
 {
     return {};
 }

@@ -29,8 +29,7 @@ public:
     StageProgress(const ProgressCallback &callback, const QString &phase, qint64 filesFound, qint64 total)
         : m_callback(callback)
         , m_report{filesFound, 0, total, {}, phase}
-    {
-    }
+    {}
 
     /// Counts one item. Thread-safe.
     void step(const QString &path)

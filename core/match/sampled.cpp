@@ -3,7 +3,8 @@
 namespace MirrixCore {
 
 // Not written yet: finds nothing.
-ScanResult DuplicateScanner::scanSampledContent(QList<FileEntry>, const ScanOptions &, const ProgressCallback &, const CancelQuery &, qint64)
+ScanResult DuplicateScanner::scanSampledContent(QList<FileEntry>, const ScanOptions &, const ProgressCallback &,
+                                                const CancelQuery &, qint64)
 {
     return {};
 }

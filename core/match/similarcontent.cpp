@@ -3,7 +3,8 @@
 namespace MirrixCore {
 
 // Not written yet: finds nothing.
-ScanResult DuplicateScanner::scanSimilarContent(QList<FileEntry>, const ScanOptions &, const ProgressCallback &, const CancelQuery &)
+ScanResult DuplicateScanner::scanSimilarContent(QList<FileEntry>, const ScanOptions &, const ProgressCallback &,
+                                                const CancelQuery &)
 {
     return {};
 }

@@ -18,7 +18,12 @@ constexpr char16_t loneBase = 0xDC00;
 qsizetype validSequence(QByteArrayView bytes)
 {
     const auto lead = static_cast<uchar>(bytes[0]);
-    const qsizetype length = lead < 0x80 ? 1 : lead < 0xC2 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF5 ? 4 : 0;
+    const qsizetype length = lead < 0x80   ? 1
+                             : lead < 0xC2 ? 0
+                             : lead < 0xE0 ? 2
+                             : lead < 0xF0 ? 3
+                             : lead < 0xF5 ? 4
+                                           : 0;
     if (length == 0 || length > bytes.size())
         return 0;
     return QByteArrayView(bytes.first(length)).isValidUtf8() ? length : 0;

@@ -39,7 +39,8 @@ QString pathFromBytes(QByteArrayView bytes)
         if (!isLoneSurrogate(rest))
             continue;
         path += QString::fromUtf8(bytes.sliced(done, i - done));
-        path += QChar(char16_t(0xD000 | ((static_cast<uchar>(rest[1]) & 0x3F) << 6) | (static_cast<uchar>(rest[2]) & 0x3F)));
+        path += QChar(
+            char16_t(0xD000 | ((static_cast<uchar>(rest[1]) & 0x3F) << 6) | (static_cast<uchar>(rest[2]) & 0x3F)));
         i += 2;
         done = i + 1;
     }

@@ -24,8 +24,12 @@ class UniqueHandle
 {
 public:
     UniqueHandle() = default;
-    explicit UniqueHandle(HANDLE handle) : m_handle(handle == INVALID_HANDLE_VALUE ? nullptr : handle) {}
-    UniqueHandle(UniqueHandle &&other) noexcept : m_handle(std::exchange(other.m_handle, nullptr)) {}
+    explicit UniqueHandle(HANDLE handle)
+        : m_handle(handle == INVALID_HANDLE_VALUE ? nullptr : handle)
+    {}
+    UniqueHandle(UniqueHandle &&other) noexcept
+        : m_handle(std::exchange(other.m_handle, nullptr))
+    {}
     UniqueHandle &operator=(UniqueHandle &&other) noexcept
     {
         std::swap(m_handle, other.m_handle);

@@ -25,7 +25,10 @@ template <auto Member>
 OptionField field(const QString &name)
 {
     using Type = std::remove_cvref_t<decltype(std::declval<ScanOptions>().*Member)>;
-    return {name, jsonTypeName(Type()), std::is_same_v<Type, QString>, std::is_same_v<Type, QStringList>,
+    return {name,
+            jsonTypeName(Type()),
+            std::is_same_v<Type, QString>,
+            std::is_same_v<Type, QStringList>,
             [](const ScanOptions &options) { return toJson(options.*Member); },
             [](const QJsonValue &json, ScanOptions &options) { return fromJson(json, options.*Member); }};
 }

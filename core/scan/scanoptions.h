@@ -8,13 +8,29 @@
 namespace MirrixCore {
 
 /// What is looked for below one scan location.
-enum class FindKind : qint32 { ContentDuplicates = 0, NameDuplicates = 1, EmptyFiles = 2 };
+enum class FindKind : qint32
+{
+    ContentDuplicates = 0,
+    NameDuplicates = 1,
+    EmptyFiles = 2
+};
 
 /// The kind of matching a scan does.
-enum class SearchMode : qint32 { Files = 0, Images = 1, Audio = 2, Video = 3 };
+enum class SearchMode : qint32
+{
+    Files = 0,
+    Images = 1,
+    Audio = 2,
+    Video = 3
+};
 
 /// For SearchMode::Files: what makes two files duplicates.
-enum class ContentMatch : qint32 { Exact = 0, Similar = 1, Ignore = 2 };
+enum class ContentMatch : qint32
+{
+    Exact = 0,
+    Similar = 1,
+    Ignore = 2
+};
 
 /// Settings of one scan location.
 struct ScanLocation
@@ -41,9 +57,10 @@ struct TagEntry
 struct ScanOptions
 {
     // Where to look.
-    QStringList roots;             ///< folders or drive roots to walk; none = nothing is scanned
-    QList<ScanLocation> locations; ///< settings of roots; a root without an entry is walked whole for content duplicates
-    QStringList excludeFolders;    ///< folders never entered
+    QStringList roots; ///< folders or drive roots to walk; none = nothing is scanned
+    QList<ScanLocation>
+        locations;              ///< settings of roots; a root without an entry is walked whole for content duplicates
+    QStringList excludeFolders; ///< folders never entered
 
     // Which files to take.
     QStringList includeExtensions;  ///< when not empty, only these; without dot, case ignored

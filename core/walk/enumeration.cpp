@@ -22,8 +22,7 @@ public:
         : m_options(options)
         , m_include(comparableExtensions(options.includeExtensions))
         , m_exclude(comparableExtensions(options.excludeExtensions))
-    {
-    }
+    {}
 
     [[nodiscard]] bool accepts(const FolderItem &item) const
     {
@@ -44,7 +43,8 @@ private:
     {
         QSet<QString> comparable;
         for (const QString &extension : extensions)
-            comparable.insert(extension.startsWith(QLatin1Char('.')) ? extension.mid(1).toLower() : extension.toLower());
+            comparable.insert(extension.startsWith(QLatin1Char('.')) ? extension.mid(1).toLower()
+                                                                     : extension.toLower());
         return comparable;
     }
 
@@ -169,7 +169,8 @@ private:
     {
         const FileStatus target = fileStatus(path);
         if (!target.identity.isKnown || target.identity.index == 0) {
-            note(path, target.reason.isEmpty() ? QStringLiteral("a link of unknown target, not followed") : target.reason);
+            note(path,
+                 target.reason.isEmpty() ? QStringLiteral("a link of unknown target, not followed") : target.reason);
             return false;
         }
         return std::none_of(m_stack.begin(), m_stack.end(), [&](OpenFolder &open) {

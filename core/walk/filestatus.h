@@ -22,7 +22,13 @@ struct FileIdentity
 /// What a path leads to. Links are followed.
 struct FileStatus
 {
-    enum class Kind { Missing, File, Folder, Other };
+    enum class Kind
+    {
+        Missing,
+        File,
+        Folder,
+        Other
+    };
 
     Kind kind = Kind::Missing;
     bool isHidden = false;

@@ -23,8 +23,8 @@ FileStatus fileStatus(const QString &path)
     status.isHidden = info.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN;
     status.sizeBytes = static_cast<qint64>(joined(info.nFileSizeHigh, info.nFileSizeLow));
     status.modifiedMs = epochMsFrom(info.ftLastWriteTime);
-    status.identity = {info.dwVolumeSerialNumber, joined(info.nFileIndexHigh, info.nFileIndexLow),
-                       info.nNumberOfLinks, true};
+    status.identity = {info.dwVolumeSerialNumber, joined(info.nFileIndexHigh, info.nFileIndexLow), info.nNumberOfLinks,
+                       true};
     return status;
 }
 

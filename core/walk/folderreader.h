@@ -11,7 +11,12 @@ namespace MirrixCore {
 /// One entry of a folder, as the folder itself tells it.
 struct FolderItem
 {
-    enum class Kind { File, Folder, Other }; ///< Other: symbolic links, devices, pipes, sockets
+    enum class Kind
+    {
+        File,
+        Folder,
+        Other
+    }; ///< Other: symbolic links, devices, pipes, sockets
 
     QString name;
     Kind kind = Kind::Other;

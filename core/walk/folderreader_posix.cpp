@@ -85,7 +85,8 @@ bool isDots(const char *name)
 
 } // namespace
 
-FolderReader::FolderReader(const QString &folder) : m_state(std::make_unique<State>())
+FolderReader::FolderReader(const QString &folder)
+    : m_state(std::make_unique<State>())
 {
     const int descriptor = open(pathBytes(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK);
     if (descriptor < 0) {

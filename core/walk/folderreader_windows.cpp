@@ -60,7 +60,8 @@ void fillItem(const WIN32_FIND_DATAW &data, FolderItem &item)
 
 } // namespace
 
-FolderReader::FolderReader(const QString &folder) : m_state(std::make_unique<State>())
+FolderReader::FolderReader(const QString &folder)
+    : m_state(std::make_unique<State>())
 {
     std::wstring pattern = longPath(folder);
     if (!pattern.ends_with(L'\\'))

@@ -13,10 +13,14 @@ namespace {
 const QStringList &systemFolders()
 {
     static const QStringList folders = {
-        QStringLiteral("C:/Windows"),          QStringLiteral("C:/Program Files"),
-        QStringLiteral("C:/Program Files (x86)"), QStringLiteral("C:/ProgramData"),
-        QStringLiteral("C:/$Recycle.Bin"),     QStringLiteral("C:/System Volume Information"),
-        QStringLiteral("C:/Recovery"),         QStringLiteral("C:/PerfLogs"),
+        QStringLiteral("C:/Windows"),
+        QStringLiteral("C:/Program Files"),
+        QStringLiteral("C:/Program Files (x86)"),
+        QStringLiteral("C:/ProgramData"),
+        QStringLiteral("C:/$Recycle.Bin"),
+        QStringLiteral("C:/System Volume Information"),
+        QStringLiteral("C:/Recovery"),
+        QStringLiteral("C:/PerfLogs"),
     };
     return folders;
 }
@@ -75,8 +79,7 @@ FolderRules::FolderRules(const ScanOptions &options)
     : m_excluded(comparablePaths(options.excludeFolders))
     , m_system(options.skipSystemFolders ? comparablePaths(systemFolders()) : QStringList())
     , m_skipHidden(options.skipHidden)
-{
-}
+{}
 
 bool FolderRules::excludes(const QString &path, bool isHidden) const
 {

@@ -15,8 +15,8 @@ namespace MirrixCore {
 /// merely begins alike is not below.
 [[nodiscard]] bool isUnderFolder(const QString &path, const QString &folder);
 
-/// Whether a scan must not enter `path`: it is or lies under one of excludeFolders; or skipSystemFolders is on and it is
-/// or lies under a folder of the operating system on drive C:; or skipHidden is on and it is hidden (asks the file
+/// Whether a scan must not enter `path`: it is or lies under one of excludeFolders; or skipSystemFolders is on and it
+/// is or lies under a folder of the operating system on drive C:; or skipHidden is on and it is hidden (asks the file
 /// system).
 [[nodiscard]] bool isExcludedFolder(const QString &path, const ScanOptions &options);
 
