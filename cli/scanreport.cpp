@@ -4,7 +4,9 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
+#include <QLocale>
+
+#include <algorithm>
 
 namespace MirrixCli {
 
@@ -46,74 +48,97 @@ void writeText(const ScanResult &result, Output &output)
                      .toUtf8());
 }
 
-void addText(QJsonObject &json, const QString &name, const QString &value)
+/// A text as JSON writes it. Most paths need no escaping, and a report holds many of them: only the others go through
+/// Qt's writer, which takes as long for one path as a scan takes to hash a small file.
+QByteArray quoted(const QString &text)
 {
-    if (!value.isEmpty())
-        json.insert(name, value);
+    const auto isPlain = [](QChar character) {
+        return character >= QLatin1Char(' ') && character <= QLatin1Char('~') && character != QLatin1Char('"') &&
+               character != QLatin1Char('\\');
+    };
+    if (std::all_of(text.begin(), text.end(), isPlain))
+        return '"' + text.toLatin1() + '"';
+    const QByteArray array = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
+    return array.mid(1, array.size() - 2);
 }
 
-void addNumber(QJsonObject &json, const QString &name, qint64 value)
+QByteArray numberText(qint64 value)
 {
-    if (value != 0)
-        json.insert(name, value);
+    return QByteArray::number(value);
 }
 
-/// The media members that are known.
-void addMedia(QJsonObject &json, const FileEntry &file)
+QByteArray numberText(double value)
 {
-    addNumber(json, QStringLiteral("durationMs"), file.durationMs);
-    addNumber(json, QStringLiteral("width"), file.width);
-    addNumber(json, QStringLiteral("height"), file.height);
-    addNumber(json, QStringLiteral("shotMs"), file.shotMs);
-    addText(json, QStringLiteral("artist"), file.artist);
-    addText(json, QStringLiteral("title"), file.title);
-    addText(json, QStringLiteral("album"), file.album);
-    addText(json, QStringLiteral("track"), file.track);
-    addText(json, QStringLiteral("cameraMake"), file.cameraMake);
-    addText(json, QStringLiteral("cameraModel"), file.cameraModel);
-    addText(json, QStringLiteral("dateTaken"), file.dateTaken);
-    if (file.hasGps) {
-        json.insert(QStringLiteral("latitude"), file.latitude);
-        json.insert(QStringLiteral("longitude"), file.longitude);
-    }
+    return QByteArray::number(value, 'g', QLocale::FloatingPointShortest);
 }
 
-QJsonObject jsonOf(const FileEntry &file)
+QByteArray member(const char *name, const QByteArray &json)
 {
-    QJsonObject json{{QStringLiteral("path"), file.path},
-                     {QStringLiteral("size"), file.size},
-                     {QStringLiteral("modifiedMs"), file.modifiedMs},
-                     {QStringLiteral("createdMs"), file.createdMs}};
-    addMedia(json, file);
+    return QByteArray(", \"") + name + "\": " + json;
+}
+
+QByteArray knownMember(const char *name, qint64 value)
+{
+    return value == 0 ? QByteArray() : member(name, numberText(value));
+}
+
+QByteArray knownMember(const char *name, const QString &value)
+{
+    return value.isEmpty() ? QByteArray() : member(name, quoted(value));
+}
+
+QByteArray mediaMembers(const FileEntry &file)
+{
+    QByteArray json = knownMember("durationMs", file.durationMs) + knownMember("width", file.width) +
+                      knownMember("height", file.height) + knownMember("shotMs", file.shotMs) +
+                      knownMember("artist", file.artist) + knownMember("title", file.title) +
+                      knownMember("album", file.album) + knownMember("track", file.track) +
+                      knownMember("cameraMake", file.cameraMake) + knownMember("cameraModel", file.cameraModel) +
+                      knownMember("dateTaken", file.dateTaken);
+    if (file.hasGps)
+        json += member("latitude", numberText(file.latitude)) + member("longitude", numberText(file.longitude));
     return json;
 }
 
-QJsonObject jsonOf(const DuplicateGroup &group)
+QByteArray jsonOf(const FileEntry &file)
 {
-    QJsonArray files;
-    for (const FileEntry &file : group.files)
-        files.append(jsonOf(file));
-    return {{QStringLiteral("key"), group.key},
-            {QStringLiteral("wastedBytes"), group.wastedBytes},
-            {QStringLiteral("files"), files}};
+    return "{\"path\": " + quoted(file.path) + member("size", numberText(file.size)) +
+           member("modifiedMs", numberText(file.modifiedMs)) + member("createdMs", numberText(file.createdMs)) +
+           mediaMembers(file) + '}';
 }
 
-QJsonObject jsonOf(const FolderGroup &group)
+QByteArray jsonOf(const FolderEntry &folder)
 {
-    QJsonArray folders;
-    for (const FolderEntry &folder : group.folders) {
-        folders.append(QJsonObject{{QStringLiteral("path"), folder.path},
-                                   {QStringLiteral("fileCount"), folder.fileCount},
-                                   {QStringLiteral("size"), folder.size}});
-    }
-    return {{QStringLiteral("fileCount"), group.fileCount},
-            {QStringLiteral("size"), group.size},
-            {QStringLiteral("folders"), folders}};
+    return "{\"path\": " + quoted(folder.path) + member("fileCount", numberText(folder.fileCount)) +
+           member("size", numberText(folder.size)) + '}';
 }
 
-/// A JSON text of the items that `textOf` gives, one a line.
-template <typename List, typename TextOf>
-void writeArray(const char *name, const List &items, TextOf textOf, Output &output)
+/// An array with an item a line, indented by `indent`.
+template <typename List, typename JsonOf>
+QByteArray arrayOf(const List &items, const QByteArray &indent, JsonOf textOf)
+{
+    QByteArray json = "[";
+    for (const auto &item : items)
+        json += (json.size() == 1 ? "\n" : ",\n") + indent + textOf(item);
+    return json + ']';
+}
+
+QByteArray jsonOf(const DuplicateGroup &group)
+{
+    return "{\"key\": " + quoted(group.key) + member("wastedBytes", numberText(group.wastedBytes)) +
+           member("files", arrayOf(group.files, "    ", [](const FileEntry &file) { return jsonOf(file); })) + '}';
+}
+
+QByteArray jsonOf(const FolderGroup &group)
+{
+    return "{\"fileCount\": " + numberText(group.fileCount) + member("size", numberText(group.size)) +
+           member("folders", arrayOf(group.folders, "    ", [](const FolderEntry &item) { return jsonOf(item); })) +
+           '}';
+}
+
+/// Writes an array member item by item.
+template <typename List, typename JsonOf>
+void writeArray(const char *name, const List &items, JsonOf textOf, Output &output)
 {
     output.write(QByteArray(",\n \"") + name + "\": [");
     const char *separator = "\n  ";
@@ -126,22 +151,15 @@ void writeArray(const char *name, const List &items, TextOf textOf, Output &outp
 
 void writeJson(const ScanResult &result, Output &output)
 {
-    const auto compact = [](const auto &item) { return QJsonDocument(jsonOf(item)).toJson(QJsonDocument::Compact); };
-    const auto quotedPath = [](const FileEntry &file) {
-        const QByteArray array = QJsonDocument(QJsonArray{file.path}).toJson(QJsonDocument::Compact);
-        return array.mid(1, array.size() - 2);
-    };
-    output.write(QStringLiteral("{\"filesScanned\": %1, \"totalBytes\": %2, \"wastedBytes\": %3, \"candidates\": %4, "
-                                "\"elapsedMs\": %5")
-                     .arg(result.filesScanned)
-                     .arg(result.totalBytes)
-                     .arg(result.wastedBytes)
-                     .arg(result.candidates)
-                     .arg(result.elapsedMs)
-                     .toUtf8());
-    writeArray("groups", result.groups, compact, output);
-    writeArray("folderGroups", result.folderGroups, compact, output);
-    writeArray("remaining", result.folderSummaries, quotedPath, output);
+    output.write(
+        "{\"filesScanned\": " + numberText(result.filesScanned) + member("totalBytes", numberText(result.totalBytes)) +
+        member("wastedBytes", numberText(result.wastedBytes)) + member("candidates", numberText(result.candidates)) +
+        member("elapsedMs", numberText(result.elapsedMs)));
+    const auto object = [](const auto &item) { return jsonOf(item); };
+    writeArray("groups", result.groups, object, output);
+    writeArray("folderGroups", result.folderGroups, object, output);
+    writeArray(
+        "remaining", result.folderSummaries, [](const FileEntry &file) { return quoted(file.path); }, output);
     output.write("}\n");
 }
 

@@ -42,6 +42,57 @@ QByteArray failed(const FileReader &reader, HashNotes *notes)
     return {};
 }
 
+QByteArray digestOf(QByteArrayView bytes)
+{
+    ContentHasher hasher(contentHashAlgorithm());
+    hasher.addData(bytes);
+    return hasher.result();
+}
+
+/// What the quick hash is made of, one part behind the other: decimal size, head, tail. The hasher gets it in one piece
+/// because BLAKE3 works on several kilobytes at once only when they come together, which halves its time here.
+class QuickWindows
+{
+public:
+    explicit QuickWindows(qint64 sizeBytes)
+        : m_size(sizeBytes)
+    {
+        const QByteArray text = QByteArray::number(sizeBytes);
+        std::copy(text.begin(), text.end(), m_buffer.begin());
+        m_textLength = text.size();
+    }
+
+    /// Room for the head, and behind it for the tail; a file of up to quickCoversBytes can be read whole into both.
+    char *head() { return m_buffer.data() + m_textLength; }
+    char *tail() { return head() + quickWindowBytes; }
+
+    /// Takes the first `count` bytes behind head() as the file's start, or as the whole file when it is small enough;
+    /// then the tail, which may overlap the head, is made from them.
+    void splitAt(qint64 count)
+    {
+        m_headCount = std::min(count, quickWindowBytes);
+        m_tailCount = 0;
+        if (m_size > quickWindowBytes && m_size <= quickCoversBytes && m_headCount == quickWindowBytes) {
+            const qint64 from = std::min(m_size - quickWindowBytes, count);
+            m_tailCount = count - from;
+            std::memmove(tail(), head() + from, static_cast<size_t>(m_tailCount));
+        }
+    }
+
+    void setTailCount(qint64 count) { m_tailCount = count; }
+
+    [[nodiscard]] QByteArrayView input() const { return {m_buffer.data(), m_textLength + m_headCount + m_tailCount}; }
+
+private:
+    static constexpr qint64 longestSizeText = 19; ///< digits of 2^63 - 1
+
+    std::array<char, longestSizeText + quickCoversBytes> m_buffer; // NOLINT: filled as far as it is used
+    qint64 m_size;
+    qint64 m_textLength = 0;
+    qint64 m_headCount = 0;
+    qint64 m_tailCount = 0;
+};
+
 enum class Streaming
 {
     Done,
@@ -100,6 +151,32 @@ QByteArray wholeDigest(const QString &path, Hasher &hasher, bool mayMap, const C
 
 } // namespace
 
+SmallFileDigests smallFileDigests(const QString &path, bool wantsQuick, HashNotes *notes)
+{
+    FileReader reader;
+    if (!openNoted(reader, path, notes))
+        return {};
+    const qint64 size = reader.sizeBytes();
+    if (size < 1 || size > quickCoversBytes) {
+        if (notes)
+            notes->hasChanged = true;
+        return {};
+    }
+    QuickWindows windows(size);
+    const qint64 count = reader.readAt(0, windows.head(), size);
+    if (count < 0) {
+        failed(reader, notes);
+        return {};
+    }
+    SmallFileDigests digests;
+    digests.full = digestOf({windows.head(), count});
+    if (wantsQuick && count > 0) {
+        windows.splitAt(count);
+        digests.quick = digestOf(windows.input());
+    }
+    return digests;
+}
+
 QByteArray quickHash(const QString &path, HashNotes *notes)
 {
     FileReader reader;
@@ -108,34 +185,19 @@ QByteArray quickHash(const QString &path, HashNotes *notes)
     const qint64 size = reader.sizeBytes();
     if (size <= 0)
         return {};
-    // Size text, head and tail lie one behind the other, so that the hasher gets them in one piece: BLAKE3 works on
-    // several kilobytes at once only when they come together, which halves its time here.
-    constexpr qint64 longestSizeText = 20;
-    std::array<char, longestSizeText + 2 * quickWindowBytes> buffer; // NOLINT: filled below
-    const QByteArray sizeText = QByteArray::number(size);
-    std::copy(sizeText.begin(), sizeText.end(), buffer.begin());
-    char *head = buffer.data() + sizeText.size();
-    char *tail = head + quickWindowBytes;
-
-    const bool isOneRead = size <= 2 * quickWindowBytes;
-    const qint64 count = reader.readAt(0, head, isOneRead ? size : quickWindowBytes);
+    QuickWindows windows(size);
+    const bool isOneRead = size <= quickCoversBytes;
+    const qint64 count = reader.readAt(0, windows.head(), isOneRead ? size : quickWindowBytes);
     if (count <= 0)
         return failed(reader, notes);
-    qint64 tailCount = 0;
-    if (isOneRead && size > quickWindowBytes) {
-        const qint64 from = std::min(size - quickWindowBytes, count);
-        tailCount = count - from;
-        std::memmove(tail, head + from, static_cast<size_t>(tailCount));
-    } else if (!isOneRead) {
-        tailCount = reader.readAt(size - quickWindowBytes, tail, quickWindowBytes);
+    windows.splitAt(count);
+    if (!isOneRead && count == quickWindowBytes) {
+        const qint64 tailCount = reader.readAt(size - quickWindowBytes, windows.tail(), quickWindowBytes);
         if (tailCount < 0)
             return failed(reader, notes);
+        windows.setTailCount(tailCount);
     }
-    // A file cut short meanwhile has no full head; then there is no tail either.
-    const qint64 headCount = std::min(count, quickWindowBytes);
-    ContentHasher hasher(contentHashAlgorithm());
-    hasher.addData({buffer.data(), sizeText.size() + headCount + (headCount == quickWindowBytes ? tailCount : 0)});
-    return finished(reader, hasher.result(), notes);
+    return finished(reader, digestOf(windows.input()), notes);
 }
 
 QByteArray fullContentHash(const QString &path, const CancelQuery &cancelled, HashNotes *notes)

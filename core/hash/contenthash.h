@@ -31,6 +31,21 @@ struct HashNotes
 /// two may overlap). Empty for an empty file. Reads at most 8 KiB.
 [[nodiscard]] QByteArray quickHash(const QString &path, HashNotes *notes = nullptr);
 
+/// Largest file that the windows of the quick hash cover whole. Two files of equal size up to this have equal quick
+/// hashes exactly when they have equal contents.
+inline constexpr qint64 quickCoversBytes = 2 * quickWindowBytes;
+
+/// Both digests of a file that one read takes whole.
+struct SmallFileDigests
+{
+    QByteArray quick; ///< as of quickHash; empty when it was not asked for
+    QByteArray full;  ///< as of fullContentHash
+};
+
+/// Reads a file of 1 to quickCoversBytes bytes once for both digests; a file of another size gives empty ones,
+/// noted as changed.
+[[nodiscard]] SmallFileDigests smallFileDigests(const QString &path, bool wantsQuick, HashNotes *notes = nullptr);
+
 /// Current digest of the whole content; of an empty file, the digest of no bytes.
 [[nodiscard]] QByteArray fullContentHash(const QString &path, const CancelQuery &cancelled = {},
                                          HashNotes *notes = nullptr);

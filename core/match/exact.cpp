@@ -1,5 +1,6 @@
 #include "core/scan/duplicatescanner.h"
 
+#include "core/cache/cacheroot.h"
 #include "core/cache/fingerprintcache.h"
 #include "core/hash/contenthash.h"
 #include "core/match/digest.h"
@@ -23,7 +24,7 @@ namespace {
 struct Candidate
 {
     quint32 file = 0; ///< index into the input list
-    Digest quick;
+    Digest quick;     ///< of a small file, with the cache off: the full one, which tells the same
     Digest full;
     bool mustStore = false; ///< holds a digest that the cache has not
 };
@@ -46,6 +47,7 @@ public:
         , m_options(options)
         , m_progress(progress)
         , m_cancelled(cancelled)
+        , m_usesCache(!cacheRoot().isEmpty())
     {}
 
     ScanResult run()
@@ -60,7 +62,7 @@ public:
         hashQuick(candidates);
         if (isCancelled(m_cancelled))
             return abandoned(candidates);
-        const qsizetype shared = moveSharedToFront(candidates, &Candidate::quick);
+        const qsizetype shared = moveSharedToFront(candidates);
         hashFull(candidates, shared);
         if (isCancelled(m_cancelled))
             return abandoned(candidates);
@@ -94,16 +96,30 @@ private:
                 return;
             Candidate &candidate = candidates[static_cast<size_t>(i)];
             const FileEntry &file = m_files[candidate.file];
-            const Fingerprint known = lookupFingerprint(file.path, file.size, file.modifiedMs);
-            candidate.quick = Digest(known.quick);
-            candidate.full = Digest(known.full);
-            if (candidate.quick.isEmpty()) {
-                HashNotes notes;
-                candidate.quick = Digest(accepted(file, quickHash(file.path, &notes), notes));
-                candidate.mustStore = describes(notes, file);
+            if (m_usesCache) {
+                const Fingerprint known = lookupFingerprint(file.path, file.size, file.modifiedMs);
+                candidate.quick = Digest(known.quick);
+                candidate.full = Digest(known.full);
             }
+            if (candidate.quick.isEmpty())
+                hashStart(candidate);
             progress.step(file.path);
         });
+    }
+
+    /// A small file is read only once, for both digests: opening it again costs more than hashing it.
+    void hashStart(Candidate &candidate)
+    {
+        const FileEntry &file = m_files[candidate.file];
+        HashNotes notes;
+        if (file.size <= quickCoversBytes) {
+            const SmallFileDigests digests = smallFileDigests(file.path, m_usesCache, &notes);
+            candidate.full = Digest(accepted(file, digests.full, notes));
+            candidate.quick = m_usesCache ? Digest(digests.quick) : candidate.full;
+        } else {
+            candidate.quick = Digest(accepted(file, quickHash(file.path, &notes), notes));
+        }
+        candidate.mustStore = describes(notes, file);
     }
 
     /// Hashes the first `count` candidates whole. What is left of the others is only to be written down, which goes on
@@ -206,13 +222,14 @@ private:
         return runs;
     }
 
-    /// Brings the candidates that share a digest with another to the front, runs together; returns their number.
-    static qsizetype moveSharedToFront(Candidates &candidates, Digest Candidate::*digest)
+    /// Brings the candidates that share a quick digest with another to the front, runs together, and takes the others'
+    /// full digests from them, which nobody needs; returns how many are in front.
+    static qsizetype moveSharedToFront(Candidates &candidates)
     {
         Candidates ordered;
         std::vector<bool> isShared(candidates.size());
         qsizetype count = 0;
-        for (const Run &run : runsOf(candidates, digest)) {
+        for (const Run &run : runsOf(candidates, &Candidate::quick)) {
             const auto first = static_cast<size_t>(run.data() - candidates.data());
             std::fill_n(isShared.begin() + static_cast<std::ptrdiff_t>(first), run.size(), true);
             count += std::ssize(run);
@@ -224,6 +241,8 @@ private:
                     ordered.push_back(candidates[i]);
             }
         }
+        for (size_t i = static_cast<size_t>(count); i < ordered.size(); ++i)
+            ordered[i].full = {};
         candidates.swap(ordered);
         return count;
     }
@@ -250,6 +269,7 @@ private:
     const ScanOptions &m_options;
     const ProgressCallback &m_progress;
     const CancelQuery &m_cancelled;
+    const bool m_usesCache;
     std::mutex m_unreadMutex;
     ScanResult m_result;
 };
