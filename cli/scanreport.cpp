@@ -48,102 +48,139 @@ void writeText(const ScanResult &result, Output &output)
                      .toUtf8());
 }
 
-/// A text as JSON writes it. Most paths need no escaping, and a report holds many of them: only the others go through
-/// Qt's writer, which takes as long for one path as a scan takes to hash a small file.
-QByteArray quoted(const QString &text)
+/// Builds JSON text at the end of a buffer. Most paths need no escaping, and a report holds many of them: only the
+/// others go through Qt's writer, which takes as long for one path as a scan takes to hash a small file.
+class JsonText
 {
-    const auto isPlain = [](QChar character) {
-        return character >= QLatin1Char(' ') && character <= QLatin1Char('~') && character != QLatin1Char('"') &&
-               character != QLatin1Char('\\');
-    };
-    if (std::all_of(text.begin(), text.end(), isPlain))
-        return '"' + text.toLatin1() + '"';
-    const QByteArray array = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
-    return array.mid(1, array.size() - 2);
-}
+public:
+    explicit JsonText(QByteArray &out)
+        : m_out(out)
+    {}
 
-QByteArray numberText(qint64 value)
-{
-    return QByteArray::number(value);
-}
+    void raw(const char *text) { m_out.append(text); }
+    void value(qint64 number) { m_out.append(QByteArray::number(number)); }
+    void value(double number) { m_out.append(QByteArray::number(number, 'g', QLocale::FloatingPointShortest)); }
+    void value(const QString &text)
+    {
+        const auto isPlain = [](char16_t unit) {
+            return unit >= u' ' && unit <= u'~' && unit != u'"' && unit != u'\\';
+        };
+        const auto *units = reinterpret_cast<const char16_t *>(text.utf16());
+        if (std::all_of(units, units + text.size(), isPlain)) {
+            m_out.append('"').append(text.toLatin1()).append('"');
+        } else {
+            const QByteArray array = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
+            m_out.append(QByteArrayView(array).sliced(1, array.size() - 2));
+        }
+    }
 
-QByteArray numberText(double value)
-{
-    return QByteArray::number(value, 'g', QLocale::FloatingPointShortest);
-}
+    template <typename Value>
+    void member(const char *name, const Value &json)
+    {
+        m_out.append(", \"").append(name).append("\": ");
+        value(json);
+    }
 
-QByteArray member(const char *name, const QByteArray &json)
-{
-    return QByteArray(", \"") + name + "\": " + json;
-}
+    /// A member that is left out when nothing is known.
+    void knownMember(const char *name, qint64 number)
+    {
+        if (number != 0)
+            member(name, number);
+    }
+    void knownMember(const char *name, const QString &text)
+    {
+        if (!text.isEmpty())
+            member(name, text);
+    }
 
-QByteArray knownMember(const char *name, qint64 value)
-{
-    return value == 0 ? QByteArray() : member(name, numberText(value));
-}
+    void value(const FileEntry &file)
+    {
+        raw("{\"path\": ");
+        value(file.path);
+        member("size", file.size);
+        member("modifiedMs", file.modifiedMs);
+        member("createdMs", file.createdMs);
+        mediaMembers(file);
+        raw("}");
+    }
 
-QByteArray knownMember(const char *name, const QString &value)
-{
-    return value.isEmpty() ? QByteArray() : member(name, quoted(value));
-}
+    void value(const FolderEntry &folder)
+    {
+        raw("{\"path\": ");
+        value(folder.path);
+        member("fileCount", folder.fileCount);
+        member("size", folder.size);
+        raw("}");
+    }
 
-QByteArray mediaMembers(const FileEntry &file)
-{
-    QByteArray json = knownMember("durationMs", file.durationMs) + knownMember("width", file.width) +
-                      knownMember("height", file.height) + knownMember("shotMs", file.shotMs) +
-                      knownMember("artist", file.artist) + knownMember("title", file.title) +
-                      knownMember("album", file.album) + knownMember("track", file.track) +
-                      knownMember("cameraMake", file.cameraMake) + knownMember("cameraModel", file.cameraModel) +
-                      knownMember("dateTaken", file.dateTaken);
-    if (file.hasGps)
-        json += member("latitude", numberText(file.latitude)) + member("longitude", numberText(file.longitude));
-    return json;
-}
+    void value(const DuplicateGroup &group)
+    {
+        raw("{\"key\": ");
+        value(group.key);
+        member("wastedBytes", group.wastedBytes);
+        raw(", \"files\": ");
+        array(group.files);
+        raw("}");
+    }
 
-QByteArray jsonOf(const FileEntry &file)
-{
-    return "{\"path\": " + quoted(file.path) + member("size", numberText(file.size)) +
-           member("modifiedMs", numberText(file.modifiedMs)) + member("createdMs", numberText(file.createdMs)) +
-           mediaMembers(file) + '}';
-}
+    void value(const FolderGroup &group)
+    {
+        raw("{\"fileCount\": ");
+        value(group.fileCount);
+        member("size", group.size);
+        raw(", \"folders\": ");
+        array(group.folders);
+        raw("}");
+    }
 
-QByteArray jsonOf(const FolderEntry &folder)
-{
-    return "{\"path\": " + quoted(folder.path) + member("fileCount", numberText(folder.fileCount)) +
-           member("size", numberText(folder.size)) + '}';
-}
+private:
+    void mediaMembers(const FileEntry &file)
+    {
+        knownMember("durationMs", file.durationMs);
+        knownMember("width", file.width);
+        knownMember("height", file.height);
+        knownMember("shotMs", file.shotMs);
+        knownMember("artist", file.artist);
+        knownMember("title", file.title);
+        knownMember("album", file.album);
+        knownMember("track", file.track);
+        knownMember("cameraMake", file.cameraMake);
+        knownMember("cameraModel", file.cameraModel);
+        knownMember("dateTaken", file.dateTaken);
+        if (file.hasGps) {
+            member("latitude", file.latitude);
+            member("longitude", file.longitude);
+        }
+    }
 
-/// An array with an item a line, indented by `indent`.
-template <typename List, typename JsonOf>
-QByteArray arrayOf(const List &items, const QByteArray &indent, JsonOf textOf)
-{
-    QByteArray json = "[";
-    for (const auto &item : items)
-        json += (json.size() == 1 ? "\n" : ",\n") + indent + textOf(item);
-    return json + ']';
-}
+    template <typename Item>
+    void array(const QList<Item> &items)
+    {
+        const char *separator = "[\n    ";
+        for (const Item &item : items) {
+            raw(separator);
+            value(item);
+            separator = ",\n    ";
+        }
+        raw(items.isEmpty() ? "[]" : "]");
+    }
 
-QByteArray jsonOf(const DuplicateGroup &group)
-{
-    return "{\"key\": " + quoted(group.key) + member("wastedBytes", numberText(group.wastedBytes)) +
-           member("files", arrayOf(group.files, "    ", [](const FileEntry &file) { return jsonOf(file); })) + '}';
-}
+    QByteArray &m_out;
+};
 
-QByteArray jsonOf(const FolderGroup &group)
-{
-    return "{\"fileCount\": " + numberText(group.fileCount) + member("size", numberText(group.size)) +
-           member("folders", arrayOf(group.folders, "    ", [](const FolderEntry &item) { return jsonOf(item); })) +
-           '}';
-}
-
-/// Writes an array member item by item.
-template <typename List, typename JsonOf>
-void writeArray(const char *name, const List &items, JsonOf textOf, Output &output)
+/// Writes the items of an array of the outermost object one by one; `valueOf` picks what is written of an item.
+template <typename Item, typename ValueOf>
+void writeArray(const char *name, const QList<Item> &items, ValueOf valueOf, Output &output)
 {
     output.write(QByteArray(",\n \"") + name + "\": [");
+    QByteArray text;
+    JsonText json(text);
     const char *separator = "\n  ";
-    for (const auto &item : items) {
-        output.write(separator + textOf(item));
+    for (const Item &item : items) {
+        text.clear();
+        json.raw(separator);
+        json.value(valueOf(item));
+        output.write(text);
         separator = ",\n  ";
     }
     output.write("]");
@@ -151,15 +188,23 @@ void writeArray(const char *name, const List &items, JsonOf textOf, Output &outp
 
 void writeJson(const ScanResult &result, Output &output)
 {
-    output.write(
-        "{\"filesScanned\": " + numberText(result.filesScanned) + member("totalBytes", numberText(result.totalBytes)) +
-        member("wastedBytes", numberText(result.wastedBytes)) + member("candidates", numberText(result.candidates)) +
-        member("elapsedMs", numberText(result.elapsedMs)));
-    const auto object = [](const auto &item) { return jsonOf(item); };
-    writeArray("groups", result.groups, object, output);
-    writeArray("folderGroups", result.folderGroups, object, output);
+    QByteArray head;
+    JsonText json(head);
+    json.raw("{\"filesScanned\": ");
+    json.value(result.filesScanned);
+    json.member("totalBytes", result.totalBytes);
+    json.member("wastedBytes", result.wastedBytes);
+    json.member("candidates", result.candidates);
+    json.member("elapsedMs", result.elapsedMs);
+    output.write(head);
+    const auto whole = [](const auto &item) -> const auto &
+    {
+        return item;
+    };
+    writeArray("groups", result.groups, whole, output);
+    writeArray("folderGroups", result.folderGroups, whole, output);
     writeArray(
-        "remaining", result.folderSummaries, [](const FileEntry &file) { return quoted(file.path); }, output);
+        "remaining", result.folderSummaries, [](const FileEntry &file) { return file.path; }, output);
     output.write("}\n");
 }
 

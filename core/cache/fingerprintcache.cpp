@@ -33,17 +33,21 @@ std::mutex &cacheMutex()
     return mutex;
 }
 
-/// No entry of ours comes near this size; what is larger is not one.
-constexpr qint64 largestEntryBytes = 1 << 20;
-
 /// The entry's text; empty when there is none.
 QByteArray readEntryFile(const QString &entryPath)
 {
+    constexpr qint64 firstBytes = 512;    // an entry of ours is shorter
+    constexpr qint64 mostBytes = 1 << 20; // no entry of anybody's is longer
     FileReader reader;
-    if (!reader.open(entryPath) || reader.sizeBytes() < 1 || reader.sizeBytes() > largestEntryBytes)
+    if (!reader.open(entryPath))
         return {};
-    QByteArray text(reader.sizeBytes(), Qt::Uninitialized);
-    text.truncate(std::max<qint64>(reader.readAt(0, text.data(), text.size()), 0));
+    QByteArray text(firstBytes, Qt::Uninitialized);
+    qint64 count = reader.readAt(0, text.data(), firstBytes);
+    if (count == firstBytes) {
+        text.resize(mostBytes);
+        count = reader.readAt(0, text.data(), mostBytes);
+    }
+    text.truncate(std::max<qint64>(count, 0));
     return text;
 }
 

@@ -16,7 +16,7 @@ namespace {
 /// Opens `path` and notes what is known of it.
 bool openNoted(FileReader &reader, const QString &path, HashNotes *notes)
 {
-    const bool isOpen = reader.open(path);
+    const bool isOpen = reader.open(path) && reader.readState();
     if (notes && isOpen) {
         notes->sizeBytes = reader.sizeBytes();
         notes->modifiedMs = reader.modifiedMs();
@@ -62,7 +62,8 @@ public:
         m_textLength = text.size();
     }
 
-    /// Room for the head, and behind it for the tail; a file of up to quickCoversBytes can be read whole into both.
+    /// Room for the head, and behind it for the tail; a file of up to quickCoversBytes can be read whole into both,
+    /// with a byte to spare.
     char *head() { return m_buffer.data() + m_textLength; }
     char *tail() { return head() + quickWindowBytes; }
 
@@ -86,7 +87,7 @@ public:
 private:
     static constexpr qint64 longestSizeText = 19; ///< digits of 2^63 - 1
 
-    std::array<char, longestSizeText + quickCoversBytes> m_buffer; // NOLINT: filled as far as it is used
+    std::array<char, longestSizeText + quickCoversBytes + 1> m_buffer; // NOLINT: filled as far as it is used
     qint64 m_size;
     qint64 m_textLength = 0;
     qint64 m_headCount = 0;
@@ -151,26 +152,26 @@ QByteArray wholeDigest(const QString &path, Hasher &hasher, bool mayMap, const C
 
 } // namespace
 
-SmallFileDigests smallFileDigests(const QString &path, bool wantsQuick, HashNotes *notes)
+SmallFileDigests smallFileDigests(const QString &path, qint64 sizeBytes, bool forCache, HashNotes *notes)
 {
+    Q_ASSERT(sizeBytes >= 1 && sizeBytes <= quickCoversBytes);
     FileReader reader;
-    if (!openNoted(reader, path, notes))
-        return {};
-    const qint64 size = reader.sizeBytes();
-    if (size < 1 || size > quickCoversBytes) {
-        if (notes)
-            notes->hasChanged = true;
+    if (!(forCache ? openNoted(reader, path, notes) : reader.open(path))) {
+        failed(reader, notes);
         return {};
     }
-    QuickWindows windows(size);
-    const qint64 count = reader.readAt(0, windows.head(), size);
-    if (count < 0) {
-        failed(reader, notes);
+    QuickWindows windows(sizeBytes);
+    const qint64 count = reader.readAt(0, windows.head(), sizeBytes + 1);
+    if (count != sizeBytes) {
+        if (count < 0)
+            failed(reader, notes);
+        else if (notes)
+            notes->hasChanged = true;
         return {};
     }
     SmallFileDigests digests;
     digests.full = digestOf({windows.head(), count});
-    if (wantsQuick && count > 0) {
+    if (forCache) {
         windows.splitAt(count);
         digests.quick = digestOf(windows.input());
     }

@@ -38,13 +38,15 @@ inline constexpr qint64 quickCoversBytes = 2 * quickWindowBytes;
 /// Both digests of a file that one read takes whole.
 struct SmallFileDigests
 {
-    QByteArray quick; ///< as of quickHash; empty when it was not asked for
+    QByteArray quick; ///< as of quickHash; only for the cache
     QByteArray full;  ///< as of fullContentHash
 };
 
-/// Reads a file of 1 to quickCoversBytes bytes once for both digests; a file of another size gives empty ones,
-/// noted as changed.
-[[nodiscard]] SmallFileDigests smallFileDigests(const QString &path, bool wantsQuick, HashNotes *notes = nullptr);
+/// Reads a file, known to be of `sizeBytes` (1 to quickCoversBytes), once for both digests. `forCache` adds the quick
+/// one and the state of the file in `notes`, without which the call saves a question to the system. Empty, and noted as
+/// changed, when the file has another size by now.
+[[nodiscard]] SmallFileDigests smallFileDigests(const QString &path, qint64 sizeBytes, bool forCache,
+                                                HashNotes *notes = nullptr);
 
 /// Current digest of the whole content; of an empty file, the digest of no bytes.
 [[nodiscard]] QByteArray fullContentHash(const QString &path, const CancelQuery &cancelled = {},

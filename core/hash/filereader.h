@@ -6,8 +6,8 @@
 
 namespace MirrixCore {
 
-/// An open file, read by position. Uses the system's own calls: any legal name works, others may still rename or delete
-/// the file while it is open, and folders, pipes and devices are refused rather than opened. Movable, not thread-safe.
+/// An open file, read by position. Uses the system's own calls: any legal name works, and others may still rename or
+/// delete the file while it is open. Folders and pipes cannot be read. Movable, not thread-safe.
 class FileReader
 {
 public:
@@ -16,13 +16,17 @@ public:
     FileReader(FileReader &&) noexcept;
     FileReader &operator=(FileReader &&) noexcept;
 
-    /// Opens `path` for reading. False on failure; errorText tells why.
+    /// Opens `path` for reading, without looking at it further. False on failure; errorText tells why.
     [[nodiscard]] bool open(const QString &path);
 
-    /// Size in bytes when the file was opened.
+    /// Takes down size and modification time of the open file. False, with the file closed, when that fails or when it
+    /// is no plain file.
+    [[nodiscard]] bool readState();
+
+    /// Size in bytes at readState.
     [[nodiscard]] qint64 sizeBytes() const;
 
-    /// Modification time when the file was opened, milliseconds since the Unix epoch.
+    /// Modification time at readState, milliseconds since the Unix epoch.
     [[nodiscard]] qint64 modifiedMs() const;
 
     /// Reads up to `length` bytes at `offset`. Returns the number read, less than `length` only at the end of the file,
@@ -35,7 +39,8 @@ public:
     /// Tells the system that the file will be read from start to end.
     void expectSequentialReads();
 
-    /// Whether size and modification time, to the system's full resolution, still are what they were at the opening.
+    /// Whether size and modification time, to the system's full resolution, still are what they were at
+    /// readState.
     [[nodiscard]] bool isUnchanged() const;
 
     /// The system's reason for the last failure.

@@ -50,7 +50,12 @@ bool FileReader::open(const QString &path)
     m_state->readCount = 0;
     // Without O_NONBLOCK, a pipe that took the file's place since the walk would block for ever.
     m_state->descriptor = ::open(pathBytes(path).constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
-    if (m_state->descriptor < 0 || fstat(m_state->descriptor, &m_state->info) != 0)
+    return m_state->descriptor >= 0 || m_state->fail(errno);
+}
+
+bool FileReader::readState()
+{
+    if (fstat(m_state->descriptor, &m_state->info) != 0)
         return m_state->fail(errno);
     if (S_ISDIR(m_state->info.st_mode))
         return m_state->fail(EISDIR);
@@ -82,9 +87,9 @@ qint64 FileReader::readAt(qint64 offset, char *buffer, qint64 length)
             m_state->error = systemErrorText(errno);
             return -1;
         }
+        const bool isEnd = count < length - done; // a plain file gives less than asked only at its end
         done += count;
-        // A regular file gives less than asked only at its end; asking again would cost a call per small file.
-        if (count == 0 || offset + done >= m_state->info.st_size)
+        if (isEnd)
             break;
     }
     return done;

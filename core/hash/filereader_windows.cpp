@@ -35,6 +35,11 @@ bool FileReader::open(const QString &path)
         m_state->error = lastErrorText();
         return false;
     }
+    return true;
+}
+
+bool FileReader::readState()
+{
     if (GetFileType(m_state->file.get()) != FILE_TYPE_DISK) {
         m_state->error = systemErrorText(ERROR_INVALID_FUNCTION);
         m_state->file = {};
@@ -77,7 +82,7 @@ qint64 FileReader::readAt(qint64 offset, char *buffer, qint64 length)
             return -1;
         }
         done += count;
-        if (count == 0 || offset + done >= m_state->size())
+        if (count < wanted)
             break;
     }
     return done;

@@ -40,7 +40,8 @@ int sampledByteSimilarity(const QString &pathA, const QString &pathB)
 {
     FileReader a;
     FileReader b;
-    if (!a.open(pathA) || !b.open(pathB) || a.sizeBytes() < 1 || a.sizeBytes() != b.sizeBytes())
+    const bool areOpen = a.open(pathA) && a.readState() && b.open(pathB) && b.readState();
+    if (!areOpen || a.sizeBytes() < 1 || a.sizeBytes() != b.sizeBytes())
         return 0;
     std::array<char, sampleBlockBytes> blockA; // NOLINT: filled by the reads
     std::array<char, sampleBlockBytes> blockB; // NOLINT: filled by the reads

@@ -26,6 +26,14 @@ public:
     }
 
     [[nodiscard]] bool isEmpty() const { return m_length == 0; }
+    /// Eight bytes of the digest as a number; 0 when empty. Equal for equal digests.
+    [[nodiscard]] quint64 leadingBits() const
+    {
+        quint64 bits = 0;
+        std::memcpy(&bits, m_bytes.data(), sizeof bits);
+        return bits;
+    }
+
     [[nodiscard]] QByteArray bytes() const { return {m_bytes.data(), m_length}; }
 
     bool operator==(const Digest &other) const { return (*this <=> other) == 0; }

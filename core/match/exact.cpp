@@ -113,7 +113,7 @@ private:
         const FileEntry &file = m_files[candidate.file];
         HashNotes notes;
         if (file.size <= quickCoversBytes) {
-            const SmallFileDigests digests = smallFileDigests(file.path, m_usesCache, &notes);
+            const SmallFileDigests digests = smallFileDigests(file.path, file.size, m_usesCache, &notes);
             candidate.full = Digest(accepted(file, digests.full, notes));
             candidate.quick = m_usesCache ? Digest(digests.quick) : candidate.full;
         } else {
@@ -206,10 +206,7 @@ private:
     /// Sorts by `digest`, input order within, and returns each run of two or more equal, non-empty ones.
     static std::vector<Run> runsOf(Candidates &candidates, Digest Candidate::*digest)
     {
-        std::sort(candidates.begin(), candidates.end(), [digest](const Candidate &a, const Candidate &b) {
-            const auto order = a.*digest <=> b.*digest;
-            return order != 0 ? order < 0 : a.file < b.file;
-        });
+        sortBy(candidates, digest);
         std::vector<Run> runs;
         for (auto begin = candidates.begin(); begin != candidates.end();) {
             const auto end = std::find_if(begin, candidates.end(), [&](const Candidate &candidate) {
@@ -220,6 +217,27 @@ private:
             begin = end;
         }
         return runs;
+    }
+
+    /// Sorts short keys and then moves each candidate once: the candidates themselves are too long to be swapped about.
+    static void sortBy(Candidates &candidates, Digest Candidate::*digest)
+    {
+        std::vector<std::pair<quint64, quint32>> order(candidates.size());
+        for (size_t i = 0; i < order.size(); ++i)
+            order[i] = {(candidates[i].*digest).leadingBits(), static_cast<quint32>(i)};
+        std::sort(order.begin(), order.end(), [&](const auto &a, const auto &b) {
+            if (a.first != b.first)
+                return a.first < b.first;
+            const Candidate &left = candidates[a.second];
+            const Candidate &right = candidates[b.second];
+            const auto byDigest = left.*digest <=> right.*digest;
+            return byDigest != 0 ? byDigest < 0 : left.file < right.file;
+        });
+        Candidates sorted;
+        sorted.reserve(candidates.size());
+        for (const auto &entry : order)
+            sorted.push_back(candidates[entry.second]);
+        candidates.swap(sorted);
     }
 
     /// Brings the candidates that share a quick digest with another to the front, runs together, and takes the others'
