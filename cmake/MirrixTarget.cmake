@@ -17,7 +17,9 @@ if(MIRRIX_SANITIZE)
     add_link_options(-fsanitize=${MIRRIX_SANITIZE})
 endif()
 
+# mirrix_configure(TARGET [PCH_FROM OTHER]): with PCH_FROM, uses another target's precompiled header.
 function(mirrix_configure target)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "PCH_FROM" "")
     target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR})
     target_compile_definitions(${target} PRIVATE
         QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
@@ -27,7 +29,11 @@ function(mirrix_configure target)
         target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow
             $<$<BOOL:${MIRRIX_WERROR}>:-Werror>)
     endif()
-    target_precompile_headers(${target} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/pch.h)
+    if(arg_PCH_FROM)
+        target_precompile_headers(${target} REUSE_FROM ${arg_PCH_FROM})
+    else()
+        target_precompile_headers(${target} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/pch.h)
+    endif()
 endfunction()
 
 # Adds the sources of the system built for: NAME_windows.cpp or NAME_posix.cpp of each NAME.

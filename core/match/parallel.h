@@ -2,9 +2,11 @@
 
 #include "core/scan/scanprogress.h"
 
+#include <QUnhandledException>
 #include <QtConcurrent>
 
 #include <atomic>
+#include <exception>
 #include <functional>
 #include <mutex>
 
@@ -12,13 +14,19 @@ namespace MirrixCore {
 
 /// Calls `task(i)` for each i in 0..count-1 on Qt's global thread pool and waits for all. A task writes only what
 /// belongs to its index. The calling thread does not take part, so the pool's size is the number of threads at work.
-/// An exception of a task is thrown again here.
+/// An exception of a task is thrown again here, as what it was.
 template <typename Task>
 void forEachParallel(qsizetype count, Task task)
 {
     QList<qsizetype> indices(count);
     std::iota(indices.begin(), indices.end(), qsizetype(0));
-    QtConcurrent::map(indices, [&task](const qsizetype &index) { task(index); }).waitForFinished();
+    try {
+        QtConcurrent::map(indices, [&task](const qsizetype &index) { task(index); }).waitForFinished();
+    } catch (const QUnhandledException &wrapped) { // Qt's own wrapping, which has lost the words
+        if (wrapped.exception())
+            std::rethrow_exception(wrapped.exception());
+        throw;
+    }
 }
 
 /// Counts the items that the tasks of one stage finish and passes every 64th and the last on, one thread at a time.

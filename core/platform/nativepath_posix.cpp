@@ -47,7 +47,7 @@ QByteArray pathBytes(const QString &path)
 QString pathFromBytes(QByteArrayView bytes)
 {
     if (bytes.isValidUtf8())
-        return QString::fromUtf8(bytes);
+        return decodeWholeUtf8(bytes);
     QString path;
     path.reserve(bytes.size());
     for (qsizetype i = 0; i < bytes.size();) {
@@ -55,7 +55,7 @@ QString pathFromBytes(QByteArrayView bytes)
         if (length == 0)
             path += QChar(char16_t(loneBase + static_cast<uchar>(bytes[i])));
         else
-            path += QString::fromUtf8(bytes.sliced(i, length));
+            path += decodeWholeUtf8(bytes.sliced(i, length));
         i += std::max<qsizetype>(length, 1);
     }
     return path;

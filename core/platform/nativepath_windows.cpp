@@ -38,13 +38,13 @@ QString pathFromBytes(QByteArrayView bytes)
         const QByteArrayView rest = bytes.sliced(i);
         if (!isLoneSurrogate(rest))
             continue;
-        path += QString::fromUtf8(bytes.sliced(done, i - done));
+        path += decodeWholeUtf8(bytes.sliced(done, i - done));
         path += QChar(
             char16_t(0xD000 | ((static_cast<uchar>(rest[1]) & 0x3F) << 6) | (static_cast<uchar>(rest[2]) & 0x3F)));
         i += 2;
         done = i + 1;
     }
-    return path + QString::fromUtf8(bytes.sliced(done));
+    return path + decodeWholeUtf8(bytes.sliced(done));
 }
 
 QString absolutePath(const QString &path)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 
 namespace MirrixCore {
@@ -26,6 +27,17 @@ QByteArray encodeWithSurrogates(const QString &text, WriteLone writeLone)
         }
     }
     return bytes;
+}
+
+/// Decodes valid UTF-8 to the letter. QString::fromUtf8 takes a byte order mark off the front, but in a name it counts.
+inline QString decodeWholeUtf8(QByteArrayView bytes)
+{
+    constexpr QByteArrayView mark("\xEF\xBB\xBF");
+    qsizetype marks = 0;
+    while (bytes.sliced(marks * mark.size()).startsWith(mark))
+        ++marks;
+    const QString rest = QString::fromUtf8(bytes.sliced(marks * mark.size()));
+    return marks == 0 ? rest : QString(marks, QChar(0xFEFF)) + rest;
 }
 
 } // namespace MirrixCore

@@ -8,6 +8,7 @@
 #include <QFileInfo>
 
 #include <filesystem>
+#include <fstream>
 #include <system_error>
 
 namespace MirrixTest {
@@ -45,6 +46,20 @@ QString TempTree::write(const QString &relative, const QByteArray &content) cons
     QDir().mkpath(QFileInfo(absolute).path());
     QFile file(absolute);
     writeWhole(file, content);
+    return absolute;
+}
+
+QString TempTree::writeExactly(const QString &relative, const QByteArray &content) const
+{
+    const QString absolute = path(relative);
+    QDir().mkpath(QFileInfo(absolute).path());
+    const bool hasDrive = absolute.size() > 1 && absolute[1] == QLatin1Char(':');
+    const QString exact = hasDrive ? QLatin1String("\\\\?\\") + QDir::toNativeSeparators(absolute) : absolute;
+    std::ofstream stream(nativeOf(exact), std::ios::binary);
+    stream.write(content.constData(), content.size());
+    stream.close();
+    if (!stream)
+        qFatal("cannot write %s", qPrintable(absolute));
     return absolute;
 }
 
@@ -96,6 +111,16 @@ QByteArray patternBytes(qint64 length, quint32 seed)
     for (qint64 i = 0; i < length; ++i)
         bytes[i] = static_cast<char>((static_cast<quint32>(i) + seed) * 2654435761U >> 24);
     return bytes;
+}
+
+QByteArray testData(const QString &relative)
+{
+    QFile file(QStringLiteral(MIRRIX_TEST_FOLDER "/") + relative);
+    if (!file.exists()) // Wine shows the building machine's root as a drive
+        file.setFileName(QLatin1String("Z:") + file.fileName());
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("cannot read %s", qPrintable(file.fileName()));
+    return file.readAll();
 }
 
 } // namespace MirrixTest

@@ -6,8 +6,9 @@
 
 namespace MirrixTest {
 
-/// A folder of real files for one test, gone afterwards. Paths are relative to the folder and use forward slashes. Every
-/// function fails the running test (qFatal) when the file system refuses, so that a test never goes on half set up.
+/// A folder of real files for one test, gone afterwards. Paths are relative to the folder and use forward slashes.
+/// Every function fails the running test (qFatal) when the file system refuses, so that a test never goes on half set
+/// up.
 class TempTree
 {
 public:
@@ -18,6 +19,10 @@ public:
 
     /// Writes a file, making folders as needed; returns its absolute path.
     QString write(const QString &relative, const QByteArray &content) const;
+
+    /// Writes a file under a name that the system's everyday calls would change, cut or refuse: trailing dots and
+    /// blanks, paths of more than 260 characters.
+    QString writeExactly(const QString &relative, const QByteArray &content) const;
 
     /// Writes a file whose name consists of these bytes (POSIX only: not every system has such names).
     QString writeNamedByBytes(const QByteArray &name, const QByteArray &content) const;
@@ -40,5 +45,8 @@ private:
 /// `length` bytes of a fixed pattern without short periods: byte i is the top byte of the 32-bit product of i + `seed`
 /// and 2654435761. The scripts that compute expected digests use the same rule.
 [[nodiscard]] QByteArray patternBytes(qint64 length, quint32 seed = 0);
+
+/// The content of a file below tests/, such as "core/data/hash-vectors.json".
+[[nodiscard]] QByteArray testData(const QString &relative);
 
 } // namespace MirrixTest

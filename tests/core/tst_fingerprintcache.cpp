@@ -1,0 +1,266 @@
+#include "core/cache/cacheroot.h"
+#include "core/cache/fingerprintcache.h"
+#include "core/hash/contenthasher.h"
+#include "tests/support/temptree.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+#include <QtConcurrent>
+
+#include <atomic>
+
+using namespace MirrixCore;
+using namespace MirrixTest;
+
+namespace {
+
+const QString file = QStringLiteral("/data/a file.txt");
+const QByteArray quick = QByteArray::fromHex("00112233445566778899aabbccddeeff");
+const QByteArray full = QByteArray::fromHex("ffeeddccbbaa99887766554433221100");
+constexpr qint64 size = 1234;
+constexpr qint64 modified = 1700000000123;
+
+} // namespace
+
+class FingerprintCacheTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void entryLiesWhereItsPathSays();
+    void entryHoldsExactlyItsMembers();
+    void storedDigestsAreFound();
+    void nothingWorthStoring();
+    void validity_data();
+    void validity();
+    void otherMembersStay();
+    void fullOfAnotherStateGoes();
+    void fullOfAnotherAlgorithmGoes();
+    void brokenEntryIsReplaced_data();
+    void brokenEntryIsReplaced();
+    void unwritableFolderIsSilent();
+    void offWithoutRoot();
+    void oddNamesDoNotMeet();
+    void manyThreads();
+
+private:
+    QJsonObject entry() const;
+    void writeEntry(const QByteArray &text) const;
+
+    std::unique_ptr<TempTree> m_tree;
+};
+
+void FingerprintCacheTest::init()
+{
+    m_tree = std::make_unique<TempTree>();
+    setCacheRoot(m_tree->path());
+    setContentHashAlgorithm(ContentHashAlgorithm::Md5);
+}
+
+void FingerprintCacheTest::cleanup()
+{
+    setCacheRoot({});
+    setContentHashAlgorithm(ContentHashAlgorithm::Md5);
+}
+
+QJsonObject FingerprintCacheTest::entry() const
+{
+    QFile stored(cachePathFor(file));
+    return stored.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(stored.readAll()).object() : QJsonObject();
+}
+
+void FingerprintCacheTest::writeEntry(const QByteArray &text) const
+{
+    m_tree->write(QDir(m_tree->path()).relativeFilePath(cachePathFor(file)), text);
+}
+
+void FingerprintCacheTest::entryLiesWhereItsPathSays()
+{
+    // printf %s '/data/ä.txt' | sha256sum
+    const QString hex = QStringLiteral("a37ac86e974edb6be86ad7ea286e3f0ea28317c2543b7b2595208c30ec9a89f5");
+    QCOMPARE(cachePathFor(QString::fromUtf8("/data/\xC3\xA4.txt")),
+             m_tree->path(QStringLiteral("fingerprint_cache/%1/%2.json").arg(hex.left(2), hex)));
+    QVERIFY(cachePathFor(QStringLiteral("/data/A")) != cachePathFor(QStringLiteral("/data/a")));
+}
+
+void FingerprintCacheTest::entryHoldsExactlyItsMembers()
+{
+    storeQuick(file, size, modified, quick);
+    QJsonObject expected{{QStringLiteral("algo"), QStringLiteral("md5")},
+                         {QStringLiteral("size"), 1234},
+                         {QStringLiteral("mtimeMs"), 1700000000123.0},
+                         {QStringLiteral("quick"), QStringLiteral("00112233445566778899aabbccddeeff")}};
+    QCOMPARE(entry(), expected);
+    storeQuickAndFull(file, size, modified, quick, full);
+    expected.insert(QStringLiteral("full"), QStringLiteral("ffeeddccbbaa99887766554433221100"));
+    QCOMPARE(entry(), expected);
+    QFile stored(cachePathFor(file));
+    QVERIFY(stored.open(QIODevice::ReadOnly));
+    const QByteArray text = stored.readAll();
+    QVERIFY2(!text.contains('\n') && !text.contains(' '), text.constData());
+}
+
+void FingerprintCacheTest::storedDigestsAreFound()
+{
+    QByteArray digest = "old";
+    QVERIFY(!lookupQuick(file, size, modified, digest));
+    QVERIFY(digest.isEmpty());
+    storeQuick(file, size, modified, quick);
+    QVERIFY(lookupQuick(file, size, modified, digest));
+    QCOMPARE(digest, quick);
+    QVERIFY(!lookupFull(file, size, modified, digest));
+    QVERIFY(digest.isEmpty());
+    storeQuickAndFull(file, size, modified, quick, full);
+    QVERIFY(lookupFull(file, size, modified, digest));
+    QCOMPARE(digest, full);
+    QVERIFY(!lookupFull(QStringLiteral("/data/A file.txt"), size, modified, digest));
+}
+
+void FingerprintCacheTest::nothingWorthStoring()
+{
+    storeQuick(file, 0, modified, quick);
+    storeQuick(file, size, modified, {});
+    storeQuickAndFull(file, 0, modified, quick, full);
+    storeQuickAndFull(file, size, modified, quick, {});
+    storeQuickAndFull(file, size, modified, {}, full);
+    QVERIFY(!QFile::exists(cachePathFor(file)));
+}
+
+void FingerprintCacheTest::validity_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<bool>("isHit");
+    const auto row = [](const char *name, const char *text, bool isHit) {
+        QTest::newRow(name) << QByteArray(text) << isHit;
+    };
+    row("valid", R"({"algo":"md5","size":1234,"mtimeMs":1700000000123,"quick":"0011"})", true);
+    row("no algorithm", R"({"size":1234,"mtimeMs":1700000000123,"quick":"0011"})", true);
+    row("empty algorithm", R"({"algo":"","size":1234,"mtimeMs":1700000000123,"quick":"0011"})", true);
+    row("fractions are cut", R"({"size":1234.9,"mtimeMs":1700000000123.75,"quick":"0011"})", true);
+    row("other algorithm", R"({"algo":"blake3","size":1234,"mtimeMs":1700000000123,"quick":"0011"})", false);
+    row("other case", R"({"algo":"MD5","size":1234,"mtimeMs":1700000000123,"quick":"0011"})", false);
+    row("other size", R"({"algo":"md5","size":1235,"mtimeMs":1700000000123,"quick":"0011"})", false);
+    row("other time", R"({"algo":"md5","size":1234,"mtimeMs":1700000000124,"quick":"0011"})", false);
+    row("no size", R"({"algo":"md5","mtimeMs":1700000000123,"quick":"0011"})", false);
+    row("size as text", R"({"size":"1234","mtimeMs":1700000000123,"quick":"0011"})", false);
+    row("size beyond all numbers", R"({"size":1e300,"mtimeMs":1700000000123,"quick":"0011"})", false);
+    row("no digest", R"({"algo":"md5","size":1234,"mtimeMs":1700000000123})", false);
+    row("empty digest", R"({"algo":"md5","size":1234,"mtimeMs":1700000000123,"quick":""})", false);
+    row("digest as number", R"({"algo":"md5","size":1234,"mtimeMs":1700000000123,"quick":11})", false);
+    row("array", "[]", false);
+    row("cut short", R"({"algo":"md5","size":1234,"mtimeMs":17)", false);
+    row("empty file", "", false);
+    row("noise", "\x01\x02\xFF", false);
+}
+
+void FingerprintCacheTest::validity()
+{
+    QFETCH(QByteArray, text);
+    writeEntry(text);
+    QByteArray digest;
+    QTEST(lookupQuick(file, size, modified, digest), "isHit");
+    QVERIFY(digest.isEmpty() || digest == QByteArray::fromHex("0011"));
+}
+
+void FingerprintCacheTest::otherMembersStay()
+{
+    writeEntry(R"({"algo":"md5","size":1234,"mtimeMs":1700000000123,"quick":"0011","note":[1,{"a":"b"}],)"
+               R"("full":"ffeeddccbbaa99887766554433221100"})");
+    storeQuick(file, size, modified, quick);
+    const QJsonArray note{1, QJsonObject{{QStringLiteral("a"), QStringLiteral("b")}}};
+    QCOMPARE(entry()[QStringLiteral("note")].toArray(), note);
+    QByteArray digest;
+    QVERIFY(lookupFull(file, size, modified, digest)); // still the same state of the file
+    QCOMPARE(digest, full);
+}
+
+void FingerprintCacheTest::fullOfAnotherStateGoes()
+{
+    storeQuickAndFull(file, size, modified, quick, full);
+    storeQuick(file, size, modified + 1, quick);
+    QByteArray digest;
+    QVERIFY(lookupQuick(file, size, modified + 1, digest));
+    QVERIFY2(!lookupFull(file, size, modified + 1, digest), "an old digest passes for the new content");
+}
+
+void FingerprintCacheTest::fullOfAnotherAlgorithmGoes()
+{
+    storeQuickAndFull(file, size, modified, quick, full);
+    setContentHashAlgorithm(ContentHashAlgorithm::Blake3);
+    QByteArray digest;
+    QVERIFY(!lookupQuick(file, size, modified, digest));
+    storeQuick(file, size, modified, quick + quick);
+    QVERIFY(!lookupFull(file, size, modified, digest));
+}
+
+void FingerprintCacheTest::brokenEntryIsReplaced_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("array") << QByteArray("[]");
+    QTest::newRow("no JSON") << QByteArray("{\"algo\":");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("long") << QByteArray(3 << 20, 'x');
+}
+
+void FingerprintCacheTest::brokenEntryIsReplaced()
+{
+    QFETCH(QByteArray, text);
+    writeEntry(text);
+    storeQuick(file, size, modified, quick);
+    QByteArray digest;
+    QVERIFY(lookupQuick(file, size, modified, digest));
+    QCOMPARE(entry().size(), 4);
+}
+
+void FingerprintCacheTest::unwritableFolderIsSilent()
+{
+    setCacheRoot(m_tree->write(QStringLiteral("in the way"), "x"));
+    storeQuick(file, size, modified, quick);
+    QByteArray digest;
+    QVERIFY(!lookupQuick(file, size, modified, digest));
+}
+
+void FingerprintCacheTest::offWithoutRoot()
+{
+    setCacheRoot({});
+    QVERIFY(cachePathFor(file).isEmpty());
+    storeQuick(file, size, modified, quick);
+    QByteArray digest;
+    QVERIFY(!lookupQuick(file, size, modified, digest));
+}
+
+void FingerprintCacheTest::oddNamesDoNotMeet()
+{
+    // Both become "?" or U+FFFD when they are turned into UTF-8 without care.
+    const QString one = QStringLiteral("/data/") + QChar(char16_t(0xDCFE));
+    const QString other = QStringLiteral("/data/") + QChar(char16_t(0xDCFF));
+    storeQuick(one, size, modified, quick);
+    QByteArray digest;
+    QVERIFY(lookupQuick(one, size, modified, digest));
+    QVERIFY(!lookupQuick(other, size, modified, digest));
+    QVERIFY(!lookupQuick(QStringLiteral("/data/?"), size, modified, digest));
+}
+
+void FingerprintCacheTest::manyThreads()
+{
+    QList<int> rounds(400);
+    std::iota(rounds.begin(), rounds.end(), 0);
+    std::atomic<int> wrong = 0;
+    QtConcurrent::blockingMap(rounds, [&](int &round) {
+        const QString name = file + QString::number(round % 4); // four files, so that threads meet
+        storeQuickAndFull(name, size, modified, quick, full);
+        QByteArray digest;
+        if (!lookupFull(name, size, modified, digest) || digest != full)
+            ++wrong;
+    });
+    QCOMPARE(wrong.load(), 0);
+}
+
+QTEST_GUILESS_MAIN(FingerprintCacheTest)
+#include "tst_fingerprintcache.moc"

@@ -1,0 +1,1 @@
+// Exists so that the precompiled header of the tests is built once.
