@@ -7,9 +7,10 @@ namespace Mirrix {
 bool replaceFile(const QString &path, const QByteArray &content)
 {
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
+    // A short write is not an error to QSaveFile, and one that fails when its buffer is flushed none either: on a full
+    // disk it would put a cut file into place.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return false;
-    // A short write is not an error to QSaveFile: on a full disk it would put the cut file into place.
     if (file.write(content) != content.size()) {
         file.cancelWriting();
         return false;

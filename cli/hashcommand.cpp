@@ -156,6 +156,8 @@ ExitStatus runHash(const QCommandLineParser &parser)
     }
     QFuture<HashedFile>(hashed).waitForFinished();
     const bool isWritten = output.finish();
+    if (!isWritten)
+        printError(QStringLiteral("cannot write the digests: %1").arg(output.errorText()));
     for (const UnreadPath &path : unread)
         printError(QStringLiteral("%1: %2").arg(path.path, path.reason));
     if (isInterrupted()) {

@@ -48,7 +48,7 @@ bool Output::open(const QString &path)
     m_isFile = !path.isEmpty();
     if (m_isFile) {
         m_device = std::make_unique<QSaveFile>(path);
-        return m_device->open(QIODevice::WriteOnly);
+        return m_device->open(QIODevice::WriteOnly | QIODevice::Unbuffered); // each write tells the truth
     }
     auto standard = std::make_unique<QFile>();
     const bool isOpen = standard->open(stdout, QIODevice::WriteOnly | QIODevice::Unbuffered);

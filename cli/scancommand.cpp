@@ -112,11 +112,20 @@ ReportFormat formatOf(const QString &name)
     throw UsageError{QStringLiteral("--format needs text or json, not \"%1\"").arg(name)};
 }
 
+/// Finds out before a long scan whether its report can be written. The file is not left open: its temporary name would
+/// be found by a scan of its folder.
+void refuseUnwritable(const QString &path)
+{
+    Output probe;
+    if (!probe.open(path))
+        throw UsageError{QStringLiteral("cannot write %1: %2").arg(path, probe.errorText())};
+}
+
 /// Turns the cache on, and says so when it can remember nothing new.
 void useCache(const QString &dataDirectory)
 {
     setCacheRoot(dataDirectory);
-    const QString folder = dataDirectory + QLatin1String("/fingerprint_cache");
+    const QString folder = dataDirectory + QLatin1Char('/') + fingerprintCacheName;
     QTemporaryFile probe(folder + QLatin1String("/probe"));
     if (!QDir().mkpath(folder) || !probe.open())
         printError(QStringLiteral("cannot write to %1: digests are not remembered for the next scan").arg(folder));
@@ -184,9 +193,7 @@ ExitStatus runScan(const QCommandLineParser &parser)
     const ReportFormat format = formatOf(parser.value(formatOption));
     const QString dataDirectory = dataDirectoryOf(parser);
     applyHash(parser, dataDirectory);
-    Output output;
-    if (!output.open(parser.value(outputOption)))
-        throw UsageError{QStringLiteral("cannot write %1: %2").arg(parser.value(outputOption), output.errorText())};
+    refuseUnwritable(parser.value(outputOption));
     if (parser.isSet(noCacheOption))
         setCacheRoot({});
     else
@@ -200,8 +207,11 @@ ExitStatus runScan(const QCommandLineParser &parser)
         printError(QStringLiteral("cancelled"));
         return ExitStatus::Cancelled;
     }
-    writeReport(result, format, output);
-    if (!output.finish()) {
+    Output output;
+    const bool isOpen = output.open(parser.value(outputOption));
+    if (isOpen)
+        writeReport(result, format, output);
+    if (!isOpen || !output.finish()) {
         printError(QStringLiteral("cannot write the report: %1").arg(output.errorText()));
         return ExitStatus::SomeFailed;
     }

@@ -32,4 +32,12 @@ QString cacheRoot()
     return root().folder;
 }
 
+QStringList cacheFolders()
+{
+    const QString folder = cacheRoot();
+    if (folder.isEmpty())
+        return {};
+    return {folder + QLatin1Char('/') + fingerprintCacheName, folder + QLatin1Char('/') + imageFeatureCacheName};
+}
+
 } // namespace MirrixCore

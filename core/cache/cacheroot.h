@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace MirrixCore {
 
@@ -10,5 +11,12 @@ void setCacheRoot(const QString &dataDirectory);
 
 /// The folder given last. Thread-safe.
 [[nodiscard]] QString cacheRoot();
+
+/// Names of the caches' folders inside the root.
+inline const QString fingerprintCacheName = QStringLiteral("fingerprint_cache");
+inline const QString imageFeatureCacheName = QStringLiteral("image_feature_cache");
+
+/// Absolute paths of the caches' folders; none while the caches are off.
+[[nodiscard]] QStringList cacheFolders();
 
 } // namespace MirrixCore

@@ -126,8 +126,8 @@ QString cachePathFor(const QString &filePath)
     if (root.isEmpty())
         return {};
     const QByteArray digest = QCryptographicHash::hash(pathBytes(filePath), QCryptographicHash::Sha256).toHex();
-    return root + QLatin1String("/fingerprint_cache/") + QLatin1String(digest.first(2)) + QLatin1Char('/') +
-           QLatin1String(digest) + QLatin1String(".json");
+    return root + QLatin1Char('/') + fingerprintCacheName + QLatin1Char('/') + QLatin1String(digest.first(2)) +
+           QLatin1Char('/') + QLatin1String(digest) + QLatin1String(".json");
 }
 
 Fingerprint lookupFingerprint(const QString &filePath, qint64 sizeBytes, qint64 modifiedMs)

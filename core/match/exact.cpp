@@ -149,9 +149,12 @@ private:
         if (!candidate.full.isEmpty())
             return;
         HashNotes notes;
-        candidate.full = Digest(accepted(file, fullContentHash(file.path, m_cancelled, &notes), notes));
-        if (!candidate.full.isEmpty())
-            candidate.mustStore = describes(notes, file);
+        const Digest full(accepted(file, fullContentHash(file.path, m_cancelled, &notes), notes));
+        if (describes(notes, file))
+            candidate.mustStore = true;
+        else
+            store(candidate); // the quick digest was taken earlier and may still fit
+        candidate.full = full;
     }
 
     /// `digest`, or an empty one when the file could not be read or changed meanwhile; notes why.
@@ -273,10 +276,10 @@ private:
             group.files.reserve(std::ssize(run));
             for (const Candidate &candidate : run)
                 group.files.append(m_files[candidate.file]);
-            group.wastedBytes = wasteOfEqualFiles(group.files);
+            group.wastedBytes = wasteOf(group.files);
             m_result.groups.append(group);
         }
-        m_result.groups = refineGroupsByRuleKeys(m_result.groups, m_options);
+        m_result.groups = refineGroupsByRuleKeys(m_result.groups, m_options, m_cancelled);
         if (m_options.collapseHardLinks)
             collapseHardLinks(m_result.groups);
         m_result.wastedBytes = totalWaste(m_result.groups);

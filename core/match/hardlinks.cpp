@@ -22,7 +22,7 @@ void collapse(DuplicateGroup &group)
         return false;
     });
     if (group.files.size() != before)
-        group.wastedBytes = wasteOfEqualFiles(group.files);
+        group.wastedBytes = wasteOf(group.files);
 }
 
 } // namespace

@@ -1,10 +1,167 @@
 #include "core/match/rulekeys.h"
 
+#include "core/match/groups.h"
+#include "core/match/hardlinks.h"
+#include "core/match/mediakeys.h"
+#include "core/match/similarnames.h"
+#include "core/walk/pathrules.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QHash>
+
+#include <algorithm>
+
 namespace MirrixCore {
 
-ScanResult groupByRuleKeys(const QList<FileEntry> &, const ScanOptions &, bool)
+namespace {
+
+/// Files of one key, in input order.
+struct Bucket
 {
-    return {};
+    QString key;
+    QList<FileEntry> files;
+};
+
+QString cased(const QString &text, const ScanOptions &options)
+{
+    return options.caseSensitive ? text : text.toLower();
+}
+
+QString fileNameOf(const QString &path)
+{
+    return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
+}
+
+qint64 timeKey(qint64 timeMs, bool isDateOnly)
+{
+    if (timeMs < 1)
+        return -1;
+    return isDateOnly ? QDateTime::fromMSecsSinceEpoch(timeMs).date().startOfDay().toMSecsSinceEpoch() : timeMs;
+}
+
+/// The first `depth` pieces of a folder's path.
+QString leadingPieces(const QString &folder, qint32 depth)
+{
+    const QStringList pieces = folder.split(QLatin1Char('/'), Qt::SkipEmptyParts);
+    return pieces.mid(0, std::max(depth, 1)).join(QLatin1Char('/'));
+}
+
+/// What is left of the path behind the first root it starts with.
+QString pathUnderRoot(const QString &path, const ScanOptions &options)
+{
+    const Qt::CaseSensitivity sensitivity = options.caseSensitive ? Qt::CaseSensitive : Qt::CaseInsensitive;
+    for (const QString &root : options.roots) {
+        const QString clean = QDir::cleanPath(root);
+        if (path.startsWith(clean, sensitivity))
+            return path.mid(clean.size());
+    }
+    return path;
+}
+
+void appendNameParts(QStringList &parts, const FileEntry &entry, const ScanOptions &options)
+{
+    const QString name = fileNameOf(entry.path);
+    if (options.sameName)
+        parts.append(QLatin1String("FN:") + cased(options.ignoreCopyWords ? stripCopySuffix(name) : name, options));
+    if (options.sameExtension)
+        parts.append(QLatin1String("EXT:") + lowerSuffix(name));
+}
+
+void appendSizeAndDateParts(QStringList &parts, const FileEntry &entry, const ScanOptions &options)
+{
+    if (options.sameSize) {
+        const qint64 tolerance = std::max<qint64>(options.sizeTolerance, 0);
+        const qint64 bucket = tolerance == 0 ? entry.size : entry.size / (tolerance + 1);
+        parts.append(QLatin1String("SZ:") + QString::number(bucket));
+    }
+    if (options.sameCreated)
+        parts.append(QLatin1String("CD:") + QString::number(timeKey(entry.createdMs, options.createdDateOnly)));
+    if (options.sameModified)
+        parts.append(QLatin1String("MD:") + QString::number(timeKey(entry.modifiedMs, options.modifiedDateOnly)));
+}
+
+void appendPathParts(QStringList &parts, const FileEntry &entry, const ScanOptions &options)
+{
+    const QString folder = folderOf(entry.path);
+    if (options.sameDrive)
+        parts.append(QLatin1String("DR:") + QDir::rootPath());
+    if (options.sameFolderName)
+        parts.append(QLatin1String("FD:") + cased(fileNameOf(folder), options));
+    if (options.sameFolderPath)
+        parts.append(QLatin1String("FP:") + cased(leadingPieces(folder, options.folderPathDepth), options));
+    if (options.samePathUnderRoot)
+        parts.append(QLatin1String("RP:") + cased(pathUnderRoot(entry.path, options), options));
+}
+
+/// Buckets by key, in the order in which their first member comes.
+QList<Bucket> bucketsOf(const QList<FileEntry> &files, const ScanOptions &options, bool includeMedia, bool takesKeyless)
+{
+    QList<Bucket> buckets;
+    QHash<QString, qsizetype> bucketOfKey;
+    for (const FileEntry &file : files) {
+        const QString key = buildRuleKey(file, options, includeMedia);
+        if (key.isEmpty() && !takesKeyless)
+            continue;
+        const auto found = bucketOfKey.constFind(key);
+        if (found != bucketOfKey.cend()) {
+            buckets[*found].files.append(file);
+        } else {
+            bucketOfKey.insert(key, buckets.size());
+            buckets.append({key, {file}});
+        }
+    }
+    return buckets;
+}
+
+/// The groups that buckets of two or more files become, under keys that begin with `keyPrefix`.
+QList<DuplicateGroup> groupsOf(const QList<Bucket> &buckets, const QString &keyPrefix, const QString &clusterKeyForm,
+                               const ScanOptions &options, const CancelQuery &cancelled)
+{
+    QList<DuplicateGroup> groups;
+    for (const Bucket &bucket : buckets) {
+        if (isCancelled(cancelled))
+            return {};
+        if (bucket.files.size() < 2)
+            continue;
+        const bool needsBar = !keyPrefix.isEmpty() && !bucket.key.isEmpty();
+        const QString key = keyPrefix + (needsBar ? QStringLiteral("|") : QString()) + bucket.key;
+        if (options.similarNames)
+            groups += clusterSimilarNames(key, bucket.files, options, clusterKeyForm, cancelled);
+        else
+            groups.append({key, bucket.files, 0});
+    }
+    finishGroups(groups, options);
+    return groups;
+}
+
+} // namespace
+
+QString buildRuleKey(const FileEntry &entry, const ScanOptions &options, bool includeMedia)
+{
+    QStringList parts;
+    appendNameParts(parts, entry, options);
+    appendSizeAndDateParts(parts, entry, options);
+    appendPathParts(parts, entry, options);
+    if (includeMedia)
+        parts += mediaKeyParts(entry, options);
+    return parts.join(QLatin1Char('|'));
+}
+
+ScanResult groupByRuleKeys(const QList<FileEntry> &files, const ScanOptions &options, bool includeMedia,
+                           const CancelQuery &cancelled)
+{
+    ScanResult result;
+    result.filesScanned = files.size();
+    for (const FileEntry &file : files)
+        result.totalBytes += file.size;
+    const QList<Bucket> buckets = bucketsOf(files, options, includeMedia, options.similarNames);
+    result.groups = groupsOf(buckets, {}, QStringLiteral("%1|SFN:%2"), options, cancelled);
+    if (options.collapseHardLinks)
+        collapseHardLinks(result.groups);
+    result.wastedBytes = totalWaste(result.groups);
+    sortByWaste(result.groups);
+    return result;
 }
 
 bool hasRefiningRule(const ScanOptions &options)
@@ -14,9 +171,17 @@ bool hasRefiningRule(const ScanOptions &options)
            options.sameFolderPath || options.samePathUnderRoot || options.ignoreSameFolderGroups;
 }
 
-QList<DuplicateGroup> refineGroupsByRuleKeys(const QList<DuplicateGroup> &groups, const ScanOptions &options)
+QList<DuplicateGroup> refineGroupsByRuleKeys(const QList<DuplicateGroup> &groups, const ScanOptions &options,
+                                             const CancelQuery &cancelled)
 {
-    return hasRefiningRule(options) ? QList<DuplicateGroup>() : groups;
+    if (!hasRefiningRule(options))
+        return groups;
+    QList<DuplicateGroup> refined;
+    for (const DuplicateGroup &group : groups) {
+        const QList<Bucket> buckets = bucketsOf(group.files, options, false, true);
+        refined += groupsOf(buckets, group.key, QStringLiteral("%1|SFN"), options, cancelled);
+    }
+    return refined;
 }
 
 } // namespace MirrixCore

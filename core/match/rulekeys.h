@@ -1,20 +1,30 @@
 #pragma once
 
 #include "core/scan/scanoptions.h"
+#include "core/scan/scanprogress.h"
 #include "core/scan/scanresult.h"
+
+#include <QString>
 
 namespace MirrixCore {
 
-/// Groups files whose rule keys are equal. `includeMedia` adds the rules on media members. Not written yet: finds
-/// nothing.
-[[nodiscard]] ScanResult groupByRuleKeys(const QList<FileEntry> &files, const ScanOptions &options, bool includeMedia);
+/// The rule key of a file: for each rule that is on a part such as "FN:name" or "SZ:17", joined by "|"; empty when no
+/// rule is on. Tolerances make buckets, not distances. `includeMedia` adds the parts on media members for the options'
+/// search mode. Thread-safe.
+[[nodiscard]] QString buildRuleKey(const FileEntry &entry, const ScanOptions &options, bool includeMedia);
+
+/// Groups files whose rule keys are equal; with `similarNames`, those of them whose names are alike as well, and then
+/// files without a key too. Members in input order, groups by waste. Without groups when `cancelled` answers true.
+[[nodiscard]] ScanResult groupByRuleKeys(const QList<FileEntry> &files, const ScanOptions &options, bool includeMedia,
+                                         const CancelQuery &cancelled = {});
 
 /// Whether a rule that splits content groups is on.
 [[nodiscard]] bool hasRefiningRule(const ScanOptions &options);
 
-/// Splits content groups by the rules on names, sizes, dates and paths; unchanged when none is on. Splitting is not
-/// written yet: with a rule on it finds nothing, since an unsplit group would claim more than was asked.
+/// Splits content groups by the rules on names, sizes, dates and paths (never media); unchanged when none is on. Keys
+/// are the content key, "|", the rule key. Without groups when `cancelled` answers true.
 [[nodiscard]] QList<DuplicateGroup> refineGroupsByRuleKeys(const QList<DuplicateGroup> &groups,
-                                                           const ScanOptions &options);
+                                                           const ScanOptions &options,
+                                                           const CancelQuery &cancelled = {});
 
 } // namespace MirrixCore

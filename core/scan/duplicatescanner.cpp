@@ -1,5 +1,6 @@
 #include "core/scan/duplicatescanner.h"
 
+#include "core/cache/cacheroot.h"
 #include "core/match/emptyfiles.h"
 #include "core/match/folders.h"
 #include "core/match/rulekeys.h"
@@ -17,9 +18,11 @@ namespace {
 
 constexpr qint64 filesPerReport = 256;
 
-QList<FileEntry> enumerate(const ScanOptions &options, const ProgressCallback &progress, const CancelQuery &cancelled,
+QList<FileEntry> enumerate(ScanOptions options, const ProgressCallback &progress, const CancelQuery &cancelled,
                            QList<UnreadPath> &unread)
 {
+    // Else each scan of a home folder would find the last one's cache entries and add an entry for each of them.
+    options.excludeFolders += cacheFolders();
     const auto report = [&](const QString &path, qint64 count) {
         if (progress)
             progress({count, count, 0, path, Phase::Enumerating});
@@ -113,7 +116,7 @@ ScanResult DuplicateScanner::matchKind(FindKind kind, const QList<FileEntry> &fi
     case FindKind::ContentDuplicates:
         return matchContent(files, options, progress, cancelled);
     case FindKind::NameDuplicates:
-        return groupByRuleKeys(files, nameOptions(options), false);
+        return groupByRuleKeys(files, nameOptions(options), false, cancelled);
     case FindKind::EmptyFiles:
         return groupEmptyFiles(files);
     }
@@ -134,7 +137,7 @@ ScanResult DuplicateScanner::matchContent(const QList<FileEntry> &files, const S
         case ContentMatch::Similar:
             return scanSimilarContent(files, options, progress, cancelled);
         case ContentMatch::Ignore:
-            return groupByRuleKeys(files, options, false);
+            return groupByRuleKeys(files, options, false, cancelled);
         }
         return {};
     case SearchMode::Images:
@@ -150,7 +153,7 @@ ScanResult DuplicateScanner::matchContent(const QList<FileEntry> &files, const S
         case 3:
             return exact();
         case 4:
-            return groupByRuleKeys(files, options, true);
+            return groupByRuleKeys(files, options, true, cancelled);
         }
         return {};
     case SearchMode::Video:
@@ -161,7 +164,7 @@ ScanResult DuplicateScanner::matchContent(const QList<FileEntry> &files, const S
         case 1:
             return sampled(0);
         case 2:
-            return groupByRuleKeys(files, options, true);
+            return groupByRuleKeys(files, options, true, cancelled);
         }
         return {};
     }

@@ -10,12 +10,15 @@ void sortByWaste(QList<DuplicateGroup> &groups)
               [](const DuplicateGroup &a, const DuplicateGroup &b) { return a.wastedBytes > b.wastedBytes; });
 }
 
-qint64 wasteOfEqualFiles(const QList<FileEntry> &files)
+qint64 wasteOf(const QList<FileEntry> &files)
 {
     qint64 sum = 0;
-    for (const FileEntry &file : files)
+    qint64 largest = 0;
+    for (const FileEntry &file : files) {
         sum += file.size;
-    return files.isEmpty() ? 0 : sum - files.constFirst().size;
+        largest = std::max(largest, file.size);
+    }
+    return sum - largest;
 }
 
 qint64 totalWaste(const QList<DuplicateGroup> &groups)

@@ -67,8 +67,8 @@ struct ScanResult
 /// Sorts by wastedBytes, largest first; the order of equals is open.
 void sortByWaste(QList<DuplicateGroup> &groups);
 
-/// Sum of the member sizes less one member's: what an exact group of equal sizes wastes.
-[[nodiscard]] qint64 wasteOfEqualFiles(const QList<FileEntry> &files);
+/// What removing all but one of `files` frees at least: the sum of their sizes less the largest.
+[[nodiscard]] qint64 wasteOf(const QList<FileEntry> &files);
 
 /// Sum of the groups' wastedBytes.
 [[nodiscard]] qint64 totalWaste(const QList<DuplicateGroup> &groups);

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringView>
+
+#include <array>
+#include <unordered_map>
+
+namespace MirrixCore {
+
+/// Levenshtein distance of two texts by UTF-16 units, exact and case-sensitive, as long as it matters: `limit` + 1 when
+/// the lengths alone or a whole row of the table exceed `limit`. A result above `limit` says no more than that. Takes
+/// length x length steps. Thread-safe.
+[[nodiscard]] qint32 boundedEditDistance(QStringView a, QStringView b, qint32 limit);
+
+/// Answers for one name, again and again, whether another is within a number of edits: the same as
+/// boundedEditDistance(...) <= limit, much faster. Up to 64 units it goes by Myers' bit-parallel algorithm ("A fast
+/// bit-vector algorithm for approximate string matching", 1999), one step per unit of the other name. Not thread-safe.
+class EditMatcher
+{
+public:
+    explicit EditMatcher(const QString &name);
+
+    [[nodiscard]] bool isWithin(QStringView other, qint32 limit) const;
+
+private:
+    [[nodiscard]] quint64 positionsOf(char16_t unit) const;
+
+    QString m_name;
+    std::array<quint64, 128> m_ascii{};             ///< bit i set: the name's unit i is this one
+    std::unordered_map<char16_t, quint64> m_others; ///< the same for units from 128 on
+};
+
+/// Which units a name holds, hashed to 64 places, once and at least twice. One edit changes at most two bits of the
+/// four words of two names, so names whose signatures differ in more than 2 x limit bits need no closer look.
+struct NameSignature
+{
+    quint64 once = 0;
+    quint64 twice = 0;
+};
+
+[[nodiscard]] NameSignature nameSignature(QStringView name);
+
+/// False only when the names behind the signatures cannot be within `limit` edits.
+[[nodiscard]] bool mayBeWithin(const NameSignature &a, const NameSignature &b, qint32 limit);
+
+} // namespace MirrixCore

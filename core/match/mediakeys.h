@@ -1,0 +1,14 @@
+#pragma once
+
+#include "core/scan/fileentry.h"
+#include "core/scan/scanoptions.h"
+
+#include <QStringList>
+
+namespace MirrixCore {
+
+/// The parts of a rule key that rest on media members, for the options' search mode. Members that are not known add
+/// nothing. Thread-safe.
+[[nodiscard]] QStringList mediaKeyParts(const FileEntry &entry, const ScanOptions &options);
+
+} // namespace MirrixCore

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "core/scan/scanoptions.h"
+#include "core/scan/scanprogress.h"
+#include "core/scan/scanresult.h"
+
+#include <QString>
+
+namespace MirrixCore {
+
+/// `text` without what marks a copy at its very end ("- Copy", "(2)", "副本3", ...), trimmed. Thread-safe.
+[[nodiscard]] QString stripCopySuffix(const QString &text);
+
+/// The name that similar names are compared by: without folder and last extension, without copy suffix if
+/// `ignoreCopyWords`, lower case unless `caseSensitive`.
+[[nodiscard]] QString normalizedBaseName(const QString &path, const ScanOptions &options);
+
+/// Groups of two or more members whose names are within `nameTolerance` edits, directly or through others. A pair is
+/// only compared when the longer name has the higher index, so the order of `members` counts; on purpose. `keyForm` is
+/// "%1|SFN:%2" (bucket key, name of the first member) or "%1|SFN". Groups that lie in one folder are dropped when the
+/// options ask for it. Takes time by the square of the members of like length; gives up, without groups, when
+/// `cancelled` answers true.
+[[nodiscard]] QList<DuplicateGroup> clusterSimilarNames(const QString &bucketKey, const QList<FileEntry> &members,
+                                                        const ScanOptions &options, const QString &keyForm,
+                                                        const CancelQuery &cancelled = {});
+
+} // namespace MirrixCore

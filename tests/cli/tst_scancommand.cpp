@@ -1,0 +1,580 @@
+#include "core/cache/cacheroot.h"
+#include "core/cache/fingerprintcache.h"
+#include "core/platform/nativepath.h"
+#include "tests/support/probes.h"
+#include "tests/support/program.h"
+#include "tests/support/temptree.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTest>
+
+#include <algorithm>
+#include <memory>
+
+using namespace MirrixTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 modifiedMs = 1234567890000;
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+}
+
+int filesBelow(const QString &folder)
+{
+    int count = 0;
+    for (QDirIterator it(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories); it.hasNext(); it.next())
+        ++count;
+    return count;
+}
+
+/// A text report with its only figure that is not the same each time replaced.
+QByteArray withoutTime(const QByteArray &report)
+{
+    static const QRegularExpression time(u"scanned in [0-9]+\\.[0-9][0-9] s\n$"_s);
+    return QString::fromUtf8(report).replace(time, u"scanned in T s\n"_s).toUtf8();
+}
+
+QJsonObject jsonOf(const QByteArray &report)
+{
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(report, &error);
+    return error.error == QJsonParseError::NoError ? document.object() : QJsonObject();
+}
+
+/// The paths of each group in a JSON report, sorted.
+QList<QStringList> groupsIn(const QByteArray &report)
+{
+    QList<QStringList> groups;
+    const QJsonArray items = jsonOf(report)[u"groups"_s].toArray();
+    for (const QJsonValue &item : items) {
+        QStringList paths;
+        const QJsonArray files = item[u"files"_s].toArray();
+        for (const QJsonValue &file : files)
+            paths.append(file[u"path"_s].toString());
+        paths.sort();
+        groups.append(paths);
+    }
+    return groups;
+}
+
+} // namespace
+
+class ScanCommandTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void textReport();
+    void textReportOfNothing();
+    void jsonReport();
+    void options_data();
+    void options();
+    void digestIsChosen_data();
+    void digestIsChosen();
+    void mistakes_data();
+    void mistakes();
+    void brokenOptionFiles_data();
+    void brokenOptionFiles();
+    void missingFoldersAreNamed();
+    void relativeFolders();
+    void oddNames_data();
+    void oddNames();
+    void namesOfBytes();
+
+    void remembersDigests();
+    void unwritableDataFolder();
+    void usersDataFolder();
+    void portableData_data();
+    void portableData();
+
+    void reportIntoFile();
+    void reportIsNotAmongTheFiles();
+    void reportCannotBeOpened();
+    void reportOnFullDiskKeepsTheOld();
+    void closedOutputIsAFailure();
+    void helpAndVersion_data();
+    void helpAndVersion();
+    void interrupted();
+
+private:
+    /// Scans with a data directory of the program's own.
+    [[nodiscard]] ProgramRun scan(const QStringList &arguments) const
+    {
+        return m_program->run(QStringList{u"scan"_s, u"--data-dir"_s, m_program->dataFolder()} + arguments);
+    }
+    [[nodiscard]] ProgramRun scanAsJson(const QStringList &arguments) const
+    {
+        return scan(QStringList{u"--format"_s, u"json"_s} + arguments);
+    }
+
+    std::unique_ptr<TempTree> m_tree;
+    std::unique_ptr<Program> m_program;
+};
+
+/// Two equal files, each in a root of its own so that their order is known, and a third.
+void ScanCommandTest::init()
+{
+    m_tree = std::make_unique<TempTree>();
+    m_program = std::make_unique<Program>();
+    m_tree->write(u"one/a.txt"_s, "abc");
+    m_tree->write(u"two/b.dat"_s, "abc");
+    m_tree->write(u"two/sub/other.txt"_s, "12345");
+    for (const QString &file : {u"one/a.txt"_s, u"two/b.dat"_s, u"two/sub/other.txt"_s})
+        m_tree->setModified(file, modifiedMs);
+}
+
+void ScanCommandTest::textReport()
+{
+    m_tree->write(u"two/sub/empty"_s, {});
+    const ProgramRun run = scan({m_tree->path(u"one"_s), m_tree->path(u"two"_s)});
+    const QString expected = u"2 files of 3 B, 3 B to free\n  %1/one/a.txt\n  %1/two/b.dat\n\n"
+                             u"1 empty file\n  %1/two/sub/empty\n\n"
+                             u"2 groups, 3 B to free; 4 files (11 B) scanned in T s\n"_s.arg(m_tree->path());
+    QCOMPARE(withoutTime(run.output), expected.toUtf8());
+    QCOMPARE(run.errors, "");
+    QCOMPARE(run.status, 0);
+}
+
+void ScanCommandTest::textReportOfNothing()
+{
+    const ProgramRun run = scan({m_tree->path(u"one"_s)});
+    QCOMPARE(withoutTime(run.output), "No duplicates found; 1 file (3 B) scanned in T s\n");
+    QCOMPARE(run.status, 0);
+}
+
+void ScanCommandTest::jsonReport()
+{
+    const ProgramRun run = scanAsJson({m_tree->path(u"one"_s), m_tree->path(u"two"_s)});
+    QCOMPARE(run.status, 0);
+    QJsonObject report = jsonOf(run.output);
+    QVERIFY(report.take(u"elapsedMs"_s).toInteger(-1) >= 0);
+    QJsonArray files;
+    for (const QString &path : {m_tree->path(u"one/a.txt"_s), m_tree->path(u"two/b.dat"_s)}) {
+        files.append(QJsonObject{{u"path"_s, path}, {u"size"_s, 3}, {u"modifiedMs"_s, modifiedMs}});
+    }
+    QJsonArray groups = report.take(u"groups"_s).toArray();
+    QCOMPARE(groups.size(), 1);
+    QJsonObject group = groups[0].toObject();
+    QJsonArray found;
+    for (const QJsonValue &file : group.take(u"files"_s).toArray()) {
+        QJsonObject object = file.toObject();
+        QVERIFY(object.take(u"createdMs"_s).isDouble()); // cannot be set everywhere
+        found.append(object);
+    }
+    QCOMPARE(found, files);
+    QCOMPARE(group, (QJsonObject{{u"key"_s, u"900150983cd24fb0d6963f7d28e17f72"_s}, {u"wastedBytes"_s, 3}}));
+    QCOMPARE(report, (QJsonObject{{u"filesScanned"_s, 3},
+                                  {u"totalBytes"_s, 11},
+                                  {u"wastedBytes"_s, 3},
+                                  {u"candidates"_s, 2},
+                                  {u"folderGroups"_s, QJsonArray()},
+                                  {u"remaining"_s, QJsonArray()}}));
+}
+
+void ScanCommandTest::options_data()
+{
+    QTest::addColumn<QStringList>("arguments"); // %1 is the folder of the tree
+    QTest::addColumn<int>("files");
+    QTest::addColumn<int>("groups");
+    const auto row = [](const char *name, const QStringList &arguments, int files, int groups) {
+        QTest::newRow(name) << arguments << files << groups;
+    };
+    const QString all = u"%1"_s;
+    row("whole tree", {all}, 5, 1);
+    row("same folder twice", {all, u"%1/one"_s, u"%1//one/."_s}, 5, 1);
+    row("after two dashes", {u"--"_s, all}, 5, 1);
+    row("size", {u"--set"_s, u"minSize=4"_s, all}, 3, 0);
+    row("assigned with equals sign", {u"--set=maxSize=3"_s, all}, 2, 1);
+    row("extensions", {u"--set"_s, u"includeExtensions=txt,json"_s, all}, 4, 0);
+    row("the last assignment counts", {u"--set"_s, u"minSize=9"_s, u"--set"_s, u"minSize=0"_s, all}, 5, 1);
+    row("excluded folder", {u"--exclude"_s, u"%1/two/sub"_s, all}, 4, 1);
+    row("two excluded folders", {u"--exclude"_s, u"%1/two/../two/sub/"_s, u"--exclude"_s, u"%1/one"_s, all}, 3, 0);
+    row("excluded beside the option", {u"--set"_s, u"excludeFolders=%1/one"_s, u"--exclude"_s, u"%1/two"_s, all}, 2, 0);
+    row("option file", {u"--options"_s, u"%1/options.json"_s, all}, 4, 1);
+    row("option file names the folder", {u"--options"_s, u"%1/roots.json"_s}, 1, 0);
+    row("folders add to the option file's", {u"--options"_s, u"%1/roots.json"_s, u"%1/two"_s}, 3, 1);
+    row("assignment over option file", {u"--set"_s, u"maxSize=0"_s, u"--options"_s, u"%1/options.json"_s, all}, 5, 1);
+    row("one thread", {u"--threads"_s, u"1"_s, all}, 5, 1);
+    row("most threads", {u"--threads"_s, u"256"_s, all}, 5, 1);
+    row("without subfolders",
+        {u"--set"_s, u"locations=[{\"path\":\"%1/two\",\"includeSubfolders\":false}]"_s, u"%1/two"_s}, 1, 0);
+    row("empty files only", {u"--set"_s, u"locations=[{\"path\":\"%1\",\"findKind\":2}]"_s, all}, 5, 0);
+}
+
+void ScanCommandTest::options()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, files);
+    QFETCH(int, groups);
+    m_tree->write(u"options.json"_s, "{\"maxSize\": 20}");
+    m_tree->write(u"roots.json"_s, "{\"roots\": [\"" + m_tree->path(u"one"_s).toUtf8() + "\"]}");
+    arguments.replaceInStrings(u"%1"_s, m_tree->path());
+    const ProgramRun run = scanAsJson(arguments);
+    QCOMPARE(run.errors, "");
+    QCOMPARE(run.status, 0);
+    QCOMPARE(jsonOf(run.output)[u"filesScanned"_s].toInt(-1), files);
+    QList<QStringList> expected;
+    if (groups > 0)
+        expected.append({m_tree->path(u"one/a.txt"_s), m_tree->path(u"two/b.dat"_s)});
+    QCOMPARE(groupsIn(run.output), expected);
+}
+
+void ScanCommandTest::digestIsChosen_data()
+{
+    QTest::addColumn<QByteArray>("settings");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("key");
+    const QString md5 = u"900150983cd24fb0d6963f7d28e17f72"_s;
+    const QString blake3 = u"6437b3ac38465133ffb63b75273a8db548c558465d79db03fd359c6cd5bd9d85"_s;
+    const QByteArray blake3Setting = R"({"contentHashAlgorithm": "blake3"})";
+    const QStringList none;
+    QTest::newRow("default") << QByteArray("{}") << none << md5;
+    QTest::newRow("setting") << blake3Setting << none << blake3;
+    QTest::newRow("switch") << QByteArray("{}") << QStringList{u"--hash"_s, u"blake3"_s} << blake3;
+    QTest::newRow("switch over setting") << blake3Setting << QStringList{u"--hash"_s, u"md5"_s} << md5;
+    QTest::newRow("broken settings") << QByteArray("{") << none << md5;
+}
+
+void ScanCommandTest::digestIsChosen()
+{
+    QFETCH(QByteArray, settings);
+    QFETCH(QStringList, arguments);
+    m_tree->write(u"data/settings.json"_s, settings);
+    const ProgramRun run =
+        m_program->run(QStringList{u"scan"_s, u"--format"_s, u"json"_s, u"--data-dir"_s, m_tree->path(u"data"_s),
+                                   m_tree->path(u"one"_s), m_tree->path(u"two"_s)} +
+                       arguments);
+    QTEST(jsonOf(run.output)[u"groups"_s][0][u"key"_s].toString(), "key");
+}
+
+void ScanCommandTest::mistakes_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("message");
+    const auto row = [](const QStringList &arguments, const QString &message) {
+        QTest::newRow(arguments.isEmpty() ? "nothing" : qPrintable(arguments.join(u' '))) << arguments << message;
+    };
+    const QString threads = u"--threads needs a number from 0 to 256, not \"%1\""_s;
+    const QString unsupported = u"this version finds identical content only; rules on names, dates and paths, similar "
+                                u"content, media and duplicate folders are not available yet"_s;
+    row({}, u"no folder to scan"_s);
+    row({u"/a"_s, QString()}, u"an empty folder name"_s);
+    row({u"--exclude"_s, QString(), u"/a"_s}, u"an empty folder name"_s);
+    row({u"--set"_s, u"minSize"_s, u"/a"_s}, u"--set needs NAME=VALUE, not \"minSize\""_s);
+    row({u"--set"_s, u"=5"_s, u"/a"_s}, u"--set needs NAME=VALUE, not \"=5\""_s);
+    row({u"--set"_s, u"noSuch=5"_s, u"/a"_s}, u"unknown option \"noSuch\""_s);
+    row({u"--set"_s, u"minSize=1k"_s, u"/a"_s}, u"option \"minSize\" needs a whole number, not \"1k\""_s);
+    row({u"--set"_s, u"skipHidden=yes"_s, u"/a"_s}, u"option \"skipHidden\" needs true or false, not \"yes\""_s);
+    row({u"--set"_s}, u"Missing value after '--set'."_s);
+    row({u"--threads"_s, u"-1"_s, u"/a"_s}, threads.arg(u"-1"_s));
+    row({u"--threads"_s, u"257"_s, u"/a"_s}, threads.arg(u"257"_s));
+    row({u"--threads"_s, u"two"_s, u"/a"_s}, threads.arg(u"two"_s));
+    row({u"--threads"_s, QString(), u"/a"_s}, threads.arg(QString()));
+    row({u"--mode"_s, u"images"_s, u"/a"_s}, u"--mode needs content, not \"images\""_s);
+    row({u"--hash"_s, u"BLAKE3"_s, u"/a"_s}, u"--hash needs md5 or blake3, not \"BLAKE3\""_s);
+    row({u"--format"_s, u"csv"_s, u"/a"_s}, u"--format needs text or json, not \"csv\""_s);
+    row({u"--recursive"_s, u"/a"_s}, u"Unknown option 'recursive'."_s);
+    for (const QString &rule : {u"searchMode=1"_s, u"contentMatch=1"_s, u"sameName=true"_s,
+                                u"duplicateFoldersOnly=true"_s, u"locations=[{\"path\":\"/a\",\"findKind\":1}]"_s})
+        row({u"--set"_s, rule, u"/a"_s}, unsupported);
+}
+
+void ScanCommandTest::mistakes()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, message);
+    const ProgramRun run = scan(arguments);
+    QCOMPARE(run.errors, usageErrorText(message));
+    QCOMPARE(run.output, "");
+    QCOMPARE(run.status, 2);
+    QVERIFY(!QFile::exists(m_program->dataFolder()));
+}
+
+void ScanCommandTest::brokenOptionFiles_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("no JSON") << QByteArray("{\"minSize\": }") << u"illegal value"_s;
+    QTest::newRow("array") << QByteArray("[1]") << u"not a JSON object"_s;
+    QTest::newRow("unknown option") << QByteArray(R"({"minsize": 1})") << u"unknown option \"minsize\""_s;
+    QTest::newRow("wrong type") << QByteArray(R"({"minSize": "1"})") << u"option \"minSize\" needs a whole number"_s;
+}
+
+void ScanCommandTest::brokenOptionFiles()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QString, reason);
+    const QString file = m_tree->write(u"options.json"_s, text);
+    const ProgramRun run = scan({u"--options"_s, file, m_tree->path()});
+    QCOMPARE(run.errors, usageErrorText(file + u": "_s + reason));
+    QCOMPARE(run.status, 2);
+    const QString missing = m_tree->path(u"missing.json"_s);
+    const ProgramRun none = scan({u"--options"_s, missing, m_tree->path()});
+    QVERIFY2(none.errors.startsWith("mirrix-cli: cannot read " + missing.toUtf8() + ": "), none.errors.constData());
+    QCOMPARE(none.status, 2);
+}
+
+void ScanCommandTest::missingFoldersAreNamed()
+{
+    const QString missing = m_tree->path(u"none here"_s);
+    const QString file = m_tree->path(u"one/a.txt"_s);
+    const ProgramRun run = scanAsJson({missing, m_tree->path(u"one"_s), file, m_tree->path(u"two"_s)});
+    QCOMPARE(QString::fromUtf8(run.errors),
+             u"mirrix-cli: %1: no such folder\nmirrix-cli: %2: not a folder\n"_s.arg(missing, file));
+    QCOMPARE(groupsIn(run.output).size(), 1);
+    QCOMPARE(run.status, 1);
+}
+
+void ScanCommandTest::relativeFolders()
+{
+    const ProgramRun run = m_program->run({u"scan"_s, u"--no-cache"_s, u"--format"_s, u"json"_s, u"one"_s,
+                                           u"./two/../two"_s, u"--exclude"_s, u"two/sub"_s},
+                                          m_tree->path());
+    QCOMPARE(groupsIn(run.output), (QList<QStringList>{{m_tree->path(u"one/a.txt"_s), m_tree->path(u"two/b.dat"_s)}}));
+    QCOMPARE(jsonOf(run.output)[u"filesScanned"_s].toInt(), 2);
+}
+
+void ScanCommandTest::oddNames_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("needsNamesOfBytes");
+    QTest::newRow("blanks") << u" a  b .txt"_s << false;
+    QTest::newRow("Unicode") << u"日本 é \u0301 😀"_s << false;
+    QTest::newRow("per cent") << u"100%1 %s %n"_s << false;
+    QTest::newRow("apostrophe and comma") << u"it's, #1 & [x]"_s << false;
+    QTest::newRow("trailing dot") << u"name."_s << false;
+    QTest::newRow("line break") << u"a\nb\r\tc"_s << true;
+    QTest::newRow("backslash and quotes") << u"a\\n\"b\""_s << true;
+    QTest::newRow("escape sequence") << u"\x1b[31m\x7f"_s << true;
+}
+
+void ScanCommandTest::oddNames()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, needsNamesOfBytes);
+    if (needsNamesOfBytes && !namesAreBytes)
+        QSKIP("no file can have this name here");
+    const QString file = m_tree->writeExactly(u"one/"_s + name, "12345");
+    const QString other = m_tree->path(u"two/sub/other.txt"_s);
+    const QStringList folders = {m_tree->path(u"one"_s), m_tree->path(u"two/sub"_s)};
+    QCOMPARE(groupsIn(scanAsJson(folders).output), (QList<QStringList>{{file, other}}));
+    const QByteArray text = scan(folders).output;
+    QVERIFY2(text.contains("\n  " + file.toUtf8() + "\n  " + other.toUtf8() + "\n\n"), text.constData());
+}
+
+void ScanCommandTest::namesOfBytes()
+{
+    if (!namesAreBytes)
+        QSKIP("names are not bytes here");
+    const TempTree tree;
+    const QString one = tree.writeNamedByBytes("caf\xE9", "12345");
+    const QString other = tree.writeNamedByBytes("caf\xE8", "12345");
+    QCOMPARE(groupsIn(scanAsJson({tree.path()}).output), (QList<QStringList>{{other, one}}));
+    const QByteArray text = scan({tree.path()}).output;
+    QVERIFY(text.contains("/caf\xE9\n") && text.contains("/caf\xE8\n"));
+}
+
+void ScanCommandTest::remembersDigests()
+{
+    const QStringList folders = {m_tree->path(u"one"_s), m_tree->path(u"two"_s)};
+    const QString cache = m_program->dataFolder() + u"/fingerprint_cache"_s;
+    QCOMPARE(scan(QStringList{u"--no-cache"_s} + folders).status, 0);
+    QVERIFY(!QFile::exists(m_program->dataFolder()));
+    QCOMPARE(scan(folders).status, 0);
+    QCOMPARE(filesBelow(cache), 2); // the third file has a size of its own
+    // Content that nobody could know without reading: it is found only if the cache is used.
+    m_tree->write(u"two/b.dat"_s, "xyz");
+    m_tree->setModified(u"two/b.dat"_s, modifiedMs);
+    QCOMPARE(groupsIn(scanAsJson(folders).output).size(), 1);
+    QCOMPARE(groupsIn(scanAsJson(QStringList{u"--no-cache"_s} + folders).output).size(), 0);
+}
+
+void ScanCommandTest::unwritableDataFolder()
+{
+    const QString inTheWay = m_tree->path(u"one/a.txt"_s);
+    const ProgramRun run =
+        m_program->run({u"scan"_s, u"--data-dir"_s, inTheWay, u"--format"_s, u"json"_s, m_tree->path()});
+    const QString warning =
+        u"mirrix-cli: cannot write to %1/fingerprint_cache: digests are not remembered for the next scan\n"_s;
+    QCOMPARE(QString::fromUtf8(run.errors), warning.arg(inTheWay));
+    QCOMPARE(groupsIn(run.output).size(), 1);
+    QCOMPARE(run.status, 0);
+    QCOMPARE(contentOf(inTheWay), "abc");
+}
+
+void ScanCommandTest::usersDataFolder()
+{
+    const QString share = m_tree->path(u"share"_s);
+    qputenv("XDG_DATA_HOME", QFile::encodeName(share));
+    const bool isChosen = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) == share;
+    qunsetenv("XDG_DATA_HOME");
+    if (!isChosen)
+        QSKIP("the environment does not choose the user's folders here");
+    QProcess process;
+    m_program->prepare(process, {u"scan"_s, m_tree->path(u"one"_s), m_tree->path(u"two"_s)});
+    QProcessEnvironment environment = process.processEnvironment();
+    environment.insert(u"XDG_DATA_HOME"_s, share);
+    process.setProcessEnvironment(environment);
+    process.start();
+    QCOMPARE(Program::ended(process).status, 0);
+    QCOMPARE(filesBelow(share + u"/Mirrix/Mirrix/Mirrix/fingerprint_cache"_s), 2);
+}
+
+void ScanCommandTest::portableData_data()
+{
+    QTest::addColumn<QString>("markerFile");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("switch") << QString() << QStringList{u"--portable"_s};
+    QTest::newRow("Mirrix.portable") << u"Mirrix.portable"_s << QStringList();
+    QTest::newRow("portable.txt") << u"portable.txt"_s << QStringList();
+}
+
+/// A copy of the program in a folder of its own: a marker file beside the built one would speak to other tests too.
+void ScanCommandTest::portableData()
+{
+    QFETCH(QString, markerFile);
+    QFETCH(QStringList, arguments);
+    const QString suffix = QFile::exists(Program::builtExecutable()) ? QString() : u".exe"_s;
+    const QString folder = m_tree->makeFolder(u"program"_s);
+    QVERIFY(QFile::copy(Program::builtExecutable() + suffix, folder + u"/mirrix-cli"_s + suffix));
+    if (!markerFile.isEmpty())
+        m_tree->write(u"program/"_s + markerFile, {});
+    const ProgramRun run = Program(folder + u"/mirrix-cli"_s)
+                               .run(QStringList{u"scan"_s, m_tree->path(u"one"_s), m_tree->path(u"two"_s)} + arguments);
+    QCOMPARE(run.errors, "");
+    QCOMPARE(run.status, 0);
+    QCOMPARE(filesBelow(folder + u"/Data/fingerprint_cache"_s), 2);
+}
+
+void ScanCommandTest::reportIntoFile()
+{
+    const QString report = m_tree->write(u"out/report.json"_s, "an old and longer report that must go altogether");
+    const ProgramRun run = scanAsJson({u"--output"_s, report, m_tree->path(u"one"_s), m_tree->path(u"two"_s)});
+    QCOMPARE(run.output, "");
+    QCOMPARE(run.errors, "");
+    QCOMPARE(run.status, 0);
+    QCOMPARE(groupsIn(contentOf(report)).size(), 1);
+    QCOMPARE(filesBelow(m_tree->path(u"out"_s)), 1);
+}
+
+void ScanCommandTest::reportIsNotAmongTheFiles()
+{
+    const QString report = m_tree->path(u"one/report.json"_s);
+    QCOMPARE(scanAsJson({u"--output"_s, report, m_tree->path(u"one"_s)}).status, 0);
+    QCOMPARE(jsonOf(contentOf(report))[u"filesScanned"_s].toInt(), 1);
+    QCOMPARE(groupsIn(contentOf(report)), QList<QStringList>());
+}
+
+void ScanCommandTest::reportCannotBeOpened()
+{
+    for (const QString &report : {m_tree->path(u"missing/report"_s), m_tree->path(u"two"_s)}) {
+        const ProgramRun run = scan({u"--output"_s, report, m_tree->path()});
+        QVERIFY2(run.errors.startsWith("mirrix-cli: cannot write " + report.toUtf8() + ": "), run.errors.constData());
+        QCOMPARE(run.status, 2);
+    }
+}
+
+/// A shell's limit on the size of files ends a write in its middle, as a full disk does.
+void ScanCommandTest::reportOnFullDiskKeepsTheOld()
+{
+    for (int i = 0; i < 200; ++i)
+        m_tree->write(u"one/%1 with a name long enough for a large report"_s.arg(i), "abc");
+    const QString report = m_tree->write(u"out/report"_s, "old");
+    QProcess process;
+    m_program->prepare(process,
+                       {u"-c"_s, u"trap '' XFSZ && ulimit -f 8 && exec \"$0\" \"$@\""_s, Program::builtExecutable(),
+                        u"scan"_s, u"--no-cache"_s, u"--output"_s, report, m_tree->path(u"one"_s)});
+    process.setProgram(u"sh"_s);
+    process.start();
+    if (!process.waitForStarted())
+        QSKIP("no shell that limits the size of files");
+    const ProgramRun run = Program::ended(process);
+    QVERIFY2(run.errors.startsWith("mirrix-cli: cannot write the report: "), run.errors.constData());
+    QCOMPARE(run.status, 1);
+    QCOMPARE(contentOf(report), "old");
+    QCOMPARE(filesBelow(m_tree->path(u"out"_s)), 1);
+}
+
+void ScanCommandTest::closedOutputIsAFailure()
+{
+    if (!takesNothing(u"/dev/full"_s))
+        QSKIP("no device that takes nothing");
+    QProcess process;
+    m_program->prepare(process, {u"scan"_s, u"--no-cache"_s, m_tree->path()});
+    process.setStandardOutputFile(u"/dev/full"_s);
+    process.start();
+    const ProgramRun run = Program::ended(process);
+    QVERIFY2(run.errors.startsWith("mirrix-cli: cannot write the report: "), run.errors.constData());
+    QCOMPARE(run.status, 1);
+}
+
+void ScanCommandTest::helpAndVersion_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("start");
+    const QByteArray usage = "Usage: mirrix-cli COMMAND [OPTIONS] ...\n";
+    QTest::newRow("--help") << QStringList{u"--help"_s} << usage;
+    QTest::newRow("-h") << QStringList{u"-h"_s} << usage;
+    QTest::newRow("help") << QStringList{u"help"_s} << usage;
+    QTest::newRow("--version") << QStringList{u"--version"_s} << QByteArray("mirrix-cli 1.0.0\n");
+    QTest::newRow("scan --version") << QStringList{u"scan"_s, u"--version"_s} << QByteArray("mirrix-cli 1.0.0\n");
+    QTest::newRow("scan --help") << QStringList{u"scan"_s, u"--help"_s} << QByteArray("Usage: ");
+}
+
+void ScanCommandTest::helpAndVersion()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, start);
+    const ProgramRun run = m_program->run(arguments);
+    QVERIFY2(run.output.startsWith(start), run.output.constData());
+    QCOMPARE(run.errors, "");
+    QCOMPARE(run.status, 0);
+    QCOMPARE(m_program->run({}).errors, usageErrorText(u"no command given"_s));
+    QCOMPARE(m_program->run({u"find"_s, u"/a"_s}).errors, usageErrorText(u"unknown command \"find\""_s));
+}
+
+/// The cache entries of two files are pipes, on which the program waits until somebody reads: at the first it is
+/// certain that it scans, at the second that it does not go on before the request to end has arrived.
+void ScanCommandTest::interrupted()
+{
+    MirrixCore::setCacheRoot(m_program->dataFolder());
+    QStringList pipes;
+    for (const QString &file : {u"one/a.txt"_s, u"two/b.dat"_s}) {
+        pipes.append(MirrixCore::cachePathFor(m_tree->path(file)));
+        QVERIFY(QDir().mkpath(QFileInfo(pipes.constLast()).path()));
+        if (!makePipe(pipes.constLast()))
+            QSKIP("no named pipes here");
+    }
+    const QString report = m_tree->write(u"out/report"_s, "old");
+    QProcess process;
+    m_program->prepare(process, {u"scan"_s, u"--data-dir"_s, m_program->dataFolder(), u"--threads"_s, u"1"_s,
+                                 u"--output"_s, report, m_tree->path(u"one"_s), m_tree->path(u"two"_s)});
+    process.start();
+    QFile first(pipes[0]);
+    QVERIFY(first.open(QIODevice::ReadOnly));
+    process.terminate();
+    QFile second(pipes[1]);
+    QVERIFY(second.open(QIODevice::ReadOnly));
+    const ProgramRun run = Program::ended(process);
+    QCOMPARE(run.errors, "mirrix-cli: cancelled\n");
+    QCOMPARE(run.status, 3);
+    QCOMPARE(contentOf(report), "old");
+    QVERIFY(first.readAll().contains("\"quick\"")); // what was known is kept
+}
+
+QTEST_GUILESS_MAIN(ScanCommandTest)
+#include "tst_scancommand.moc"
