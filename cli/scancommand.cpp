@@ -80,15 +80,27 @@ int threadsOf(const QString &text)
     return threads;
 }
 
+void applyMode(const QString &mode, ScanOptions &options)
+{
+    const QStringList modes = {QStringLiteral("content"), QStringLiteral("rules")};
+    if (!modes.contains(mode))
+        throw UsageError{QStringLiteral("--mode needs %1, not \"%2\"").arg(modes.join(QStringLiteral(" or ")), mode)};
+    options.searchMode = static_cast<qint32>(SearchMode::Files);
+    options.contentMatch = static_cast<qint32>(mode == modes.constFirst() ? ContentMatch::Exact : ContentMatch::Ignore);
+}
+
 /// Refuses what this version would answer with an empty result.
 void refuseUnsupported(const ScanOptions &options)
 {
-    const bool isContentMode = options.searchMode == 0 && options.contentMatch == 0;
-    const bool hasOtherKind = std::any_of(options.locations.begin(), options.locations.end(),
-                                          [](const ScanLocation &location) { return location.findKind == 1; });
-    if (!isContentMode || hasOtherKind || hasRefiningRule(options) || options.duplicateFoldersOnly)
-        throw UsageError{QStringLiteral("this version finds identical content only; rules on names, dates and paths, "
+    const bool isKnownMode = options.searchMode == static_cast<qint32>(SearchMode::Files) &&
+                             (options.contentMatch == static_cast<qint32>(ContentMatch::Exact) ||
+                              options.contentMatch == static_cast<qint32>(ContentMatch::Ignore));
+    if (!isKnownMode || options.duplicateFoldersOnly)
+        throw UsageError{QStringLiteral("this version finds identical content and equal names, sizes, dates and paths; "
                                         "similar content, media and duplicate folders are not available yet")};
+    const bool groupsByRules = options.contentMatch == static_cast<qint32>(ContentMatch::Ignore);
+    if (groupsByRules && !hasRefiningRule(options))
+        throw UsageError{QStringLiteral("the mode rules needs a rule, for example --set sameName=true")};
 }
 
 void applyHash(const QCommandLineParser &parser, const QString &dataDirectory)
@@ -143,8 +155,10 @@ ScanResult scanWithProgress(const ScanOptions &options)
 void addScanOptions(QCommandLineParser &parser)
 {
     parser.addOptions({
-        {modeOption, QStringLiteral("What to look for: content (default)."), QStringLiteral("MODE"),
-         QStringLiteral("content")},
+        {modeOption,
+         QStringLiteral("What makes files duplicates: content (default), or rules: names, sizes, dates and paths as "
+                        "set, whatever the content."),
+         QStringLiteral("MODE")},
         {hashOption, QStringLiteral("Digest to compare by: md5 or blake3 (default: as in the settings)."),
          QStringLiteral("NAME")},
         {setOption, QStringLiteral("Set a scan option. May be repeated."), QStringLiteral("NAME=VALUE")},
@@ -170,8 +184,8 @@ ScanOptions scanOptionsOf(const QCommandLineParser &parser)
     const QStringList assignments = parser.values(setOption);
     for (const QString &assignment : assignments)
         applyAssignment(assignment, options);
-    if (parser.value(modeOption) != QLatin1String("content"))
-        throw UsageError{QStringLiteral("--mode needs content, not \"%1\"").arg(parser.value(modeOption))};
+    if (parser.isSet(modeOption))
+        applyMode(parser.value(modeOption), options);
     if (parser.isSet(threadsOption))
         options.threads = threadsOf(parser.value(threadsOption));
     const QStringList excluded = parser.values(excludeOption);

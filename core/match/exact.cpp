@@ -150,6 +150,8 @@ private:
             return;
         HashNotes notes;
         const Digest full(accepted(file, fullContentHash(file.path, m_cancelled, &notes), notes));
+        if (full.isEmpty())
+            return;
         if (describes(notes, file))
             candidate.mustStore = true;
         else

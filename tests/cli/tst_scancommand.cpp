@@ -79,6 +79,8 @@ private slots:
     void init();
 
     void textReport();
+    void textReportOfEmptyFiles();
+    void rulesInsteadOfContent();
     void textReportOfNothing();
     void jsonReport();
     void options_data();
@@ -139,14 +141,34 @@ void ScanCommandTest::init()
 
 void ScanCommandTest::textReport()
 {
-    m_tree->write(u"two/sub/empty"_s, {});
     const ProgramRun run = scan({m_tree->path(u"one"_s), m_tree->path(u"two"_s)});
     const QString expected = u"2 files of 3 B, 3 B to free\n  %1/one/a.txt\n  %1/two/b.dat\n\n"
-                             u"1 empty file\n  %1/two/sub/empty\n\n"
-                             u"2 groups, 3 B to free; 4 files (11 B) scanned in T s\n"_s.arg(m_tree->path());
+                             u"1 group, 3 B to free; 3 files (11 B) scanned in T s\n"_s.arg(m_tree->path());
     QCOMPARE(withoutTime(run.output), expected.toUtf8());
     QCOMPARE(run.errors, "");
     QCOMPARE(run.status, 0);
+}
+
+void ScanCommandTest::textReportOfEmptyFiles()
+{
+    const QString empty = m_tree->write(u"two/sub/empty"_s, {});
+    const QString location = u"locations=[{\"path\":\"%1\",\"findKind\":2}]"_s.arg(m_tree->path(u"two"_s));
+    const ProgramRun run = scan({u"--set"_s, location, m_tree->path(u"one"_s), m_tree->path(u"two"_s)});
+    const QString expected = u"1 empty file\n  %1\n\n1 group, 0 B to free; 4 files (11 B) scanned in T s\n"_s;
+    QCOMPARE(withoutTime(run.output), expected.arg(empty).toUtf8());
+}
+
+void ScanCommandTest::rulesInsteadOfContent()
+{
+    m_tree->write(u"one/Name.txt"_s, "first");
+    m_tree->write(u"two/name.txt"_s, "second");
+    const ProgramRun run =
+        scan({u"--mode"_s, u"rules"_s, u"--set"_s, u"sameName=true"_s, u"--format"_s, u"json"_s, m_tree->path()});
+    QCOMPARE(run.status, 0);
+    const QJsonArray groups = QJsonDocument::fromJson(run.output).object()[u"groups"_s].toArray();
+    QCOMPARE(groups.size(), 1);
+    QCOMPARE(groups[0][u"key"_s].toString(), u"FN:name.txt"_s);
+    QCOMPARE(groups[0][u"files"_s].toArray().size(), 2);
 }
 
 void ScanCommandTest::textReportOfNothing()
@@ -269,8 +291,9 @@ void ScanCommandTest::mistakes_data()
         QTest::newRow(arguments.isEmpty() ? "nothing" : qPrintable(arguments.join(u' '))) << arguments << message;
     };
     const QString threads = u"--threads needs a number from 0 to 256, not \"%1\""_s;
-    const QString unsupported = u"this version finds identical content only; rules on names, dates and paths, similar "
-                                u"content, media and duplicate folders are not available yet"_s;
+    const QString unsupported =
+        u"this version finds identical content and equal names, sizes, dates and paths; similar content, media and "
+        u"duplicate folders are not available yet"_s;
     row({}, u"no folder to scan"_s);
     row({u"/a"_s, QString()}, u"an empty folder name"_s);
     row({u"--exclude"_s, QString(), u"/a"_s}, u"an empty folder name"_s);
@@ -284,12 +307,12 @@ void ScanCommandTest::mistakes_data()
     row({u"--threads"_s, u"257"_s, u"/a"_s}, threads.arg(u"257"_s));
     row({u"--threads"_s, u"two"_s, u"/a"_s}, threads.arg(u"two"_s));
     row({u"--threads"_s, QString(), u"/a"_s}, threads.arg(QString()));
-    row({u"--mode"_s, u"images"_s, u"/a"_s}, u"--mode needs content, not \"images\""_s);
+    row({u"--mode"_s, u"images"_s, u"/a"_s}, u"--mode needs content or rules, not \"images\""_s);
     row({u"--hash"_s, u"BLAKE3"_s, u"/a"_s}, u"--hash needs md5 or blake3, not \"BLAKE3\""_s);
     row({u"--format"_s, u"csv"_s, u"/a"_s}, u"--format needs text or json, not \"csv\""_s);
     row({u"--recursive"_s, u"/a"_s}, u"Unknown option 'recursive'."_s);
-    for (const QString &rule : {u"searchMode=1"_s, u"contentMatch=1"_s, u"sameName=true"_s,
-                                u"duplicateFoldersOnly=true"_s, u"locations=[{\"path\":\"/a\",\"findKind\":1}]"_s})
+    row({u"--mode"_s, u"rules"_s, u"/a"_s}, u"the mode rules needs a rule, for example --set sameName=true"_s);
+    for (const QString &rule : {u"searchMode=1"_s, u"contentMatch=1"_s, u"duplicateFoldersOnly=true"_s})
         row({u"--set"_s, rule, u"/a"_s}, unsupported);
 }
 
@@ -308,7 +331,7 @@ void ScanCommandTest::brokenOptionFiles_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("reason");
-    QTest::newRow("no JSON") << QByteArray("{\"minSize\": }") << u"illegal value"_s;
+    QTest::newRow("no JSON") << QByteArray("nonsense") << u"illegal value"_s;
     QTest::newRow("array") << QByteArray("[1]") << u"not a JSON object"_s;
     QTest::newRow("unknown option") << QByteArray(R"({"minsize": 1})") << u"unknown option \"minsize\""_s;
     QTest::newRow("wrong type") << QByteArray(R"({"minSize": "1"})") << u"option \"minSize\" needs a whole number"_s;

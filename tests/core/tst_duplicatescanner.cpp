@@ -74,6 +74,7 @@ private slots:
     void knowsNoOtherModes();
     void returnsNothingWhenCancelledEarly_data();
     void returnsNothingWhenCancelledEarly();
+    void leavesItsOwnCacheOut();
     void listsWhatItCouldNotRead();
     void handsExceptionsOn_data();
     void handsExceptionsOn();
@@ -265,6 +266,18 @@ void DuplicateScannerTest::returnsNothingWhenCancelledEarly()
     const ScanResult result = DuplicateScanner::scan(options, note, [&] { return asked++ >= polls; });
     QVERIFY(result == ScanResult());
     QVERIFY(!hasHashed);
+}
+
+void DuplicateScannerTest::leavesItsOwnCacheOut()
+{
+    const TempTree tree;
+    fill(tree, u"a"_s);
+    setCacheRoot(tree.path(u"data"_s)); // inside what is scanned
+    ScanOptions options;
+    options.roots = QStringList{tree.path()};
+    for (int round = 0; round < 2; ++round)
+        QCOMPARE(scan(options).filesScanned, 3);
+    QVERIFY(QFile::exists(cacheFolders().constFirst()));
 }
 
 void DuplicateScannerTest::listsWhatItCouldNotRead()
