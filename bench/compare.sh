@@ -9,7 +9,7 @@ runs=5
 corpora="small mixed large"
 peers="rdfind jdupes rmlint fdupes"
 work=${TMPDIR:-/tmp}/mirrix-bench
-cli=$here/../build/release/cli/mirrix-cli
+cli=$here/../build/release/bin/mirrix-cli
 threads=2
 scale=1
 
@@ -19,7 +19,7 @@ usage: compare.sh [OPTIONS]
   --runs N         rounds over all commands (5)
   --corpora LIST   of small, mixed, large, million ("small mixed large")
   --work DIR       corpora, caches, outputs and results (${TMPDIR:-/tmp}/mirrix-bench)
-  --cli PATH       the console to measure (build/release/cli/mirrix-cli); "none" measures the others only
+  --cli PATH       the console to measure (build/release/bin/mirrix-cli); "none" measures the others only
   --threads N      for the finders that can use several (2)
   --peers LIST     of rdfind, jdupes, rmlint, fdupes (all)
   --scale F        factor on the number of files of the corpora, for tries (1)

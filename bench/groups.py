@@ -2,7 +2,8 @@
 """Checks that duplicate finders agree: groups.py NAME=FORMAT:FILE...
 
 FORMAT is mirrix (JSON of `mirrix-cli scan`), rmlint (JSON), rdfind (its results file) or sets (paths one a line, a
-blank line between groups: jdupes, fdupes). All are compared with the first. Exit status 0: the same groups, at least one; 1: not.
+blank line between groups: jdupes, fdupes). All are compared with the first. Exit status 0: the same groups, at least
+one; 1: not.
 """
 
 from __future__ import annotations

@@ -45,7 +45,8 @@ class Row:
 def read_rows(raw: Path) -> dict[str, dict[str, Row]]:
     corpora: dict[str, dict[str, Row]] = {}
     with raw.open(newline="") as lines:
-        for corpus, name, kind, seconds, kib, blocks, command in csv.reader(lines, delimiter="\t", quoting=csv.QUOTE_NONE):
+        for fields in csv.reader(lines, delimiter="\t", quoting=csv.QUOTE_NONE):
+            corpus, name, kind, seconds, kib, blocks, command = fields
             row = corpora.setdefault(corpus, {}).setdefault(name, Row(name, kind, command))
             row.seconds.append(float(seconds))
             row.peak_kib.append(int(kib))
@@ -85,7 +86,8 @@ def table(rows: dict[str, Row], files: int) -> list[str]:
     fastest = min(peers, default=0)
     many = files > MANY_FILES
     lines = [
-        "| Finder | Median, s | Range, s | To fastest peer | To its cache files | Added, to its cache files | Peak, MiB |"
+        "| Finder | Median, s | Range, s | To fastest peer | To its cache files | Added, to its cache files "
+        + "| Peak, MiB |"
         + (" Bytes a file above 80 MiB |" if many else ""),
         "|---|--:|--:|--:|--:|--:|--:|" + ("--:|" if many else ""),
     ]

@@ -85,9 +85,9 @@ FileHash hashOf(const QString &algorithm, const QString &window)
 /// The files that `argument` stands for: itself, or all below a folder, as paths that begin with the argument.
 QStringList filesOf(const QString &argument, QList<UnreadPath> &unread)
 {
-    const QString path = cleanedPath(absolutePath(argument));
-    if (fileStatus(path).kind != FileStatus::Kind::Folder)
+    if (fileStatus(absolutePath(argument)).kind != FileStatus::Kind::Folder)
         return {argument};
+    const QString path = cleanedPath(absolutePath(argument));
     ScanOptions options;
     options.roots = QStringList{path};
     QStringList files;

@@ -20,7 +20,8 @@ namespace MirrixCore {
 /// The path that `bytes` stand for; pathBytes gives them back unchanged.
 [[nodiscard]] QString pathFromBytes(QByteArrayView bytes);
 
-/// `path` made absolute against the current folder; forward slashes, not cleaned.
+/// `path` made absolute against the current folder, forward slashes. On Windows ".." is resolved, as the system does
+/// it, by the text; on POSIX it stays, since behind a link it leads elsewhere.
 [[nodiscard]] QString absolutePath(const QString &path);
 
 /// A text that is equal for all spellings of one path that this system does not tell apart by its rules on letter case.

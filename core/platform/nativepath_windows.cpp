@@ -49,7 +49,7 @@ QString pathFromBytes(QByteArrayView bytes)
 
 QString absolutePath(const QString &path)
 {
-    return QDir::current().absoluteFilePath(QDir::fromNativeSeparators(path));
+    return QDir::cleanPath(QDir::current().absoluteFilePath(QDir::fromNativeSeparators(path)));
 }
 
 QString pathCaseKey(const QString &path)
@@ -64,7 +64,7 @@ QStringList commandLineArguments(int, char **)
     LPWSTR *wide = CommandLineToArgvW(GetCommandLineW(), &count);
     QStringList arguments;
     for (int i = 0; i < count; ++i)
-        arguments.append(QString::fromWCharArray(wide[i]));
+        arguments.append(textFromWide(wide[i]));
     LocalFree(wide);
     return arguments;
 }

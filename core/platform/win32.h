@@ -53,6 +53,13 @@ private:
 /// with backslashes.
 [[nodiscard]] std::wstring longPath(const QString &path);
 
+/// The text of the system's 16-bit units, to the letter. QString::fromWCharArray takes a byte order mark for an
+/// instruction, but in a name it counts.
+[[nodiscard]] inline QString textFromWide(const wchar_t *text)
+{
+    return QString(reinterpret_cast<const QChar *>(text));
+}
+
 /// Milliseconds since the Unix epoch; 0 for a time before 1970.
 [[nodiscard]] qint64 epochMsFrom(const FILETIME &time);
 

@@ -42,7 +42,7 @@ void fillItem(const WIN32_FIND_DATAW &data, FolderItem &item)
     const DWORD attributes = data.dwFileAttributes;
     const bool isLink = attributes & FILE_ATTRIBUTE_REPARSE_POINT;
     item = FolderItem();
-    item.name = QString::fromWCharArray(data.cFileName);
+    item.name = textFromWide(data.cFileName);
     item.isHidden = attributes & FILE_ATTRIBUTE_HIDDEN;
     item.isPlaceholder = attributes & (FILE_ATTRIBUTE_OFFLINE | recallOnDataAccess | recallOnOpen);
     item.sizeBytes = static_cast<qint64>(joined(data.nFileSizeHigh, data.nFileSizeLow));

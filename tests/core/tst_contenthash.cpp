@@ -59,6 +59,8 @@ private slots:
     void notesGrowth();
     void oddNames_data();
     void oddNames();
+    void namesOfBytes();
+    void whatDigestsTell();
     void algorithmNames();
 };
 
@@ -306,6 +308,34 @@ void ContentHashTest::oddNames()
     tree.write(QStringLiteral("twin"), "another file");
     tree.writeExactly(name, "abc");
     QCOMPARE(hexOf(fullContentHash(tree.path(name))), QStringLiteral("900150983cd24fb0d6963f7d28e17f72"));
+}
+
+void ContentHashTest::namesOfBytes()
+{
+    if (!namesAreBytes)
+        QSKIP("names are not bytes here");
+    const TempTree tree;
+    tree.writeNamedByBytes("caf\xC3\xA9", "another file");
+    const QString file = tree.writeNamedByBytes("caf\xE9", "abc");
+    QCOMPARE(hexOf(fullContentHash(file)), QStringLiteral("900150983cd24fb0d6963f7d28e17f72"));
+}
+
+/// What the matchers rely on: names do not count, sizes count in fingerprints, the middle counts only in full digests.
+void ContentHashTest::whatDigestsTell()
+{
+    const TempTree tree;
+    QByteArray content = patternBytes(20000);
+    const QString file = tree.write(QStringLiteral("a"), content);
+    const QString same = tree.write(QStringLiteral("b"), content);
+    const QString shorter = tree.write(QStringLiteral("c"), content.first(8192) + content.last(8192));
+    content[10000] = static_cast<char>(~content[10000]);
+    const QString other = tree.write(QStringLiteral("d"), content);
+    QCOMPARE(fullContentHash(same), fullContentHash(file));
+    QVERIFY(quickHash(shorter) != quickHash(file));
+    QVERIFY(prefixHash(shorter, 100) != prefixHash(file, 100));
+    QCOMPARE(quickHash(other), quickHash(file));
+    QVERIFY(fullContentHash(other) != fullContentHash(file));
+    QVERIFY(sampleHash(other) != sampleHash(file));
 }
 
 void ContentHashTest::algorithmNames()

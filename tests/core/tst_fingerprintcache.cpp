@@ -12,6 +12,8 @@
 #include <QtConcurrent>
 
 #include <atomic>
+#include <memory>
+#include <numeric>
 
 using namespace MirrixCore;
 using namespace MirrixTest;
@@ -220,10 +222,12 @@ void FingerprintCacheTest::brokenEntryIsReplaced()
 
 void FingerprintCacheTest::unwritableFolderIsSilent()
 {
-    setCacheRoot(m_tree->write(QStringLiteral("in the way"), "x"));
+    const QString inTheWay = m_tree->write(QStringLiteral("in the way"), "x");
+    setCacheRoot(inTheWay);
     storeQuick(file, size, modified, quick);
     QByteArray digest;
     QVERIFY(!lookupQuick(file, size, modified, digest));
+    QCOMPARE(QFile(inTheWay).size(), 1);
 }
 
 void FingerprintCacheTest::offWithoutRoot()

@@ -1,6 +1,7 @@
 #include "core/scan/optiontable.h"
 
 #include <QJsonArray>
+#include <QJsonDocument>
 #include <QTest>
 
 using namespace MirrixCore;
@@ -27,6 +28,30 @@ QJsonValue changed(const QString &name, const QJsonValue &value)
     return value.isArray() ? QJsonValue(QJsonArray{QStringLiteral("x")}) : QJsonValue(QStringLiteral("x"));
 }
 
+/// Every option with its default, written by hand.
+const QJsonObject &allDefaults()
+{
+    static const QJsonObject defaults = QJsonDocument::fromJson(R"({
+        "roots": [], "locations": [], "excludeFolders": [], "includeExtensions": [], "excludeExtensions": [],
+        "minSize": 0, "maxSize": 0, "createdFromMs": 0, "createdToMs": 0, "modifiedFromMs": 0, "modifiedToMs": 0,
+        "skipHidden": false, "skipSystemFolders": false, "readFileIdentity": false, "collapseHardLinks": false,
+        "searchMode": 0, "contentMatch": 0, "threads": 0, "mediaCompareDepth": 0, "mediaCompareDepthAlt": 0,
+        "similarPercent": 90, "sameName": false, "sameExtension": false, "similarNames": false,
+        "ignoreCopyWords": true, "sameSize": false, "sizeTolerance": 0, "sameCreated": false,
+        "createdDateOnly": false, "sameModified": false, "modifiedDateOnly": false, "sameDrive": false,
+        "sameFolderName": false, "sameFolderPath": false, "folderPathDepth": 1, "samePathUnderRoot": false,
+        "ignoreSameFolderGroups": false, "caseSensitive": false, "nameTolerance": 3, "duplicateFoldersOnly": false,
+        "audioMatchDuration": false, "audioDurationTolerance": 5000, "audioTags": [],
+        "videoMatchDuration": false, "videoDurationTolerance": "00:00:00.000", "videoTags": [],
+        "imageSameDimensions": false, "imageDimensionTolerance": 0, "imageSameShotTime": false,
+        "imageShotTimeTolerance": 25, "imageGroupByGps": false, "imageGpsPrecision": 1, "imageTags": [],
+        "imageMaxDistance": 10, "imageSimilarityLevel": 1, "imageFindRotated": false, "imageFindFlipped": false,
+        "imageMatchHistogram": false, "imageSameAspect": false, "imageUseFeatureCache": true,
+        "imageUseRawPreview": true, "keepRule": 0, "largeFileMinBytes": 104857600})")
+                                            .object();
+    return defaults;
+}
+
 } // namespace
 
 class OptionTableTest : public QObject
@@ -38,6 +63,7 @@ private slots:
     void eachOptionHasItsOwnMember();
     void defaults_data();
     void defaults();
+    void namesAreComplete();
     void wholeNumbersAreExact();
     void refused_data();
     void refused();
@@ -75,35 +101,22 @@ void OptionTableTest::eachOptionHasItsOwnMember()
 void OptionTableTest::defaults_data()
 {
     QTest::addColumn<QJsonValue>("expected");
-    const auto row = [](const char *name, const QJsonValue &value) { QTest::newRow(name) << value; };
-    row("roots", QJsonArray());
-    row("locations", QJsonArray());
-    row("minSize", 0);
-    row("skipHidden", false);
-    row("readFileIdentity", false);
-    row("collapseHardLinks", false);
-    row("similarPercent", 90);
-    row("ignoreCopyWords", true);
-    row("folderPathDepth", 1);
-    row("nameTolerance", 3);
-    row("audioDurationTolerance", 5000);
-    row("videoDurationTolerance", QStringLiteral("00:00:00.000"));
-    row("imageShotTimeTolerance", 25);
-    row("imageGpsPrecision", 1);
-    row("imageMaxDistance", 10);
-    row("imageSimilarityLevel", 1);
-    row("imageFindRotated", false);
-    row("imageUseFeatureCache", true);
-    row("imageUseRawPreview", true);
-    row("keepRule", 0);
-    row("largeFileMinBytes", 104857600);
-    row("duplicateFoldersOnly", false);
+    for (auto it = allDefaults().begin(); it != allDefaults().end(); ++it)
+        QTest::newRow(qPrintable(it.key())) << QJsonValue(it.value());
 }
 
 void OptionTableTest::defaults()
 {
-    const QJsonValue value = scanOptionsToJson({})[QLatin1String(QTest::currentDataTag())];
-    QTEST(value, "expected");
+    QTEST(scanOptionsToJson({}).value(QLatin1String(QTest::currentDataTag())), "expected");
+}
+
+void OptionTableTest::namesAreComplete()
+{
+    QStringList names = scanOptionNames();
+    QCOMPARE(names.first(), QStringLiteral("roots"));
+    names.sort();
+    QCOMPARE(names, allDefaults().keys());
+    QCOMPARE(scanOptionsToJson({}).keys(), names);
 }
 
 void OptionTableTest::wholeNumbersAreExact()
@@ -162,6 +175,13 @@ void OptionTableTest::fromText_data()
     row("includeExtensions", "", QJsonArray());
     row("videoDurationTolerance", "00:00:01.000", QStringLiteral("00:00:01.000"));
     row("videoDurationTolerance", "\"quoted\"", QStringLiteral("\"quoted\""));
+    row("minSize", "1e3", 1000); // any whole number of JSON
+    row("roots", "/a,,/b", QJsonArray{QStringLiteral("/a"), QStringLiteral("/b")});
+    row("locations", R"([{"path":"/a","showRemaining":true}])",
+        QJsonArray{QJsonObject{{QStringLiteral("path"), QStringLiteral("/a")},
+                               {QStringLiteral("includeSubfolders"), true},
+                               {QStringLiteral("findKind"), 0},
+                               {QStringLiteral("showRemaining"), true}}});
     row("imageTags", R"([{"name":"Make","enabled":1}])",
         QJsonArray{QJsonObject{{QStringLiteral("name"), QStringLiteral("Make")}, {QStringLiteral("enabled"), 1}}});
 }
@@ -182,6 +202,12 @@ void OptionTableTest::textRefused_data()
     QTest::newRow("minSize") << QStringLiteral("1k");
     QTest::newRow("maxSize") << QStringLiteral("1,2");
     QTest::newRow("threads") << QString();
+    QTest::newRow("keepRule") << QStringLiteral("2147483648");
+    QTest::newRow("largeFileMinBytes") << QStringLiteral("9223372036854775808");
+    QTest::newRow("nameTolerance") << QStringLiteral("0.5");
+    QTest::newRow("roots") << QStringLiteral("[\"/a\"],[\"/b\"]");
+    QTest::newRow("excludeFolders") << QStringLiteral("[\"/a\", 1]");
+    QTest::newRow("imageTags") << QStringLiteral("{\"name\":\"Make\"}");
     QTest::newRow("sameName") << QStringLiteral("yes");
     QTest::newRow("locations") << QStringLiteral("/a");
     QTest::newRow("none") << QStringLiteral("1");
