@@ -72,7 +72,7 @@ ExitStatus runParsed(const Command &command, const QStringList &arguments)
     return command.run(parser);
 }
 
-/// The first argument that is no option names the command; it may stand before or after options without a value.
+/// The first argument names the command.
 ExitStatus dispatch(QStringList arguments)
 {
     const QString word = arguments.value(1);
@@ -92,6 +92,8 @@ ExitStatus dispatch(QStringList arguments)
     if (command == table.end())
         throw UsageError{QStringLiteral("unknown command \"%1\"").arg(word)};
     arguments.removeAt(1);
+    // The window program's other spelling, which the data locations read by themselves; here it would be six options.
+    arguments.removeAll(QStringLiteral("-portable"));
     return runParsed(*command, arguments);
 }
 

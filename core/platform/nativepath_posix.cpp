@@ -63,11 +63,17 @@ QString pathFromBytes(QByteArrayView bytes)
 
 QString absolutePath(const QString &path)
 {
+    using SystemText = std::unique_ptr<char, decltype(&std::free)>;
+    // Behind a link ".." leads elsewhere than the text says, so the system is asked; what does not exist stays.
+    if (path.split(QLatin1Char('/')).contains(QLatin1String(".."))) {
+        const SystemText resolved(realpath(pathBytes(path).constData(), nullptr), &std::free);
+        if (resolved)
+            return pathFromBytes(resolved.get());
+    }
     if (path.startsWith(QLatin1Char('/')))
         return path;
-    // QDir::currentPath() loses bytes that are not UTF-8.
-    const std::unique_ptr<char, decltype(&std::free)> current(getcwd(nullptr, 0), &std::free);
-    return pathFromBytes(current.get()) + QLatin1Char('/') + path;
+    const SystemText current(getcwd(nullptr, 0), &std::free); // QDir::currentPath() loses bytes that are not UTF-8
+    return current ? pathFromBytes(current.get()) + QLatin1Char('/') + path : path;
 }
 
 QString pathCaseKey(const QString &path)

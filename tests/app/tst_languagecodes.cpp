@@ -30,27 +30,28 @@ void LanguageCodesTest::initMain()
 
 void LanguageCodesTest::table_data()
 {
+    QTest::addColumn<int>("place");
     QTest::addColumn<QString>("nativeName");
     QTest::addColumn<QString>("catalogue");
     QTest::addColumn<QString>("locale");
-    QTest::newRow("zh_TW") << u"繁體中文"_s << u"mirrix_zh_TW"_s << QString();
-    QTest::newRow("zh_CN") << u"简体中文"_s << QString() << QString();
-    QTest::newRow("en") << u"English"_s << u"mirrix_en"_s << u"en_US"_s;
-    QTest::newRow("de") << u"Deutsch"_s << u"mirrix_de"_s << u"de_DE"_s;
-    QTest::newRow("ja") << u"日本語"_s << u"mirrix_ja"_s << u"ja_JP"_s;
-    QTest::newRow("fr") << u"Français"_s << u"mirrix_fr"_s << u"fr_FR"_s;
-    QTest::newRow("es") << u"Español"_s << u"mirrix_es"_s << u"es_ES"_s;
-    QTest::newRow("pt") << u"Português (Brasil)"_s << u"mirrix_pt"_s << u"pt_BR"_s;
-    QTest::newRow("ko") << u"한국어"_s << u"mirrix_ko"_s << u"ko_KR"_s;
-    QTest::newRow("it") << u"Italiano"_s << u"mirrix_it"_s << u"it_IT"_s;
-    QTest::newRow("nl") << u"Nederlands"_s << u"mirrix_nl"_s << u"nl_NL"_s;
+    QTest::newRow("zh_TW") << 0 << u"繁體中文"_s << u"mirrix_zh_TW"_s << QString();
+    QTest::newRow("zh_CN") << 1 << u"简体中文"_s << QString() << QString();
+    QTest::newRow("en") << 2 << u"English"_s << u"mirrix_en"_s << u"en_US"_s;
+    QTest::newRow("de") << 3 << u"Deutsch"_s << u"mirrix_de"_s << u"de_DE"_s;
+    QTest::newRow("ja") << 4 << u"日本語"_s << u"mirrix_ja"_s << u"ja_JP"_s;
+    QTest::newRow("fr") << 5 << u"Français"_s << u"mirrix_fr"_s << u"fr_FR"_s;
+    QTest::newRow("es") << 6 << u"Español"_s << u"mirrix_es"_s << u"es_ES"_s;
+    QTest::newRow("pt") << 7 << u"Português (Brasil)"_s << u"mirrix_pt"_s << u"pt_BR"_s;
+    QTest::newRow("ko") << 8 << u"한국어"_s << u"mirrix_ko"_s << u"ko_KR"_s;
+    QTest::newRow("it") << 9 << u"Italiano"_s << u"mirrix_it"_s << u"it_IT"_s;
+    QTest::newRow("nl") << 10 << u"Nederlands"_s << u"mirrix_nl"_s << u"nl_NL"_s;
 }
 
 void LanguageCodesTest::table()
 {
-    static qsizetype place = 0;
+    QFETCH(int, place);
     QCOMPARE(languages().size(), 11);
-    const Language &language = languages()[place++];
+    const Language &language = languages()[place];
     QCOMPARE(language.code, QString::fromLatin1(QTest::currentDataTag()));
     QTEST(language.nativeName, "nativeName");
     QTEST(language.catalogue, "catalogue");

@@ -4,9 +4,11 @@
 #include "tests/support/temptree.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QProcess>
 #include <QTest>
 
 #include <filesystem>
@@ -32,6 +34,23 @@ bool makeUnreadable(const QString &path)
 {
     QFile::setPermissions(path, QFile::WriteOwner);
     return !QFile(path).open(QIODevice::ReadOnly);
+}
+
+/// Cuts a file that may be mapped. Windows refuses that, and Wine keeps to it; but behind Wine's back it can be done.
+bool cutShort(const QString &path, qint64 length)
+{
+    std::error_code error;
+    std::filesystem::resize_file(path.toStdU16String(), static_cast<std::uintmax_t>(length), error);
+    if (!error)
+        return true;
+    QProcess translator;
+    translator.start(QStringLiteral("winepath"), {QStringLiteral("-u"), path});
+    if (!translator.waitForFinished() || translator.exitCode() != 0)
+        return false;
+    const QString behind = QString::fromUtf8(translator.readAllStandardOutput()).trimmed();
+    const QStringList arguments{QStringLiteral("-s"), QString::number(length), behind};
+    return QProcess::startDetached(QStringLiteral("Z:/usr/bin/truncate"), arguments) &&
+           QTest::qWaitFor([&] { return QFileInfo(path).size() == length; });
 }
 
 } // namespace
@@ -179,14 +198,13 @@ void ContentHashTest::mappingSurvivesTruncation()
     const QString path = tree.write(QStringLiteral("f"), patternBytes(mapThresholdBytes));
     bool isCut = false;
     const bool isWhole = mapFileIntoSink(path, [&](const char *, qint64) {
-        std::error_code error;
-        std::filesystem::resize_file(path.toStdU16String(), 100, error);
-        isCut = !error;
+        isCut = isCut || cutShort(path, 100);
         return true;
     });
     if (!isCut)
         QSKIP("files are not mapped here, or the system keeps mapped files whole");
     QVERIFY(!isWhole);
+    QCOMPARE(fullContentHash(path), QCryptographicHash::hash(patternBytes(100), QCryptographicHash::Md5));
 }
 
 void ContentHashTest::failures_data()

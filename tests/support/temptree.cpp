@@ -20,6 +20,13 @@ std::filesystem::path nativeOf(const QString &path)
     return std::filesystem::path(path.toStdU16String());
 }
 
+/// The form of a path that the system takes to the letter.
+QString exactPath(const QString &absolute)
+{
+    const bool hasDrive = absolute.size() > 1 && absolute[1] == QLatin1Char(':');
+    return hasDrive ? QLatin1String("\\\\?\\") + QDir::toNativeSeparators(absolute) : absolute;
+}
+
 void writeWhole(QFile &file, const QByteArray &content)
 {
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
@@ -32,6 +39,13 @@ TempTree::TempTree()
 {
     if (!m_folder.isValid())
         qFatal("no temporary folder: %s", qPrintable(m_folder.errorString()));
+}
+
+TempTree::~TempTree()
+{
+    // QTemporaryDir leaves names behind that it cannot spell.
+    std::error_code ignored;
+    std::filesystem::remove_all(nativeOf(exactPath(path())), ignored);
 }
 
 QString TempTree::path(const QString &relative) const
@@ -53,9 +67,7 @@ QString TempTree::writeExactly(const QString &relative, const QByteArray &conten
 {
     const QString absolute = path(relative);
     QDir().mkpath(QFileInfo(absolute).path());
-    const bool hasDrive = absolute.size() > 1 && absolute[1] == QLatin1Char(':');
-    const QString exact = hasDrive ? QLatin1String("\\\\?\\") + QDir::toNativeSeparators(absolute) : absolute;
-    std::ofstream stream(nativeOf(exact), std::ios::binary);
+    std::ofstream stream(nativeOf(exactPath(absolute)), std::ios::binary);
     stream.write(content.constData(), content.size());
     stream.close();
     if (!stream)

@@ -13,6 +13,9 @@ class TempTree
 {
 public:
     TempTree();
+    ~TempTree();
+    TempTree(const TempTree &) = delete;
+    TempTree &operator=(const TempTree &) = delete;
 
     /// Absolute path of the folder, or of something in it.
     [[nodiscard]] QString path(const QString &relative = {}) const;
