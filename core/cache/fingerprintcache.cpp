@@ -14,6 +14,7 @@
 
 #include <cmath>
 #include <mutex>
+#include <shared_mutex>
 
 namespace MirrixCore {
 
@@ -27,9 +28,10 @@ const QString quick = QStringLiteral("quick");
 const QString full = QStringLiteral("full");
 } // namespace Key
 
-std::mutex &cacheMutex()
+/// Held alone for a store, which reads, changes and rewrites an entry; lookups share it.
+std::shared_mutex &cacheMutex()
 {
-    static std::mutex mutex;
+    static std::shared_mutex mutex;
     return mutex;
 }
 
@@ -75,22 +77,22 @@ bool isValidFor(const QJsonObject &entry, qint64 sizeBytes, qint64 modifiedMs)
            (algorithm.isEmpty() || algorithm == currentHashAlgorithmName());
 }
 
-QJsonObject entryFor(qint64 sizeBytes, qint64 modifiedMs, const QByteArray &quick, const QByteArray &full)
+/// The text of a new entry, as QJsonDocument writes it but without a document: there is nothing to escape, and a scan
+/// writes one for each file.
+QByteArray entryText(qint64 sizeBytes, qint64 modifiedMs, const QByteArray &quick, const QByteArray &full)
 {
-    QJsonObject entry{{Key::algorithm, currentHashAlgorithmName()},
-                      {Key::size, static_cast<double>(sizeBytes)},
-                      {Key::modified, static_cast<double>(modifiedMs)},
-                      {Key::quick, QString::fromLatin1(quick.toHex())}};
-    if (!full.isEmpty())
-        entry.insert(Key::full, QString::fromLatin1(full.toHex()));
-    return entry;
+    const QByteArray fullMember = full.isEmpty() ? QByteArray() : R"("full":")" + full.toHex() + R"(",)";
+    return R"({"algo":")" + currentHashAlgorithmName().toLatin1() + R"(",)" + fullMember + R"("mtimeMs":)" +
+           QByteArray::number(modifiedMs) + R"(,"quick":")" + quick.toHex() + R"(","size":)" +
+           QByteArray::number(sizeBytes) + '}';
 }
 
 /// The members of `old`, replaced and completed by those of `entry`. A full digest in `old` stays only if it describes
 /// the same state of the file by the same algorithm: kept beside a newer quick digest it would pass for the new
 /// content.
-QByteArray mergedText(const QByteArray &old, const QJsonObject &entry)
+QByteArray mergedText(const QByteArray &old, const QByteArray &text)
 {
+    const QJsonObject entry = QJsonDocument::fromJson(text).object();
     QJsonObject merged = QJsonDocument::fromJson(old).object();
     const bool isSameState = isValidFor(merged, truncated(entry[Key::size]), truncated(entry[Key::modified]));
     if (!isSameState || merged[Key::full].toString().size() != 2 * currentDigestLength())
@@ -106,13 +108,12 @@ void store(const QString &filePath, qint64 sizeBytes, qint64 modifiedMs, const Q
     const QString entryPath = cachePathFor(filePath);
     if (entryPath.isEmpty())
         return;
-    const QJsonObject entry = entryFor(sizeBytes, modifiedMs, quick, full);
-    QByteArray text = QJsonDocument(entry).toJson(QJsonDocument::Compact);
+    QByteArray text = entryText(sizeBytes, modifiedMs, quick, full);
 
     const std::lock_guard lock(cacheMutex());
     const QByteArray old = readEntryFile(entryPath);
     if (!old.isEmpty())
-        text = mergedText(old, entry);
+        text = mergedText(old, text);
     // Nearly always the folder is there; making sure each time would cost more than the entry.
     if (!writeEntryFile(entryPath, text) && QDir().mkpath(QFileInfo(entryPath).path()))
         writeEntryFile(entryPath, text);
@@ -137,7 +138,7 @@ Fingerprint lookupFingerprint(const QString &filePath, qint64 sizeBytes, qint64 
         return {};
     QByteArray text;
     {
-        const std::lock_guard lock(cacheMutex());
+        const std::shared_lock lock(cacheMutex());
         text = readEntryFile(entryPath);
     }
     if (text.isEmpty())

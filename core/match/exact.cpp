@@ -122,25 +122,35 @@ private:
         candidate.mustStore = describes(notes, file);
     }
 
-    /// Hashes the first `count` candidates whole. What is left of the others is only to be written down, which goes on
-    /// between the hashing, since the one keeps the disk busy and the other the processor.
+    /// Hashes the first `count` candidates whole. Meanwhile this thread writes down what is known of the others: the
+    /// cache takes one entry at a time, so several threads would only wait for each other.
     void hashFull(Candidates &candidates, qsizetype count)
     {
+        std::vector<Candidate *> known;
+        std::vector<Candidate *> unknown;
+        for (Candidate &candidate : candidates) {
+            const bool isShared = &candidate - candidates.data() < count;
+            (isShared && candidate.full.isEmpty() ? unknown : known).push_back(&candidate);
+        }
         StageProgress progress(m_progress, Phase::FullHash, m_files.size(), count);
-        const qsizetype all = std::ssize(candidates);
-        forEachParallel(all, [&](qsizetype i) {
+        const auto hash = [&](qsizetype i) {
             if (isCancelled(m_cancelled))
                 return;
-            // Spreads the first `count` evenly over all steps.
-            const qsizetype before = i * count / all;
-            const bool isHashing = (i + 1) * count / all > before;
-            Candidate &candidate = candidates[static_cast<size_t>(isHashing ? before : count + i - before)];
-            if (isHashing) {
-                hashWhole(candidate);
-                progress.step(m_files[candidate.file].path);
-            }
-            store(candidate);
-        });
+            Candidate &candidate = candidates[static_cast<size_t>(i)];
+            hashWhole(candidate);
+            progress.step(m_files[candidate.file].path);
+        };
+        forEachParallel(count, hash, [&] { storeAll(known); });
+        storeAll(unknown);
+    }
+
+    void storeAll(const std::vector<Candidate *> &candidates) const
+    {
+        for (Candidate *candidate : candidates) {
+            if (isCancelled(m_cancelled))
+                return;
+            store(*candidate);
+        }
     }
 
     void hashWhole(Candidate &candidate)

@@ -12,21 +12,30 @@
 
 namespace MirrixCore {
 
-/// Calls `task(i)` for each i in 0..count-1 on Qt's global thread pool and waits for all. A task writes only what
-/// belongs to its index. The calling thread does not take part, so the pool's size is the number of threads at work.
-/// An exception of a task is thrown again here, as what it was.
-template <typename Task>
-void forEachParallel(qsizetype count, Task task)
+/// Calls `task(i)` for each i in 0..count-1 on Qt's global thread pool, and meanwhile `meanwhile()` on the calling
+/// thread; returns when both are done. A task writes only what belongs to its index. The calling thread takes no task,
+/// so the pool's size is the number of threads at work on them. An exception of a task is thrown again here, as what it
+/// was.
+template <typename Task, typename Meanwhile>
+void forEachParallel(qsizetype count, Task task, Meanwhile meanwhile)
 {
     QList<qsizetype> indices(count);
     std::iota(indices.begin(), indices.end(), qsizetype(0));
+    QFuture<void> future = QtConcurrent::map(indices, [&task](const qsizetype &index) { task(index); });
+    meanwhile();
     try {
-        QtConcurrent::map(indices, [&task](const qsizetype &index) { task(index); }).waitForFinished();
+        future.waitForFinished();
     } catch (const QUnhandledException &wrapped) { // Qt's own wrapping, which has lost the words
         if (wrapped.exception())
             std::rethrow_exception(wrapped.exception());
         throw;
     }
+}
+
+template <typename Task>
+void forEachParallel(qsizetype count, Task task)
+{
+    forEachParallel(count, task, [] {});
 }
 
 /// Counts the items that the tasks of one stage finish and passes every 64th and the last on, one thread at a time.
