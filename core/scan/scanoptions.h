@@ -58,8 +58,9 @@ struct ScanOptions
 {
     // Where to look.
     QStringList roots; ///< folders or drive roots to walk; none = nothing is scanned
-    QList<ScanLocation>
-        locations;              ///< settings of roots; a root without an entry is walked whole for content duplicates
+    /// Settings of roots. A root without an entry is walked whole; it is examined as the entries are when these all
+    /// want the same, else for content duplicates.
+    QList<ScanLocation> locations;
     QStringList excludeFolders; ///< folders never entered
 
     // Which files to take.
