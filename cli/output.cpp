@@ -4,6 +4,7 @@
 #include "core/platform/nativepath.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 
 #include <algorithm>
@@ -45,14 +46,18 @@ Output::~Output() = default;
 
 bool Output::open(const QString &path)
 {
-    m_isFile = !path.isEmpty();
-    if (m_isFile) {
+    const QFileInfo target(path);
+    m_isStandard = path.isEmpty();
+    m_isReplacing = !m_isStandard && (!target.exists() || target.isFile() || target.isDir());
+    if (m_isReplacing) {
         m_device = std::make_unique<QSaveFile>(path);
         return m_device->open(QIODevice::WriteOnly | QIODevice::Unbuffered); // each write tells the truth
     }
-    auto standard = std::make_unique<QFile>();
-    const bool isOpen = standard->open(stdout, QIODevice::WriteOnly | QIODevice::Unbuffered);
-    m_device = std::move(standard);
+    // A device or pipe is written to; putting a file in its place would take it from everybody.
+    auto file = std::make_unique<QFile>(path);
+    constexpr QIODevice::OpenMode mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
+    const bool isOpen = m_isStandard ? file->open(stdout, mode) : file->open(mode);
+    m_device = std::move(file);
     return isOpen;
 }
 
@@ -66,7 +71,7 @@ void Output::write(QByteArrayView bytes)
 bool Output::finish()
 {
     flush();
-    if (!m_isFile)
+    if (!m_isReplacing)
         return m_device->flush() && !m_hasFailed;
     auto *file = static_cast<QSaveFile *>(m_device.get());
     if (m_hasFailed)
@@ -87,7 +92,7 @@ QString Output::errorText() const
 
 bool Output::isTerminal() const
 {
-    return !m_isFile && isOutputTerminal();
+    return m_isStandard && isOutputTerminal();
 }
 
 } // namespace MirrixCli

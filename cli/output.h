@@ -18,7 +18,7 @@ void printError(const QString &message);
 /// lines or steer a terminal, as "?" when `forTerminal`.
 [[nodiscard]] QByteArray shownPath(const QString &path, bool forTerminal);
 
-/// Where a report goes: standard output, or a file that appears whole or not at all.
+/// Where a report goes: standard output, a device or pipe, or a file that appears whole or not at all.
 class Output
 {
 public:
@@ -45,7 +45,8 @@ private:
 
     std::unique_ptr<QFileDevice> m_device;
     QByteArray m_buffer;
-    bool m_isFile = false;
+    bool m_isStandard = false;
+    bool m_isReplacing = false; ///< the file appears when it is finished
     bool m_hasFailed = false;
 };
 

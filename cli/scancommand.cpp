@@ -128,6 +128,9 @@ ReportFormat formatOf(const QString &name)
 /// be found by a scan of its folder.
 void refuseUnwritable(const QString &path)
 {
+    const QFileInfo target(path);
+    if (target.exists() && !target.isFile() && !target.isDir())
+        return; // opening a pipe twice would end its reader
     Output probe;
     if (!probe.open(path))
         throw UsageError{QStringLiteral("cannot write %1: %2").arg(path, probe.errorText())};

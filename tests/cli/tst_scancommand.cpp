@@ -104,6 +104,7 @@ private slots:
     void portableData();
 
     void reportIntoFile();
+    void reportIntoPipe();
     void reportIsNotAmongTheFiles();
     void reportCannotBeOpened();
     void reportOnFullDiskKeepsTheOld();
@@ -492,6 +493,21 @@ void ScanCommandTest::reportIntoFile()
     QCOMPARE(run.status, 0);
     QCOMPARE(groupsIn(contentOf(report)).size(), 1);
     QCOMPARE(filesBelow(m_tree->path(u"out"_s)), 1);
+}
+
+void ScanCommandTest::reportIntoPipe()
+{
+    const QString pipe = m_tree->path(u"pipe"_s);
+    if (!makePipe(pipe))
+        QSKIP("no named pipes here");
+    QProcess reader;
+    reader.start(u"cat"_s, {pipe});
+    QVERIFY(reader.waitForStarted());
+    const ProgramRun run = scanAsJson({u"--output"_s, pipe, m_tree->path(u"one"_s), m_tree->path(u"two"_s)});
+    QCOMPARE(run.status, 0);
+    QVERIFY(reader.waitForFinished());
+    QCOMPARE(groupsIn(reader.readAllStandardOutput()).size(), 1);
+    QVERIFY2(!QFileInfo(pipe).isFile(), "a file has taken the place of what was written to");
 }
 
 void ScanCommandTest::reportIsNotAmongTheFiles()
