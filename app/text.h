@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QCoreApplication>
+
+namespace Mirrix {
+
+/// Gives `tr` in the one context of all texts of the program. The source texts are Simplified Chinese; a text without a
+/// translation shows as it stands.
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Mirrix)
+};
+
+} // namespace Mirrix

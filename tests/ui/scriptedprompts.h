@@ -1,0 +1,55 @@
+#pragma once
+
+#include "ui/prompts.h"
+
+#include <QList>
+#include <QStringList>
+
+#include <functional>
+
+namespace MirrixTest {
+
+/// Answers every question from a script and remembers what was asked. An unanswered question is a No.
+class ScriptedPrompts : public Mirrix::Prompts
+{
+public:
+    QStringList asked; ///< "title|text" of every box, in order
+
+    QList<bool> answers; ///< for ask and run, in order
+    QList<Mirrix::Confirmation> confirmations;
+    QStringList folders;                  ///< for chooseFolder, in order
+    std::function<void(QDialog &)> onRun; ///< what the user does in a dialog before answering it
+
+    void inform(QWidget *, const QString &title, const QString &text) override { note(title, text); }
+    void warn(QWidget *, const QString &title, const QString &text) override { note(title, text); }
+
+    bool ask(QWidget *, const QString &title, const QString &text) override
+    {
+        note(title, text);
+        return !answers.isEmpty() && answers.takeFirst();
+    }
+
+    Mirrix::Confirmation confirm(QWidget *, const Mirrix::ConfirmationRequest &request) override
+    {
+        note(request.title, request.text);
+        return confirmations.isEmpty() ? Mirrix::Confirmation() : confirmations.takeFirst();
+    }
+
+    QString chooseFolder(QWidget *, const QString &title, const QString &) override
+    {
+        note(title, {});
+        return folders.isEmpty() ? QString() : folders.takeFirst();
+    }
+
+    bool run(QDialog &dialog) override
+    {
+        if (onRun)
+            onRun(dialog);
+        return !answers.isEmpty() && answers.takeFirst();
+    }
+
+private:
+    void note(const QString &title, const QString &text) { asked.append(title + QLatin1Char('|') + text); }
+};
+
+} // namespace MirrixTest

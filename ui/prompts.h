@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QString>
+
+class QDialog;
+class QWidget;
+
+namespace Mirrix {
+
+/// What a question with a check box was answered.
+struct Confirmation
+{
+    bool accepted = false;
+    bool checked = false; ///< the check box, whatever was answered
+};
+
+/// A question with named buttons and a check box.
+struct ConfirmationRequest
+{
+    QString title;
+    QString text;
+    QString acceptLabel; ///< the default button
+    QString rejectLabel;
+    QString checkLabel;
+};
+
+/// Every question the program asks and every chooser it opens goes through here, so that tests can answer them.
+/// Interface thread only; each call returns when the user has answered.
+class Prompts
+{
+public:
+    virtual ~Prompts() = default;
+
+    virtual void inform(QWidget *parent, const QString &title, const QString &text) = 0;
+    virtual void warn(QWidget *parent, const QString &title, const QString &text) = 0;
+
+    /// Asks with Yes and No, No being the default. True for Yes alone.
+    [[nodiscard]] virtual bool ask(QWidget *parent, const QString &title, const QString &text) = 0;
+
+    [[nodiscard]] virtual Confirmation confirm(QWidget *parent, const ConfirmationRequest &request) = 0;
+
+    /// A folder chosen by the user; empty when the chooser was cancelled.
+    [[nodiscard]] virtual QString chooseFolder(QWidget *parent, const QString &title, const QString &start) = 0;
+
+    /// Runs a dialog modally; true when it was accepted.
+    [[nodiscard]] virtual bool run(QDialog &dialog) = 0;
+};
+
+/// The prompts of the real program: message boxes and choosers of the system.
+class DialogPrompts : public Prompts
+{
+public:
+    void inform(QWidget *parent, const QString &title, const QString &text) override;
+    void warn(QWidget *parent, const QString &title, const QString &text) override;
+    bool ask(QWidget *parent, const QString &title, const QString &text) override;
+    Confirmation confirm(QWidget *parent, const ConfirmationRequest &request) override;
+    QString chooseFolder(QWidget *parent, const QString &title, const QString &start) override;
+    bool run(QDialog &dialog) override;
+};
+
+} // namespace Mirrix
