@@ -1,0 +1,60 @@
+#include "actions/aescbc.h"
+
+#include <openssl/evp.h>
+#include <openssl/rand.h>
+
+#include <limits>
+#include <memory>
+
+namespace Mirrix {
+
+namespace {
+
+using CipherContext = std::unique_ptr<EVP_CIPHER_CTX, decltype(&EVP_CIPHER_CTX_free)>;
+
+const uchar *bytesOf(const QByteArray &bytes)
+{
+    return reinterpret_cast<const uchar *>(bytes.constData());
+}
+
+/// Both directions; `isEncrypting` as the library wants it. Empty on failure.
+QByteArray run(const QByteArray &key, const QByteArray &vector, const QByteArray &input, bool isEncrypting)
+{
+    // The library counts in int and keeps no account of overflow.
+    if (key.size() != aesKeyBytes || input.size() > std::numeric_limits<int>::max() - aesBlockBytes)
+        return {};
+    const CipherContext context(EVP_CIPHER_CTX_new(), &EVP_CIPHER_CTX_free);
+    QByteArray output(input.size() + aesBlockBytes, Qt::Uninitialized);
+    auto *out = reinterpret_cast<uchar *>(output.data());
+    int done = 0;
+    int rest = 0;
+    if (!context ||
+        EVP_CipherInit_ex(context.get(), EVP_aes_256_cbc(), nullptr, bytesOf(key), bytesOf(vector),
+                          isEncrypting ? 1 : 0) != 1 ||
+        EVP_CipherUpdate(context.get(), out, &done, bytesOf(input), static_cast<int>(input.size())) != 1 ||
+        EVP_CipherFinal_ex(context.get(), out + done, &rest) != 1) {
+        return {};
+    }
+    output.truncate(done + rest);
+    return output;
+}
+
+} // namespace
+
+QByteArray encryptAesCbc(const QByteArray &key, const QByteArray &plain)
+{
+    QByteArray vector(aesBlockBytes, Qt::Uninitialized);
+    if (RAND_bytes(reinterpret_cast<uchar *>(vector.data()), aesBlockBytes) != 1)
+        return {};
+    const QByteArray cipher = run(key, vector, plain, true);
+    return cipher.isEmpty() ? QByteArray() : vector + cipher;
+}
+
+QByteArray decryptAesCbc(const QByteArray &key, const QByteArray &encrypted)
+{
+    if (encrypted.size() < aesBlockBytes)
+        return {};
+    return run(key, encrypted.first(aesBlockBytes), encrypted.sliced(aesBlockBytes), false);
+}
+
+} // namespace Mirrix
