@@ -6,7 +6,7 @@ set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 packages=(build-essential cmake ninja-build ccache python3 clang-format
-    qt6-base-dev qt6-base-dev-tools qt6-l10n-tools libssl-dev)
+    qt6-base-dev qt6-base-dev-tools qt6-l10n-tools librsvg2-bin libssl-dev)
 if [ "${1:-}" = --windows ]; then
     packages+=(g++-mingw-w64-x86-64-posix wine wine64 xvfb xauth libz-mingw-w64-dev libz-mingw-w64 xz-utils)
 fi

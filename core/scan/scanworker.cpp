@@ -10,7 +10,6 @@ namespace MirrixCore {
 
 namespace {
 const char unknownFailure[] = QT_TRANSLATE_NOOP("Mirrix", "扫描过程中发生未知错误");
-const char scanCancelled[] = QT_TRANSLATE_NOOP("Mirrix", "扫描已取消");
 } // namespace
 
 void ScanWorker::start(MirrixCore::ScanOptions options)
@@ -29,7 +28,7 @@ void ScanWorker::start(MirrixCore::ScanOptions options)
         return;
     }
     if (m_cancelled)
-        emit failed(QString::fromUtf8(scanCancelled));
+        emit failed(QString::fromUtf8(scanCancelledMessage));
     else
         emit finished(result);
 }

@@ -5,10 +5,14 @@
 #include "core/scan/scanresult.h"
 
 #include <QObject>
+#include <QtGlobal>
 
 #include <atomic>
 
 namespace MirrixCore {
+
+/// What ScanWorker::failed says of a scan that was cancelled; see there.
+inline constexpr const char scanCancelledMessage[] = QT_TRANSLATE_NOOP("Mirrix", "扫描已取消");
 
 /// Runs scans on the thread it lives on and reports through signals. The records must be registered (see metatypes.h)
 /// for queued connections. One scan at a time.

@@ -1,0 +1,43 @@
+#include "app/datalocations.h"
+#include "app/identity.h"
+#include "app/settings.h"
+#include "app/translations.h"
+#include "core/cache/cacheroot.h"
+#include "core/platform/nativepath.h"
+#include "ui/mirrix.h"
+#include "ui/prompts.h"
+#include "ui/showcaptionhook.h"
+#include "ui/theme.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QIcon>
+
+int main(int argc, char *argv[])
+{
+    Mirrix::setApplicationIdentity();
+    QApplication application(argc, argv);
+    const QStringList arguments = MirrixCore::commandLineArguments(argc, argv);
+    Mirrix::ensureFusionStyle();
+    application.installEventFilter(new Mirrix::ShowCaptionHook(&application));
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/resources/mirrix-256.png")));
+    if (Mirrix::hasPortableSwitch(arguments))
+        Mirrix::decidePortable(true);
+
+    Mirrix::Settings &settings = Mirrix::settings();
+    settings.uiLanguage = Mirrix::loadLanguage(settings.uiLanguage);
+    Mirrix::applyContentHashAlgorithm(settings);
+    Mirrix::applyTheme(settings.appTheme);
+    MirrixCore::setCacheRoot(settings.directory);
+
+    Mirrix::DialogPrompts prompts;
+    Mirrix::Mirrix window(settings, prompts);
+    // Folders named on the command line, or dropped on the program's icon.
+    for (const QString &argument : arguments.mid(1)) {
+        if (QDir(argument).exists())
+            window.addLocation(MirrixCore::absolutePath(argument));
+    }
+    window.show();
+    return QApplication::exec();
+}

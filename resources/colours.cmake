@@ -1,0 +1,21 @@
+# The colours of both themes, stated once: name, light, dark. They go into the two style sheets and into the palettes.
+set(MIRRIX_COLOURS
+    "window        #F4F6F9 #1F2328"
+    "base          #FFFFFF #262B31"
+    "alternate     #F7F9FB #2B3138"
+    "raised        #FFFFFF #2D333B"
+    "sidebar       #E9EEF5 #191D21"
+    "border        #CBD3DD #454D57"
+    "text          #1B2430 #E8ECF0"
+    "dimmed        #5A6675 #A6B0BC"
+    "disabled      #98A2AE #6B7580"
+    "accent        #1D5FD0 #2F6FDE"
+    "accentHover   #184FB0 #4A83E6"
+    "accentSoft    #DCE8FB #26374F"
+    "accentText    #FFFFFF #FFFFFF"
+    "link          #1D5FD0 #82AEFA"
+    "warning       #9A4A00 #F0B35C"
+    "warningSoft   #FFF0DC #43351F"
+    "danger        #B3261E #F28B82"
+    "tooltip       #FFFFFF #343B44"
+)

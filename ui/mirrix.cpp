@@ -1,0 +1,364 @@
+#include "ui/mirrix.h"
+
+#include "app/text.h"
+#include "app/translations.h"
+#include "core/scan/metatypes.h"
+#include "ui/caption.h"
+#include "ui/locations/locationspage.h"
+#include "ui/logic/locationssettings.h"
+#include "ui/logic/rulessettings.h"
+#include "ui/logic/scanoptionsfrom.h"
+#include "ui/logic/scansummary.h"
+#include "ui/mainmenu.h"
+#include "ui/prompts.h"
+#include "ui/results/resultspage.h"
+#include "ui/rules/rulespage.h"
+#include "ui/scanthread.h"
+#include "ui/shell.h"
+#include "ui/theme.h"
+#include "ui/trayicon.h"
+#include "ui/windowtitle.h"
+#include "ui/wizardpage.h"
+#include "ui/wizardsidebar.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDateTime>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenuBar>
+#include <QShortcut>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QThreadPool>
+
+namespace Mirrix {
+
+namespace {
+
+constexpr int resultsStep = 2;
+
+/// How pictures are hashed, as the window names it.
+QString imageHashName()
+{
+    return QStringLiteral("OpenCV-pHash");
+}
+
+/// Frees what may be a million records without holding up the interface.
+void discard(ResultSet &&results)
+{
+    auto old = std::make_shared<ResultSet>(std::move(results));
+    QThreadPool::globalInstance()->start([old = std::move(old)]() mutable { old.reset(); });
+}
+
+} // namespace
+
+Mirrix::Mirrix(Settings &settings, Prompts &prompts, QWidget *parent)
+    : QMainWindow(parent)
+    , m_settings(settings)
+    , m_prompts(prompts)
+    , m_log(operationsLogPath(settings.directory))
+{
+    MirrixCore::registerScanMetaTypes();
+    buildLayout();
+    buildTray();
+    retranslate();
+    m_locations->setState(locationsStateFrom(m_settings));
+    m_rules->setState(rulesStateFrom(m_settings));
+    connectPages();
+
+    m_scanThread = new ScanThread(this);
+    const MirrixCore::ScanWorker *worker = m_scanThread->worker();
+    connect(worker, &MirrixCore::ScanWorker::progress, this, &Mirrix::onScanProgress);
+    connect(worker, &MirrixCore::ScanWorker::finished, this, &Mirrix::onScanFinished);
+    connect(worker, &MirrixCore::ScanWorker::failed, this, &Mirrix::onScanFailed);
+
+    goToStep(0);
+    statusBar()->showMessage(Text::tr("%1 · 本地运行 · 零广告 · 图片哈希: %2").arg(modeText(), imageHashName()));
+    m_log.append(QStringLiteral("app_start"), QStringLiteral("Mirrix started"));
+}
+
+Mirrix::~Mirrix()
+{
+    delete m_scanThread; // before the members that its last signals reach
+}
+
+void Mirrix::addLocation(const QString &path)
+{
+    m_locations->addLocation(path);
+}
+
+void Mirrix::buildLayout()
+{
+    m_menu = new MainMenu(menuBar(), m_settings.uiLanguage);
+    connectMenu(m_menu);
+
+    m_sidebar = new WizardSidebar;
+    m_trail = new QLabel;
+    m_trail->setObjectName(QStringLiteral("WizardTrail"));
+    m_pages = new QStackedWidget;
+    m_pages->setObjectName(QStringLiteral("WizardPages"));
+    m_locations = new LocationsPage(m_prompts);
+    m_rules = new RulesPage;
+    m_resultsPage = new ResultsPage(m_results);
+    for (QWidget *page : {static_cast<QWidget *>(m_locations), static_cast<QWidget *>(m_rules),
+                          static_cast<QWidget *>(m_resultsPage)}) {
+        m_wrappers.append(new WizardPage(page));
+        m_pages->addWidget(m_wrappers.last());
+    }
+
+    auto *right = new QVBoxLayout;
+    right->setContentsMargins(16, 12, 16, 4);
+    right->setSpacing(8);
+    right->addWidget(m_trail);
+    right->addWidget(m_pages, 1);
+    auto *centre = new QWidget;
+    auto *row = new QHBoxLayout(centre);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    row->addWidget(m_sidebar);
+    row->addLayout(right, 1);
+    setCentralWidget(centre);
+    resize(1180, 760);
+}
+
+void Mirrix::buildTray()
+{
+    if (!m_settings.trayEnabled || !TrayIcon::isAvailable())
+        return;
+    m_tray = new TrayIcon(this);
+    connect(m_tray, &TrayIcon::showRequested, this, &Mirrix::showMainWindow);
+    connect(m_tray, &TrayIcon::quitRequested, this, &Mirrix::quitCompletely);
+}
+
+void Mirrix::connectPages()
+{
+    connect(m_sidebar, &WizardSidebar::stepChosen, this, &Mirrix::goToStep);
+    connect(m_sidebar, &WizardSidebar::startRequested, this, &Mirrix::startScan);
+    connect(m_sidebar, &WizardSidebar::stopRequested, this, &Mirrix::cancelScan);
+    connect(new QShortcut(QKeySequence(Qt::Key_F5), this), &QShortcut::activated, this, &Mirrix::startScan);
+    connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this, [this] {
+        if (m_scanning)
+            cancelScan();
+    });
+}
+
+void Mirrix::connectMenu(MainMenu *menu)
+{
+    connect(menu, &MainMenu::dataFolderRequested, this, [this] { openFolder(m_settings.directory); });
+    connect(menu, &MainMenu::quitRequested, this, &Mirrix::quitCompletely);
+    connect(menu, &MainMenu::languageChosen, this, &Mirrix::setLanguage);
+}
+
+void Mirrix::retranslate()
+{
+    setWindowTitle(productTitle());
+    m_trail->setText(Text::tr("① 选择位置 → ② 匹配规则 → ③ 预览并清理"));
+    m_wrappers[0]->setTexts(Text::tr("选择一个路径开始查重"), Text::tr("选好后点击左侧「开始扫描」"));
+    m_wrappers[1]->setTexts(Text::tr("配置匹配规则"));
+    m_wrappers[2]->setTexts(Text::tr("预览重复项并清理"), Text::tr("勾选要移除的副本，建议先备份再删除"));
+}
+
+void Mirrix::goToStep(int index)
+{
+    index = std::clamp(index, 0, m_pages->count() - 1);
+    m_pages->setCurrentIndex(index);
+    m_sidebar->setActiveStep(index);
+    const QString hints[] = {Text::tr("请选择要扫描的位置"), Text::tr("配置规则后点击「开始扫描」"),
+                             Text::tr("勾选重复项并进行清理")};
+    statusBar()->showMessage(hints[index]);
+}
+
+void Mirrix::startScan()
+{
+    if (m_scanning)
+        return;
+    MirrixCore::ScanOptions options;
+    buildScanOptions(options);
+    if (options.roots.isEmpty()) {
+        m_prompts.warn(this, Text::tr("提示"), Text::tr("请先勾选启用至少一个扫描位置。"));
+        return;
+    }
+    if (!confirmScanStart(options))
+        return;
+    storeScanSettings(options);
+    clearResults();
+    m_resultsPage->setSummary({});
+    setScanning(true);
+    goToStep(resultsStep);
+    statusBar()->showMessage(Text::tr("扫描进行中：已锁定规则与位置页，请勿修改扫描参数。"));
+    m_log.append(QStringLiteral("scan_start"), options.roots.join(QLatin1Char('|')));
+    m_scanThread->start(options);
+}
+
+void Mirrix::buildScanOptions(MirrixCore::ScanOptions &options) const
+{
+    options = scanOptionsFrom(m_locations->state(), m_rules->state());
+}
+
+bool Mirrix::confirmScanStart(const MirrixCore::ScanOptions &options)
+{
+    if (m_settings.skipScanConfirm)
+        return true;
+    const Confirmation answer =
+        m_prompts.confirm(this, {Text::tr("确认开始扫描"), buildScanSummary(options), Text::tr("开始扫描"),
+                                 Text::tr("取消"), Text::tr("不再显示此确认")});
+    if (answer.accepted && answer.checked) {
+        m_settings.skipScanConfirm = true;
+        m_settings.save();
+    }
+    return answer.accepted;
+}
+
+QString Mirrix::buildScanSummary(const MirrixCore::ScanOptions &options) const
+{
+    return scanSummary(options);
+}
+
+void Mirrix::storeScanSettings(const MirrixCore::ScanOptions &options)
+{
+    storeLocations(m_locations->state(), m_settings);
+    storeRules(options, m_settings);
+    m_settings.save();
+}
+
+void Mirrix::clearResults()
+{
+    m_resultsPage->clearResults();
+    discard(std::exchange(m_results, {}));
+    m_resultsPage->setProgress(0);
+    m_throttle.reset();
+}
+
+void Mirrix::setScanning(bool on)
+{
+    m_scanning = on;
+    m_sidebar->setScanning(on);
+    m_locations->setLocked(on);
+    for (int step = 0; step < resultsStep; ++step)
+        m_wrappers[step]->setEnabled(!on);
+    m_resultsPage->setScanning(on);
+    if (on)
+        statusBar()->showMessage(Text::tr("扫描进行中：已锁定规则与位置页，请勿修改扫描参数。"));
+    else
+        statusBar()->showMessage(Text::tr("%1 · 本地运行 · 图片哈希: %2").arg(modeText(), imageHashName()));
+}
+
+void Mirrix::cancelScan()
+{
+    if (!m_scanning)
+        return;
+    m_scanThread->cancel();
+    setStatusText(Text::tr("正在取消..."));
+}
+
+void Mirrix::onScanProgress(const MirrixCore::ScanProgress &progress)
+{
+    if (m_throttle.admits(progress.phase, QDateTime::currentMSecsSinceEpoch()))
+        setStatusText(progressText(progress));
+    if (const auto percent = progressPercent(progress))
+        m_resultsPage->setProgress(*percent);
+}
+
+void Mirrix::onScanFinished(MirrixCore::ScanResult result)
+{
+    setScanning(false);
+    m_results.groups = std::move(result.groups);
+    m_results.folderGroups = std::move(result.folderGroups);
+    m_results.remaining = std::move(result.folderSummaries);
+    m_results.filesScanned = result.filesScanned;
+    m_results.totalBytes = result.totalBytes;
+    m_results.wastedBytes = result.wastedBytes;
+    m_results.elapsedMs = result.elapsedMs;
+    m_results.candidates = result.candidates;
+    m_results.marks.reset(m_results.groups);
+    m_resultsPage->showResults();
+    m_resultsPage->setProgress(100);
+    m_resultsPage->setSummary(resultSummary(m_results));
+    setStatusText(Text::tr("扫描完成 · 图片哈希后端: %1").arg(imageHashName()));
+    constexpr int shownMs = 5000;
+    statusBar()->showMessage(Text::tr("%1 · 本地运行 · 图片哈希: %2").arg(modeText(), imageHashName()), shownMs);
+    m_log.append(QStringLiteral("scan_done"), QStringLiteral("groups=%1 wasted=%2 candidates=%3")
+                                                  .arg(m_results.groups.size())
+                                                  .arg(m_results.wastedBytes)
+                                                  .arg(m_results.candidates));
+    if (m_settings.scanDoneBeep)
+        QApplication::beep();
+}
+
+void Mirrix::onScanFailed(const QString &message)
+{
+    setScanning(false);
+    const QString shown = message.isEmpty() ? QString() : Text::tr(message.toUtf8().constData());
+    setStatusText(shown);
+    m_resultsPage->setProgress(0);
+    if (message != QString::fromUtf8(MirrixCore::scanCancelledMessage))
+        m_prompts.warn(this, Text::tr("扫描失败"), shown);
+}
+
+void Mirrix::setStatusText(const QString &text)
+{
+    m_resultsPage->setStatusText(text);
+}
+
+void Mirrix::showMainWindow()
+{
+    showNormal();
+    activateWindow();
+}
+
+void Mirrix::setLanguage(const QString &code)
+{
+    m_settings.uiLanguage = loadLanguage(code);
+    m_settings.save();
+}
+
+QString Mirrix::modeText() const
+{
+    return m_settings.portable ? Text::tr("便携模式") : Text::tr("标准模式");
+}
+
+void Mirrix::closeEvent(QCloseEvent *event)
+{
+    if (!m_quitting && m_tray && m_tray->isVisible() && m_settings.closeToTray) {
+        hide();
+        m_tray->tellStillRunning();
+        event->ignore();
+        return;
+    }
+    quitCompletely();
+    event->accept();
+}
+
+void Mirrix::quitCompletely()
+{
+    if (m_quitting)
+        return; // quitting closes the window, which asks for it again
+    m_quitting = true;
+    storeLocations(m_locations->state(), m_settings);
+    m_settings.save();
+    m_log.append(QStringLiteral("app_quit"), QStringLiteral("user quit"));
+    if (m_tray)
+        m_tray->hide();
+    QCoreApplication::quit();
+}
+
+void Mirrix::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    if (isDarkTheme(m_settings.appTheme))
+        colourCaption(*this, true);
+}
+
+void Mirrix::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+        m_menu->retranslate();
+        if (m_tray)
+            m_tray->retranslate();
+    }
+    QMainWindow::changeEvent(event);
+}
+
+} // namespace Mirrix

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "core/scan/scanworker.h"
+
+#include <QThread>
+
+#include <atomic>
+
+namespace Mirrix {
+
+/// The scan worker on a thread of its own. Ending it stops a running scan and waits for it.
+class ScanThread : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ScanThread(QObject *parent = nullptr);
+    ~ScanThread() override;
+
+    /// Starts a scan; exactly one of the worker's finished and failed follows. One scan at a time.
+    void start(const MirrixCore::ScanOptions &options);
+
+    /// Asks the running scan to stop; returns at once.
+    void cancel();
+
+    /// For connections to the worker's signals, which arrive queued.
+    [[nodiscard]] MirrixCore::ScanWorker *worker() { return m_worker; }
+
+private:
+    QThread m_thread;
+    MirrixCore::ScanWorker *m_worker;
+    std::atomic<bool> m_cancelWanted = false; ///< also while the start is still on its way
+};
+
+} // namespace Mirrix

@@ -1,0 +1,33 @@
+#include "ui/wizardpage.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace Mirrix {
+
+WizardPage::WizardPage(QWidget *content, QWidget *parent)
+    : QWidget(parent)
+    , m_title(new QLabel)
+    , m_hint(new QLabel)
+{
+    m_title->setObjectName(QStringLiteral("WizardPageTitle"));
+    m_title->setWordWrap(true);
+    m_hint->setObjectName(QStringLiteral("WizardPageHint"));
+    m_hint->setWordWrap(true);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(4);
+    column->addWidget(m_title);
+    column->addWidget(m_hint);
+    column->addSpacing(4);
+    column->addWidget(content, 1);
+}
+
+void WizardPage::setTexts(const QString &title, const QString &hint)
+{
+    m_title->setText(title);
+    m_hint->setText(hint);
+    m_hint->setVisible(!hint.isEmpty());
+}
+
+} // namespace Mirrix
