@@ -1,15 +1,29 @@
 #!/usr/bin/env bash
 # Installs what building needs on Debian and its derivatives; asks for root only when something is missing.
-#   install-deps.sh             what the Linux program and its tests need
-#   install-deps.sh --windows   also what the cross-built Windows program and its tests need
+#   install-deps.sh                  what the Linux program and its tests need
+#   install-deps.sh --windows        also what the cross-built Windows program and its tests need
+#   install-deps.sh --packages       also what makes the Windows packages
+#   install-deps.sh --screenshots    also what takes pictures of the window
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 packages=(build-essential cmake ninja-build ccache python3 clang-format
     qt6-base-dev qt6-base-dev-tools qt6-l10n-tools librsvg2-bin libssl-dev)
-if [ "${1:-}" = --windows ]; then
-    packages+=(g++-mingw-w64-x86-64-posix wine wine64 xvfb xauth libz-mingw-w64-dev libz-mingw-w64 xz-utils)
-fi
+windows=
+for option in "$@"; do
+    case $option in
+    --windows)
+        windows=yes
+        packages+=(g++-mingw-w64-x86-64-posix wine wine64 xvfb xauth libz-mingw-w64-dev libz-mingw-w64 xz-utils)
+        ;;
+    --packages) packages+=(nsis qt6-translations-l10n) ;;
+    --screenshots) packages+=(xvfb xauth fonts-noto-cjk fonts-dejavu-core) ;;
+    *)
+        echo "install-deps.sh: unknown option $option" >&2
+        exit 2
+        ;;
+    esac
+done
 
 as_root() {
     if [ "$(id -u)" = 0 ]; then
@@ -49,7 +63,7 @@ if [ -z "$(find "$blake3" -name blake3_impl.h 2>/dev/null)" ] && ! ldconfig -p |
     dpkg-deb -x "$work"/librust-blake3-dev_*.deb "$blake3"
 fi
 
-if [ "${1:-}" = --windows ] && [ ! -d "${WINDOWS_SDK:-$root/.deps/winsdk}" ]; then
+if [ -n "$windows" ] && [ ! -d "${WINDOWS_SDK:-$root/.deps/winsdk}" ]; then
     archive=$root/../shared/windows-sdk/windows-sdk.tar.xz
     if [ -f "$archive" ]; then
         echo "Unpacking the prepared libraries for Windows"
