@@ -1,0 +1,12 @@
+#pragma once
+
+#include "core/scan/scanoptions.h"
+
+#include <QString>
+
+namespace Mirrix {
+
+/// What the question before a scan tells about it: several lines, translated. Interface thread only.
+[[nodiscard]] QString scanSummary(const MirrixCore::ScanOptions &options);
+
+} // namespace Mirrix
