@@ -6,6 +6,7 @@ set(MIRRIX_COLOURS
     "raised        #FFFFFF #2D333B"
     "sidebar       #E9EEF5 #191D21"
     "border        #CBD3DD #454D57"
+    "control       #7C8896 #8592A0"
     "text          #1B2430 #E8ECF0"
     "dimmed        #5A6675 #A6B0BC"
     "disabled      #98A2AE #6B7580"
