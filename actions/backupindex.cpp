@@ -1,0 +1,124 @@
+#include "actions/backupindex.h"
+
+#include "actions/movefile.h"
+#include "app/storedfile.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSet>
+
+namespace Mirrix {
+
+namespace {
+
+constexpr int lockPatienceMs = 5000;
+
+const QString originalKey = QStringLiteral("original");
+const QString backupKey = QStringLiteral("backup");
+const QString sizeKey = QStringLiteral("size");
+const QString timeKey = QStringLiteral("at");
+
+QString indexPath(const QString &folder)
+{
+    return joinedPath(folder, QStringLiteral("backup_index.json"));
+}
+
+QJsonDocument indexDocument(const QString &folder)
+{
+    QFile file(indexPath(folder));
+    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()) : QJsonDocument();
+}
+
+/// Whether the file has gone for certain. A folder that is away may be on a drive that comes back.
+bool isGone(const BackupEntry &entry)
+{
+    return pathState(entry.backup).kind == PathState::Kind::Missing &&
+           pathState(folderOf(entry.backup)).kind == PathState::Kind::Folder;
+}
+
+/// An index that holds no list would be overwritten as if it were empty; what it says may still be of use to somebody.
+bool setDamagedAside(const QString &folder)
+{
+    const QString path = indexPath(folder);
+    if (pathState(path).kind == PathState::Kind::Missing || indexDocument(folder).isArray())
+        return true;
+    const QString aside = joinedPath(folder, QStringLiteral("backup_index.damaged%1.json"));
+    FileFault fault = FileFault::Occupied;
+    for (int number = 1; fault == FileFault::Occupied; ++number)
+        fault = renameExclusively(path, aside.arg(number));
+    return fault == FileFault::None;
+}
+
+} // namespace
+
+QList<BackupEntry> loadBackupIndex(const QString &folder)
+{
+    QList<BackupEntry> entries;
+    const QJsonArray items = indexDocument(folder).array();
+    for (const QJsonValue &item : items)
+        entries.append({item[originalKey].toString(), item[backupKey].toString(), item[sizeKey].toInteger(),
+                        item[timeKey].toInteger()});
+    return entries;
+}
+
+QList<BackupEntry> restorableEntries(const QString &folder)
+{
+    QList<BackupEntry> entries = loadBackupIndex(folder);
+    entries.removeIf([](const BackupEntry &entry) { return pathState(entry.backup).kind != PathState::Kind::File; });
+    return entries;
+}
+
+bool saveBackupIndex(const QString &folder, const QList<BackupEntry> &entries)
+{
+    QJsonArray items;
+    for (const BackupEntry &entry : entries)
+        items.append(QJsonObject{{originalKey, entry.original},
+                                 {backupKey, entry.backup},
+                                 {sizeKey, entry.sizeBytes},
+                                 {timeKey, entry.atMs}});
+    return makeFolders(folder) && replaceFile(indexPath(folder), QJsonDocument(items).toJson(QJsonDocument::Compact));
+}
+
+BackupIndexSession::BackupIndexSession(const QString &folder)
+    : m_folder(folder)
+{
+    if (!makeFolders(folder))
+        return;
+    m_lock = std::make_unique<QLockFile>(joinedPath(folder, QStringLiteral("backup_index.lock")));
+    m_lock->setStaleLockTime(0); // a batch may take hours; a lock whose program has ended is recognised all the same
+    m_isLocked = m_lock->tryLock(lockPatienceMs);
+}
+
+bool BackupIndexSession::announce(const QList<BackupEntry> &planned)
+{
+    return takeOver() && saveBackupIndex(m_folder, m_earlier + planned);
+}
+
+bool BackupIndexSession::conclude(const QList<BackupEntry> &kept)
+{
+    return saveBackupIndex(m_folder, m_earlier + kept);
+}
+
+bool BackupIndexSession::remove(const QList<BackupEntry> &restored)
+{
+    if (!takeOver())
+        return false;
+    QSet<QString> paths;
+    for (const BackupEntry &entry : restored)
+        paths.insert(entry.backup);
+    m_earlier.removeIf([&paths](const BackupEntry &entry) { return paths.contains(entry.backup); });
+    return saveBackupIndex(m_folder, m_earlier);
+}
+
+bool BackupIndexSession::takeOver()
+{
+    if (!m_isLocked || !setDamagedAside(m_folder))
+        return false;
+    m_earlier = loadBackupIndex(m_folder);
+    m_earlier.removeIf(isGone);
+    return true;
+}
+
+} // namespace Mirrix

@@ -1,0 +1,129 @@
+#include "actions/movefile.h"
+
+#include "core/hash/filereader.h"
+
+#include <QDir>
+#include <QRandomGenerator>
+
+#include <algorithm>
+#include <cstring>
+
+namespace Mirrix {
+
+namespace {
+
+using MirrixCore::FileReader;
+
+constexpr qint64 pieceBytes = 1 << 20;
+
+bool openWhole(FileReader &reader, const QString &path)
+{
+    if (!reader.open(path) || !reader.readState())
+        return false;
+    reader.expectSequentialReads();
+    return true;
+}
+
+} // namespace
+
+bool PathState::isSameFileAs(const PathState &other) const
+{
+    const bool areKnown = identity.isKnown && other.identity.isKnown;
+    return kind == Kind::File && other.kind == Kind::File && sizeBytes == other.sizeBytes &&
+           modifiedExact == other.modifiedExact &&
+           (!areKnown || (identity.index == other.identity.index && identity.volume == other.identity.volume));
+}
+
+FileFault moveFile(const QString &from, const QString &to)
+{
+    const PathState before = pathState(from);
+    if (before.kind != PathState::Kind::File)
+        return before.kind == PathState::Kind::Missing ? FileFault::Missing : FileFault::Failed;
+    const FileFault renamed = renameExclusively(from, to);
+    if (renamed != FileFault::OtherVolume)
+        return renamed;
+    const FileFault copied = copyFile(from, to);
+    if (copied != FileFault::None)
+        return copied;
+    // What was written into the source meanwhile is not in the copy.
+    if (pathState(from).isSameFileAs(before) && removeFile(from) == FileFault::None)
+        return FileFault::None;
+    static_cast<void>(removeFile(to));
+    return FileFault::Failed;
+}
+
+FileFault copyFile(const QString &from, const QString &to)
+{
+    const QString passing = passingName(to, QStringLiteral(".part"));
+    FileFault fault = copyToNewFile(from, passing);
+    if (fault != FileFault::None)
+        return fault;
+    fault = haveSameContent(from, passing) ? renameExclusively(passing, to) : FileFault::Failed;
+    if (fault == FileFault::None)
+        flushFolder(folderOf(to));
+    else
+        static_cast<void>(removeFile(passing));
+    return fault;
+}
+
+bool makeFolders(const QString &path)
+{
+    const QString folder = QDir::fromNativeSeparators(path);
+    if (folder.isEmpty())
+        return false;
+    if (MirrixCore::fileStatus(folder).kind == MirrixCore::FileStatus::Kind::Folder)
+        return true;
+    const QString parent = folderOf(folder);
+    if (parent != folder && !parent.isEmpty() && !makeFolders(parent))
+        return false;
+    return makeFolder(folder) == FileFault::None ||
+           MirrixCore::fileStatus(folder).kind == MirrixCore::FileStatus::Kind::Folder;
+}
+
+bool haveSameContent(const QString &one, const QString &other)
+{
+    FileReader first;
+    FileReader second;
+    if (!openWhole(first, one) || !openWhole(second, other) || first.sizeBytes() != second.sizeBytes())
+        return false;
+    const qint64 size = first.sizeBytes();
+    QByteArray firstPiece(std::min(size, pieceBytes), Qt::Uninitialized);
+    QByteArray secondPiece = firstPiece;
+    for (qint64 offset = 0; offset < size; offset += pieceBytes) {
+        const qint64 length = std::min(pieceBytes, size - offset);
+        if (first.readAt(offset, firstPiece.data(), length) != length ||
+            second.readAt(offset, secondPiece.data(), length) != length ||
+            std::memcmp(firstPiece.constData(), secondPiece.constData(), static_cast<size_t>(length)) != 0)
+            return false;
+    }
+    return true;
+}
+
+QString fileNameOf(const QString &path)
+{
+    const QString slashed = QDir::fromNativeSeparators(path);
+    return slashed.mid(slashed.lastIndexOf(QLatin1Char('/')) + 1);
+}
+
+QString folderOf(const QString &path)
+{
+    const QString slashed = QDir::fromNativeSeparators(path);
+    const qsizetype slash = slashed.lastIndexOf(QLatin1Char('/'));
+    return slash < 0 ? QString() : slashed.left(slash == 0 ? 1 : slash);
+}
+
+QString joinedPath(const QString &folder, const QString &name)
+{
+    return folder.endsWith(QLatin1Char('/')) ? folder + name : folder + QLatin1Char('/') + name;
+}
+
+QString passingName(const QString &path, const QString &suffix)
+{
+    const QString name = QStringLiteral(".mirrix-%1%2")
+                             .arg(QRandomGenerator::system()->generate64(), 16, 16, QLatin1Char('0'))
+                             .arg(suffix);
+    const QString folder = folderOf(path);
+    return folder.isEmpty() ? name : joinedPath(folder, name);
+}
+
+} // namespace Mirrix

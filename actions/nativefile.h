@@ -1,0 +1,70 @@
+#pragma once
+
+#include "core/walk/filestatus.h"
+
+#include <QString>
+
+namespace Mirrix {
+
+// The system calls that change users' files. They take every legal name, never replace anything, and never follow a
+// link at the end of a path. Relative paths count from the current folder. Thread-safe.
+
+/// What stands at a path itself: a link is told as such.
+struct PathState
+{
+    enum class Kind
+    {
+        Missing,
+        File,
+        Link,
+        Folder,
+        Other,  ///< devices, pipes, files whose content is not on this machine
+        Unknown ///< the system would not say
+    };
+
+    Kind kind = Kind::Unknown;
+    qint64 sizeBytes = 0;
+    qint64 modifiedMs = 0;      ///< milliseconds since the Unix epoch
+    qint64 modifiedExact = 0;   ///< the same time in the system's own finest unit
+    bool isUndeletable = false; ///< marked read-only where that forbids deleting (Windows)
+    MirrixCore::FileIdentity identity;
+
+    /// Whether both are plain files of one size, time and (where known) identity.
+    [[nodiscard]] bool isSameFileAs(const PathState &other) const;
+};
+
+[[nodiscard]] PathState pathState(const QString &path);
+
+enum class FileFault
+{
+    None,
+    Missing,     ///< the file to act on does not exist
+    Occupied,    ///< something stands at the new path
+    OtherVolume, ///< both paths must lie on one volume
+    NoRight,     ///< symbolic links need a right that this user lacks (Windows)
+    Failed
+};
+
+/// Renames within one volume; the new path must be free.
+[[nodiscard]] FileFault renameExclusively(const QString &from, const QString &to);
+
+/// Deletes a file or link, not a folder.
+[[nodiscard]] FileFault removeFile(const QString &path);
+
+/// Makes `link` a symbolic link to the absolute path `target`, which need not exist.
+[[nodiscard]] FileFault makeSymbolicLink(const QString &target, const QString &link);
+
+/// Makes `link` a further name of the file `target`.
+[[nodiscard]] FileFault makeHardLink(const QString &target, const QString &link);
+
+/// Copies the plain file `from` with times and attributes to the free path `to` and waits until it is on the disk.
+/// Leaves nothing behind on failure.
+[[nodiscard]] FileFault copyToNewFile(const QString &from, const QString &to);
+
+/// Makes one folder. Occupied when something, perhaps a folder, stands there.
+[[nodiscard]] FileFault makeFolder(const QString &path);
+
+/// Waits until the names in a folder are on the disk, where the system knows how.
+void flushFolder(const QString &folder);
+
+} // namespace Mirrix

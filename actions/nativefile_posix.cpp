@@ -1,0 +1,113 @@
+#include "actions/nativefile.h"
+
+#include "core/platform/nativepath.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace Mirrix {
+
+namespace {
+
+using MirrixCore::pathBytes;
+
+FileFault faultOf(int code)
+{
+    switch (code) {
+    case ENOENT:
+    case ENOTDIR:
+        return FileFault::Missing;
+    case EEXIST:
+        return FileFault::Occupied;
+    case EXDEV:
+        return FileFault::OtherVolume;
+    default:
+        return FileFault::Failed;
+    }
+}
+
+FileFault faultUnless(int result)
+{
+    return result == 0 ? FileFault::None : faultOf(errno);
+}
+
+/// For file systems that cannot rename without replacing: an empty file of our own claims the name and is replaced.
+FileFault claimAndRename(const QByteArray &from, const QByteArray &to)
+{
+    const int claim = open(to.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    if (claim < 0)
+        return faultOf(errno);
+    close(claim);
+    if (rename(from.constData(), to.constData()) == 0)
+        return FileFault::None;
+    const FileFault fault = faultOf(errno);
+    unlink(to.constData());
+    return fault;
+}
+
+} // namespace
+
+PathState pathState(const QString &path)
+{
+    PathState state;
+    struct stat info = {};
+    if (lstat(pathBytes(path).constData(), &info) != 0) {
+        if (errno == ENOENT || errno == ENOTDIR)
+            state.kind = PathState::Kind::Missing;
+        return state;
+    }
+    state.kind = S_ISREG(info.st_mode)   ? PathState::Kind::File
+                 : S_ISLNK(info.st_mode) ? PathState::Kind::Link
+                 : S_ISDIR(info.st_mode) ? PathState::Kind::Folder
+                                         : PathState::Kind::Other;
+    state.sizeBytes = info.st_size;
+    state.modifiedMs = qint64(info.st_mtim.tv_sec) * 1000 + info.st_mtim.tv_nsec / 1000000;
+    state.modifiedExact = qint64(info.st_mtim.tv_sec) * 1000000000 + info.st_mtim.tv_nsec;
+    state.identity = {static_cast<quint32>(info.st_dev), info.st_ino, static_cast<quint32>(info.st_nlink), true};
+    return state;
+}
+
+FileFault renameExclusively(const QString &from, const QString &to)
+{
+    const QByteArray source = pathBytes(from);
+    const QByteArray target = pathBytes(to);
+    if (renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) == 0)
+        return FileFault::None;
+    if (errno == EINVAL || errno == ENOSYS)
+        return claimAndRename(source, target);
+    return faultOf(errno);
+}
+
+FileFault removeFile(const QString &path)
+{
+    return faultUnless(unlink(pathBytes(path).constData()));
+}
+
+FileFault makeSymbolicLink(const QString &target, const QString &link)
+{
+    return faultUnless(symlink(pathBytes(target).constData(), pathBytes(link).constData()));
+}
+
+FileFault makeHardLink(const QString &target, const QString &link)
+{
+    return faultUnless(::link(pathBytes(target).constData(), pathBytes(link).constData()));
+}
+
+FileFault makeFolder(const QString &path)
+{
+    return faultUnless(mkdir(pathBytes(path).constData(), 0777));
+}
+
+void flushFolder(const QString &folder)
+{
+    const int descriptor = open(pathBytes(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0)
+        return;
+    fsync(descriptor);
+    close(descriptor);
+}
+
+} // namespace Mirrix

@@ -1,0 +1,142 @@
+#include "actions/nativefile.h"
+
+#include "core/platform/nativepath.h"
+#include "core/platform/win32.h"
+
+#include <QDir>
+
+namespace Mirrix {
+
+namespace {
+
+using MirrixCore::epochMsFrom;
+using MirrixCore::joined;
+using MirrixCore::UniqueHandle;
+
+// Names that older SDK headers lack.
+constexpr DWORD contentElsewhere = FILE_ATTRIBUTE_OFFLINE | 0x00400000 | 0x00040000; // recall on data access, on open
+constexpr DWORD allowUnprivileged = 0x2;
+
+std::wstring wide(const QString &path)
+{
+    return MirrixCore::longPath(MirrixCore::absolutePath(path));
+}
+
+FileFault faultOf(DWORD code)
+{
+    switch (code) {
+    case ERROR_FILE_NOT_FOUND:
+    case ERROR_PATH_NOT_FOUND:
+        return FileFault::Missing;
+    case ERROR_FILE_EXISTS:
+    case ERROR_ALREADY_EXISTS:
+        return FileFault::Occupied;
+    case ERROR_NOT_SAME_DEVICE:
+        return FileFault::OtherVolume;
+    case ERROR_PRIVILEGE_NOT_HELD:
+        return FileFault::NoRight;
+    default:
+        return FileFault::Failed;
+    }
+}
+
+/// Calls until it succeeds, for up to a second: a virus scanner that looks at a fresh file makes it fail for a while.
+template <typename Call>
+FileFault patiently(Call call)
+{
+    for (DWORD pauseMs = 50;; pauseMs *= 2) {
+        if (call())
+            return FileFault::None;
+        const DWORD code = GetLastError();
+        const bool mayPass =
+            code == ERROR_ACCESS_DENIED || code == ERROR_SHARING_VIOLATION || code == ERROR_LOCK_VIOLATION;
+        if (!mayPass || pauseMs > 400)
+            return faultOf(code);
+        Sleep(pauseMs);
+    }
+}
+
+PathState::Kind kindOf(HANDLE file, DWORD attributes)
+{
+    FILE_ATTRIBUTE_TAG_INFO tag = {};
+    if (attributes & FILE_ATTRIBUTE_REPARSE_POINT &&
+        GetFileInformationByHandleEx(file, FileAttributeTagInfo, &tag, sizeof tag) &&
+        (tag.ReparseTag == IO_REPARSE_TAG_SYMLINK || tag.ReparseTag == IO_REPARSE_TAG_MOUNT_POINT))
+        return PathState::Kind::Link;
+    if (attributes & FILE_ATTRIBUTE_DIRECTORY)
+        return PathState::Kind::Folder;
+    return attributes & contentElsewhere ? PathState::Kind::Other : PathState::Kind::File;
+}
+
+} // namespace
+
+PathState pathState(const QString &path)
+{
+    PathState state;
+    const UniqueHandle file(CreateFileW(wide(path).c_str(), FILE_READ_ATTRIBUTES,
+                                        FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                                        FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+    BY_HANDLE_FILE_INFORMATION info = {};
+    if (!file || !GetFileInformationByHandle(file.get(), &info)) {
+        if (faultOf(GetLastError()) == FileFault::Missing)
+            state.kind = PathState::Kind::Missing;
+        return state;
+    }
+    state.kind = kindOf(file.get(), info.dwFileAttributes);
+    state.sizeBytes = static_cast<qint64>(joined(info.nFileSizeHigh, info.nFileSizeLow));
+    state.modifiedMs = epochMsFrom(info.ftLastWriteTime);
+    state.modifiedExact =
+        static_cast<qint64>(joined(info.ftLastWriteTime.dwHighDateTime, info.ftLastWriteTime.dwLowDateTime));
+    state.isUndeletable = info.dwFileAttributes & FILE_ATTRIBUTE_READONLY;
+    state.identity = {info.dwVolumeSerialNumber, joined(info.nFileIndexHigh, info.nFileIndexLow), info.nNumberOfLinks,
+                      true};
+    return state;
+}
+
+FileFault renameExclusively(const QString &from, const QString &to)
+{
+    // Without the flags to replace and to copy, both must be so.
+    return patiently(
+        [source = wide(from), target = wide(to)] { return MoveFileExW(source.c_str(), target.c_str(), 0); });
+}
+
+FileFault removeFile(const QString &path)
+{
+    const std::wstring native = wide(path);
+    const DWORD attributes = GetFileAttributesW(native.c_str());
+    if (attributes != INVALID_FILE_ATTRIBUTES && attributes & FILE_ATTRIBUTE_READONLY)
+        return FileFault::Failed; // waiting would not help
+    return patiently([&native] { return DeleteFileW(native.c_str()); });
+}
+
+FileFault makeSymbolicLink(const QString &target, const QString &link)
+{
+    // Other programs show the target as it is written, so the long form only where it is needed.
+    const QString plain = QDir::toNativeSeparators(MirrixCore::absolutePath(target));
+    const std::wstring native = plain.size() < MAX_PATH ? plain.toStdWString() : wide(target);
+    const std::wstring path = wide(link);
+    if (CreateSymbolicLinkW(path.c_str(), native.c_str(), allowUnprivileged))
+        return FileFault::None;
+    // Systems before Windows 10 do not know the flag.
+    if (GetLastError() == ERROR_INVALID_PARAMETER && CreateSymbolicLinkW(path.c_str(), native.c_str(), 0))
+        return FileFault::None;
+    return faultOf(GetLastError());
+}
+
+FileFault makeHardLink(const QString &target, const QString &link)
+{
+    return CreateHardLinkW(wide(link).c_str(), wide(target).c_str(), nullptr) ? FileFault::None
+                                                                              : faultOf(GetLastError());
+}
+
+FileFault makeFolder(const QString &path)
+{
+    return CreateDirectoryW(wide(path).c_str(), nullptr) ? FileFault::None : faultOf(GetLastError());
+}
+
+void flushFolder(const QString &)
+{
+    // The file system journals its names by itself.
+}
+
+} // namespace Mirrix

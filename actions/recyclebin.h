@@ -1,0 +1,37 @@
+#pragma once
+
+#include "actions/batch.h"
+
+#include <QStringList>
+
+#include <functional>
+
+namespace Mirrix {
+
+/// The system's Recycle Bin or trash, as three things a batch needs of it. Tests put in one of their own.
+struct RecycleBin
+{
+    /// What the system answers when it is handed files.
+    struct Answer
+    {
+        int code = 0; ///< 0 = done
+        bool isAborted = false;
+    };
+
+    qsizetype batchSize = 1; ///< most files in one call of `send`
+
+    /// Whether the file would really go into a bin; when not, `send` would delete it for good or take more than it.
+    std::function<bool(const QString &path)> canTake;
+
+    /// Sends existing files. The disk, not the answer, tells what became of each.
+    std::function<Answer(const QStringList &paths)> send;
+};
+
+/// The one of this system. `send` blocks until the files are gone.
+[[nodiscard]] RecycleBin systemRecycleBin();
+
+/// Sends files to a bin in batches. Progress and guard are asked before each batch, for all its files. Counted is what
+/// has left its place; what stays is named.
+[[nodiscard]] BatchResult recycleInto(const RecycleBin &bin, const QStringList &paths, const BatchControl &control);
+
+} // namespace Mirrix
