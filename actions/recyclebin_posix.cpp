@@ -2,7 +2,10 @@
 
 #include "core/platform/nativepath.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
 
 namespace Mirrix {
 
@@ -12,6 +15,20 @@ namespace {
 bool isSpelledRight(const QString &path)
 {
     return QFile::encodeName(path) == MirrixCore::pathBytes(path);
+}
+
+/// Without a usable trash in the home folder, which is also its last resort for other volumes, Qt takes the current
+/// folder for the trash. It makes that folder, but not those above it.
+bool hasHomeTrash()
+{
+    const QString trash =
+        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QLatin1String("/Trash");
+    return QDir().mkpath(trash) && QFileInfo(trash).isWritable();
+}
+
+bool canTake(const QString &path)
+{
+    return isSpelledRight(path) && hasHomeTrash();
 }
 
 /// Qt renames into the trash of the file's own volume or fails; it neither copies nor deletes.
@@ -30,7 +47,7 @@ RecycleBin::Answer moveToTrash(const QStringList &paths)
 
 RecycleBin systemRecycleBin()
 {
-    return {1, isSpelledRight, moveToTrash};
+    return {1, canTake, moveToTrash};
 }
 
 } // namespace Mirrix

@@ -1,8 +1,11 @@
 #include "cli/commandline.h"
 
 #include "app/datalocations.h"
+#include "cli/cleancommand.h"
 #include "cli/hashcommand.h"
+#include "cli/logcommand.h"
 #include "cli/output.h"
+#include "cli/restorecommand.h"
 #include "cli/scancommand.h"
 #include "core/platform/nativepath.h"
 #include "core/walk/pathrules.h"
@@ -28,10 +31,14 @@ struct Command
     ExitStatus (*run)(const QCommandLineParser &);
 };
 
-const std::array<Command, 2> &commands()
+const std::array<Command, 5> &commands()
 {
-    static const std::array<Command, 2> table = {{
+    static const std::array<Command, 5> table = {{
         {QStringLiteral("scan"), QStringLiteral("find duplicate files below folders"), addScanOptions, runScan},
+        {QStringLiteral("clean"), QStringLiteral("remove surplus copies of identical files"), addCleanOptions,
+         runClean},
+        {QStringLiteral("restore"), QStringLiteral("list or put back backed-up files"), addRestoreOptions, runRestore},
+        {QStringLiteral("log"), QStringLiteral("print what was done"), addLogOptions, runLog},
         {QStringLiteral("hash"), QStringLiteral("print digests of files"), addHashOptions, runHash},
     }};
     return table;

@@ -155,40 +155,26 @@ ScanResult scanWithProgress(const ScanOptions &options)
 
 } // namespace
 
-void addScanOptions(QCommandLineParser &parser)
+void addSelectionOptions(QCommandLineParser &parser)
 {
     parser.addOptions({
-        {modeOption,
-         QStringLiteral("What makes files duplicates: content (default), or rules: names, sizes, dates and paths as "
-                        "set, whatever the content."),
-         QStringLiteral("MODE")},
         {hashOption, QStringLiteral("Digest to compare by: md5 or blake3 (default: as in the settings)."),
          QStringLiteral("NAME")},
         {setOption, QStringLiteral("Set a scan option. May be repeated."), QStringLiteral("NAME=VALUE")},
-        {optionsOption, QStringLiteral("Read scan options from a JSON file."), QStringLiteral("FILE")},
         {excludeOption, QStringLiteral("Do not enter this folder. May be repeated."), QStringLiteral("DIR")},
         {noCacheOption, QStringLiteral("Neither use nor store remembered digests.")},
         {threadsOption, QStringLiteral("Worker threads; 0 = as many as the machine has, at most 8."),
          QStringLiteral("N")},
-        {formatOption, QStringLiteral("Form of the report: text (default) or json."), QStringLiteral("FORMAT"),
-         QStringLiteral("text")},
-        {outputOption, QStringLiteral("Write the report to a file."), QStringLiteral("FILE")},
     });
     parser.addPositionalArgument(QStringLiteral("FOLDER"), QStringLiteral("Folders to scan, with all below them."),
                                  QStringLiteral("FOLDER..."));
 }
 
-ScanOptions scanOptionsOf(const QCommandLineParser &parser)
+void readSelection(const QCommandLineParser &parser, ScanOptions &options)
 {
-    ScanOptions options;
-    options.collapseHardLinks = true; // further names of one file waste nothing
-    if (parser.isSet(optionsOption))
-        readOptionsFile(parser.value(optionsOption), options);
     const QStringList assignments = parser.values(setOption);
     for (const QString &assignment : assignments)
         applyAssignment(assignment, options);
-    if (parser.isSet(modeOption))
-        applyMode(parser.value(modeOption), options);
     if (parser.isSet(threadsOption))
         options.threads = threadsOf(parser.value(threadsOption));
     const QStringList excluded = parser.values(excludeOption);
@@ -200,6 +186,51 @@ ScanOptions scanOptionsOf(const QCommandLineParser &parser)
     options.roots = roots;
     if (options.roots.isEmpty())
         throw UsageError{QStringLiteral("no folder to scan")};
+}
+
+void prepareScan(const QCommandLineParser &parser)
+{
+    const QString dataDirectory = dataDirectoryOf(parser);
+    applyHash(parser, dataDirectory);
+    if (parser.isSet(noCacheOption))
+        setCacheRoot({});
+    else
+        useCache(dataDirectory);
+    catchInterrupts();
+}
+
+ScanResult scanAndReportUnread(const ScanOptions &options)
+{
+    const ScanResult result = scanWithProgress(options);
+    for (const UnreadPath &unread : result.unread)
+        printError(QStringLiteral("%1: %2").arg(unread.path, unread.reason));
+    return result;
+}
+
+void addScanOptions(QCommandLineParser &parser)
+{
+    addSelectionOptions(parser);
+    parser.addOptions({
+        {modeOption,
+         QStringLiteral("What makes files duplicates: content (default), or rules: names, sizes, dates and paths as "
+                        "set, whatever the content."),
+         QStringLiteral("MODE")},
+        {optionsOption, QStringLiteral("Read scan options from a JSON file."), QStringLiteral("FILE")},
+        {formatOption, QStringLiteral("Form of the report: text (default) or json."), QStringLiteral("FORMAT"),
+         QStringLiteral("text")},
+        {outputOption, QStringLiteral("Write the report to a file."), QStringLiteral("FILE")},
+    });
+}
+
+ScanOptions scanOptionsOf(const QCommandLineParser &parser)
+{
+    ScanOptions options;
+    options.collapseHardLinks = true; // further names of one file waste nothing
+    if (parser.isSet(optionsOption))
+        readOptionsFile(parser.value(optionsOption), options);
+    readSelection(parser, options);
+    if (parser.isSet(modeOption))
+        applyMode(parser.value(modeOption), options);
     refuseUnsupported(options);
     return options;
 }
@@ -208,18 +239,9 @@ ExitStatus runScan(const QCommandLineParser &parser)
 {
     const ScanOptions options = scanOptionsOf(parser);
     const ReportFormat format = formatOf(parser.value(formatOption));
-    const QString dataDirectory = dataDirectoryOf(parser);
-    applyHash(parser, dataDirectory);
     refuseUnwritable(parser.value(outputOption));
-    if (parser.isSet(noCacheOption))
-        setCacheRoot({});
-    else
-        useCache(dataDirectory);
-
-    catchInterrupts();
-    const ScanResult result = scanWithProgress(options);
-    for (const UnreadPath &unread : result.unread)
-        printError(QStringLiteral("%1: %2").arg(unread.path, unread.reason));
+    prepareScan(parser);
+    const ScanResult result = scanAndReportUnread(options);
     if (isInterrupted()) {
         printError(QStringLiteral("cancelled"));
         return ExitStatus::Cancelled;

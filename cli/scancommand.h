@@ -2,6 +2,7 @@
 
 #include "cli/commandline.h"
 #include "core/scan/scanoptions.h"
+#include "core/scan/scanresult.h"
 
 namespace MirrixCli {
 
@@ -15,5 +16,19 @@ void addScanOptions(QCommandLineParser &parser);
 /// The scan that the command line asks for: --options first, then each --set in order, then the other options.
 /// Throws UsageError.
 [[nodiscard]] MirrixCore::ScanOptions scanOptionsOf(const QCommandLineParser &parser);
+
+// What "scan" shares with commands that scan first.
+
+/// Declares the options that choose files and digests, and the folders.
+void addSelectionOptions(QCommandLineParser &parser);
+
+/// Overlays `options` with those, all folders made absolute. Throws UsageError.
+void readSelection(const QCommandLineParser &parser, MirrixCore::ScanOptions &options);
+
+/// Chooses digest and cache as the command line asks, and notes Ctrl-C from now on. Throws UsageError.
+void prepareScan(const QCommandLineParser &parser);
+
+/// Scans with a progress line and names what could not be read on standard error.
+[[nodiscard]] MirrixCore::ScanResult scanAndReportUnread(const MirrixCore::ScanOptions &options);
 
 } // namespace MirrixCli
