@@ -1,0 +1,272 @@
+#include "actions/backupstore.h"
+
+#include "core/platform/nativepath.h"
+#include "tests/support/disk.h"
+#include "tests/support/probes.h"
+#include "tests/support/temptree.h"
+
+#include <QDateTime>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTest>
+
+#include <memory>
+
+using namespace Mirrix;
+using namespace MirrixTest;
+using namespace Qt::StringLiterals;
+
+class BackupStoreTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { m_tree = std::make_unique<TempTree>(); }
+    void thereAndBack();
+    void acrossVolumes();
+    void namesOfBytes();
+    void whatCannotBeBackedUpStays();
+    void nothingMovesWithoutIndex_data();
+    void nothingMovesWithoutIndex();
+    void fullDisk();
+    void cancelling();
+    void nothingIsOverwritten();
+    void goneEntries();
+    void damagedIndexIsKept();
+    void hostileEntries_data();
+    void hostileEntries();
+
+private:
+    [[nodiscard]] QString store() const { return m_tree->path(u"store/deep"_s); }
+    [[nodiscard]] QString indexPath() const { return store() + u"/backup_index.json"_s; }
+    [[nodiscard]] DiskTree source() const { return treeBelow(m_tree->path(u"src"_s)); }
+    /// Writes files below src and returns their paths.
+    QStringList fill(const QStringList &names) const
+    {
+        QStringList paths;
+        for (const QString &name : names) {
+            paths.append(m_tree->write(u"src/"_s + name, "content of " + name.toUtf8()));
+            m_tree->setModified(u"src/"_s + name, 1234567890123 + paths.size());
+        }
+        return paths;
+    }
+
+    std::unique_ptr<TempTree> m_tree;
+};
+
+void BackupStoreTest::thereAndBack()
+{
+    const QStringList paths = fill({u"a/same.txt"_s, u"b/same.txt"_s, u"日本 %1.txt"_s});
+    const DiskTree before = source();
+    const qint64 start = QDateTime::currentMSecsSinceEpoch();
+    const BatchResult result = backupFiles(store(), paths);
+    QCOMPARE(result.errors, QStringList());
+    QCOMPARE(result.count, 3);
+    QVERIFY(source().isEmpty());
+
+    const QByteArray index = contentOf(indexPath());
+    const QJsonArray items = QJsonDocument::fromJson(index).array();
+    QCOMPARE(index, QJsonDocument(items).toJson(QJsonDocument::Compact));
+    QCOMPARE(items.size(), 3);
+    static const QRegularExpression form(u"^[0-9]{8}_[0-9]{6}__[0-9a-f]{8}__(.*)$"_s);
+    for (qsizetype i = 0; i < 3; ++i) {
+        const QJsonObject item = items[i].toObject();
+        QCOMPARE(item.keys(), (QStringList{u"at"_s, u"backup"_s, u"original"_s, u"size"_s}));
+        QCOMPARE(item[u"original"_s].toString(), paths[i]);
+        const QFileInfo backup(item[u"backup"_s].toString());
+        QCOMPARE(backup.path(), store());
+        QCOMPARE(form.match(backup.fileName()).captured(1), QFileInfo(paths[i]).fileName());
+        QVERIFY(backup.fileName().startsWith(
+            QDateTime::fromMSecsSinceEpoch(item[u"at"_s].toInteger()).toString(u"yyyyMMdd_HHmmss"_s)));
+        QCOMPARE(item[u"size"_s].toInteger(), backup.size());
+        QVERIFY(item[u"at"_s].toInteger() >= start);
+        QCOMPARE(item[u"at"_s], items[0][u"at"_s]);
+    }
+
+    const QList<BackupEntry> entries = restorableEntries(store());
+    QCOMPARE(entries.size(), 3);
+    QVERIFY(restoreBackup(store(), entries[1]));
+    QCOMPARE(loadBackupIndex(store()), (QList<BackupEntry>{entries[0], entries[2]}));
+    QCOMPARE(restoreBackups(store(), {entries[0], entries[2]}).count, 2);
+    QCOMPARE(source(), before);
+    QCOMPARE(contentOf(indexPath()), QByteArray("[]"));
+    QCOMPARE(treeBelow(store()).keys(), QStringList{u"backup_index.json"_s});
+}
+
+void BackupStoreTest::acrossVolumes()
+{
+    const auto other = folderOnOtherVolume(m_tree->path());
+    if (!other)
+        QSKIP("no second volume");
+    const QStringList paths = fill({u"one"_s, u"two"_s});
+    const DiskTree before = source();
+    QCOMPARE(backupFiles(other->path(), paths).count, 2);
+    QVERIFY(source().isEmpty());
+    QCOMPARE(treeBelow(other->path()).size(), 3);
+    QCOMPARE(restoreBackups(other->path(), restorableEntries(other->path())).count, 2);
+    QCOMPARE(source(), before);
+}
+
+void BackupStoreTest::namesOfBytes()
+{
+    if (!namesAreBytes)
+        QSKIP("names are no bytes here");
+    const QString path = m_tree->writeNamedByBytes("a\xFF\xC3(", "odd");
+    QCOMPARE(backupFiles(store(), {path}).count, 1);
+    QCOMPARE(restoreBackups(store(), restorableEntries(store())).count, 1);
+    QFile file;
+    FILE *stream = std::fopen((QFile::encodeName(m_tree->path()) + "/a\xFF\xC3(").constData(), "rb");
+    QVERIFY(stream && file.open(stream, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle));
+    QCOMPARE(file.readAll(), QByteArray("odd"));
+}
+
+void BackupStoreTest::whatCannotBeBackedUpStays()
+{
+    const QStringList paths = fill({u"good"_s, u"folder/inside"_s});
+    m_tree->write(u"store/deep/lies here"_s, "x");
+    const QStringList bad = {m_tree->path(u"src/missing"_s), m_tree->path(u"src/folder"_s),
+                             m_tree->path(u"store/deep/lies here"_s)};
+    BatchControl control;
+    control.guard = [](const QString &path) { return path.endsWith(u"inside"_s) ? u"refused"_s : QString(); };
+    const BatchResult result = backupFiles(store(), bad + paths, control);
+    QStringList errors;
+    for (const QString &path : bad)
+        errors.append(u"无法移动到备份目录: "_s + path);
+    QCOMPARE(result.errors, errors + QStringList{u"refused"_s});
+    QCOMPARE(result.count, 1);
+    QCOMPARE(loadBackupIndex(store()).size(), 1);
+    QCOMPARE(source().keys(), QStringList{u"folder/inside"_s});
+    QCOMPARE(treeBelow(store()).size(), 3);
+}
+
+void BackupStoreTest::nothingMovesWithoutIndex_data()
+{
+    QTest::addColumn<QString>("obstacle");
+    QTest::newRow("a file instead of the folder") << u"store"_s;
+    QTest::newRow("a folder instead of the index") << u"store/deep/backup_index.json/x"_s;
+}
+
+void BackupStoreTest::nothingMovesWithoutIndex()
+{
+    QFETCH(QString, obstacle);
+    const QStringList paths = fill({u"one"_s, u"two"_s});
+    m_tree->write(obstacle, "x");
+    const DiskTree before = source();
+    // A folder that stands for the index is set aside like any damaged index; then the batch may go on.
+    const BatchResult result = backupFiles(store(), paths);
+    QCOMPARE(result.count + source().size(), 2);
+    QCOMPARE(result.count == 0, source() == before);
+    QCOMPARE(restorableEntries(store()).size(), result.count);
+    QCOMPARE(result.errors.size(), 2 - result.count);
+}
+
+/// The store is full after the first file and the index: what did not get in is where it was, the rest is listed.
+void BackupStoreTest::fullDisk()
+{
+    if (smallDisk().isEmpty()) {
+        QByteArray problem;
+        if (!passesOnSmallDisk(problem)) {
+            if (problem == "cannot mount")
+                QSKIP("cannot mount a small file system");
+            QFAIL(problem.constData());
+        }
+        return;
+    }
+    const QStringList paths = fill({u"1"_s, u"2"_s});
+    m_tree->write(u"src/2"_s, patternBytes(30000));
+    const DiskTree before = source();
+    const BatchResult result = backupFiles(smallDisk(), paths);
+    QCOMPARE(result.count, 1);
+    QCOMPARE(result.errors, QStringList{u"无法移动到备份目录: "_s + paths[1]});
+    QCOMPARE(source().keys(), QStringList{u"2"_s});
+    QCOMPARE(restoreBackups(smallDisk(), restorableEntries(smallDisk())).count, 1);
+    QCOMPARE(source(), before);
+}
+
+void BackupStoreTest::cancelling()
+{
+    const QStringList paths = fill({u"1"_s, u"2"_s, u"3"_s});
+    BatchControl control;
+    control.progress = [](qsizetype done, qsizetype total) { return done < 1 && total == 3; };
+    const BatchResult result = backupFiles(store(), paths, control);
+    QVERIFY(result.isCancelled);
+    QCOMPARE(result.count, 1);
+    QCOMPARE(loadBackupIndex(store()).size(), 1);
+    QCOMPARE(source().keys(), (QStringList{u"2"_s, u"3"_s}));
+}
+
+void BackupStoreTest::nothingIsOverwritten()
+{
+    const QStringList paths = fill({u"file"_s});
+    QCOMPARE(backupFiles(store(), paths).count, 1);
+    m_tree->write(u"src/file"_s, "newer");
+    const DiskTree before = treeBelow(m_tree->path());
+    QString error;
+    QVERIFY(!restoreBackup(store(), loadBackupIndex(store()).constFirst(), &error));
+    QCOMPARE(error, u"原路径已存在文件，已取消恢复: "_s + paths[0]);
+    QCOMPARE(treeBelow(m_tree->path()), before);
+}
+
+/// An entry whose file has gone is not offered and leaves with the next write; one on a drive that is away stays.
+void BackupStoreTest::goneEntries()
+{
+    const QStringList paths = fill({u"1"_s, u"2"_s, u"3"_s});
+    QCOMPARE(backupFiles(store(), paths.first(2)).count, 2);
+    QList<BackupEntry> entries = loadBackupIndex(store());
+    entries.append({m_tree->path(u"away/x"_s), m_tree->path(u"away/.mirrix-0.aside"_s), 1, 1});
+    QVERIFY(saveBackupIndex(store(), entries));
+    QVERIFY(QFile::remove(entries[0].backup));
+    QCOMPARE(restorableEntries(store()), QList<BackupEntry>{entries[1]});
+    QCOMPARE(backupFiles(store(), {paths[2]}).count, 1);
+    const QList<BackupEntry> after = loadBackupIndex(store());
+    QCOMPARE(after.first(2), (QList<BackupEntry>{entries[1], entries[2]}));
+    QCOMPARE(after[2].original, paths[2]);
+}
+
+void BackupStoreTest::damagedIndexIsKept()
+{
+    const QByteArray damaged = R"([{"original": "/a", "backup)";
+    m_tree->write(u"store/deep/backup_index.json"_s, damaged);
+    QVERIFY(loadBackupIndex(store()).isEmpty());
+    QCOMPARE(backupFiles(store(), fill({u"1"_s})).count, 1);
+    QCOMPARE(loadBackupIndex(store()).size(), 1);
+    QCOMPARE(contentOf(store() + u"/backup_index.damaged1.json"_s), damaged);
+}
+
+void BackupStoreTest::hostileEntries_data()
+{
+    QTest::addColumn<QString>("original");
+    QTest::addColumn<QString>("backup");
+    QTest::newRow("a file from elsewhere") << u"src/new"_s << u"src/victim"_s;
+    QTest::newRow("out of the store by dots") << u"src/new"_s << u"store/deep/../../src/victim"_s;
+    QTest::newRow("from below the store") << u"src/new"_s << u"store/deep/sub/file"_s;
+    QTest::newRow("aside name from elsewhere") << u"new"_s << u"src/.mirrix-1.aside"_s;
+    QTest::newRow("dots in the old path") << u"src/../new"_s << u"store/deep/file"_s;
+    QTest::newRow("a folder") << u"src/new"_s << u"store/deep/sub"_s;
+    QTest::newRow("onto a file") << u"src/victim"_s << u"store/deep/file"_s;
+    QTest::newRow("onto the index") << u"store/deep/backup_index.json"_s << u"store/deep/file"_s;
+    QTest::newRow("below a file") << u"src/victim/new"_s << u"store/deep/file"_s;
+    QTest::newRow("relative") << QString() << u"store/deep/file"_s;
+}
+
+void BackupStoreTest::hostileEntries()
+{
+    QFETCH(QString, original);
+    QFETCH(QString, backup);
+    for (const QString &name :
+         {u"src/victim"_s, u"src/.mirrix-1.aside"_s, u"store/deep/file"_s, u"store/deep/sub/file"_s})
+        m_tree->write(name, name.toUtf8());
+    const QString to = original.isEmpty() ? u"new"_s : m_tree->path() + u'/' + original;
+    QVERIFY(saveBackupIndex(store(), {{to, m_tree->path() + u'/' + backup, 1, 1}}));
+    const DiskTree before = treeBelow(m_tree->path());
+    const RestoreResult result = restoreBackups(store(), loadBackupIndex(store()));
+    QCOMPARE(result.errors.size(), 1);
+    QCOMPARE(result.count, 0);
+    QCOMPARE(treeBelow(m_tree->path()), before);
+}
+
+QTEST_GUILESS_MAIN(BackupStoreTest)
+#include "tst_backupstore.moc"

@@ -1,0 +1,165 @@
+#include "actions/backupstore.h"
+#include "actions/linkreplacement.h"
+#include "actions/operationslog.h"
+#include "tests/support/disk.h"
+#include "tests/support/temptree.h"
+
+#include <QCoreApplication>
+#include <QJsonDocument>
+#include <QProcess>
+#include <QTest>
+
+#include <memory>
+
+using namespace Mirrix;
+using namespace MirrixTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QStringList names = {u"one"_s, u"two"_s};
+
+/// What the killed process does; all of it below `root`, the store at `store`.
+void act(const QString &name, const QString &root, const QString &store)
+{
+    const QString source = root + u"/src/"_s;
+    const QStringList paths = {source + names[0], source + names[1]};
+    QList<LinkReplacement> links;
+    for (const QString &path : paths)
+        links.append({path, root + u"/keeper"_s});
+    if (name == u"back up")
+        static_cast<void>(backupFiles(store, paths));
+    else if (name == u"restore")
+        static_cast<void>(restoreBackups(store, loadBackupIndex(store)));
+    else if (name == u"log")
+        OperationsLog(root + u"/log"_s).append(u"second"_s, u"new"_s);
+    else
+        static_cast<void>(replaceByLinks(store, links,
+                                         name.contains(u"symbolic"_s) ? LinkKind::Symbolic : LinkKind::Hard,
+                                         name.contains(u"keep"_s) ? Originals::KeepInBackup : Originals::Discard));
+}
+
+} // namespace
+
+class CrashesTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void killedAnywhere_data();
+    void killedAnywhere();
+
+private:
+    void prepare(const QString &name, bool isOnOtherVolume);
+    void sweep(const QString &call, const QString &action, bool isOnOtherVolume);
+    void check(const QString &action) const;
+
+    std::unique_ptr<TempTree> m_tree;
+    std::unique_ptr<QTemporaryDir> m_other;
+    QString m_store;
+    DiskTree m_before;
+};
+
+void CrashesTest::killedAnywhere_data()
+{
+    QTest::addColumn<bool>("isOnOtherVolume");
+    QTest::newRow("back up") << false;
+    QTest::newRow("back up ") << true;
+    QTest::newRow("restore") << false;
+    QTest::newRow("restore ") << true;
+    QTest::newRow("symbolic link") << false;
+    QTest::newRow("hard link, keep") << false;
+    QTest::newRow("log") << false;
+}
+
+/// Kills the process before its n-th call of each kind that changes a file system, n rising until it runs through.
+void CrashesTest::killedAnywhere()
+{
+    QFETCH(bool, isOnOtherVolume);
+    QProcess probe;
+    probe.start(u"strace"_s, {u"-qq"_s, u"-o"_s, u"/dev/null"_s, u"true"_s});
+    if (!probe.waitForFinished() || probe.exitCode() != 0)
+        QSKIP("cannot trace processes");
+    if (isOnOtherVolume && !folderOnOtherVolume(QDir::tempPath()))
+        QSKIP("no second volume");
+    const QString action = QString::fromLatin1(QTest::currentDataTag()).trimmed();
+    const QStringList calls = {u"renameat2"_s, u"rename"_s, u"link"_s,  u"linkat"_s,    u"symlink"_s,   u"unlink"_s,
+                               u"write"_s,     u"fsync"_s,  u"mkdir"_s, u"fdatasync"_s, u"utimensat"_s, u"fchmod"_s};
+    for (const QString &call : calls) {
+        sweep(call, action, isOnOtherVolume);
+        if (QTest::currentTestFailed())
+            return;
+    }
+}
+
+void CrashesTest::prepare(const QString &name, bool isOnOtherVolume)
+{
+    m_tree = std::make_unique<TempTree>();
+    m_other = isOnOtherVolume ? folderOnOtherVolume(m_tree->path()) : nullptr;
+    m_store = m_other ? m_other->path() : m_tree->path(u"store"_s);
+    const bool areCopies = name.contains(u"link"_s);
+    m_tree->write(u"keeper"_s, "the same content");
+    for (const QString &file : names)
+        m_tree->write(u"src/"_s + file, areCopies ? "the same content" : "content of " + file.toLatin1());
+    m_before = treeBelow(m_tree->path(u"src"_s));
+    OperationsLog(m_tree->path(u"log"_s)).append({{1, u"first"_s, u"old"_s}});
+    if (name == u"restore")
+        act(u"back up"_s, m_tree->path(), m_store);
+}
+
+void CrashesTest::sweep(const QString &call, const QString &action, bool isOnOtherVolume)
+{
+    for (int when = 1; when < 200; ++when) {
+        prepare(action, isOnOtherVolume);
+        QProcess process;
+        process.start(u"strace"_s,
+                      {u"-f"_s, u"-qq"_s, u"-o"_s, u"/dev/null"_s, u"-e"_s, u"trace="_s + call, u"-e"_s,
+                       u"inject=%1:signal=SIGKILL:when=%2"_s.arg(call).arg(when),
+                       QCoreApplication::applicationFilePath(), u"--act"_s, action, m_tree->path(), m_store});
+        QVERIFY(process.waitForFinished());
+        check(action);
+        if (QTest::currentTestFailed()) {
+            qWarning("killed at %s %d", qPrintable(call), when);
+            return;
+        }
+        if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
+            return; // ran through
+    }
+    QFAIL("never ran through");
+}
+
+void CrashesTest::check(const QString &action) const
+{
+    const QList<LogEntry> log = OperationsLog(m_tree->path(u"log"_s)).readAll();
+    QVERIFY(log.size() == 1 || (log.size() == 2 && action == u"log"));
+    QCOMPARE(log.constFirst().detail, u"old"_s);
+    const QByteArray index = contentOf(m_store + u"/backup_index.json"_s);
+    QVERIFY2(index.isEmpty() || QJsonDocument::fromJson(index).isArray(), index.constData());
+
+    const QList<BackupEntry> entries = restorableEntries(m_store);
+    static_cast<void>(restoreBackups(m_store, entries));
+    for (const QString &name : names) {
+        const QByteArray content = contentOf(m_tree->path(u"src/"_s + name));
+        QVERIFY2(m_before[name].startsWith(content + " @"),
+                 qPrintable(name + u" holds "_s + QString::fromUtf8(content)));
+    }
+    DiskTree after = treeBelow(m_tree->path(u"src"_s));
+    after.removeIf([](const auto &file) { return file.key().endsWith(u".part"_s); }); // begun copies may stay behind
+    if (!action.contains(u"link"_s))
+        QCOMPARE(after, m_before);
+    QCOMPARE(contentOf(m_tree->path(u"keeper"_s)), QByteArray("the same content"));
+}
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == u"--act") {
+        act(arguments.value(2), arguments.value(3), arguments.value(4));
+        return 0;
+    }
+    CrashesTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_crashes.moc"

@@ -1,0 +1,304 @@
+#include "actions/fileoperations.h"
+
+#include "actions/movefile.h"
+#include "actions/recyclebin.h"
+#include "core/platform/nativepath.h"
+#include "tests/support/disk.h"
+#include "tests/support/probes.h"
+#include "tests/support/temptree.h"
+
+#include <QDateTime>
+#include <QTest>
+
+#include <memory>
+
+using namespace Mirrix;
+using namespace MirrixTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 modifiedMs = 1234567890123;
+
+enum class Act
+{
+    Delete,
+    Move,
+    Copy,
+    SymbolicLink,
+    HardLink
+};
+constexpr Act allActs[] = {Act::Delete, Act::Move, Act::Copy, Act::SymbolicLink, Act::HardLink};
+const char *const actNames[] = {"delete", "move", "copy", "symlink", "hardlink"};
+
+/// Whether this system deletes files that are marked read-only.
+bool deletesReadOnly()
+{
+    const TempTree tree;
+    const QString path = tree.write(u"probe"_s, "x");
+    QFile::setPermissions(path, QFileDevice::ReadOwner);
+    std::error_code error;
+    const bool isGone = std::filesystem::remove(exactNative(path), error);
+    QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    return isGone;
+}
+
+BatchResult run(Act act, const QString &path, const QString &folder, const QString &target)
+{
+    if (act != Act::Copy) {
+        const RemovalMethod methods[] = {RemovalMethod::Delete, RemovalMethod::Move, RemovalMethod::Move,
+                                         RemovalMethod::SymbolicLink, RemovalMethod::HardLink};
+        return removeFiles(methods[static_cast<int>(act)], {path}, folder, target);
+    }
+    BatchResult result;
+    QString error;
+    result.count = copyToFolder(path, folder, &error) ? 1 : 0;
+    if (!error.isEmpty())
+        result.errors.append(error);
+    return result;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Act)
+
+class FileOperationsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { m_tree = std::make_unique<TempTree>(); }
+    void matrix_data();
+    void matrix();
+    void acrossVolumes();
+    void fullDisk_data();
+    void fullDisk();
+    void guardAndCancel();
+    void recyclesInBatches();
+    void recyclingTellsWhatTheDiskTells();
+    void realRecycling();
+
+private:
+    std::unique_ptr<TempTree> m_tree;
+};
+
+void FileOperationsTest::matrix_data()
+{
+    QTest::addColumn<QString>("condition");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<Act>("act");
+    QTest::addColumn<QString>("error"); // "" = succeeds; %1 is the path, %2 the destination, %3 its folder
+    const auto rows = [](const QString &condition, const QString &name, const QStringList &errors) {
+        for (const Act act : allActs)
+            QTest::addRow("%s %s", qPrintable(condition), actNames[static_cast<int>(act)])
+                << condition << name << act << errors[static_cast<int>(act)];
+    };
+    const QString taken = u"链接路径已存在: %1"_s;
+    const QStringList onFile = {QString(), QString(), QString(), taken, taken};
+    const QString longName = (QString(100, u'a') + u'/').repeated(3) + u"b.txt"_s;
+    rows(u"plain"_s, u"a.txt"_s, onFile);
+    rows(u"odd name"_s, u"日本 %2 &$'é"_s, onFile);
+    rows(u"dot at the end"_s, u"a.txt."_s, onFile);
+    rows(u"long path"_s, longName, onFile);
+    rows(u"missing"_s, u"a.txt"_s, {u"无法删除: %1"_s, u"无法移动: %1"_s, u"无法复制: %1"_s, QString(), QString()});
+    rows(u"folder"_s, u"a.txt"_s, {u"无法删除: %1"_s, u"无法移动: %1"_s, u"无法复制: %1"_s, taken, taken});
+    rows(u"occupied"_s, u"a.txt"_s, {QString(), u"目标已存在: %2"_s, u"目标已存在: %2"_s, taken, taken});
+    rows(u"no folder possible"_s, u"a.txt"_s,
+         {QString(), u"无法创建目标目录: %3"_s, u"无法创建目标目录: %3"_s, taken, taken});
+    rows(u"read-only"_s, u"a.txt"_s,
+         {deletesReadOnly() ? QString() : u"无法删除: %1"_s, QString(), QString(), taken, taken});
+    rows(u"no link target"_s, u"gone.txt"_s,
+         {u"无法删除: %1"_s, u"无法移动: %1"_s, u"无法复制: %1"_s, u"无法创建符号链接: %1"_s, u"无法创建硬链接: %1"_s});
+}
+
+void FileOperationsTest::matrix()
+{
+    QFETCH(QString, condition);
+    QFETCH(QString, name);
+    QFETCH(Act, act);
+    QFETCH(QString, error);
+    const QString path = m_tree->path(u"src/"_s + name);
+    const QString folder = m_tree->path(u"new/dst"_s);
+    const QString moved = u"new/dst/"_s + fileNameOf(name);
+    const QString keeper = m_tree->write(u"keep"_s, "kept");
+    m_tree->write(u"src/a.tx"_s, "beside"); // what careless calls would take instead
+    if (condition == u"folder"_s)
+        m_tree->write(u"src/a.txt/inside"_s, "inside");
+    else if (condition != u"missing"_s && condition != u"no link target"_s)
+        m_tree->writeExactly(u"src/"_s + name, "content");
+    if (condition == u"occupied"_s)
+        m_tree->write(moved, "other");
+    if (condition == u"no folder possible"_s)
+        m_tree->write(u"new"_s, "a file");
+    if (condition == u"no link target"_s)
+        QVERIFY(QFile::remove(keeper));
+    if (condition == u"read-only"_s)
+        QFile::setPermissions(path, QFileDevice::ReadOwner);
+    if (condition == u"missing"_s && act == Act::SymbolicLink && !m_tree->symbolicLink(u"keep"_s, u"probe"_s))
+        error = u"无法创建符号链接: %1"_s;
+    DiskTree expected = treeBelow(m_tree->path());
+
+    const BatchResult result = run(act, path, folder, keeper);
+
+    const QString source = u"src/"_s + name;
+    if (error.isEmpty()) {
+        if (act == Act::SymbolicLink || act == Act::HardLink)
+            expected[source] = (act == Act::SymbolicLink ? "link to " : "") + expected[u"keep"_s];
+        if (act == Act::Move || act == Act::Copy)
+            expected[moved] = expected[source];
+        if (act == Act::Move || act == Act::Delete)
+            expected.remove(source);
+        QCOMPARE(result.errors, QStringList());
+        QCOMPARE(result.count, 1);
+    } else {
+        error.replace(u"%3"_s, folder).replace(u"%2"_s, m_tree->path(moved)).replace(u"%1"_s, path);
+        QCOMPARE(result.errors, QStringList{error});
+        QCOMPARE(result.count, 0);
+    }
+    QCOMPARE(treeBelow(m_tree->path()), expected);
+    QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+}
+
+void FileOperationsTest::acrossVolumes()
+{
+    const auto other = folderOnOtherVolume(m_tree->path());
+    if (!other)
+        QSKIP("no second volume");
+    for (const int size : {0, 1, 3 << 20}) {
+        const QString name = QString::number(size);
+        const QString path = m_tree->write(name, patternBytes(size));
+        m_tree->setModified(name, modifiedMs);
+        DiskTree expected = treeBelow(m_tree->path());
+        QVERIFY(copyToFolder(path, other->path()));
+        QCOMPARE(treeBelow(other->path()), expected);
+        QVERIFY(!moveToFolder(path, other->path()));
+        QCOMPARE(treeBelow(m_tree->path()), expected);
+        QVERIFY(QFile::remove(other->filePath(name)));
+        QVERIFY(moveToFolder(path, other->path()));
+        QCOMPARE(treeBelow(other->path()), expected);
+        QVERIFY(treeBelow(m_tree->path()).isEmpty());
+        QVERIFY(QFile::remove(other->filePath(name)));
+    }
+    QString error;
+    const QString link = other->filePath(u"link"_s);
+    QVERIFY(!createHardLink(link, m_tree->write(u"target"_s, "x"), &error));
+    QCOMPARE(error, u"无法创建硬链接: "_s + link);
+    QVERIFY(treeBelow(other->path()).isEmpty());
+}
+
+void FileOperationsTest::fullDisk_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::addColumn<bool>("fits");
+    QTest::newRow("fits") << 16384 << true;
+    QTest::newRow("a byte too long") << 20481 << false;
+    QTest::newRow("cut in the last write") << 32768 << false;
+    QTest::newRow("much too long") << 2000000 << false;
+}
+
+void FileOperationsTest::fullDisk()
+{
+    QFETCH(int, size);
+    QFETCH(bool, fits);
+    if (smallDisk().isEmpty()) {
+        QByteArray problem;
+        if (!passesOnSmallDisk(problem)) {
+            if (problem == "cannot mount")
+                QSKIP("cannot mount a small file system");
+            QFAIL(problem.constData());
+        }
+        return;
+    }
+    const QString path = m_tree->write(u"file"_s, patternBytes(size));
+    const DiskTree before = treeBelow(m_tree->path());
+    QString error;
+    QCOMPARE(moveToFolder(path, smallDisk(), &error), fits);
+    QCOMPARE(error, fits ? QString() : u"无法移动: "_s + path);
+    QCOMPARE(treeBelow(m_tree->path()), fits ? DiskTree() : before);
+    QCOMPARE(treeBelow(smallDisk()), fits ? before : DiskTree());
+}
+
+void FileOperationsTest::guardAndCancel()
+{
+    QStringList paths;
+    for (const QString &name : {u"1"_s, u"2"_s, u"3"_s, u"4"_s})
+        paths.append(m_tree->write(name, name.toLatin1()));
+    QList<qsizetype> reports;
+    BatchControl control;
+    control.progress = [&reports](qsizetype done, qsizetype total) {
+        reports.append(done * 10 + total);
+        return done < 3;
+    };
+    control.guard = [&paths](const QString &path) { return path == paths[1] ? u"refused"_s : QString(); };
+    const BatchResult result = removeFiles(RemovalMethod::Delete, paths, {}, {}, control);
+    QCOMPARE(result.count, 2);
+    QCOMPARE(result.errors, QStringList{u"refused"_s});
+    QVERIFY(result.isCancelled);
+    QCOMPARE(reports, (QList<qsizetype>{4, 14, 24, 34}));
+    QCOMPARE(treeBelow(m_tree->path()).keys(), (QStringList{u"2"_s, u"4"_s}));
+}
+
+void FileOperationsTest::recyclesInBatches()
+{
+    QStringList paths;
+    for (int i = 0; i < 401; ++i)
+        paths.append(m_tree->write(QString::number(i), "x"));
+    QList<qsizetype> calls;
+    const RecycleBin bin = {400, [](const QString &) { return true; },
+                            [&calls](const QStringList &batch) {
+                                calls.append(batch.size());
+                                for (const QString &path : batch)
+                                    QFile::remove(path);
+                                return RecycleBin::Answer();
+                            }};
+    QCOMPARE(recycleInto(bin, paths, {}).count, 401);
+    QCOMPARE(calls, (QList<qsizetype>{400, 1}));
+    const BatchResult again = recycleInto(bin, paths, {});
+    QCOMPARE(again.errors.size(), 401);
+    QCOMPARE(again.errors[7], u"文件不存在: "_s + paths[7]);
+    QCOMPARE(calls.size(), 2);
+}
+
+void FileOperationsTest::recyclingTellsWhatTheDiskTells()
+{
+    const QString goes = m_tree->write(u"goes"_s, "x");
+    const QString stays = m_tree->write(u"stays"_s, "x");
+    const QString refused = m_tree->write(u"refused"_s, "x");
+    int code = 0;
+    const RecycleBin bin = {400, [&refused](const QString &path) { return path != refused; },
+                            [&](const QStringList &) {
+                                QFile::remove(goes);
+                                return RecycleBin::Answer{code, false};
+                            }};
+    const QStringList leftOvers = {u"无法放入回收站，已保留: "_s + refused, u"未移入回收站，仍在原处: "_s + stays};
+    const BatchResult silent = recycleInto(bin, {goes, stays, refused}, {});
+    QCOMPARE(silent.count, 1);
+    QCOMPARE(silent.errors, leftOvers);
+    m_tree->write(u"goes"_s, "x");
+    code = 120;
+    const BatchResult failed = recycleInto(bin, {goes, stays}, {});
+    QCOMPARE(failed.count, 1);
+    QCOMPARE(failed.errors, (QStringList{u"批量移入回收站失败 (code 120, 2 个文件)"_s, leftOvers.constLast()}));
+}
+
+/// Where there is a bin, the file is in it afterwards; where there is none, it stays.
+void FileOperationsTest::realRecycling()
+{
+    if (!namesAreBytes)
+        QSKIP("the trash of this system has no known place");
+    const QByteArray before = qgetenv("XDG_DATA_HOME");
+    const QString path = m_tree->write(u"file"_s, "content");
+    qputenv("XDG_DATA_HOME", QFile::encodeName(m_tree->write(u"no folder"_s, "")));
+    const BatchResult refused = recycleFiles({path});
+    qputenv("XDG_DATA_HOME", QFile::encodeName(m_tree->path(u"new/share"_s)));
+    const BatchResult done = recycleFiles({path});
+    before.isNull() ? qunsetenv("XDG_DATA_HOME") : qputenv("XDG_DATA_HOME", before);
+    QCOMPARE(refused.errors, QStringList{u"无法放入回收站，已保留: "_s + path});
+    QCOMPARE(done.errors, QStringList());
+    QCOMPARE(done.count, 1);
+    QVERIFY(!QFile::exists(path));
+    QCOMPARE(contentOf(m_tree->path(u"new/share/Trash/files/file"_s)), QByteArray("content"));
+}
+
+QTEST_GUILESS_MAIN(FileOperationsTest)
+#include "tst_fileoperations.moc"

@@ -1,0 +1,219 @@
+#include "tests/support/disk.h"
+#include "tests/support/program.h"
+#include "tests/support/temptree.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QTest>
+
+#include <memory>
+
+using namespace MirrixTest;
+using namespace Qt::StringLiterals;
+
+class CleanCommandTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void onlyTellsWithoutApply();
+    void methods_data();
+    void methods();
+    void backUpAndRestoreAll();
+    void restoreChosen();
+    void failuresAreNamed();
+    void interrupted();
+    void mistakes_data();
+    void mistakes();
+
+private:
+    [[nodiscard]] ProgramRun run(const QStringList &arguments) const
+    {
+        return m_program->run(QStringList{arguments[0], u"--data-dir"_s, m_program->dataFolder()} + arguments.mid(1));
+    }
+    [[nodiscard]] ProgramRun clean(const QString &method, const QStringList &more = {}) const
+    {
+        return run(QStringList{u"clean"_s, u"--keep"_s, u"oldest"_s, u"--method"_s, method} + more +
+                   QStringList{m_tree->path(u"src"_s)});
+    }
+    [[nodiscard]] DiskTree source() const { return treeBelow(m_tree->path(u"src"_s)); }
+    /// The log's records behind `skipped` ones, as "action: detail".
+    [[nodiscard]] QStringList logged(int skipped = 0) const
+    {
+        QStringList lines;
+        const QJsonArray items = QJsonDocument::fromJson(run({u"log"_s, u"--format"_s, u"json"_s}).output).array();
+        for (const QJsonValue &item : items)
+            lines.append(item[u"action"_s].toString() + u": "_s + item[u"detail"_s].toString());
+        return lines.mid(skipped);
+    }
+
+    std::unique_ptr<TempTree> m_tree;
+    std::unique_ptr<Program> m_program;
+};
+
+/// Three equal files, "b" the oldest and so the one that stays, and one of its own.
+void CleanCommandTest::init()
+{
+    m_tree = std::make_unique<TempTree>();
+    m_program = std::make_unique<Program>();
+    qint64 modifiedMs = 1234567890123;
+    for (const QString &name : {u"src/b"_s, u"src/deep/日本"_s, u"src/a"_s}) {
+        m_tree->write(name, "content");
+        m_tree->setModified(name, modifiedMs += 60000);
+    }
+    m_tree->write(u"src/other"_s, "CONTENT");
+}
+
+void CleanCommandTest::onlyTellsWithoutApply()
+{
+    const DiskTree before = source();
+    const ProgramRun told = clean(u"delete"_s);
+    QCOMPARE(told.errors, QByteArray());
+    QCOMPARE(told.status, 0);
+    QList<QByteArray> lines = told.output.split('\n');
+    std::sort(lines.begin() + 1, lines.begin() + 3);
+    const QByteArray folder = m_tree->path(u"src/"_s).toUtf8();
+    QCOMPARE(lines,
+             (QList<QByteArray>{"keep " + folder + "b", "  delete " + folder + "a", "  delete " + folder + "deep/日本",
+                                "2 files, 14 B; nothing was done (--apply does it)", ""}));
+    QCOMPARE(source(), before);
+    QCOMPARE(logged(), QStringList());
+}
+
+void CleanCommandTest::methods_data()
+{
+    QTest::addColumn<QString>("record");
+    QTest::newRow("delete") << u"remove_batch: method=1 count=2"_s;
+    QTest::newRow("move") << u"remove_batch: method=2 count=2"_s;
+    QTest::newRow("symlink") << u"remove_batch: method=3 count=2"_s;
+    QTest::newRow("hardlink") << u"remove_batch: method=4 count=2"_s;
+    QTest::newRow("backup") << u"backup_batch: count=2"_s;
+}
+
+void CleanCommandTest::methods()
+{
+    QFETCH(QString, record);
+    const QString method = QString::fromLatin1(QTest::currentDataTag());
+    if (method == u"symlink"_s && !m_tree->symbolicLink(u"src/b"_s, u"probe"_s))
+        QSKIP("no symbolic links");
+    DiskTree expected = source();
+    for (const QString &name : {u"a"_s, u"deep/日本"_s}) {
+        if (method.endsWith(u"link"_s))
+            expected[name] = (method == u"symlink"_s ? "link to " : "") + expected[u"b"_s];
+        else
+            expected.remove(name);
+    }
+    QStringList more = {u"--apply"_s};
+    if (method == u"move"_s || method == u"backup"_s)
+        more += {u"--target"_s, m_tree->path(u"src/away"_s)}; // below the folder that is scanned
+    const ProgramRun done = clean(method, more);
+    QCOMPARE(done.errors, QByteArray());
+    QCOMPARE(done.status, 0);
+    DiskTree after = source();
+    const qsizetype away = after.removeIf([](const auto &file) { return file.key().startsWith(u"away/"_s); });
+    QCOMPARE(after, expected);
+    QCOMPARE(away, method == u"move"_s ? 2 : method == u"backup"_s ? 3 : 0);
+    QCOMPARE(logged(),
+             (QStringList{u"scan_start: mode=content roots="_s + m_tree->path(u"src"_s),
+                          u"scan_done: groups=1 wasted=14 candidates=4"_s, u"auto_keep: rule=1 count=2"_s, record}));
+    const ProgramRun again = clean(method, more);
+    QCOMPARE(again.output, QByteArray("0 of 0 files done (" + method.toLatin1() + ")\n"));
+}
+
+void CleanCommandTest::backUpAndRestoreAll()
+{
+    const DiskTree before = source();
+    QCOMPARE(clean(u"backup"_s, {u"--apply"_s}).status, 0);
+    QCOMPARE(source().size(), 2);
+    const ProgramRun list = run({u"restore"_s});
+    QCOMPARE(list.output.count("  <-  " + m_program->dataFolder().toUtf8() + "/Backup/"), 2);
+    const ProgramRun restored = run({u"restore"_s, u"--all"_s});
+    QCOMPARE(restored.output, QByteArray("2 of 2 files restored\n"));
+    QCOMPARE(restored.status, 0);
+    QCOMPARE(source(), before);
+    QStringList lines = logged(4);
+    for (const QByteArray &line : list.output.trimmed().split('\n'))
+        QVERIFY(lines.removeOne(u"restore: "_s + QString::fromUtf8(line.trimmed())));
+    QVERIFY(lines.isEmpty());
+    QCOMPARE(run({u"restore"_s}).output, QByteArray());
+}
+
+/// The latest backup of a path comes back; the earlier one stays where it is.
+void CleanCommandTest::restoreChosen()
+{
+    const QString path = m_tree->path(u"src/a"_s);
+    QCOMPARE(clean(u"backup"_s, {u"--apply"_s}).status, 0);
+    m_tree->write(u"src/a"_s, "CONTENT");
+    QCOMPARE(clean(u"backup"_s, {u"--apply"_s}).status, 0);
+    const ProgramRun restored = run({u"restore"_s, path, u"nothing"_s});
+    QCOMPARE(restored.errors, QByteArray("mirrix-cli: nothing: not in the backup folder\n"));
+    QCOMPARE(restored.status, 1);
+    QCOMPARE(contentOf(path), QByteArray("CONTENT"));
+    const ProgramRun occupied = run({u"restore"_s, path});
+    QCOMPARE(occupied.errors,
+             "mirrix-cli: A file already exists at the original path; restore cancelled: " + path.toUtf8() + '\n');
+    QCOMPARE(contentOf(path), QByteArray("CONTENT"));
+}
+
+void CleanCommandTest::failuresAreNamed()
+{
+    m_tree->write(u"away/a"_s, "in the way");
+    const ProgramRun done = clean(u"move"_s, {u"--apply"_s, u"--target"_s, m_tree->path(u"away"_s)});
+    QCOMPARE(done.errors, "mirrix-cli: Destination already exists: " + m_tree->path(u"away/a"_s).toUtf8() + '\n');
+    QCOMPARE(done.output, QByteArray("1 of 2 files done (move)\n"));
+    QCOMPARE(done.status, 1);
+    QCOMPARE(source().keys(), (QStringList{u"a"_s, u"b"_s, u"other"_s}));
+}
+
+/// A polite request to end that arrives while the first file moves: that one is finished, listed and logged.
+void CleanCommandTest::interrupted()
+{
+    QProcess process;
+    m_program->prepare(process, {u"-f"_s, u"-qq"_s, u"-o"_s, u"/dev/null"_s, u"-e"_s, u"trace=renameat2"_s, u"-e"_s,
+                                 u"inject=renameat2:signal=SIGTERM:when=1"_s, Program::builtExecutable(), u"clean"_s,
+                                 u"--data-dir"_s, m_program->dataFolder(), u"--keep"_s, u"oldest"_s, u"--method"_s,
+                                 u"backup"_s, u"--apply"_s, m_tree->path(u"src"_s)});
+    process.setProgram(u"strace"_s);
+    process.start();
+    const ProgramRun done = Program::ended(process);
+    if (process.error() == QProcess::FailedToStart)
+        QSKIP("cannot trace processes");
+    QCOMPARE(done.errors, QByteArray("mirrix-cli: cancelled\n"));
+    QCOMPARE(done.status, 3);
+    QCOMPARE(source().size(), 3);
+    QCOMPARE(run({u"restore"_s}).output.count("\n"), 1);
+    QCOMPARE(logged(3), QStringList{u"backup_batch: count=1"_s});
+}
+
+void CleanCommandTest::mistakes_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("message");
+    const auto row = [](const QString &arguments, const QString &message) {
+        QTest::newRow(qPrintable(arguments)) << arguments.split(u' ') << message;
+    };
+    row(u"clean --method delete /a"_s, u"--keep needs newest, oldest, shallowest, deepest, not \"\""_s);
+    row(u"clean --keep newest --method burn /a"_s,
+        u"--method needs recycle, delete, move, symlink, hardlink, backup, not \"burn\""_s);
+    row(u"clean --keep newest --method delete"_s, u"no folder to scan"_s);
+    row(u"clean --keep newest --method move /a"_s, u"--method move needs --target DIR"_s);
+    row(u"clean --keep newest --method delete --target /b /a"_s, u"--target does not go with --method delete"_s);
+    for (const QString &loose : {u"contentMatch=2"_s, u"searchMode=1"_s})
+        row(u"clean --keep newest --method delete --set "_s + loose + u" /a"_s,
+            u"clean acts on files of identical content only"_s);
+    row(u"restore --all x"_s, u"--list, --all and entries exclude each other"_s);
+    row(u"log --format csv"_s, u"--format needs text or json, not \"csv\""_s);
+}
+
+void CleanCommandTest::mistakes()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, message);
+    const ProgramRun done = run(arguments);
+    QCOMPARE(done.errors, usageErrorText(message));
+    QCOMPARE(done.status, 2);
+}
+
+QTEST_GUILESS_MAIN(CleanCommandTest)
+#include "tst_cleancommand.moc"

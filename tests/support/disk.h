@@ -1,0 +1,106 @@
+#pragma once
+
+#include "core/platform/nativepath.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QMap>
+#include <QProcess>
+#include <QString>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <memory>
+
+namespace MirrixTest {
+
+// What really is on the disk, read by other means than the code under test.
+
+/// Files below a folder by their path in it, with content and modification time; links with what they lead to.
+using DiskTree = QMap<QString, QByteArray>;
+
+[[nodiscard]] inline std::filesystem::path exactNative(const QString &path)
+{
+    const bool hasDrive = path.size() > 1 && path[1] == QLatin1Char(':');
+    return (hasDrive ? QLatin1String("\\\\?\\") + QDir::toNativeSeparators(path) : path).toStdU16String();
+}
+
+[[nodiscard]] inline QByteArray contentAt(const std::filesystem::path &path)
+{
+    std::ifstream stream(path, std::ios::binary);
+    return QByteArray::fromStdString(std::string(std::istreambuf_iterator<char>(stream), {}));
+}
+
+[[nodiscard]] inline QByteArray contentOf(const QString &path)
+{
+    return contentAt(exactNative(path));
+}
+
+[[nodiscard]] inline DiskTree treeBelow(const QString &folder)
+{
+    DiskTree tree;
+    const std::filesystem::path root = exactNative(folder);
+    for (const auto &entry : std::filesystem::recursive_directory_iterator(root)) {
+        if (entry.is_directory() && !entry.is_symlink())
+            continue;
+        std::error_code error;
+        const auto time = std::filesystem::last_write_time(entry.path(), error).time_since_epoch().count();
+        const QString name = QString::fromStdU16String(entry.path().lexically_relative(root).generic_u16string());
+        tree.insert(name, (entry.is_symlink() ? "link to " : "") + contentAt(entry.path()) + " @" +
+                              QByteArray::number(qint64(time)));
+    }
+    return tree;
+}
+
+/// A temporary folder on another volume than `folder`; null where none is found.
+[[nodiscard]] inline std::unique_ptr<QTemporaryDir> folderOnOtherVolume(const QString &folder)
+{
+    for (const QString &place : {QStringLiteral("/dev/shm"), QStringLiteral("Z:/dev/shm"), QDir::homePath()}) {
+        auto other = std::make_unique<QTemporaryDir>(place + QStringLiteral("/mirrix-XXXXXX"));
+        QFile probe(folder + QStringLiteral("/probe"));
+        if (!other->isValid() || !probe.open(QIODevice::WriteOnly))
+            continue;
+        probe.close();
+        std::error_code error;
+        std::filesystem::rename(exactNative(probe.fileName()), exactNative(other->filePath(QStringLiteral("probe"))),
+                                error);
+        probe.remove();
+        if (error)
+            return other;
+    }
+    return nullptr;
+}
+
+/// The folder of 20 KiB on which the running test function is to work when it runs for the second time; empty in the
+/// first run.
+[[nodiscard]] inline QString smallDisk()
+{
+    return qEnvironmentVariable("MIRRIX_SMALL_DISK");
+}
+
+/// Runs the current row once more, with smallDisk() set. False, with the reason in `problem`, when that run failed;
+/// "cannot mount" where a file system cannot be mounted.
+[[nodiscard]] inline bool passesOnSmallDisk(QByteArray &problem)
+{
+    const QTemporaryDir folder;
+    const QString script = QStringLiteral("mount -t tmpfs -o size=20k none \"$0\" || exit 77; "
+                                          "MIRRIX_SMALL_DISK=\"$0\" exec \"$1\" \"$2\"");
+    const char *tag = QTest::currentDataTag();
+    const QString row =
+        QLatin1String(QTest::currentTestFunction()) + (tag ? QLatin1Char(':') + QString::fromUtf8(tag) : QString());
+    QProcess process;
+    process.start(QStringLiteral("unshare"), {QStringLiteral("-m"), QStringLiteral("sh"), QStringLiteral("-c"), script,
+                                              folder.path(), QCoreApplication::applicationFilePath(), row});
+    process.waitForFinished();
+    const QByteArray output = process.readAll();
+    const bool hasRun = process.error() != QProcess::FailedToStart && output.contains("PASS");
+    problem = hasRun || output.contains("FAIL!") ? output : QByteArray("cannot mount");
+    return hasRun && process.exitCode() == 0;
+}
+
+} // namespace MirrixTest
