@@ -4,12 +4,10 @@ namespace MirrixCore {
 
 ScanResult groupEmptyFiles(const QList<FileEntry> &files)
 {
-    ScanResult result;
-    result.filesScanned = files.size();
+    ScanResult result = resultOn(files);
     DuplicateGroup group;
     group.key = QStringLiteral("empty");
     for (const FileEntry &file : files) {
-        result.totalBytes += file.size;
         if (file.size == 0)
             group.files.append(file);
     }

@@ -3,36 +3,19 @@
 #include "core/cache/cacheroot.h"
 #include "core/cache/fingerprintcache.h"
 #include "core/hash/contenthash.h"
-#include "core/match/digest.h"
-#include "core/match/hardlinks.h"
+#include "core/match/candidates.h"
+#include "core/match/contentgroups.h"
 #include "core/match/parallel.h"
-#include "core/match/rulekeys.h"
+#include "core/match/unreadfiles.h"
 #include "core/scan/threadpool.h"
 
 #include <QElapsedTimer>
-#include <QHash>
 
-#include <algorithm>
-#include <span>
 #include <vector>
 
 namespace MirrixCore {
 
 namespace {
-
-/// A file of a size that occurs more than once, and what is known of its content.
-struct Candidate
-{
-    quint32 file = 0; ///< index into the input list
-    Digest quick;     ///< of a small file, with the cache off: the full one, which tells the same
-    Digest full;
-    bool mustStore = false; ///< holds a digest that the cache has not
-};
-
-using Candidates = std::vector<Candidate>;
-
-/// Candidates next to each other that have a digest in common.
-using Run = std::span<Candidate>;
 
 /// How long a cancelled scan may go on writing down the digests it has gained.
 constexpr qint64 cancelledStoreMs = 100;
@@ -52,10 +35,8 @@ public:
 
     ScanResult run()
     {
-        m_result.filesScanned = m_files.size();
-        for (const FileEntry &file : m_files)
-            m_result.totalBytes += file.size;
-        Candidates candidates = filesOfSharedSize();
+        m_result = resultOn(m_files);
+        Candidates candidates = filesOfSharedSize(m_files);
         m_result.candidates = static_cast<qint64>(candidates.size());
         sizeThreadPool(m_options);
 
@@ -67,27 +48,12 @@ public:
         if (isCancelled(m_cancelled))
             return abandoned(candidates);
         candidates.resize(static_cast<size_t>(shared));
-        collectGroups(candidates);
-        return std::move(m_result);
+        collectGroups(candidates, m_files, m_result);
+        finishContentGroups(m_result, m_options, m_cancelled);
+        return finished();
     }
 
 private:
-    Candidates filesOfSharedSize() const
-    {
-        QHash<qint64, quint32> filesOfSize;
-        for (const FileEntry &file : m_files) {
-            if (file.size > 0)
-                ++filesOfSize[file.size];
-        }
-        Candidates candidates;
-        candidates.reserve(static_cast<size_t>(m_files.size() / 4 + 8));
-        for (qsizetype i = 0; i < m_files.size(); ++i) {
-            if (filesOfSize.value(m_files[i].size) >= 2)
-                candidates.push_back({static_cast<quint32>(i), {}, {}, false});
-        }
-        return candidates;
-    }
-
     void hashQuick(Candidates &candidates)
     {
         StageProgress progress(m_progress, Phase::QuickHash, m_files.size(), std::ssize(candidates));
@@ -114,10 +80,10 @@ private:
         HashNotes notes;
         if (file.size <= quickCoversBytes) {
             const SmallFileDigests digests = smallFileDigests(file.path, file.size, m_usesCache, &notes);
-            candidate.full = Digest(accepted(file, digests.full, notes));
-            candidate.quick = m_usesCache ? Digest(digests.quick) : candidate.full;
+            candidate.full = Digest(m_unread.accepted(file, digests.full, notes));
+            candidate.quick = m_usesCache ? Digest(digests.quick) : candidate.full; // which tells the same
         } else {
-            candidate.quick = Digest(accepted(file, quickHash(file.path, &notes), notes));
+            candidate.quick = Digest(m_unread.accepted(file, quickHash(file.path, &notes), notes));
         }
         candidate.mustStore = describes(notes, file);
     }
@@ -159,7 +125,7 @@ private:
         if (!candidate.full.isEmpty())
             return;
         HashNotes notes;
-        const Digest full(accepted(file, fullContentHash(file.path, m_cancelled, &notes), notes));
+        const Digest full(m_unread.accepted(file, fullContentHash(file.path, m_cancelled, &notes), notes));
         if (full.isEmpty())
             return;
         if (describes(notes, file))
@@ -167,18 +133,6 @@ private:
         else
             store(candidate); // the quick digest was taken earlier and may still fit
         candidate.full = full;
-    }
-
-    /// `digest`, or an empty one when the file could not be read or changed meanwhile; notes why.
-    QByteArray accepted(const FileEntry &file, const QByteArray &digest, const HashNotes &notes)
-    {
-        if (!digest.isEmpty() && !notes.hasChanged)
-            return digest;
-        if (notes.hasChanged)
-            noteUnread(file, QStringLiteral("changed while it was read"));
-        else if (!notes.failure.isEmpty())
-            noteUnread(file, notes.failure);
-        return {};
     }
 
     /// Whether the digest was taken from the state of the file that the walk saw, so that the cache may remember it.
@@ -209,93 +163,13 @@ private:
                 break;
             store(candidate);
         }
+        return finished();
+    }
+
+    ScanResult finished()
+    {
+        m_result.unread = m_unread.take();
         return std::move(m_result);
-    }
-
-    void noteUnread(const FileEntry &file, const QString &reason)
-    {
-        const std::lock_guard lock(m_unreadMutex);
-        m_result.unread.append({file.path, reason});
-    }
-
-    /// Sorts by `digest`, input order within, and returns each run of two or more equal, non-empty ones.
-    static std::vector<Run> runsOf(Candidates &candidates, Digest Candidate::*digest)
-    {
-        sortBy(candidates, digest);
-        std::vector<Run> runs;
-        for (auto begin = candidates.begin(); begin != candidates.end();) {
-            const auto end = std::find_if(begin, candidates.end(), [&](const Candidate &candidate) {
-                return candidate.*digest != (*begin).*digest;
-            });
-            if (!((*begin).*digest).isEmpty() && end - begin >= 2)
-                runs.emplace_back(begin, end);
-            begin = end;
-        }
-        return runs;
-    }
-
-    /// Sorts short keys and then moves each candidate once: the candidates themselves are too long to be swapped about.
-    static void sortBy(Candidates &candidates, Digest Candidate::*digest)
-    {
-        std::vector<std::pair<quint64, quint32>> order(candidates.size());
-        for (size_t i = 0; i < order.size(); ++i)
-            order[i] = {(candidates[i].*digest).leadingBits(), static_cast<quint32>(i)};
-        std::sort(order.begin(), order.end(), [&](const auto &a, const auto &b) {
-            if (a.first != b.first)
-                return a.first < b.first;
-            const Candidate &left = candidates[a.second];
-            const Candidate &right = candidates[b.second];
-            const auto byDigest = left.*digest <=> right.*digest;
-            return byDigest != 0 ? byDigest < 0 : left.file < right.file;
-        });
-        Candidates sorted;
-        sorted.reserve(candidates.size());
-        for (const auto &entry : order)
-            sorted.push_back(candidates[entry.second]);
-        candidates.swap(sorted);
-    }
-
-    /// Brings the candidates that share a quick digest with another to the front, runs together, and takes the others'
-    /// full digests from them, which nobody needs; returns how many are in front.
-    static qsizetype moveSharedToFront(Candidates &candidates)
-    {
-        Candidates ordered;
-        std::vector<bool> isShared(candidates.size());
-        qsizetype count = 0;
-        for (const Run &run : runsOf(candidates, &Candidate::quick)) {
-            const auto first = static_cast<size_t>(run.data() - candidates.data());
-            std::fill_n(isShared.begin() + static_cast<std::ptrdiff_t>(first), run.size(), true);
-            count += std::ssize(run);
-        }
-        ordered.reserve(candidates.size());
-        for (const bool wanted : {true, false}) {
-            for (size_t i = 0; i < candidates.size(); ++i) {
-                if (isShared[i] == wanted)
-                    ordered.push_back(candidates[i]);
-            }
-        }
-        for (size_t i = static_cast<size_t>(count); i < ordered.size(); ++i)
-            ordered[i].full = {};
-        candidates.swap(ordered);
-        return count;
-    }
-
-    void collectGroups(Candidates &candidates)
-    {
-        for (const Run &run : runsOf(candidates, &Candidate::full)) {
-            DuplicateGroup group;
-            group.key = QString::fromLatin1(run.front().full.bytes().toHex());
-            group.files.reserve(std::ssize(run));
-            for (const Candidate &candidate : run)
-                group.files.append(m_files[candidate.file]);
-            group.wastedBytes = wasteOf(group.files);
-            m_result.groups.append(group);
-        }
-        m_result.groups = refineGroupsByRuleKeys(m_result.groups, m_options, m_cancelled);
-        if (m_options.collapseHardLinks)
-            collapseHardLinks(m_result.groups);
-        m_result.wastedBytes = totalWaste(m_result.groups);
-        sortByWaste(m_result.groups);
     }
 
     const QList<FileEntry> &m_files;
@@ -303,7 +177,7 @@ private:
     const ProgressCallback &m_progress;
     const CancelQuery &m_cancelled;
     const bool m_usesCache;
-    std::mutex m_unreadMutex;
+    UnreadFiles m_unread;
     ScanResult m_result;
 };
 

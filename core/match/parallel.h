@@ -48,11 +48,12 @@ public:
         , m_report{filesFound, 0, total, {}, phase}
     {}
 
-    /// Counts one item. Thread-safe.
-    void step(const QString &path)
+    /// Counts `items` of them. Thread-safe.
+    void step(const QString &path, qint64 items = 1)
     {
-        const qint64 done = m_done.fetch_add(1, std::memory_order_relaxed) + 1;
-        if (!m_callback || (done % itemsPerReport != 0 && done != m_report.total))
+        const qint64 before = m_done.fetch_add(items, std::memory_order_relaxed);
+        const qint64 done = before + items;
+        if (!m_callback || (done / itemsPerReport == before / itemsPerReport && done != m_report.total))
             return;
         const std::lock_guard lock(m_mutex);
         if (done < m_report.processed)

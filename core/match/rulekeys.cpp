@@ -151,10 +151,7 @@ QString buildRuleKey(const FileEntry &entry, const ScanOptions &options, bool in
 ScanResult groupByRuleKeys(const QList<FileEntry> &files, const ScanOptions &options, bool includeMedia,
                            const CancelQuery &cancelled)
 {
-    ScanResult result;
-    result.filesScanned = files.size();
-    for (const FileEntry &file : files)
-        result.totalBytes += file.size;
+    ScanResult result = resultOn(files);
     const QList<Bucket> buckets = bucketsOf(files, options, includeMedia, options.similarNames);
     result.groups = groupsOf(buckets, {}, QStringLiteral("%1|SFN:%2"), options, cancelled);
     if (options.collapseHardLinks)

@@ -37,14 +37,6 @@ QList<FileEntry> enumerate(ScanOptions options, const ProgressCallback &progress
     return files;
 }
 
-qint64 totalSize(const QList<FileEntry> &files)
-{
-    qint64 sum = 0;
-    for (const FileEntry &file : files)
-        sum += file.size;
-    return sum;
-}
-
 void append(ScanResult &result, const ScanResult &part)
 {
     result.groups += part.groups;

@@ -21,6 +21,22 @@ qint64 wasteOf(const QList<FileEntry> &files)
     return sum - largest;
 }
 
+qint64 totalSize(const QList<FileEntry> &files)
+{
+    qint64 sum = 0;
+    for (const FileEntry &file : files)
+        sum += file.size;
+    return sum;
+}
+
+ScanResult resultOn(const QList<FileEntry> &files)
+{
+    ScanResult result;
+    result.filesScanned = files.size();
+    result.totalBytes = totalSize(files);
+    return result;
+}
+
 qint64 totalWaste(const QList<DuplicateGroup> &groups)
 {
     qint64 sum = 0;

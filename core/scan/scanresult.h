@@ -70,6 +70,12 @@ void sortByWaste(QList<DuplicateGroup> &groups);
 /// What removing all but one of `files` frees at least: the sum of their sizes less the largest.
 [[nodiscard]] qint64 wasteOf(const QList<FileEntry> &files);
 
+/// Sum of their sizes.
+[[nodiscard]] qint64 totalSize(const QList<FileEntry> &files);
+
+/// A result without groups that counts `files` as what was examined.
+[[nodiscard]] ScanResult resultOn(const QList<FileEntry> &files);
+
 /// Sum of the groups' wastedBytes.
 [[nodiscard]] qint64 totalWaste(const QList<DuplicateGroup> &groups);
 

@@ -1,0 +1,30 @@
+#include "core/match/contentgroups.h"
+
+#include "core/match/hardlinks.h"
+#include "core/match/rulekeys.h"
+
+namespace MirrixCore {
+
+void collectGroups(Candidates &candidates, const QList<FileEntry> &files, ScanResult &result)
+{
+    for (const Run &run : runsOf(candidates, &Candidate::full)) {
+        DuplicateGroup group;
+        group.key = QString::fromLatin1(run.front().full.bytes().toHex());
+        group.files.reserve(std::ssize(run));
+        for (const Candidate &candidate : run)
+            group.files.append(files[candidate.file]);
+        group.wastedBytes = wasteOf(group.files);
+        result.groups.append(group);
+    }
+}
+
+void finishContentGroups(ScanResult &result, const ScanOptions &options, const CancelQuery &cancelled)
+{
+    result.groups = refineGroupsByRuleKeys(result.groups, options, cancelled);
+    if (options.collapseHardLinks)
+        collapseHardLinks(result.groups);
+    result.wastedBytes = totalWaste(result.groups);
+    sortByWaste(result.groups);
+}
+
+} // namespace MirrixCore
