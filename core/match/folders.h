@@ -5,15 +5,21 @@
 
 namespace MirrixCore {
 
-/// Groups of folders with the same content, from finished file groups. Not written yet: finds none.
-[[nodiscard]] QList<FolderGroup> findDuplicateFolders(const QList<FileEntry> &files,
-                                                      const QList<DuplicateGroup> &groups, const ScanOptions &options);
+/// Groups of folders with the same content: the same paths below them, and behind each path files of one group, or
+/// empty files. A folder with a file in no group, or with something that could not be read, has no duplicate; what the
+/// filters left out of `files` is not looked at. Only the topmost are listed: folders whose parents are already grouped
+/// pair by pair are left out. Scan roots and folders below them count. The matches must be of contents (identical,
+/// samples or openings); for any other search, and in locations that look for something else, there are none. `scan`
+/// gives the file groups and what was unread. By reclaimable size, largest first; folders in the order of `files`.
+/// Takes time linear in the files times the logarithm of the folders.
+[[nodiscard]] QList<FolderGroup> findDuplicateFolders(const QList<FileEntry> &files, const ScanResult &scan,
+                                                      const ScanOptions &options);
 
-/// Drops the groups without two members inside duplicate folders. Not written yet: no folder counts as a duplicate, so
-/// every group is dropped.
-void keepGroupsOfDuplicateFolders(QList<DuplicateGroup> &groups, const QList<FileEntry> &files);
+/// Drops the groups without two members inside folders of `folderGroups`.
+void keepGroupsOfDuplicateFolders(QList<DuplicateGroup> &groups, const QList<FolderGroup> &folderGroups);
 
-/// The files in no group, of the locations that show them. Not written yet: none.
+/// The files in no group, in their order, of the locations that show them; without locations, all of them when
+/// `showRemaining` is on.
 [[nodiscard]] QList<FileEntry> remainingFiles(const QList<FileEntry> &files, const QList<DuplicateGroup> &groups,
                                               const ScanOptions &options);
 

@@ -8,18 +8,23 @@ namespace {
 
 bool isInOneFolder(const DuplicateGroup &group)
 {
-    const QString folder = folderOf(group.files.constFirst().path);
+    const QStringView folder = folderOf(group.files.constFirst().path);
     return std::all_of(group.files.begin(), group.files.end(),
                        [&](const FileEntry &file) { return folderOf(file.path) == folder; });
 }
 
 } // namespace
 
-QString folderOf(const QString &path)
+QStringView folderOf(QStringView path)
 {
     const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
     const bool isRoot = slash == 0 || (slash == 2 && path[1] == QLatin1Char(':'));
     return path.left(isRoot ? slash + 1 : std::max<qsizetype>(slash, 0));
+}
+
+QStringView nameOf(QStringView path)
+{
+    return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
 }
 
 void finishGroups(QList<DuplicateGroup> &groups, const ScanOptions &options)

@@ -48,7 +48,7 @@ public:
         , m_report{filesFound, 0, total, {}, phase}
     {}
 
-    /// Counts `items` of them. Thread-safe.
+    /// Counts `items` items, worked on at `path`; an empty one leaves the last in the report. Thread-safe.
     void step(const QString &path, qint64 items = 1)
     {
         const qint64 before = m_done.fetch_add(items, std::memory_order_relaxed);
@@ -59,7 +59,8 @@ public:
         if (done < m_report.processed)
             return; // another thread was quicker to report a later count
         m_report.processed = done;
-        m_report.currentPath = path;
+        if (!path.isEmpty())
+            m_report.currentPath = path;
         m_callback(m_report);
     }
 

@@ -28,11 +28,6 @@ QString cased(const QString &text, const ScanOptions &options)
     return options.caseSensitive ? text : text.toLower();
 }
 
-QString fileNameOf(const QString &path)
-{
-    return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
-}
-
 qint64 timeKey(qint64 timeMs, bool isDateOnly)
 {
     if (timeMs < 1)
@@ -61,7 +56,7 @@ QString pathUnderRoot(const QString &path, const ScanOptions &options)
 
 void appendNameParts(QStringList &parts, const FileEntry &entry, const ScanOptions &options)
 {
-    const QString name = fileNameOf(entry.path);
+    const QString name = nameOf(entry.path).toString();
     if (options.sameName)
         parts.append(QLatin1String("FN:") + cased(options.ignoreCopyWords ? stripCopySuffix(name) : name, options));
     if (options.sameExtension)
@@ -83,11 +78,11 @@ void appendSizeAndDateParts(QStringList &parts, const FileEntry &entry, const Sc
 
 void appendPathParts(QStringList &parts, const FileEntry &entry, const ScanOptions &options)
 {
-    const QString folder = folderOf(entry.path);
+    const QString folder = folderOf(entry.path).toString();
     if (options.sameDrive)
         parts.append(QLatin1String("DR:") + QDir::rootPath());
     if (options.sameFolderName)
-        parts.append(QLatin1String("FD:") + cased(fileNameOf(folder), options));
+        parts.append(QLatin1String("FD:") + cased(nameOf(folder).toString(), options));
     if (options.sameFolderPath)
         parts.append(QLatin1String("FP:") + cased(leadingPieces(folder, options.folderPathDepth), options));
     if (options.samePathUnderRoot)

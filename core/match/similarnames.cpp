@@ -2,44 +2,17 @@
 
 #include "core/match/editdistance.h"
 #include "core/match/groups.h"
+#include "core/match/unionfind.h"
 
 #include <QHash>
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <numeric>
 #include <vector>
 
 namespace MirrixCore {
 
 namespace {
-
-/// Sets of members, joined pair by pair.
-class UnionFind
-{
-public:
-    explicit UnionFind(qsizetype count)
-        : m_parent(static_cast<size_t>(count))
-    {
-        std::iota(m_parent.begin(), m_parent.end(), 0);
-    }
-
-    /// Halves the path on its way up.
-    qint32 find(qint32 x)
-    {
-        while (m_parent[static_cast<size_t>(x)] != x) {
-            qint32 &parent = m_parent[static_cast<size_t>(x)];
-            parent = m_parent[static_cast<size_t>(parent)];
-            x = parent;
-        }
-        return x;
-    }
-
-    void join(qint32 i, qint32 j) { m_parent[static_cast<size_t>(find(j))] = find(i); }
-
-private:
-    std::vector<qint32> m_parent;
-};
 
 struct Name
 {
@@ -107,7 +80,7 @@ QString stripCopySuffix(const QString &text)
 
 QString normalizedBaseName(const QString &path, const ScanOptions &options)
 {
-    QString name = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
+    QString name = nameOf(path).toString();
     const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
     if (dot >= 0)
         name.truncate(dot);

@@ -6,15 +6,15 @@ QByteArray UnreadFiles::accepted(const FileEntry &file, const QByteArray &digest
 {
     if (!digest.isEmpty() && !notes.hasChanged)
         return digest;
-    if (notes.hasChanged)
-        noteChanged(file);
-    else if (!notes.failure.isEmpty())
-        note(file, notes.failure);
+    note(file, notes);
     return {};
 }
 
-void UnreadFiles::note(const FileEntry &file, const QString &reason)
+void UnreadFiles::note(const FileEntry &file, const HashNotes &notes)
 {
+    const QString reason = notes.hasChanged ? QStringLiteral("changed while it was read") : notes.failure;
+    if (reason.isEmpty())
+        return;
     const std::lock_guard lock(m_mutex);
     m_paths.append({file.path, reason});
 }

@@ -4,6 +4,7 @@
 #include "core/scan/scanresult.h"
 
 #include <mutex>
+#include <utility>
 
 namespace MirrixCore {
 
@@ -11,11 +12,11 @@ namespace MirrixCore {
 class UnreadFiles
 {
 public:
-    /// `digest`, or an empty one when the file could not be read or changed meanwhile; notes why.
+    /// `digest`, or an empty one when the file could not be read or changed meanwhile, which is noted.
     [[nodiscard]] QByteArray accepted(const FileEntry &file, const QByteArray &digest, const HashNotes &notes);
 
-    void note(const FileEntry &file, const QString &reason);
-    void noteChanged(const FileEntry &file) { note(file, QStringLiteral("changed while it was read")); }
+    /// Notes why `file` could not be used; nothing when its reading was cancelled.
+    void note(const FileEntry &file, const HashNotes &notes);
 
     /// The list so far, which is then empty.
     [[nodiscard]] QList<UnreadPath> take() { return std::exchange(m_paths, {}); }

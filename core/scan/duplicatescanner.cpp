@@ -56,6 +56,16 @@ ScanOptions nameOptions(ScanOptions options)
     return options;
 }
 
+void addFolders(ScanResult &result, const QList<FileEntry> &files, const ScanOptions &options)
+{
+    result.folderGroups = findDuplicateFolders(files, result, options);
+    if (options.duplicateFoldersOnly) {
+        keepGroupsOfDuplicateFolders(result.groups, result.folderGroups);
+        result.wastedBytes = totalWaste(result.groups);
+    }
+    result.folderSummaries = remainingFiles(files, result.groups, options);
+}
+
 } // namespace
 
 ScanResult DuplicateScanner::scan(const ScanOptions &options, const ProgressCallback &progress,
@@ -74,13 +84,11 @@ ScanResult DuplicateScanner::scan(const ScanOptions &options, const ProgressCall
 
     ScanResult result = matchLocations(files, options, progress, cancelled);
     result.unread = unread + result.unread;
-    if (options.duplicateFoldersOnly)
-        keepGroupsOfDuplicateFolders(result.groups, files);
     result.filesScanned = files.size();
     if (result.totalBytes == 0)
         result.totalBytes = totalSize(files);
-    result.folderGroups = findDuplicateFolders(files, result.groups, options);
-    result.folderSummaries = remainingFiles(files, result.groups, options);
+    if (!isCancelled(cancelled))
+        addFolders(result, files, options);
     result.elapsedMs = timer.elapsed();
     return result;
 }

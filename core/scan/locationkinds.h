@@ -7,7 +7,8 @@
 
 namespace MirrixCore {
 
-/// What each file of a scan is examined for, by the location it lies in.
+/// What each file of a scan is examined for, and whether it is listed when it is in no group, by the location it lies
+/// in.
 class LocationKinds
 {
 public:
@@ -22,13 +23,25 @@ public:
     /// The kind of the innermost location that holds `path`; ContentDuplicates when none does.
     [[nodiscard]] FindKind kindOf(const QString &path) const;
 
+    /// Whether any files are listed that are in no group.
+    [[nodiscard]] bool showRemaining() const;
+
+    /// Whether `path` is, if it is in no group: as its innermost location says; without locations, as the options say.
+    [[nodiscard]] bool showRemainingOf(const QString &path) const;
+
 private:
     struct Place
     {
         QString folder; ///< cleaned
         FindKind kind;
+        bool showRemaining;
     };
+
+    /// The innermost place that holds `path`; null when none does.
+    [[nodiscard]] const Place *placeOf(const QString &path) const;
+
     QList<Place> m_places; ///< longest folder first
+    bool m_showRemaining;  ///< what the options say without locations
 };
 
 } // namespace MirrixCore

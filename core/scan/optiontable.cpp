@@ -40,6 +40,7 @@ const QList<OptionField> &table()
     static const QList<OptionField> fields = {
         MIRRIX_OPTION(roots),
         MIRRIX_OPTION(locations),
+        MIRRIX_OPTION(showRemaining),
         MIRRIX_OPTION(excludeFolders),
         MIRRIX_OPTION(includeExtensions),
         MIRRIX_OPTION(excludeExtensions),

@@ -61,6 +61,7 @@ struct ScanOptions
     /// Settings of roots. A root without an entry is walked whole; it is examined as the entries are when these all
     /// want the same, else for content duplicates.
     QList<ScanLocation> locations;
+    bool showRemaining = false; ///< without locations: list all files that are in no group
     QStringList excludeFolders; ///< folders never entered
 
     // Which files to take.

@@ -32,7 +32,8 @@ QJsonValue changed(const QString &name, const QJsonValue &value)
 const QJsonObject &allDefaults()
 {
     static const QJsonObject defaults = QJsonDocument::fromJson(R"({
-        "roots": [], "locations": [], "excludeFolders": [], "includeExtensions": [], "excludeExtensions": [],
+        "roots": [], "locations": [], "showRemaining": false, "excludeFolders": [],
+        "includeExtensions": [], "excludeExtensions": [],
         "minSize": 0, "maxSize": 0, "createdFromMs": 0, "createdToMs": 0, "modifiedFromMs": 0, "modifiedToMs": 0,
         "skipHidden": false, "skipSystemFolders": false, "readFileIdentity": false, "collapseHardLinks": false,
         "searchMode": 0, "contentMatch": 0, "threads": 0, "mediaCompareDepth": 0, "mediaCompareDepthAlt": 0,

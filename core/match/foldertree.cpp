@@ -1,0 +1,76 @@
+#include "core/match/foldertree.h"
+
+#include "core/match/groups.h"
+
+#include <algorithm>
+
+namespace MirrixCore {
+
+namespace {
+
+bool isBelow(QStringView path, QStringView folder)
+{
+    return path.size() > folder.size() && path.startsWith(folder) &&
+           (folder.endsWith(QLatin1Char('/')) || path[folder.size()] == QLatin1Char('/'));
+}
+
+/// Those that lie in no other.
+QStringList outermost(const QStringList &roots)
+{
+    QStringList outer;
+    std::copy_if(roots.begin(), roots.end(), std::back_inserter(outer), [&](const QString &root) {
+        return std::none_of(roots.begin(), roots.end(), [&](const QString &other) { return isBelow(root, other); });
+    });
+    return outer;
+}
+
+} // namespace
+
+FolderTree::FolderTree(const QList<FileEntry> &files, const QStringList &roots)
+{
+    const QStringList tops = outermost(roots);
+    m_folderOfFile.reserve(static_cast<size_t>(files.size()));
+    QStringView lastPath;
+    qint32 last = none;
+    for (const FileEntry &file : files) {
+        const QStringView path = folderOf(file.path);
+        if (last == none || path != lastPath) // a walk gives the files of a folder together
+            last = add(path, tops);
+        lastPath = path;
+        m_folderOfFile.push_back(last);
+    }
+}
+
+qint32 FolderTree::add(QStringView path, const QStringList &tops)
+{
+    std::vector<QStringView> missing;
+    qint32 parent = none;
+    for (QStringView next = path;; next = folderOf(next)) {
+        parent = m_numbers.value(next, none);
+        if (parent != none)
+            break;
+        missing.push_back(next);
+        if (next.endsWith(QLatin1Char('/')) || next.isEmpty() || tops.contains(next))
+            break;
+    }
+    for (auto folder = missing.rbegin(); folder != missing.rend(); ++folder) {
+        const auto number = static_cast<qint32>(m_folders.size());
+        m_numbers.insert(*folder, number);
+        m_folders.push_back({*folder, parent});
+        parent = number;
+    }
+    return parent;
+}
+
+qint32 FolderTree::folderHolding(QStringView path) const
+{
+    while (!m_numbers.contains(path)) {
+        const QStringView above = folderOf(path);
+        if (above.size() == path.size())
+            return none;
+        path = above;
+    }
+    return m_numbers.value(path);
+}
+
+} // namespace MirrixCore

@@ -1,0 +1,232 @@
+#include "core/cache/cacheroot.h"
+#include "core/cache/fingerprintcache.h"
+#include "core/hash/contenthash.h"
+#include "core/scan/duplicatescanner.h"
+#include "tests/support/scans.h"
+#include "tests/support/temptree.h"
+
+#include <QCryptographicHash>
+#include <QFile>
+#include <QMap>
+#include <QScopeGuard>
+#include <QSet>
+#include <QTest>
+
+using namespace MirrixCore;
+using namespace MirrixTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 kib = 1024;
+constexpr qint64 fileBytes = 3000 * kib; // samples end at 4, 754, 1502, 2254 and 3000 KiB
+
+ScanOptions mediaOptions(const TempTree &tree, SearchMode mode, qint32 depth)
+{
+    ScanOptions options = optionsFor(tree);
+    options.searchMode = static_cast<qint32>(mode);
+    options.mediaCompareDepth = options.mediaCompareDepthAlt = depth;
+    return options;
+}
+
+QByteArray changedAt(qint64 position)
+{
+    QByteArray bytes = patternBytes(fileBytes);
+    bytes[position] = static_cast<char>(~bytes[position]);
+    return bytes;
+}
+
+/// The names in each group, one text a group.
+QSet<QString> groupTexts(const ScanResult &result, const TempTree &tree)
+{
+    QSet<QString> texts;
+    for (const DuplicateGroup &group : result.groups) {
+        QStringList paths = relativePaths(group.files, tree);
+        paths.sort();
+        texts.insert(paths.join(u' '));
+    }
+    return texts;
+}
+
+ScanResult scan(const ScanOptions &options, QMap<QString, qint64> *totals = nullptr)
+{
+    const auto note = [&](const ScanProgress &report) {
+        if (totals)
+            totals->insert(report.phase, report.total);
+    };
+    return DuplicateScanner::scan(options, note, {});
+}
+
+} // namespace
+
+class SampledContentTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { setCacheRoot({}); }
+
+    void comparesAsFarAsAsked_data();
+    void comparesAsFarAsAsked();
+    void namesGroupsByDigest();
+    void narrowsStageByStage();
+    void appliesRulesAndHardLinks();
+    void namesUnreadFiles();
+    void stopsWhenCancelled_data();
+    void stopsWhenCancelled();
+    void remembersWholeDigests();
+};
+
+void SampledContentTest::comparesAsFarAsAsked_data()
+{
+    QTest::addColumn<SearchMode>("mode");
+    QTest::addColumn<qint32>("depth");
+    QTest::addColumn<QSet<QString>>("expected");
+    const auto row = [](const char *name, SearchMode mode, qint32 depth, const QString &group) {
+        QTest::newRow(name) << mode << depth << QSet<QString>({group});
+    };
+    row("audio, whole", SearchMode::Audio, 0, u"copy same"_s);
+    row("audio, 2 MiB", SearchMode::Audio, 1, u"after2048 copy same"_s);
+    row("audio, 512 KiB", SearchMode::Audio, 2, u"after1024 after2048 after512 copy same"_s);
+    row("video, 1 MiB", SearchMode::Video, 0, u"after1024 after2048 copy same"_s);
+    row("video, whole", SearchMode::Video, 1, u"copy same"_s);
+}
+
+/// A byte that differs behind the limit and in no sample goes unseen; one in a sample never does.
+void SampledContentTest::comparesAsFarAsAsked()
+{
+    QFETCH(SearchMode, mode);
+    QFETCH(qint32, depth);
+    const TempTree tree;
+    tree.write(u"same"_s, patternBytes(fileBytes));
+    tree.write(u"copy"_s, patternBytes(fileBytes));
+    tree.write(u"before512"_s, changedAt(512 * kib - 1));
+    for (const qint64 limit : {512, 1024, 2048})
+        tree.write(u"after%1"_s.arg(limit), changedAt(limit * kib));
+    tree.write(u"insample"_s, changedAt(fileBytes - 1));
+    tree.write(u"empty"_s, "");
+    tree.write(u"empty2"_s, "");
+    const ScanResult result = scan(mediaOptions(tree, mode, depth));
+    QTEST(groupTexts(result, tree), "expected");
+    QCOMPARE(result.candidates, 7);
+    QCOMPARE(result.filesScanned, 9);
+    QCOMPARE(result.wastedBytes, (result.groups[0].files.size() - 1) * fileBytes);
+}
+
+void SampledContentTest::namesGroupsByDigest()
+{
+    const TempTree tree;
+    const QByteArray content = patternBytes(600 * kib);
+    tree.write(u"a"_s, content);
+    tree.write(u"b"_s, content);
+    const auto md5 = [](const QByteArray &bytes) {
+        return QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Md5).toHex());
+    };
+    QCOMPARE(scan(mediaOptions(tree, SearchMode::Audio, 0)).groups.value(0).key, md5(content));
+    QCOMPARE(scan(mediaOptions(tree, SearchMode::Audio, 2)).groups.value(0).key,
+             md5(QByteArray::number(content.size()) + content.left(512 * kib)));
+}
+
+void SampledContentTest::narrowsStageByStage()
+{
+    const TempTree tree;
+    tree.write(u"a"_s, changedAt(0));
+    tree.write(u"b"_s, changedAt(100 * kib));
+    tree.write(u"c"_s, changedAt(200 * kib));
+    tree.write(u"other size"_s, patternBytes(10));
+    QMap<QString, qint64> totals;
+    QCOMPARE(scan(mediaOptions(tree, SearchMode::Video, 0), &totals).groups.size(), 0);
+    QCOMPARE(totals[Phase::SampleHash], 3);
+    QCOMPARE(totals[Phase::PrefixHash], 2);
+}
+
+void SampledContentTest::appliesRulesAndHardLinks()
+{
+    const TempTree tree;
+    for (const QString &path : {u"1/x.mp3"_s, u"2/x.mp3"_s, u"3/y.mp3"_s})
+        tree.write(path, patternBytes(10000));
+    ScanOptions options = mediaOptions(tree, SearchMode::Audio, 1);
+    options.sameName = true;
+    const ScanResult named = scan(options);
+    QCOMPARE(groupTexts(named, tree), QSet<QString>({u"1/x.mp3 2/x.mp3"_s}));
+    QVERIFY(named.groups[0].key.endsWith(u"|FN:x.mp3"_s));
+    QCOMPARE(named.wastedBytes, 10000);
+    if (!tree.hardLink(u"1/x.mp3"_s, u"3/x.mp3"_s))
+        QSKIP("no hard links here");
+    options.collapseHardLinks = true;
+    QCOMPARE(scan(options).wastedBytes, 10000);
+    options.collapseHardLinks = false;
+    QCOMPARE(scan(options).wastedBytes, 20000);
+}
+
+void SampledContentTest::namesUnreadFiles()
+{
+    const TempTree tree;
+    for (const QString &name : {u"a"_s, u"b"_s, u"c"_s, u"d"_s})
+        tree.write(name, patternBytes(10000));
+    int removed = 0;
+    const auto spoil = [&](const ScanProgress &report) {
+        if (isLastOfPhase(report) && report.phase == Phase::Enumerating && removed == 0)
+            removed += QFile::remove(tree.path(u"a"_s));
+        if (isLastOfPhase(report) && report.phase == Phase::SampleHash)
+            removed += QFile::remove(tree.path(u"b"_s));
+    };
+    const ScanResult result = DuplicateScanner::scan(mediaOptions(tree, SearchMode::Audio, 1), spoil, {});
+    QCOMPARE(removed, 2);
+    QCOMPARE(groupTexts(result, tree), QSet<QString>({u"c d"_s}));
+    QCOMPARE(result.unread.size(), 2);
+    QCOMPARE(result.unread[0].path, tree.path(u"a"_s));
+    QCOMPARE(result.unread[1].path, tree.path(u"b"_s));
+}
+
+void SampledContentTest::stopsWhenCancelled_data()
+{
+    QTest::addColumn<QString>("phase");
+    QTest::newRow("samples") << Phase::SampleHash;
+    QTest::newRow("openings") << Phase::PrefixHash;
+}
+
+void SampledContentTest::stopsWhenCancelled()
+{
+    QFETCH(QString, phase);
+    const TempTree tree;
+    for (int i = 0; i < 3; ++i)
+        tree.write(QString::number(i), patternBytes(10000));
+    bool cancelled = false;
+    bool hasGoneOn = false;
+    const auto note = [&](const ScanProgress &report) {
+        hasGoneOn |= cancelled;
+        cancelled = cancelled || (report.phase == phase && isLastOfPhase(report));
+    };
+    const ScanResult result =
+        DuplicateScanner::scan(mediaOptions(tree, SearchMode::Audio, 1), note, [&] { return cancelled; });
+    QVERIFY(cancelled && !hasGoneOn);
+    QCOMPARE(result.groups.size(), 0);
+    QCOMPARE(result.candidates, 3);
+}
+
+/// Comparing whole files leaves what an exact scan looks up, and believes what one has left.
+void SampledContentTest::remembersWholeDigests()
+{
+    const TempTree tree;
+    const TempTree data;
+    setCacheRoot(data.path());
+    const auto off = qScopeGuard([] { setCacheRoot({}); });
+    QStringList paths;
+    for (const QString &name : {u"a"_s, u"b"_s}) {
+        paths.append(tree.write(name, patternBytes(30000)));
+        tree.setModified(name, 1600000000000);
+    }
+    QCOMPARE(scan(mediaOptions(tree, SearchMode::Audio, 0)).groups.size(), 1);
+    for (const QString &path : std::as_const(paths)) {
+        const Fingerprint known = lookupFingerprint(path, 30000, 1600000000000);
+        QCOMPARE(known.full, fullContentHash(path));
+        QCOMPARE(known.quick, quickHash(path));
+    }
+    storeQuickAndFull(paths[0], 30000, 1600000000000, quickHash(paths[0]), QByteArray(16, 'x'));
+    QCOMPARE(scan(mediaOptions(tree, SearchMode::Audio, 0)).groups.size(), 0);
+    QCOMPARE(scan(mediaOptions(tree, SearchMode::Audio, 1)).groups.size(), 1); // openings are not remembered
+}
+
+QTEST_GUILESS_MAIN(SampledContentTest)
+#include "tst_sampledcontent.moc"
