@@ -7,6 +7,7 @@
 #include "cli/terminal.h"
 #include "core/cache/cacheroot.h"
 #include "core/match/rulekeys.h"
+#include "core/media/metadata.h"
 #include "core/platform/nativepath.h"
 #include "core/scan/duplicatescanner.h"
 #include "core/scan/optiontable.h"
@@ -80,25 +81,58 @@ int threadsOf(const QString &text)
     return threads;
 }
 
-void applyMode(const QString &mode, ScanOptions &options)
+struct Mode
 {
-    const QStringList modes = {QStringLiteral("content"), QStringLiteral("rules")};
-    if (!modes.contains(mode))
-        throw UsageError{QStringLiteral("--mode needs %1, not \"%2\"").arg(modes.join(QStringLiteral(" or ")), mode)};
-    options.searchMode = static_cast<qint32>(SearchMode::Files);
-    options.contentMatch = static_cast<qint32>(mode == modes.constFirst() ? ContentMatch::Exact : ContentMatch::Ignore);
+    QString name;
+    SearchMode search;
+    ContentMatch content;
+};
+
+const QList<Mode> &modes()
+{
+    static const QList<Mode> table = {
+        {QStringLiteral("content"), SearchMode::Files, ContentMatch::Exact},
+        {QStringLiteral("similar-content"), SearchMode::Files, ContentMatch::Similar},
+        {QStringLiteral("rules"), SearchMode::Files, ContentMatch::Ignore},
+        {QStringLiteral("images"), SearchMode::Images, ContentMatch::Exact},
+        {QStringLiteral("audio"), SearchMode::Audio, ContentMatch::Exact},
+        {QStringLiteral("video"), SearchMode::Video, ContentMatch::Exact},
+    };
+    return table;
 }
 
-/// Refuses what this version would answer with an empty result.
+void applyMode(const QString &name, ScanOptions &options)
+{
+    QStringList names;
+    for (const Mode &mode : modes()) {
+        names.append(mode.name);
+        if (mode.name != name)
+            continue;
+        options.searchMode = static_cast<qint32>(mode.search);
+        options.contentMatch = static_cast<qint32>(mode.content);
+        return;
+    }
+    throw UsageError{QStringLiteral("--mode needs one of %1, not \"%2\"").arg(names.join(QStringLiteral(", ")), name)};
+}
+
+/// Whether `value` is one of the numbers 0..`largest`.
+bool isChoice(qint32 value, qint32 largest)
+{
+    return value >= 0 && value <= largest;
+}
+
+/// Refuses what would be answered with an empty result.
 void refuseUnsupported(const ScanOptions &options)
 {
-    const bool isKnownMode = options.searchMode == static_cast<qint32>(SearchMode::Files) &&
-                             (options.contentMatch == static_cast<qint32>(ContentMatch::Exact) ||
-                              options.contentMatch == static_cast<qint32>(ContentMatch::Ignore));
-    if (!isKnownMode || options.duplicateFoldersOnly)
-        throw UsageError{QStringLiteral("this version finds identical content and equal names, sizes, dates and paths; "
-                                        "similar content, media and duplicate folders are not available yet")};
-    const bool groupsByRules = options.contentMatch == static_cast<qint32>(ContentMatch::Ignore);
+    if (options.searchMode == static_cast<qint32>(SearchMode::Images))
+        throw UsageError{QStringLiteral("this version does not compare pictures yet")};
+    if (MediaMetadata::isNeeded(options))
+        throw UsageError{QStringLiteral("this version does not read tags and durations yet")};
+    if (!isChoice(options.searchMode, 3) || !isChoice(options.contentMatch, 2) ||
+        !isChoice(options.mediaCompareDepth, 4) || !isChoice(options.mediaCompareDepthAlt, 2))
+        throw UsageError{QStringLiteral("no such choice for searchMode, contentMatch or mediaCompareDepth")};
+    const bool groupsByRules = options.searchMode == static_cast<qint32>(SearchMode::Files) &&
+                               options.contentMatch == static_cast<qint32>(ContentMatch::Ignore);
     if (groupsByRules && !hasRefiningRule(options))
         throw UsageError{QStringLiteral("the mode rules needs a rule, for example --set sameName=true")};
 }
@@ -212,8 +246,10 @@ void addScanOptions(QCommandLineParser &parser)
     addSelectionOptions(parser);
     parser.addOptions({
         {modeOption,
-         QStringLiteral("What makes files duplicates: content (default), or rules: names, sizes, dates and paths as "
-                        "set, whatever the content."),
+         QStringLiteral("What makes files duplicates: content (default); similar-content: samples that agree to "
+                        "similarPercent; audio, video: samples and openings, as deep as mediaCompareDepth (audio) and "
+                        "mediaCompareDepthAlt (video) say; rules: names, sizes, dates and paths as set, whatever the "
+                        "content."),
          QStringLiteral("MODE")},
         {optionsOption, QStringLiteral("Read scan options from a JSON file."), QStringLiteral("FILE")},
         {formatOption, QStringLiteral("Form of the report: text (default) or json."), QStringLiteral("FORMAT"),

@@ -19,24 +19,49 @@ QString counted(qint64 count, const QString &noun)
     return QStringLiteral("%1 %2%3").arg(count).arg(noun, count == 1 ? QString() : QStringLiteral("s"));
 }
 
+/// How much the members agree, of a group by similar content: "SIM:93%" and what rules add to it.
+QString agreement(const QString &key)
+{
+    const qsizetype end = key.indexOf(QLatin1Char('%'));
+    return key.startsWith(QLatin1String("SIM:")) ? QStringLiteral(", %1 alike").arg(key.mid(4, end - 3)) : QString();
+}
+
 QString heading(const DuplicateGroup &group)
 {
     if (group.wastedBytes == 0)
         return counted(group.files.size(), QStringLiteral("empty file"));
-    return QStringLiteral("%1 of %2, %3 to free")
+    return QStringLiteral("%1 of %2%3, %4 to free")
         .arg(counted(group.files.size(), QStringLiteral("file")), Mirrix::sizeText(group.files.constFirst().size),
-             Mirrix::sizeText(group.wastedBytes));
+             agreement(group.key), Mirrix::sizeText(group.wastedBytes));
+}
+
+QString heading(const FolderGroup &group)
+{
+    return QStringLiteral("%1 of %2 (%3) each")
+        .arg(counted(group.folders.size(), QStringLiteral("equal folder")),
+             counted(group.fileCount, QStringLiteral("file")), Mirrix::sizeText(group.size));
+}
+
+/// A heading, and below it the paths of `items`.
+template <typename Item>
+void writeBlock(const QString &heading, const QList<Item> &items, Output &output)
+{
+    const bool isTerminal = output.isTerminal();
+    output.write(heading.toUtf8() + '\n');
+    for (const Item &item : items)
+        output.write("  " + shownPath(item.path, isTerminal) + '\n');
+    output.write("\n");
 }
 
 void writeText(const ScanResult &result, Output &output)
 {
-    const bool isTerminal = output.isTerminal();
-    for (const DuplicateGroup &group : result.groups) {
-        output.write(heading(group).toUtf8() + '\n');
-        for (const FileEntry &file : group.files)
-            output.write("  " + shownPath(file.path, isTerminal) + '\n');
-        output.write("\n");
-    }
+    for (const DuplicateGroup &group : result.groups)
+        writeBlock(heading(group), group.files, output);
+    for (const FolderGroup &group : result.folderGroups)
+        writeBlock(heading(group), group.folders, output);
+    if (!result.folderSummaries.isEmpty())
+        writeBlock(counted(result.folderSummaries.size(), QStringLiteral("file")) + QStringLiteral(" in no group"),
+                   result.folderSummaries, output);
     const QString found = result.groups.isEmpty()
                               ? QStringLiteral("No duplicates found")
                               : counted(result.groups.size(), QStringLiteral("group")) +

@@ -1,4 +1,4 @@
-#include "core/scan/duplicatescanner.h"
+#include "core/match/similarcontent.h"
 
 #include "core/hash/samples.h"
 #include "core/match/candidates.h"
@@ -6,6 +6,7 @@
 #include "core/match/parallel.h"
 #include "core/match/sampletiles.h"
 #include "core/match/unreadfiles.h"
+#include "core/scan/duplicatescanner.h"
 #include "core/scan/threadpool.h"
 
 #include <map>
@@ -13,9 +14,6 @@
 namespace MirrixCore {
 
 namespace {
-
-/// Samples in memory at once: one tile, or one and another of the same class.
-constexpr qint64 mostTileBytes = 67108864;
 
 /// Squares of pairs that wait for the threads at once.
 constexpr size_t mostBlocks = 4096;
@@ -33,10 +31,11 @@ class SimilarScan
 {
 public:
     SimilarScan(const QList<FileEntry> &files, const ScanOptions &options, const ProgressCallback &progress,
-                const CancelQuery &cancelled)
+                const CancelQuery &cancelled, qint64 memoryBytes)
         : m_files(files)
         , m_options(options)
         , m_cancelled(cancelled)
+        , m_tileBytes(memoryBytes / 2) // one tile, or one and another of the same class
         , m_classes(classesOf(files, std::clamp(options.similarPercent, 1, 100)))
         , m_progress(progress, Phase::SimilarContent, files.size(), stepsOf(m_classes))
     {}
@@ -71,10 +70,10 @@ private:
     }
 
     /// How many files of a class make a tile.
-    static qint64 tileLength(const SizeClass &files) { return mostTileBytes / files.sampledBytes; }
+    qint64 tileLength(const SizeClass &files) const { return std::max<qint64>(m_tileBytes / files.sampledBytes, 1); }
 
     /// A step for each file to read and for each square of pairs to compare.
-    static qint64 stepsOf(const std::vector<SizeClass> &classes)
+    qint64 stepsOf(const std::vector<SizeClass> &classes) const
     {
         qint64 steps = 0;
         for (const SizeClass &files : classes) {
@@ -99,7 +98,7 @@ private:
         qint64 batchBytes = 0;
         for (SizeClass &files : m_classes) {
             const qint64 bytes = std::ssize(files.files) * files.sampledBytes;
-            if (batchBytes + bytes > mostTileBytes) {
+            if (batchBytes + bytes > m_tileBytes) {
                 compareEach(batch);
                 batch.clear();
                 batchBytes = 0;
@@ -116,7 +115,7 @@ private:
         compareEach(batch);
     }
 
-    static std::vector<Tile> tilesOf(SizeClass &files)
+    std::vector<Tile> tilesOf(SizeClass &files) const
     {
         std::vector<Tile> tiles;
         const auto length = static_cast<size_t>(tileLength(files));
@@ -278,6 +277,7 @@ private:
     const QList<FileEntry> &m_files;
     const ScanOptions &m_options;
     const CancelQuery &m_cancelled;
+    const qint64 m_tileBytes;
     std::vector<SizeClass> m_classes;
     std::map<const SizeClass *, std::map<Digest, qint32>> m_known; ///< the first file of each sample set
     std::vector<PairBlock> m_queue;
@@ -287,10 +287,16 @@ private:
 
 } // namespace
 
+ScanResult matchSimilarContent(const QList<FileEntry> &files, const ScanOptions &options,
+                               const ProgressCallback &progress, const CancelQuery &cancelled, qint64 memoryBytes)
+{
+    return SimilarScan(files, options, progress, cancelled, memoryBytes).run();
+}
+
 ScanResult DuplicateScanner::scanSimilarContent(QList<FileEntry> files, const ScanOptions &options,
                                                 const ProgressCallback &progress, const CancelQuery &cancelled)
 {
-    return SimilarScan(files, options, progress, cancelled).run();
+    return matchSimilarContent(files, options, progress, cancelled);
 }
 
 } // namespace MirrixCore

@@ -81,6 +81,9 @@ private slots:
     void textReport();
     void textReportOfEmptyFiles();
     void rulesInsteadOfContent();
+    void textReportOfFolders();
+    void modes_data();
+    void modes();
     void textReportOfNothing();
     void jsonReport();
     void options_data();
@@ -170,6 +173,58 @@ void ScanCommandTest::rulesInsteadOfContent()
     QCOMPARE(groups.size(), 1);
     QCOMPARE(groups[0][u"key"_s].toString(), u"FN:name.txt"_s);
     QCOMPARE(groups[0][u"files"_s].toArray().size(), 2);
+}
+
+void ScanCommandTest::textReportOfFolders()
+{
+    m_tree->write(u"three/sub/a.txt"_s, "abc");
+    const ProgramRun run = scan({u"--set"_s, u"showRemaining=true"_s, m_tree->path(u"one"_s), m_tree->path(u"two"_s),
+                                 m_tree->path(u"three"_s)});
+    const QString expected = u"3 files of 3 B, 6 B to free\n  %1/one/a.txt\n  %1/two/b.dat\n  %1/three/sub/a.txt\n\n"
+                             u"2 equal folders of 1 file (3 B) each\n  %1/one\n  %1/three/sub\n\n"
+                             u"1 file in no group\n  %1/two/sub/other.txt\n\n"
+                             u"1 group, 6 B to free; 4 files (14 B) scanned in T s\n"_s;
+    QCOMPARE(withoutTime(run.output), expected.arg(m_tree->path()).toUtf8());
+}
+
+void ScanCommandTest::modes_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QStringList>("keys");
+    QTest::addColumn<qsizetype>("folderGroups");
+    QTest::addColumn<qsizetype>("remaining");
+    const QString md5 = u"900150983cd24fb0d6963f7d28e17f72"_s;
+    const QString opening = u"2f4fe09bb4f6bb9ad8ee6e7579e8f5e1"_s; // printf 3abc | md5sum
+    const auto row = [](const QStringList &arguments, const QStringList &keys, qsizetype folders, qsizetype remaining) {
+        QTest::newRow(qPrintable(arguments.join(u' '))) << arguments << keys << folders << remaining;
+    };
+    row({u"--mode"_s, u"content"_s}, {md5}, 1, 0);
+    row({u"--set"_s, u"duplicateFoldersOnly=true"_s, u"--set"_s, u"showRemaining=true"_s}, {md5}, 1, 2);
+    row({u"--mode"_s, u"similar-content"_s, u"--set"_s, u"similarPercent=60"_s}, {u"SIM:66%"_s}, 0, 0);
+    row({u"--mode"_s, u"audio"_s}, {md5}, 1, 0);
+    row({u"--mode"_s, u"video"_s}, {opening}, 1, 0);
+}
+
+void ScanCommandTest::modes()
+{
+    QFETCH(QStringList, arguments);
+    m_tree->write(u"two/c.dat"_s, "abd");
+    m_tree->write(u"three/a.txt"_s, "abc");
+    const ProgramRun run = scanAsJson(arguments + QStringList(m_tree->path()));
+    QCOMPARE(run.errors, "");
+    const QJsonObject report = jsonOf(run.output);
+    QStringList keys;
+    for (const QJsonValue &group : report[u"groups"_s].toArray())
+        keys.append(group[u"key"_s].toString());
+    QTEST(keys, "keys");
+    QTEST(report[u"folderGroups"_s].toArray().size(), "folderGroups");
+    QTEST(report[u"remaining"_s].toArray().size(), "remaining");
+    if (!report[u"folderGroups"_s].toArray().isEmpty()) {
+        const QJsonObject group = report[u"folderGroups"_s][0].toObject();
+        QCOMPARE(group[u"fileCount"_s].toInt(), 1);
+        QCOMPARE(group[u"size"_s].toInt(), 3);
+        QCOMPARE(group[u"folders"_s].toArray().size(), 2);
+    }
 }
 
 void ScanCommandTest::textReportOfNothing()
@@ -292,9 +347,6 @@ void ScanCommandTest::mistakes_data()
         QTest::newRow(arguments.isEmpty() ? "nothing" : qPrintable(arguments.join(u' '))) << arguments << message;
     };
     const QString threads = u"--threads needs a number from 0 to 256, not \"%1\""_s;
-    const QString unsupported =
-        u"this version finds identical content and equal names, sizes, dates and paths; similar content, media and "
-        u"duplicate folders are not available yet"_s;
     row({}, u"no folder to scan"_s);
     row({u"/a"_s, QString()}, u"an empty folder name"_s);
     row({u"--exclude"_s, QString(), u"/a"_s}, u"an empty folder name"_s);
@@ -308,13 +360,17 @@ void ScanCommandTest::mistakes_data()
     row({u"--threads"_s, u"257"_s, u"/a"_s}, threads.arg(u"257"_s));
     row({u"--threads"_s, u"two"_s, u"/a"_s}, threads.arg(u"two"_s));
     row({u"--threads"_s, QString(), u"/a"_s}, threads.arg(QString()));
-    row({u"--mode"_s, u"images"_s, u"/a"_s}, u"--mode needs content or rules, not \"images\""_s);
+    row({u"--mode"_s, u"sound"_s, u"/a"_s},
+        u"--mode needs one of content, similar-content, rules, images, audio, video, not \"sound\""_s);
+    row({u"--mode"_s, u"images"_s, u"/a"_s}, u"this version does not compare pictures yet"_s);
+    row({u"--mode"_s, u"audio"_s, u"--set"_s, u"audioMatchDuration=true"_s, u"/a"_s},
+        u"this version does not read tags and durations yet"_s);
     row({u"--hash"_s, u"BLAKE3"_s, u"/a"_s}, u"--hash needs md5 or blake3, not \"BLAKE3\""_s);
     row({u"--format"_s, u"csv"_s, u"/a"_s}, u"--format needs text or json, not \"csv\""_s);
     row({u"--recursive"_s, u"/a"_s}, u"Unknown option 'recursive'."_s);
     row({u"--mode"_s, u"rules"_s, u"/a"_s}, u"the mode rules needs a rule, for example --set sameName=true"_s);
-    for (const QString &rule : {u"searchMode=1"_s, u"contentMatch=1"_s, u"duplicateFoldersOnly=true"_s})
-        row({u"--set"_s, rule, u"/a"_s}, unsupported);
+    for (const QString &rule : {u"searchMode=4"_s, u"contentMatch=-1"_s, u"mediaCompareDepth=5"_s})
+        row({u"--set"_s, rule, u"/a"_s}, u"no such choice for searchMode, contentMatch or mediaCompareDepth"_s);
 }
 
 void ScanCommandTest::mistakes()
