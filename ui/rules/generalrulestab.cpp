@@ -108,6 +108,7 @@ void GeneralRulesTab::layOutNamesAndSizes(QBoxLayout *layout)
     m_sizeToleranceLabel = makeLabelFor(m_sizeTolerance);
     m_sizeUnit = makeCombo(m_criteriaBox, QStringLiteral("SizeToleranceUnitCombo"));
     m_sizeUnit->setMinimumContentsLength(2);
+    m_sizeUnit->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     for (const QString &unit : {QStringLiteral("B"), QStringLiteral("KB"), QStringLiteral("MB"), QStringLiteral("GB")})
         m_sizeUnit->addItem(unit, m_sizeUnit->count());
     addRow(layout, {m_sameSize, m_sizeToleranceLabel, m_sizeTolerance, m_sizeUnit});

@@ -57,6 +57,7 @@ QComboBox *makeCombo(QWidget *parent, const QString &name)
     // Long names shorten the closed combo instead of widening the page; the open list shows them whole.
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     combo->setMinimumContentsLength(12);
+    combo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     guardWheel(combo);
     return combo;
 }
@@ -93,9 +94,13 @@ void addRow(QBoxLayout *layout, std::initializer_list<QWidget *> controls)
 {
     auto *row = new QHBoxLayout;
     row->setSpacing(8);
-    for (QWidget *control : controls)
+    bool filled = false;
+    for (QWidget *control : controls) {
         row->addWidget(control);
-    row->addStretch();
+        filled = filled || control->sizePolicy().expandingDirections().testFlag(Qt::Horizontal);
+    }
+    if (!filled)
+        row->addStretch();
     layout->addLayout(row);
 }
 

@@ -31,7 +31,7 @@ namespace Mirrix {
 /// Appends the heading of a section.
 [[nodiscard]] QLabel *addSection(QBoxLayout *layout, QWidget *parent);
 
-/// Appends controls side by side.
+/// Appends controls side by side, from the left unless one of them takes all the room.
 void addRow(QBoxLayout *layout, std::initializer_list<QWidget *> controls);
 
 /// Lets controls be used only while a button is checked, from now on.

@@ -12,6 +12,7 @@
 #include <QCheckBox>
 #include <QEvent>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QTabWidget>
@@ -21,9 +22,30 @@ namespace Mirrix {
 
 namespace {
 
-QScrollArea *scrolling(QWidget *content, const QString &name)
+/// Scrolls up and down only: never narrower than its content.
+class VerticalScrollArea : public QScrollArea
 {
-    auto *area = new QScrollArea;
+public:
+    QSize minimumSizeHint() const override
+    {
+        const int width = widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
+        return {width, QScrollArea::minimumSizeHint().height()};
+    }
+
+    QSize sizeHint() const override { return QScrollArea::sizeHint().expandedTo(minimumSizeHint()); }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::LayoutRequest)
+            updateGeometry();
+        return QScrollArea::eventFilter(watched, event);
+    }
+};
+
+/// Lets `area` scroll `content`, which it takes over.
+QScrollArea *scrolling(QScrollArea *area, QWidget *content, const QString &name)
+{
     area->setObjectName(name);
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
@@ -109,7 +131,7 @@ void RulesPage::changeEvent(QEvent *event)
 void RulesPage::addTab(QWidget *tab, const QString &name)
 {
     tab->setObjectName(name);
-    m_tabs->addTab(scrolling(tab, name + QStringLiteral("Scroll")), QString());
+    m_tabs->addTab(scrolling(new QScrollArea, tab, name + QStringLiteral("Scroll")), QString());
 }
 
 QWidget *RulesPage::makeCommonSide()
@@ -118,12 +140,12 @@ QWidget *RulesPage::makeCommonSide()
     auto *side = new QWidget;
     side->setObjectName(QStringLiteral("CommonRulesSide"));
     auto *layout = new QVBoxLayout(side);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(4, 0, 4, 0);
     layout->setSpacing(12);
     layout->addWidget(m_fileTypes);
     layout->addWidget(m_ignoreHardLinks);
     layout->addStretch();
-    return scrolling(side, QStringLiteral("CommonRulesScroll"));
+    return scrolling(new VerticalScrollArea, side, QStringLiteral("CommonRulesScroll"));
 }
 
 void RulesPage::retranslate()
