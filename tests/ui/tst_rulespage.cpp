@@ -260,6 +260,10 @@ void TestRulesPage::tagRows()
     QCOMPARE(tags.rows.last(), (Mirrix::TagRow{u"Track"_qs, 1}));
 
     auto *table = box->findChild<QTableWidget *>();
+    auto *rule = qobject_cast<QComboBox *>(table->cellWidget(3, 1));
+    rule->setFocus();
+    QTest::keyClick(rule, Qt::Key_Up);
+    QCOMPARE(page.state().audio.tags.rows.last().rule, 0);
     auto *tag = qobject_cast<QComboBox *>(table->cellWidget(0, 0));
     tag->setEditText(u" 流派 "_qs); // a label of the list stands for its tag
     QCOMPARE(page.state().audio.tags.rows.first().name, u"Genre"_qs);

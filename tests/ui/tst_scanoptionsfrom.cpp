@@ -239,7 +239,7 @@ void TestScanOptionsFrom::keptSettings_data()
     QTest::addColumn<bool>("sameRules"); // or at least the same scan
 #define ROW(statement, same)                                                                                           \
     QTest::newRow(#statement) << Change([](LocationsState &, [[maybe_unused]] RulesState &r) { statement; }) << same
-    ROW(, true);
+    ROW(static_cast<void>(r), true);
     ROW((r.fileTypes.useModeExtensions = false, r.fileTypes.includeText = u"b, a"_qs), true);
     ROW((r.fileTypes.useModeExtensions = false, r.fileTypes.includeText = u"*"_qs), false);
     ROW((r.fileTypes.excludeText = u"tmp, bak"_qs), true);

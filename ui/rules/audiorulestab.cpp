@@ -16,11 +16,12 @@ namespace Mirrix {
 
 AudioRulesTab::AudioRulesTab(QWidget *parent)
     : QWidget(parent)
-    , m_tolerance(makeSpin(this, QStringLiteral("AudioDurationToleranceSpin"), 0, 3600000))
-    , m_box(new MediaMatchBox(QStringLiteral("Audio"), m_tolerance, this))
+    , m_box(new MediaMatchBox(QStringLiteral("Audio"), this))
+    , m_tolerance(makeSpin(m_box, QStringLiteral("AudioDurationToleranceSpin"), 0, 3600000))
     , m_tags(new TagTable(audioTagNames, this))
     , m_binding([this] { emit changed(); })
 {
+    m_box->addTolerance(m_tolerance);
     m_tags->setObjectName(QStringLiteral("AudioTagsBox"));
     auto *layout = new QVBoxLayout(this);
     layout->setSpacing(12);

@@ -30,8 +30,8 @@ protected:
 private:
     void retranslate();
 
-    QSpinBox *m_tolerance;
     MediaMatchBox *m_box;
+    QSpinBox *m_tolerance;
     TagTable *m_tags;
     RecordBinding<AudioRules> m_binding;
 };

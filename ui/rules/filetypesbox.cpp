@@ -71,11 +71,11 @@ void FileTypesBox::layOutExtensions(QBoxLayout *layout)
     };
     m_extensionTitle = addSection(layout, this);
     m_modeExtensions = makeCheck(this, QStringLiteral("ModeExtensionsCheck"));
+    m_includeRaw = makeCheck(this, QStringLiteral("IncludeRawCheck"));
     m_include = makeEdit(QStringLiteral("IncludeExtensionsEdit"));
     m_includeLabel = makeLabelFor(m_include);
     m_exclude = makeEdit(QStringLiteral("ExcludeExtensionsEdit"));
     m_excludeLabel = makeLabelFor(m_exclude);
-    m_includeRaw = makeCheck(this, QStringLiteral("IncludeRawCheck"));
     layout->addWidget(m_modeExtensions);
     layout->addWidget(m_includeRaw);
     auto *lists = new QGridLayout;

@@ -17,7 +17,6 @@ namespace Mirrix {
 ImageRulesTab::ImageRulesTab(QWidget *parent)
     : QWidget(parent)
     , m_box(new QGroupBox(this))
-    , m_tags(new TagTable(imageTagNames, this))
     , m_binding([this] { emit changed(); })
 {
     auto *sections = new QVBoxLayout(m_box);
@@ -25,6 +24,7 @@ ImageRulesTab::ImageRulesTab(QWidget *parent)
     layOutShape(sections);
     layOutOrigin(sections);
     layOutReading(sections);
+    m_tags = new TagTable(imageTagNames, this); // after the sections, as the tab order goes
     m_tags->setObjectName(QStringLiteral("ImageTagsBox"));
 
     auto *layout = new QVBoxLayout(this);

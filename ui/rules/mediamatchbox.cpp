@@ -11,12 +11,13 @@
 
 namespace Mirrix {
 
-MediaMatchBox::MediaMatchBox(const QString &kind, QWidget *tolerance, QWidget *parent)
+MediaMatchBox::MediaMatchBox(const QString &kind, QWidget *parent)
     : QGroupBox(parent)
     , m_method(makeCombo(this, kind + QStringLiteral("MethodCombo")))
     , m_methodLabel(makeLabelFor(m_method))
     , m_note(makeHint(this))
     , m_matchDuration(makeCheck(this, kind + QStringLiteral("MatchDurationCheck")))
+    , m_toleranceLabel(new QLabel(this))
 {
     auto *layout = new QVBoxLayout(this);
     layout->setSpacing(8);
@@ -24,11 +25,14 @@ MediaMatchBox::MediaMatchBox(const QString &kind, QWidget *tolerance, QWidget *p
     layout->addWidget(m_note);
 
     m_durationTitle = addSection(layout, this);
-    tolerance->setParent(this);
-    m_toleranceLabel = makeLabelFor(tolerance);
-    addRow(layout, {m_matchDuration, m_toleranceLabel, tolerance});
-    enableWhile(m_matchDuration, {m_toleranceLabel, tolerance});
     retranslate();
+}
+
+void MediaMatchBox::addTolerance(QWidget *tolerance)
+{
+    m_toleranceLabel->setBuddy(tolerance);
+    addRow(static_cast<QVBoxLayout *>(layout()), {m_matchDuration, m_toleranceLabel, tolerance});
+    enableWhile(m_matchDuration, {m_toleranceLabel, tolerance});
 }
 
 void MediaMatchBox::changeEvent(QEvent *event)

@@ -15,8 +15,11 @@ class MediaMatchBox : public QGroupBox
     Q_OBJECT
 
 public:
-    /// `kind` begins the controls' object names; `tolerance` edits how far durations may differ and is taken over.
-    MediaMatchBox(const QString &kind, QWidget *tolerance, QWidget *parent = nullptr);
+    /// `kind` begins the controls' object names.
+    explicit MediaMatchBox(const QString &kind, QWidget *parent = nullptr);
+
+    /// Appends what edits how far durations may differ, a child of this box. To be called once.
+    void addTolerance(QWidget *tolerance);
 
     [[nodiscard]] QComboBox *method() const { return m_method; }
     [[nodiscard]] QCheckBox *matchDuration() const { return m_matchDuration; }
@@ -33,7 +36,7 @@ private:
     QLabel *m_note;
     QLabel *m_durationTitle = nullptr;
     QCheckBox *m_matchDuration;
-    QLabel *m_toleranceLabel = nullptr;
+    QLabel *m_toleranceLabel;
 };
 
 } // namespace Mirrix

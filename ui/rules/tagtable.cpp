@@ -12,6 +12,8 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace Mirrix {
 
 namespace {
@@ -46,6 +48,13 @@ void labelTags(QComboBox *combo, const QList<TagName> &names)
             combo->addItem(QString(), names[item].name);
         combo->setItemText(item, names[item].label);
     }
+    combo->setAccessibleName(Text::tr("标签"));
+}
+
+void labelRules(QComboBox *combo)
+{
+    nameItems(combo, 3, tagRuleName);
+    combo->setAccessibleName(Text::tr("匹配"));
 }
 
 } // namespace
@@ -63,7 +72,7 @@ TagTable::TagTable(NamesFunction names, QWidget *parent)
     m_table->horizontalHeader()->setHighlightSections(false);
     m_table->setSelectionMode(QAbstractItemView::NoSelection);
     m_table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_table->setTabKeyNavigation(false);
+    m_table->setFocusPolicy(Qt::NoFocus); // its cells have the focus
     m_addButton->setObjectName(QStringLiteral("AddTagButton"));
 
     auto *layout = new QVBoxLayout(this);
@@ -93,7 +102,7 @@ void TagTable::setState(const TagRules &rules)
         m_table->setRowCount(0);
         for (const TagRow &row : rules.rows)
             addRow(row);
-        fitHeight();
+        arrangeRows();
     }
     emit changed();
 }
@@ -104,7 +113,7 @@ void TagTable::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange)
         retranslate();
     else if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
-        fitHeight();
+        arrangeRows();
 }
 
 void TagTable::retranslate()
@@ -117,7 +126,7 @@ void TagTable::retranslate()
         const QString name = rowAt(row).name; // found by the labels of the language before
         labelTags(comboAt(row, TagColumn), names);
         showName(comboAt(row, TagColumn), name);
-        nameItems(comboAt(row, RuleColumn), 3, tagRuleName);
+        labelRules(comboAt(row, RuleColumn));
     }
 }
 
@@ -129,14 +138,13 @@ void TagTable::addRow(const TagRow &row)
     labelTags(tag, m_names());
     showName(tag, row.name);
     auto *rule = makeCombo(m_table, QStringLiteral("TagRuleCombo"));
-    nameItems(rule, 3, tagRuleName);
+    labelRules(rule);
     rule->setCurrentIndex(rule->findData(row.rule));
 
     const int index = m_table->rowCount();
     m_table->insertRow(index);
     m_table->setCellWidget(index, TagColumn, tag);
     m_table->setCellWidget(index, RuleColumn, rule);
-    m_table->setRowHeight(index, tag->sizeHint().height());
     connect(tag, &QComboBox::currentTextChanged, this, &TagTable::changed);
     connect(rule, &QComboBox::currentIndexChanged, this, &TagTable::changed);
 }
@@ -153,16 +161,22 @@ void TagTable::addOfferedRow()
         }
     }
     addRow(added);
-    fitHeight();
+    arrangeRows();
     comboAt(m_table->rowCount() - 1, TagColumn)->setFocus();
     emit changed();
 }
 
-/// The page scrolls, so the table is as high as its rows.
-void TagTable::fitHeight()
+/// The page scrolls, so the table is as high as its rows. New rows stand last in the tab order until told otherwise.
+void TagTable::arrangeRows()
 {
-    for (int row = 0; row < m_table->rowCount(); ++row)
+    QWidget *previous = this;
+    for (int row = 0; row < m_table->rowCount(); ++row) {
         m_table->setRowHeight(row, comboAt(row, TagColumn)->sizeHint().height());
+        setTabOrder(previous, comboAt(row, TagColumn));
+        setTabOrder(comboAt(row, TagColumn), comboAt(row, RuleColumn));
+        previous = comboAt(row, RuleColumn);
+    }
+    setTabOrder(previous, m_addButton);
     m_table->setFixedHeight(m_table->horizontalHeader()->sizeHint().height() + m_table->verticalHeader()->length() +
                             2 * m_table->frameWidth());
 }

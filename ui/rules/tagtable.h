@@ -35,7 +35,7 @@ private:
     void retranslate();
     void addRow(const TagRow &row);
     void addOfferedRow();
-    void fitHeight();
+    void arrangeRows();
     [[nodiscard]] TagRow rowAt(int row) const;
     [[nodiscard]] QComboBox *comboAt(int row, int column) const;
 

@@ -17,14 +17,15 @@ namespace Mirrix {
 
 VideoRulesTab::VideoRulesTab(QWidget *parent)
     : QWidget(parent)
-    , m_tolerance(new QTimeEdit(this))
-    , m_box(new MediaMatchBox(QStringLiteral("Video"), m_tolerance, this))
+    , m_box(new MediaMatchBox(QStringLiteral("Video"), this))
+    , m_tolerance(new QTimeEdit(m_box))
     , m_tags(new TagTable(videoTagNames, this))
     , m_binding([this] { emit changed(); })
 {
     m_tolerance->setObjectName(QStringLiteral("VideoDurationToleranceEdit"));
     m_tolerance->setDisplayFormat(QStringLiteral("HH:mm:ss.zzz"));
     guardWheel(m_tolerance);
+    m_box->addTolerance(m_tolerance);
     m_tags->setObjectName(QStringLiteral("VideoTagsBox"));
     auto *layout = new QVBoxLayout(this);
     layout->setSpacing(12);

@@ -30,8 +30,8 @@ protected:
 private:
     void retranslate();
 
-    QTimeEdit *m_tolerance;
     MediaMatchBox *m_box;
+    QTimeEdit *m_tolerance;
     TagTable *m_tags;
     RecordBinding<VideoRules> m_binding;
 };
