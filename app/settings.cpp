@@ -6,7 +6,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QJsonArray>
 #include <QJsonDocument>
 
 #include <cmath>
@@ -29,6 +28,11 @@ QJsonValue written(const QString &value)
 QJsonValue written(const QStringList &value)
 {
     return QJsonArray::fromStringList(value);
+}
+
+QJsonValue written(const QJsonArray &value)
+{
+    return value;
 }
 
 QJsonValue written(bool value)
@@ -77,6 +81,11 @@ QStringList readAs(const QJsonValue &json, const QStringList &)
     return texts;
 }
 
+QJsonArray readAs(const QJsonValue &json, const QJsonArray &)
+{
+    return json.toArray();
+}
+
 bool readAs(const QJsonValue &json, bool fallback)
 {
     return json.toBool(fallback);
@@ -119,16 +128,27 @@ Field field(const QString &key)
 const QList<Field> &table()
 {
     static const QList<Field> fields = {
-        MIRRIX_SETTING(backupRoot),       MIRRIX_SETTING(lastRoots),
-        MIRRIX_SETTING(excludeDirs),      MIRRIX_SETTING(includeExts),
-        MIRRIX_SETTING(excludeExts),      MIRRIX_SETTING(minFileBytes),
-        MIRRIX_SETTING(maxFileBytes),     MIRRIX_SETTING(keepRule),
-        MIRRIX_SETTING(skipHidden),       MIRRIX_SETTING(skipSystemDirs),
-        MIRRIX_SETTING(similarThreshold), MIRRIX_SETTING(largeFileMinBytes),
-        MIRRIX_SETTING(trayEnabled),      MIRRIX_SETTING(autoBackupBeforeDelete),
-        MIRRIX_SETTING(appTheme),         MIRRIX_SETTING(contentHashAlgorithm),
-        MIRRIX_SETTING(closeToTray),      MIRRIX_SETTING(scanDoneBeep),
-        MIRRIX_SETTING(skipScanConfirm),  MIRRIX_SETTING(uiLanguage),
+        MIRRIX_SETTING(backupRoot),
+        MIRRIX_SETTING(lastRoots),
+        MIRRIX_SETTING(excludeDirs),
+        MIRRIX_SETTING(locations),
+        MIRRIX_SETTING(includeExts),
+        MIRRIX_SETTING(excludeExts),
+        MIRRIX_SETTING(minFileBytes),
+        MIRRIX_SETTING(maxFileBytes),
+        MIRRIX_SETTING(keepRule),
+        MIRRIX_SETTING(skipHidden),
+        MIRRIX_SETTING(skipSystemDirs),
+        MIRRIX_SETTING(similarThreshold),
+        MIRRIX_SETTING(largeFileMinBytes),
+        MIRRIX_SETTING(trayEnabled),
+        MIRRIX_SETTING(autoBackupBeforeDelete),
+        MIRRIX_SETTING(appTheme),
+        MIRRIX_SETTING(contentHashAlgorithm),
+        MIRRIX_SETTING(closeToTray),
+        MIRRIX_SETTING(scanDoneBeep),
+        MIRRIX_SETTING(skipScanConfirm),
+        MIRRIX_SETTING(uiLanguage),
     };
     return fields;
 }

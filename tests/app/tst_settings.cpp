@@ -67,8 +67,8 @@ private:
     /// What a data directory without a file is to give, as the file would hold it.
     [[nodiscard]] QJsonObject defaultObject() const
     {
-        QJsonObject expected = objectOf(R"({"lastRoots": [], "excludeDirs": [], "includeExts": [], "excludeExts": [],
-            "minFileBytes": 0, "maxFileBytes": 0, "keepRule": 0, "skipHidden": true, "skipSystemDirs": true,
+        QJsonObject expected = objectOf(R"({"lastRoots": [], "excludeDirs": [], "locations": [], "includeExts": [],
+            "excludeExts": [], "minFileBytes": 0, "maxFileBytes": 0, "keepRule": 0, "skipHidden": true, "skipSystemDirs": true,
             "similarThreshold": 10, "largeFileMinBytes": 104857600, "trayEnabled": true,
             "autoBackupBeforeDelete": true, "appTheme": "light", "contentHashAlgorithm": "md5", "closeToTray": true,
             "scanDoneBeep": false, "skipScanConfirm": false})");
@@ -96,6 +96,7 @@ void SettingsTest::everyMemberTravels()
     settings.backupRoot = u"D:/Sicherung"_s;
     settings.lastRoots = {u"C:/a, b"_s, u"/home/日本"_s};
     settings.excludeDirs = {u"C:/x"_s};
+    settings.locations = {QJsonObject{{u"path"_s, u"C:/x"_s}}};
     settings.includeExts = {u"jpg"_s};
     settings.excludeExts = {u"tmp"_s, u"bak"_s};
     settings.minFileBytes = 1;
@@ -162,7 +163,7 @@ void SettingsTest::values_data()
     row("a text as size", R"({"largeFileMinBytes": "big", "maxFileBytes": [1]})", R"({})");
     row("flags as numbers", R"({"skipHidden": 0, "scanDoneBeep": 1, "trayEnabled": "false"})", R"({})");
     row("texts as numbers", R"({"appTheme": 1, "backupRoot": 5})", R"({})");
-    row("lists as texts", R"({"lastRoots": "/a", "includeExts": {"a": 1}})", R"({})");
+    row("lists as texts", R"({"lastRoots": "/a", "includeExts": {"a": 1}, "locations": {"a": 1}})", R"({})");
     row("other cases of the keys", R"({"KeepRule": 3, "skiphidden": false})",
         R"({"KeepRule": 3, "skiphidden": false})");
     row("fractions are cut",
