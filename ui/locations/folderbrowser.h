@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QStringList>
+#include <QWidget>
+
+class QFileSystemModel;
+class QLabel;
+class QToolButton;
+class QTreeView;
+
+namespace Mirrix {
+
+/// The tree of the machine's folders with the arrow that hands the selected ones on. Folders are listed in a thread of
+/// the model's when they are opened, so that a dead network drive holds nobody up.
+class FolderBrowser : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FolderBrowser(QWidget *parent = nullptr);
+
+    [[nodiscard]] QStringList selectedFolders() const;
+    void setLocked(bool isLocked);
+
+signals:
+    void foldersChosen(const QStringList &folders);
+
+protected:
+    void changeEvent(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void buildTree();
+    void updateArrow();
+    void retranslate();
+
+    QFileSystemModel *m_model;
+    QTreeView *m_tree;
+    QLabel *m_title;
+    QLabel *m_hint;
+    QToolButton *m_arrow;
+    bool m_isLocked = false;
+    bool m_wasShown = false;
+};
+
+} // namespace Mirrix
