@@ -1,0 +1,60 @@
+#pragma once
+
+#include "ui/logic/roworder.h"
+
+#include <QAbstractItemModel>
+
+namespace Mirrix {
+
+/// The arithmetic of the result lists: top rows (one per item of a list, by RowOrder) and, below each, child rows in
+/// fixed order. No node objects: an index's internal id is 0 at the top and the item's number + 1 below, so children
+/// stay valid when the top rows move. Interface thread only.
+class GroupedModel : public QAbstractItemModel
+{
+    Q_OBJECT
+
+public:
+    /// To call when the list has been replaced, before anything else happens: all rows anew, unsorted. O(1).
+    void reload();
+
+    /// To call when the language changed.
+    void retranslate();
+
+    [[nodiscard]] static bool isChild(const QModelIndex &index) { return index.internalId() != 0; }
+
+    /// The number of the list's item that the row shows or lies below.
+    [[nodiscard]] qsizetype itemOf(const QModelIndex &index) const;
+    [[nodiscard]] QModelIndex itemIndex(qsizetype item) const;
+
+    QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;
+    QModelIndex parent(const QModelIndex &child) const override;
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    bool hasChildren(const QModelIndex &parent = {}) const override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+    /// Orders the top rows by what the column stands for; -1 gives the list's order back. The rows move later, when a
+    /// pool thread has sorted a shared copy of the list; the latest call wins.
+    void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
+
+protected:
+    GroupedModel(int columns, QObject *parent);
+
+    virtual qsizetype itemCount() const = 0;
+    virtual int childCount(qsizetype item) const = 0;
+    virtual QString title(int column) const = 0;
+    virtual Qt::Alignment alignment(int column) const = 0;
+    virtual QVariant itemData(qsizetype item, int column, int role) const = 0;
+    virtual QVariant childData(qsizetype item, int child, int column, int role) const = 0;
+    virtual RowOrder::Sort sortBy(int column, bool descending) const = 0;
+
+private:
+    void applyOrder(const Permutation &items);
+
+    const int m_columns;
+    RowOrder m_order;
+};
+
+} // namespace Mirrix

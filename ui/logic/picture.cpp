@@ -1,0 +1,62 @@
+#include "ui/logic/picture.h"
+
+#include "app/text.h"
+#include "ui/logic/suffixicons.h"
+
+#include <QFile>
+#include <QImageReader>
+
+namespace Mirrix {
+
+namespace {
+
+bool exceedsLimit(QSize size)
+{
+    constexpr qint64 bytesPerPixel = 4;
+    constexpr qint64 mega = 1024 * 1024;
+    const int limit = QImageReader::allocationLimit();
+    return limit > 0 && qint64(size.width()) * size.height() * bytesPerPixel > limit * mega;
+}
+
+} // namespace
+
+Picture readPicture(const QString &path, QSize bounds)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {{}, file.exists() ? Picture::Problem::Unreadable : Picture::Problem::Missing};
+    QImageReader reader(&file);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    const QSize size = reader.size();
+    if (reader.transformation().testFlag(QImageIOHandler::TransformationRotate90))
+        bounds.transpose();
+    if (size.isValid() && (size.width() > bounds.width() || size.height() > bounds.height()))
+        reader.setScaledSize(size.scaled(bounds, Qt::KeepAspectRatio).expandedTo({1, 1}));
+    const QImage image = reader.read();
+    if (!image.isNull())
+        return {image, Picture::Problem::None};
+    return {{}, exceedsLimit(size) ? Picture::Problem::TooLarge : Picture::Problem::Unreadable};
+}
+
+bool isPicture(const QString &path)
+{
+    return QImageReader::supportedImageFormats().contains(suffixOf(path).toLatin1());
+}
+
+QString problemText(Picture::Problem problem)
+{
+    switch (problem) {
+    case Picture::Problem::Missing:
+        return Text::tr("文件已不存在或无法访问");
+    case Picture::Problem::TooLarge:
+        return Text::tr("图片过大，无法预览");
+    case Picture::Problem::Unreadable:
+        return Text::tr("无法读取此图片");
+    case Picture::Problem::None:
+        break;
+    }
+    return {};
+}
+
+} // namespace Mirrix

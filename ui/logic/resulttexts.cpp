@@ -1,0 +1,56 @@
+#include "ui/logic/resulttexts.h"
+
+#include "app/text.h"
+#include "ui/logic/bytetext.h"
+#include "ui/logic/suffixicons.h"
+
+#include <QDateTime>
+#include <QDir>
+
+namespace Mirrix {
+
+using MirrixCore::FileEntry;
+
+namespace {
+
+QString timeText(qint64 ms, const QString &format)
+{
+    return ms < 1 ? QString() : QDateTime::fromMSecsSinceEpoch(ms).toString(format);
+}
+
+QString shotText(const FileEntry &file)
+{
+    return file.shotMs > 0 ? timeText(file.shotMs, QStringLiteral("yyyy-MM-dd HH:mm:ss")) : file.dateTaken;
+}
+
+} // namespace
+
+QString minuteText(qint64 ms)
+{
+    return timeText(ms, QStringLiteral("yyyy-MM-dd HH:mm"));
+}
+
+QString shownPath(const QString &path)
+{
+    return QDir::toNativeSeparators(path);
+}
+
+QString previewText(const FileEntry &file)
+{
+    QString text = Text::tr("路径: %1\n大小: %2\n修改: %3\n后缀: %4")
+                       .arg(shownPath(file.path), formatSize(file.size),
+                            timeText(file.modifiedMs, QStringLiteral("yyyy-MM-dd HH:mm:ss")), suffixOf(file.path));
+    if (file.width > 0 && file.height > 0)
+        text += Text::tr("\n尺寸: %1 × %2").arg(file.width).arg(file.height);
+    if (!file.cameraMake.isEmpty() || !file.cameraModel.isEmpty())
+        text += Text::tr("\n相机: %1 %2").arg(file.cameraMake, file.cameraModel);
+    if (const QString shot = shotText(file); !shot.isEmpty())
+        text += Text::tr("\n拍摄: %1").arg(shot);
+    if (!file.artist.isEmpty())
+        text += Text::tr("\n艺术家: %1").arg(file.artist);
+    if (!file.title.isEmpty())
+        text += Text::tr("\n标题: %1").arg(file.title);
+    return text;
+}
+
+} // namespace Mirrix

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "ui/logic/picture.h"
+
+#include <QList>
+#include <QMutex>
+#include <QObject>
+#include <QThreadPool>
+
+namespace Mirrix {
+
+/// One file wanted by a view.
+struct PictureRequest
+{
+    MirrixCore::FileEntry file;
+    QSize bounds; ///< device pixels
+};
+
+/// What was found out about a file.
+struct LoadedPicture
+{
+    MirrixCore::FileEntry file; ///< with its media members where a FactsReader is set
+    Picture picture;
+};
+
+/// Reads pictures on its own threads, what is wanted now before all else. Interface thread only; the destructor waits
+/// for the pictures being decoded.
+class PictureLoader : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit PictureLoader(QObject *parent = nullptr);
+    ~PictureLoader() override;
+
+    /// May be called at any time; a reader must be safe to run on several threads.
+    void setPictureReader(PictureReader reader);
+    void setFactsReader(FactsReader reader);
+
+    /// Replaces everything that still waits, most urgent first. What is being decoded goes on and is still delivered.
+    void want(QList<PictureRequest> requests);
+
+signals:
+    void loaded(const Mirrix::LoadedPicture &loaded);
+
+private:
+    void work();
+
+    QMutex m_mutex; ///< for the members up to the pool
+    QList<PictureRequest> m_wanted;
+    PictureReader m_readPicture = readPicture;
+    FactsReader m_readFacts;
+    int m_workers = 0;
+    QThreadPool m_pool;
+};
+
+} // namespace Mirrix

@@ -1,0 +1,170 @@
+#include "ui/results/resultstree.h"
+
+#include "ui/logic/resultsmodel.h"
+#include "ui/logic/resulttexts.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QScrollBar>
+
+namespace Mirrix {
+
+ResultsTree::ResultsTree(QWidget *parent)
+    : QTreeView(parent)
+{
+    setUniformRowHeights(true);
+    setSelectionMode(ExtendedSelection);
+    setSelectionBehavior(SelectRows);
+    setAllColumnsShowFocus(true);
+    setTextElideMode(Qt::ElideMiddle);
+    setContextMenuPolicy(Qt::CustomContextMenu);
+    setEditTriggers(NoEditTriggers);
+    setExpandsOnDoubleClick(true);
+    header()->setStretchLastSection(false);
+    header()->setSectionsClickable(true);
+    header()->setSortIndicatorClearable(true);
+    header()->setSortIndicator(-1, Qt::AscendingOrder);
+    header()->setSortIndicatorShown(true);
+    connect(header(), &QHeaderView::sortIndicatorChanged, this, &ResultsTree::sortByHeader);
+    connect(this, &QTreeView::collapsed, this, [this](const QModelIndex &index) {
+        if (m_expandsAll)
+            m_closed.insert(index);
+    });
+    connect(this, &QTreeView::expanded, this, [this](const QModelIndex &index) { m_closed.remove(index); });
+}
+
+void ResultsTree::setModel(QAbstractItemModel *model)
+{
+    QTreeView::setModel(model);
+    // Queued: the view must have laid the new order out first.
+    connect(model, &QAbstractItemModel::layoutChanged, this, &ResultsTree::keepPromise, Qt::QueuedConnection);
+}
+
+void ResultsTree::fitColumns(int stretched, const QStringList &samples)
+{
+    const int padding = fontMetrics().horizontalAdvance(QStringLiteral("MMM"));
+    for (int column = 0; column < samples.size(); ++column) {
+        const QString title = model()->headerData(column, Qt::Horizontal).toString();
+        const int text =
+            std::max(fontMetrics().horizontalAdvance(title), fontMetrics().horizontalAdvance(samples[column]));
+        header()->setSectionResizeMode(column, column == stretched ? QHeaderView::Stretch : QHeaderView::Interactive);
+        header()->resizeSection(column, text + padding);
+    }
+}
+
+void ResultsTree::startAfresh(int count)
+{
+    {
+        const QSignalBlocker quiet(header());
+        header()->setSortIndicator(-1, Qt::AscendingOrder);
+    }
+    m_expandsAll = false;
+    m_closed.clear();
+    const int rows = std::min(count, model()->rowCount());
+    for (int row = 0; row < rows; ++row)
+        expand(model()->index(row, 0));
+}
+
+void ResultsTree::expandEverything()
+{
+    m_expandsAll = true;
+    m_closed.clear();
+    keepPromise();
+}
+
+void ResultsTree::collapseEverything()
+{
+    m_expandsAll = false;
+    m_closed.clear();
+    collapseAll();
+}
+
+void ResultsTree::sortByHeader(int column, Qt::SortOrder order)
+{
+    // Every selected row is followed through the sort, which takes seconds for a million of them.
+    constexpr qsizetype followed = 1000;
+    qsizetype selected = 0;
+    for (const QItemSelectionRange &range : selectionModel()->selection())
+        selected += range.height();
+    if (selected > followed)
+        clearSelection();
+    model()->sort(column, order);
+}
+
+QModelIndexList ResultsTree::closedRowsInView(const QModelIndex &top) const
+{
+    const int page = viewport()->height() / std::max(1, rowHeight(top)) + 1;
+    const int row = top.parent().isValid() ? top.parent().row() : top.row();
+    const int last = std::min(row + 2 * page, model()->rowCount() - 1);
+    QModelIndexList closed;
+    for (int i = std::max(0, row - page); i <= last; ++i) {
+        const QModelIndex index = model()->index(i, 0);
+        if (!isExpanded(index) && !m_closed.contains(index))
+            closed.append(index);
+    }
+    return closed;
+}
+
+void ResultsTree::keepPromise()
+{
+    const QModelIndex top = m_expandsAll && !m_isExpanding ? indexAt({0, 0}) : QModelIndex();
+    if (!top.isValid())
+        return;
+    const QModelIndexList closed = closedRowsInView(top);
+    if (closed.isEmpty())
+        return;
+    m_isExpanding = true;
+    scheduleDelayedItemsLayout(); // one layout for all of them
+    for (const QModelIndex &index : closed)
+        expand(index);
+    executeDelayedItemsLayout();
+    scrollTo(top, PositionAtTop);
+    m_isExpanding = false;
+}
+
+void ResultsTree::verticalScrollbarValueChanged(int value)
+{
+    QTreeView::verticalScrollbarValueChanged(value);
+    keepPromise();
+}
+
+void ResultsTree::resizeEvent(QResizeEvent *event)
+{
+    QTreeView::resizeEvent(event);
+    keepPromise();
+}
+
+QStringList ResultsTree::selectedPaths() const
+{
+    QStringList paths;
+    const QModelIndexList rows = selectionModel()->selectedRows();
+    for (const QModelIndex &index : rows) {
+        if (const QString path = index.data(ResultsModel::PathRole).toString(); !path.isEmpty())
+            paths.append(shownPath(path));
+    }
+    return paths;
+}
+
+void ResultsTree::copySelectedPaths() const
+{
+    if (const QStringList paths = selectedPaths(); !paths.isEmpty())
+        QGuiApplication::clipboard()->setText(paths.join(QLatin1Char('\n')));
+}
+
+void ResultsTree::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Copy))
+        copySelectedPaths();
+    else if (event->key() == Qt::Key_Space)
+        emit toggleRequested();
+    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        emit previewRequested();
+    else if (event->key() == Qt::Key_Delete)
+        emit removeRequested();
+    else
+        QTreeView::keyPressEvent(event);
+}
+
+} // namespace Mirrix

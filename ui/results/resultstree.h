@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QPersistentModelIndex>
+#include <QSet>
+#include <QTreeView>
+
+namespace Mirrix {
+
+/// A tree over a GroupedModel that stays quick with 300,000 top rows: QTreeView needs minutes to expand them all, so
+/// here "all expanded" is a promise, kept for the rows on screen and one page around them. Clicks on the header sort
+/// the model, a third click gives the list's own order back.
+class ResultsTree : public QTreeView
+{
+    Q_OBJECT
+
+public:
+    explicit ResultsTree(QWidget *parent = nullptr);
+
+    void setModel(QAbstractItemModel *model) override;
+
+    /// Gives `stretched` all width that is left and the others the width of a sample text each.
+    void fitColumns(int stretched, const QStringList &samples);
+
+    /// To call after a reset: expands the first `count` top rows and forgets the order by column.
+    void startAfresh(int count);
+
+    void expandEverything();
+    void collapseEverything();
+
+    /// The paths of the selected rows, in the order of selection; of rows with a PathRole.
+    [[nodiscard]] QStringList selectedPaths() const;
+
+public slots:
+    void copySelectedPaths() const;
+
+signals:
+    /// Space: tick or untick the selected files.
+    void toggleRequested();
+    /// Enter.
+    void previewRequested();
+    /// Delete.
+    void removeRequested();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void verticalScrollbarValueChanged(int value) override;
+
+private:
+    void sortByHeader(int column, Qt::SortOrder order);
+    void keepPromise();
+    QModelIndexList closedRowsInView(const QModelIndex &top) const;
+
+    bool m_expandsAll = false;
+    bool m_isExpanding = false;
+    QSet<QPersistentModelIndex> m_closed; ///< collapsed by hand while everything else counts as expanded
+};
+
+} // namespace Mirrix
