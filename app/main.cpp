@@ -32,7 +32,7 @@ int main(int argc, char *argv[])
     MirrixCore::setCacheRoot(settings.directory);
 
     Mirrix::DialogPrompts prompts;
-    Mirrix::Mirrix window(settings, prompts);
+    MirrixUi::Mirrix window(settings, prompts);
     // Folders named on the command line, or dropped on the program's icon.
     for (const QString &argument : arguments.mid(1)) {
         if (QDir(argument).exists())

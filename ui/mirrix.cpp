@@ -5,7 +5,7 @@
 #include "core/scan/metatypes.h"
 #include "ui/caption.h"
 #include "ui/locations/locationspage.h"
-#include "ui/logic/locationssettings.h"
+#include "ui/logic/locationsjson.h"
 #include "ui/logic/rulessettings.h"
 #include "ui/logic/scanoptionsfrom.h"
 #include "ui/logic/scansummary.h"
@@ -32,7 +32,9 @@
 #include <QStatusBar>
 #include <QThreadPool>
 
-namespace Mirrix {
+namespace MirrixUi {
+
+using namespace ::Mirrix;
 
 namespace {
 
@@ -136,6 +138,15 @@ void Mirrix::connectPages()
     connect(m_sidebar, &WizardSidebar::stepChosen, this, &Mirrix::goToStep);
     connect(m_sidebar, &WizardSidebar::startRequested, this, &Mirrix::startScan);
     connect(m_sidebar, &WizardSidebar::stopRequested, this, &Mirrix::cancelScan);
+    m_resultsPage->setBackupBeforeDelete(m_locations->state().advanced.backupBeforeDelete);
+    connect(m_locations, &LocationsPage::changed, this, [this] {
+        m_resultsPage->setBackupBeforeDelete(m_locations->state().advanced.backupBeforeDelete);
+    });
+    connect(m_resultsPage, &ResultsPage::backupBeforeDeleteChanged, this, [this](bool on) {
+        LocationsState state = m_locations->state();
+        state.advanced.backupBeforeDelete = on;
+        m_locations->setState(state);
+    });
     connect(new QShortcut(QKeySequence(Qt::Key_F5), this), &QShortcut::activated, this, &Mirrix::startScan);
     connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this, [this] {
         if (m_scanning)
@@ -145,7 +156,7 @@ void Mirrix::connectPages()
 
 void Mirrix::connectMenu(MainMenu *menu)
 {
-    connect(menu, &MainMenu::dataFolderRequested, this, [this] { openFolder(m_settings.directory); });
+    connect(menu, &MainMenu::dataFolderRequested, this, [this] { openWithSystem(m_settings.directory); });
     connect(menu, &MainMenu::quitRequested, this, &Mirrix::quitCompletely);
     connect(menu, &MainMenu::languageChosen, this, &Mirrix::setLanguage);
 }
@@ -201,18 +212,13 @@ bool Mirrix::confirmScanStart(const MirrixCore::ScanOptions &options)
     if (m_settings.skipScanConfirm)
         return true;
     const Confirmation answer =
-        m_prompts.confirm(this, {Text::tr("确认开始扫描"), buildScanSummary(options), Text::tr("开始扫描"),
+        m_prompts.confirm(this, {Text::tr("确认开始扫描"), scanSummary(options), Text::tr("开始扫描"),
                                  Text::tr("取消"), Text::tr("不再显示此确认")});
     if (answer.accepted && answer.checked) {
         m_settings.skipScanConfirm = true;
         m_settings.save();
     }
     return answer.accepted;
-}
-
-QString Mirrix::buildScanSummary(const MirrixCore::ScanOptions &options) const
-{
-    return scanSummary(options);
 }
 
 void Mirrix::storeScanSettings(const MirrixCore::ScanOptions &options)
@@ -361,4 +367,4 @@ void Mirrix::changeEvent(QEvent *event)
     QMainWindow::changeEvent(event);
 }
 
-} // namespace Mirrix
+} // namespace MirrixUi

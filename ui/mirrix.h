@@ -13,7 +13,6 @@ class QLabel;
 class QStackedWidget;
 
 namespace Mirrix {
-
 class LocationsPage;
 class MainMenu;
 class Prompts;
@@ -23,15 +22,19 @@ class ScanThread;
 class TrayIcon;
 class WizardPage;
 class WizardSidebar;
+} // namespace Mirrix
 
-/// The main window: the frame around the three pages of the wizard and the flow of one scan.
+namespace MirrixUi {
+
+/// The main window: the frame around the three pages of the wizard and the flow of one scan. It has a namespace of its own
+/// because that of the rest bears its name.
 class Mirrix : public QMainWindow
 {
     Q_OBJECT
 
 public:
     /// Keeps references to `settings`, which it reads and stores, and to `prompts`, through which it asks.
-    Mirrix(Settings &settings, Prompts &prompts, QWidget *parent = nullptr);
+    Mirrix(::Mirrix::Settings &settings, ::Mirrix::Prompts &prompts, QWidget *parent = nullptr);
     ~Mirrix() override;
 
     /// Adds a folder to the scan locations, as if chosen by the user.
@@ -53,12 +56,11 @@ private:
     void buildLayout();
     void buildTray();
     void connectPages();
-    void connectMenu(MainMenu *menu);
+    void connectMenu(::Mirrix::MainMenu *menu);
     void retranslate();
 
     void buildScanOptions(MirrixCore::ScanOptions &options) const;
     [[nodiscard]] bool confirmScanStart(const MirrixCore::ScanOptions &options);
-    [[nodiscard]] QString buildScanSummary(const MirrixCore::ScanOptions &options) const;
     void storeScanSettings(const MirrixCore::ScanOptions &options);
     void clearResults();
     void setScanning(bool on);
@@ -72,24 +74,24 @@ private:
     void setLanguage(const QString &code);
     [[nodiscard]] QString modeText() const;
 
-    Settings &m_settings;
-    Prompts &m_prompts;
-    OperationsLog m_log;
-    ResultSet m_results;
-    ProgressThrottle m_throttle;
+    ::Mirrix::Settings &m_settings;
+    ::Mirrix::Prompts &m_prompts;
+    ::Mirrix::OperationsLog m_log;
+    ::Mirrix::ResultSet m_results;
+    ::Mirrix::ProgressThrottle m_throttle;
     bool m_scanning = false;
     bool m_quitting = false;
 
-    WizardSidebar *m_sidebar = nullptr;
+    ::Mirrix::WizardSidebar *m_sidebar = nullptr;
     QLabel *m_trail = nullptr;
     QStackedWidget *m_pages = nullptr;
-    QList<WizardPage *> m_wrappers;
-    LocationsPage *m_locations = nullptr;
-    RulesPage *m_rules = nullptr;
-    ResultsPage *m_resultsPage = nullptr;
-    MainMenu *m_menu = nullptr;
-    TrayIcon *m_tray = nullptr;
-    ScanThread *m_scanThread = nullptr;
+    QList<::Mirrix::WizardPage *> m_wrappers;
+    ::Mirrix::LocationsPage *m_locations = nullptr;
+    ::Mirrix::RulesPage *m_rules = nullptr;
+    ::Mirrix::ResultsPage *m_resultsPage = nullptr;
+    ::Mirrix::MainMenu *m_menu = nullptr;
+    ::Mirrix::TrayIcon *m_tray = nullptr;
+    ::Mirrix::ScanThread *m_scanThread = nullptr;
 };
 
-} // namespace Mirrix
+} // namespace MirrixUi
