@@ -55,8 +55,10 @@ LocationsPage::LocationsPage(Prompts &prompts, QWidget *parent, DriveLister driv
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(m_browser);
     splitter->addWidget(m_tableSide);
-    splitter->setStretchFactor(0, 2);
-    splitter->setStretchFactor(1, 5);
+    splitter->setHandleWidth(12);
+    splitter->setSizes({300, 700});
+    splitter->setStretchFactor(0, 0);
+    splitter->setStretchFactor(1, 1);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(splitter);

@@ -60,10 +60,10 @@ QString locationName(const QString &path, const VolumeLabels &labels)
 QString driveLine(const Drive &drive)
 {
     const QString label = drive.label.isEmpty() ? Text::tr("无标签") : drive.label;
+    const QString fileSystem = drive.fileSystem.isEmpty() ? QStringLiteral("-") : drive.fileSystem;
     const QString type = QCoreApplication::translate("Mirrix", driveTypeName(drive.type));
     const QString mark = drive.isSystem ? Text::tr("  ·系统盘") : QString();
-    return QStringLiteral("%1  %2  [%3]  %4  %5%6")
-        .arg(drive.root, label, drive.fileSystem, type, capacityText(drive), mark);
+    return QStringLiteral("%1  %2  [%3]  %4  %5%6").arg(drive.root, label, fileSystem, type, capacityText(drive), mark);
 }
 
 } // namespace Mirrix
