@@ -5,15 +5,18 @@ namespace Mirrix {
 void SelectionMarks::reset(const QList<MirrixCore::DuplicateGroup> &groups)
 {
     clear();
-    m_marks.reserve(groups.size());
+    m_starts.reserve(size_t(groups.size()) + 1);
+    m_starts.push_back(0);
     for (const MirrixCore::DuplicateGroup &group : groups)
-        m_marks.append(QByteArray(group.files.size(), 0));
-    m_counts.fill(0, groups.size());
+        m_starts.push_back(m_starts.back() + size_t(group.files.size()));
+    m_marks.assign(m_starts.back(), 0);
+    m_counts.assign(size_t(groups.size()), 0);
 }
 
 void SelectionMarks::clear()
 {
     m_marks.clear();
+    m_starts.clear();
     m_counts.clear();
     m_total = 0;
 }
@@ -22,32 +25,32 @@ void SelectionMarks::setMarked(qsizetype group, qsizetype file, bool marked)
 {
     if (isMarked(group, file) == marked)
         return;
-    m_marks[group][file] = marked ? 1 : 0;
+    m_marks[m_starts[size_t(group)] + size_t(file)] = marked ? 1 : 0;
     const qsizetype change = marked ? 1 : -1;
-    m_counts[group] += change;
+    m_counts[size_t(group)] += change;
     m_total += change;
 }
 
 void SelectionMarks::markAllBut(qsizetype group, qsizetype kept)
 {
-    QByteArray &marks = m_marks[group];
-    marks.fill(1);
-    if (kept >= 0 && kept < marks.size())
-        marks[kept] = 0;
-    const qsizetype marked = marks.count(1);
-    m_total += marked - m_counts[group];
-    m_counts[group] = marked;
+    const auto number = size_t(group);
+    const qsizetype size = sizeOf(number);
+    const bool keepsOne = kept >= 0 && kept < size;
+    std::fill_n(m_marks.begin() + qsizetype(m_starts[number]), size, quint8(1));
+    if (keepsOne)
+        m_marks[m_starts[number] + size_t(kept)] = 0;
+    const qsizetype marked = keepsOne ? size - 1 : size;
+    m_total += marked - m_counts[number];
+    m_counts[number] = marked;
 }
 
 void SelectionMarks::invert()
 {
-    m_total = 0;
-    for (qsizetype group = 0; group < m_marks.size(); ++group) {
-        for (char &mark : m_marks[group])
-            mark = mark ? 0 : 1;
-        m_counts[group] = m_marks[group].size() - m_counts[group];
-        m_total += m_counts[group];
-    }
+    for (quint8 &mark : m_marks)
+        mark ^= 1;
+    for (size_t group = 0; group < m_counts.size(); ++group)
+        m_counts[group] = sizeOf(group) - m_counts[group];
+    m_total = qsizetype(m_marks.size()) - m_total;
 }
 
 } // namespace Mirrix

@@ -2,8 +2,9 @@
 
 #include "core/scan/scanresult.h"
 
-#include <QByteArray>
 #include <QList>
+
+#include <vector>
 
 namespace Mirrix {
 
@@ -18,7 +19,10 @@ public:
     /// No groups at all.
     void clear();
 
-    [[nodiscard]] bool isMarked(qsizetype group, qsizetype file) const { return m_marks[group][file] != 0; }
+    [[nodiscard]] bool isMarked(qsizetype group, qsizetype file) const
+    {
+        return m_marks[m_starts[size_t(group)] + size_t(file)] != 0;
+    }
     void setMarked(qsizetype group, qsizetype file, bool marked);
 
     /// Marks all files of a group but one; with `kept` -1, all.
@@ -27,13 +31,16 @@ public:
     /// Turns every mark over.
     void invert();
 
-    [[nodiscard]] qsizetype groupCount() const { return m_marks.size(); }
-    [[nodiscard]] qsizetype markedIn(qsizetype group) const { return m_counts[group]; }
+    [[nodiscard]] qsizetype groupCount() const { return qsizetype(m_counts.size()); }
+    [[nodiscard]] qsizetype markedIn(qsizetype group) const { return m_counts[size_t(group)]; }
     [[nodiscard]] qsizetype markedInAll() const { return m_total; }
 
 private:
-    QList<QByteArray> m_marks;
-    QList<qsizetype> m_counts;
+    [[nodiscard]] qsizetype sizeOf(size_t group) const { return qsizetype(m_starts[group + 1] - m_starts[group]); }
+
+    std::vector<quint8> m_marks;  ///< of all groups, one behind the other
+    std::vector<size_t> m_starts; ///< of each group in m_marks, and the end of the last
+    std::vector<qsizetype> m_counts;
     qsizetype m_total = 0;
 };
 

@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 
 namespace Mirrix {
@@ -29,7 +30,7 @@ ResultsTree::ResultsTree(QWidget *parent)
     header()->setSortIndicatorShown(true);
     connect(header(), &QHeaderView::sortIndicatorChanged, this, &ResultsTree::sortByHeader);
     connect(this, &QTreeView::collapsed, this, [this](const QModelIndex &index) {
-        if (m_expandsAll)
+        if (m_expandsAll && !m_isExpanding)
             m_closed.insert(index);
     });
     connect(this, &QTreeView::expanded, this, [this](const QModelIndex &index) { m_closed.remove(index); });
@@ -62,6 +63,7 @@ void ResultsTree::startAfresh(int count)
     }
     m_expandsAll = false;
     m_closed.clear();
+    m_opened.clear();
     const int rows = std::min(count, model()->rowCount());
     for (int row = 0; row < rows; ++row)
         expand(model()->index(row, 0));
@@ -71,6 +73,7 @@ void ResultsTree::expandEverything()
 {
     m_expandsAll = true;
     m_closed.clear();
+    m_opened.clear();
     keepPromise();
 }
 
@@ -78,6 +81,7 @@ void ResultsTree::collapseEverything()
 {
     m_expandsAll = false;
     m_closed.clear();
+    m_opened.clear();
     collapseAll();
 }
 
@@ -93,35 +97,42 @@ void ResultsTree::sortByHeader(int column, Qt::SortOrder order)
     model()->sort(column, order);
 }
 
-QModelIndexList ResultsTree::closedRowsInView(const QModelIndex &top) const
-{
-    const int page = viewport()->height() / std::max(1, rowHeight(top)) + 1;
-    const int row = top.parent().isValid() ? top.parent().row() : top.row();
-    const int last = std::min(row + 2 * page, model()->rowCount() - 1);
-    QModelIndexList closed;
-    for (int i = std::max(0, row - page); i <= last; ++i) {
-        const QModelIndex index = model()->index(i, 0);
-        if (!isExpanded(index) && !m_closed.contains(index))
-            closed.append(index);
-    }
-    return closed;
-}
-
 void ResultsTree::keepPromise()
 {
     const QModelIndex top = m_expandsAll && !m_isExpanding ? indexAt({0, 0}) : QModelIndex();
     if (!top.isValid())
         return;
-    const QModelIndexList closed = closedRowsInView(top);
-    if (closed.isEmpty())
-        return;
-    m_isExpanding = true;
+    const int page = viewport()->height() / std::max(1, rowHeight(top)) + 1;
+    const int row = top.parent().isValid() ? top.parent().row() : top.row();
+    const int last = std::min(row + page, model()->rowCount() - 1);
+    for (int i = std::max(0, row - page); i <= last; ++i) {
+        const QModelIndex index = model()->index(i, 0);
+        if (!isExpanded(index) && !m_closed.contains(index)) {
+            expandOnly(row - 2 * page, row + 2 * page);
+            scrollTo(top, PositionAtTop);
+            return;
+        }
+    }
+}
+
+void ResultsTree::expandOnly(int first, int last)
+{
+    const QScopedValueRollback expanding(m_isExpanding, true);
     scheduleDelayedItemsLayout(); // one layout for all of them
-    for (const QModelIndex &index : closed)
+    for (const QPersistentModelIndex &index : std::exchange(m_opened, {})) {
+        if (index.row() < first || index.row() > last)
+            collapse(index);
+        else
+            m_opened.append(index);
+    }
+    for (int row = std::max(0, first); row <= std::min(last, model()->rowCount() - 1); ++row) {
+        const QModelIndex index = model()->index(row, 0);
+        if (isExpanded(index) || m_closed.contains(index))
+            continue;
         expand(index);
+        m_opened.append(index);
+    }
     executeDelayedItemsLayout();
-    scrollTo(top, PositionAtTop);
-    m_isExpanding = false;
 }
 
 void ResultsTree::verticalScrollbarValueChanged(int value)

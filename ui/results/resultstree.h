@@ -6,9 +6,10 @@
 
 namespace Mirrix {
 
-/// A tree over a GroupedModel that stays quick with 300,000 top rows: QTreeView needs minutes to expand them all, so
-/// here "all expanded" is a promise, kept for the rows on screen and one page around them. Clicks on the header sort
-/// the model, a third click gives the list's own order back.
+/// A tree over a GroupedModel that stays quick with 300,000 top rows. QTreeView lays out everything anew at each
+/// change, with a reallocation for each expanded row, and would need minutes to expand them all; so here "all expanded"
+/// is a promise, kept for the rows on screen and a page around them. Clicks on the header sort the model, a third click
+/// gives the list's own order back.
 class ResultsTree : public QTreeView
 {
     Q_OBJECT
@@ -49,11 +50,12 @@ protected:
 private:
     void sortByHeader(int column, Qt::SortOrder order);
     void keepPromise();
-    QModelIndexList closedRowsInView(const QModelIndex &top) const;
+    void expandOnly(int first, int last);
 
     bool m_expandsAll = false;
     bool m_isExpanding = false;
-    QSet<QPersistentModelIndex> m_closed; ///< collapsed by hand while everything else counts as expanded
+    QList<QPersistentModelIndex> m_opened; ///< expanded for the promise
+    QSet<QPersistentModelIndex> m_closed;  ///< collapsed by hand while everything else counts as expanded
 };
 
 } // namespace Mirrix
