@@ -1,7 +1,6 @@
 #include "core/match/editdistance.h"
 
 #include <algorithm>
-#include <bit>
 #include <cstdlib>
 #include <numeric>
 #include <vector>
@@ -98,11 +97,6 @@ NameSignature nameSignature(QStringView name)
         signature.once |= bit;
     }
     return signature;
-}
-
-bool mayBeWithin(const NameSignature &a, const NameSignature &b, qint32 limit)
-{
-    return std::popcount(a.once ^ b.once) + std::popcount(a.twice ^ b.twice) <= 2 * limit;
 }
 
 } // namespace MirrixCore

@@ -11,6 +11,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <vector>
 
 namespace MirrixCore {
 
@@ -89,27 +90,49 @@ void appendPathParts(QStringList &parts, const FileEntry &entry, const ScanOptio
         parts.append(QLatin1String("RP:") + cased(pathUnderRoot(entry.path, options), options));
 }
 
-/// Buckets by key, in the order in which their first member comes.
-QList<Bucket> bucketsOf(const QList<FileEntry> &files, const ScanOptions &options, bool includeMedia, bool takesKeyless)
+/// Buckets of two or more files, in the order of their first ones; none when cancelled. Most keys occur once: files are
+/// copied only when theirs does not.
+QList<Bucket> sharedBuckets(const QList<FileEntry> &files, const ScanOptions &options, bool includeMedia,
+                            bool takesKeyless, const CancelQuery &cancelled)
 {
-    QList<Bucket> buckets;
-    QHash<QString, qsizetype> bucketOfKey;
+    QHash<QString, qint32> numberOfKey; // from 1; 0 = no bucket
+    std::vector<qint32> sizes = {0};    // by number
+    std::vector<qint32> numberOfFile;
+    numberOfFile.reserve(static_cast<size_t>(files.size()));
     for (const FileEntry &file : files) {
+        if (isCancelled(cancelled))
+            return {};
         const QString key = buildRuleKey(file, options, includeMedia);
-        if (key.isEmpty() && !takesKeyless)
-            continue;
-        const auto found = bucketOfKey.constFind(key);
-        if (found != bucketOfKey.cend()) {
-            buckets[*found].files.append(file);
-        } else {
-            bucketOfKey.insert(key, buckets.size());
-            buckets.append({key, {file}});
+        qint32 number = 0;
+        if (takesKeyless || !key.isEmpty()) {
+            qint32 &known = numberOfKey[key];
+            if (known == 0) {
+                known = static_cast<qint32>(sizes.size());
+                sizes.push_back(0);
+            }
+            number = known;
+            ++sizes[static_cast<size_t>(number)];
         }
+        numberOfFile.push_back(number);
+    }
+
+    QList<Bucket> buckets;
+    std::vector<qsizetype> bucketOfNumber(sizes.size(), -1);
+    for (qsizetype i = 0; i < files.size(); ++i) {
+        const auto number = static_cast<size_t>(numberOfFile[static_cast<size_t>(i)]);
+        if (sizes[number] < 2)
+            continue;
+        if (bucketOfNumber[number] < 0) {
+            bucketOfNumber[number] = buckets.size();
+            buckets.append({buildRuleKey(files[i], options, includeMedia), {}});
+            buckets.last().files.reserve(sizes[number]);
+        }
+        buckets[bucketOfNumber[number]].files.append(files[i]);
     }
     return buckets;
 }
 
-/// The groups that buckets of two or more files become, under keys that begin with `keyPrefix`.
+/// The groups that buckets become, under keys that begin with `keyPrefix`.
 QList<DuplicateGroup> groupsOf(const QList<Bucket> &buckets, const QString &keyPrefix, const QString &clusterKeyForm,
                                const ScanOptions &options, const CancelQuery &cancelled)
 {
@@ -117,8 +140,6 @@ QList<DuplicateGroup> groupsOf(const QList<Bucket> &buckets, const QString &keyP
     for (const Bucket &bucket : buckets) {
         if (isCancelled(cancelled))
             return {};
-        if (bucket.files.size() < 2)
-            continue;
         const bool needsBar = !keyPrefix.isEmpty() && !bucket.key.isEmpty();
         const QString key = keyPrefix + (needsBar ? QStringLiteral("|") : QString()) + bucket.key;
         if (options.similarNames)
@@ -147,7 +168,7 @@ ScanResult groupByRuleKeys(const QList<FileEntry> &files, const ScanOptions &opt
                            const CancelQuery &cancelled)
 {
     ScanResult result = resultOn(files);
-    const QList<Bucket> buckets = bucketsOf(files, options, includeMedia, options.similarNames);
+    const QList<Bucket> buckets = sharedBuckets(files, options, includeMedia, options.similarNames, cancelled);
     result.groups = groupsOf(buckets, {}, QStringLiteral("%1|SFN:%2"), options, cancelled);
     if (options.collapseHardLinks)
         collapseHardLinks(result.groups);
@@ -170,7 +191,9 @@ QList<DuplicateGroup> refineGroupsByRuleKeys(const QList<DuplicateGroup> &groups
         return groups;
     QList<DuplicateGroup> refined;
     for (const DuplicateGroup &group : groups) {
-        const QList<Bucket> buckets = bucketsOf(group.files, options, false, true);
+        if (isCancelled(cancelled))
+            return {};
+        const QList<Bucket> buckets = sharedBuckets(group.files, options, false, true, cancelled);
         refined += groupsOf(buckets, group.key, QStringLiteral("%1|SFN"), options, cancelled);
     }
     return refined;

@@ -2,9 +2,8 @@
 
 #include "core/match/editdistance.h"
 #include "core/match/groups.h"
-#include "core/match/unionfind.h"
+#include "core/match/segmentindex.h"
 
-#include <QHash>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -14,64 +13,91 @@ namespace MirrixCore {
 
 namespace {
 
-struct Name
+/// Finds the clusters of a bucket. Each takes what it reaches out of the index, so that names of one cluster are hardly
+/// ever compared with each other; comparing every pair would give the same clusters.
+class NameClusters
 {
-    QString text;
-    NameSignature signature;
-};
-
-using IndexList = std::vector<qint32>;
-
-std::vector<Name> namesOf(const QList<FileEntry> &members, const ScanOptions &options)
-{
-    std::vector<Name> names;
-    names.reserve(static_cast<size_t>(members.size()));
-    for (const FileEntry &member : members) {
-        const QString text = normalizedBaseName(member.path, options);
-        names.push_back({text, nameSignature(text)});
-    }
-    return names;
-}
-
-/// Joins member `i` with each later one of `others` that is near enough.
-void joinNear(qint32 i, const IndexList &others, const std::vector<Name> &names, qint32 tolerance,
-              const EditMatcher &matcher, UnionFind &sets)
-{
-    const NameSignature &signature = names[static_cast<size_t>(i)].signature;
-    for (auto j = std::upper_bound(others.begin(), others.end(), i); j != others.end(); ++j) {
-        const Name &other = names[static_cast<size_t>(*j)];
-        if (mayBeWithin(signature, other.signature, tolerance) && sets.find(i) != sets.find(*j) &&
-            matcher.isWithin(other.text, tolerance)) {
-            sets.join(i, *j);
-        }
-    }
-}
-
-/// False when cancelled.
-bool joinAll(const std::vector<Name> &names, qint32 tolerance, UnionFind &sets, const CancelQuery &cancelled)
-{
-    QHash<qsizetype, IndexList> indicesOfLength;
-    for (size_t i = 0; i < names.size(); ++i)
-        indicesOfLength[names[i].text.size()].push_back(static_cast<qint32>(i));
-    for (auto it = indicesOfLength.cbegin(); it != indicesOfLength.cend(); ++it) {
-        for (const qint32 i : it.value()) {
+public:
+    NameClusters(const QList<FileEntry> &members, const ScanOptions &options, const CancelQuery &cancelled)
+        : m_cancelled(cancelled)
+    {
+        qsizetype longest = 0;
+        m_names.reserve(static_cast<size_t>(members.size()));
+        for (const FileEntry &member : members) {
             if (isCancelled(cancelled))
-                return false;
-            const EditMatcher matcher(names[static_cast<size_t>(i)].text);
-            for (qint32 longer = 0; longer <= tolerance; ++longer) {
-                const auto others = indicesOfLength.constFind(it.key() + longer);
-                if (others != indicesOfLength.cend())
-                    joinNear(i, *others, names, tolerance, matcher, sets);
-            }
+                return; // and find will give up at once
+            m_names.push_back(normalizedBaseName(member.path, options));
+            longest = std::max(longest, m_names.back().size());
         }
+        m_tolerance = static_cast<qint32>(std::clamp<qsizetype>(options.nameTolerance, 0, longest));
+        m_index = SegmentIndex(m_names, m_tolerance);
+        m_cluster.assign(m_names.size(), unassigned);
     }
-    return true;
-}
+
+    /// The number of each member's cluster, numbered in the order of their first members; empty when cancelled.
+    std::vector<qint32> find()
+    {
+        qint32 count = 0;
+        for (size_t i = 0; i < m_cluster.size(); ++i) {
+            if (m_cluster[i] != unassigned)
+                continue;
+            m_cluster[i] = count;
+            std::vector<qint32> reached = {static_cast<qint32>(i)};
+            for (size_t next = 0; next < reached.size(); ++next) { // which grows meanwhile
+                if (isCancelled(m_cancelled))
+                    return {};
+                takeNear(reached[next], reached);
+            }
+            ++count;
+        }
+        return isCancelled(m_cancelled) ? std::vector<qint32>() : std::move(m_cluster);
+    }
+
+    [[nodiscard]] const QString &name(size_t member) const { return m_names[member]; }
+
+private:
+    static constexpr qint32 unassigned = -1;
+
+    /// Brings all that is in no cluster yet and belongs together with `member` directly into its cluster.
+    void takeNear(qint32 member, std::vector<qint32> &reached)
+    {
+        const auto index = static_cast<size_t>(member);
+        const EditMatcher matcher(m_names[index]);
+        m_index.visitNear(m_names[index], [&](qint32 found) {
+            const auto other = static_cast<size_t>(found);
+            if (m_cluster[other] != unassigned)
+                return true;
+            if (!areCompared(index, other) || !matcher.isWithin(m_names[other], m_tolerance))
+                return false;
+            m_cluster[other] = m_cluster[index];
+            reached.push_back(found);
+            return true;
+        });
+    }
+
+    /// Of names of different lengths only those count whose longer one comes later.
+    [[nodiscard]] bool areCompared(size_t a, size_t b) const
+    {
+        const qsizetype lengthA = m_names[a].size();
+        const qsizetype lengthB = m_names[b].size();
+        return lengthA == lengthB || (lengthA < lengthB) == (a < b);
+    }
+
+    const CancelQuery &m_cancelled;
+    std::vector<QString> m_names; ///< by member, as all below
+    std::vector<qint32> m_cluster;
+    SegmentIndex m_index;
+    qint32 m_tolerance = 0;
+};
 
 } // namespace
 
 QString stripCopySuffix(const QString &text)
 {
+    // Most names end in none of these, and searching them costs more than all else about their keys.
+    static const QString lastCharacters = QStringLiteral("0123456789)]}yY本贝\n");
+    if (text.isEmpty() || !lastCharacters.contains(text.back()))
+        return text.trimmed();
     static const QRegularExpression suffix(
         QStringLiteral("\\s*(?:-\\s*(?:副本|拷贝|Copy)|[\\(\\[\\{]\\d+[\\)\\]\\}]|副本\\d*|Copy\\d*)$"),
         QRegularExpression::CaseInsensitiveOption);
@@ -93,24 +119,19 @@ QList<DuplicateGroup> clusterSimilarNames(const QString &bucketKey, const QList<
                                           const ScanOptions &options, const QString &keyForm,
                                           const CancelQuery &cancelled)
 {
-    const std::vector<Name> names = namesOf(members, options);
-    UnionFind sets(members.size());
-    if (!joinAll(names, std::max(options.nameTolerance, 0), sets, cancelled))
-        return {};
+    NameClusters names(members, options, cancelled);
+    const std::vector<qint32> clusterOf = names.find();
     QList<DuplicateGroup> clusters;
-    QHash<qint32, qsizetype> clusterOfRoot;
-    for (qint32 i = 0; i < static_cast<qint32>(names.size()); ++i) {
-        const qint32 root = sets.find(i);
-        if (!clusterOfRoot.contains(root)) {
-            clusterOfRoot.insert(root, clusters.size());
+    for (size_t i = 0; i < clusterOf.size(); ++i) {
+        if (clusterOf[i] == clusters.size()) {
             QString key = keyForm;
             // %2 first: the bucket key may itself hold such a mark.
-            key.replace(QLatin1String("%2"), names[static_cast<size_t>(i)].text);
+            key.replace(QLatin1String("%2"), names.name(i));
             if (key.startsWith(QLatin1String("%1")))
                 key.replace(0, 2, bucketKey);
             clusters.append({key, {}, 0});
         }
-        clusters[clusterOfRoot.value(root)].files.append(members[i]);
+        clusters[clusterOf[i]].files.append(members[static_cast<qsizetype>(i)]);
     }
     finishGroups(clusters, options);
     return clusters;

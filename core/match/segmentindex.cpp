@@ -1,0 +1,65 @@
+#include "core/match/segmentindex.h"
+
+#include <QHash>
+
+#include <bit>
+#include <utility>
+
+namespace MirrixCore {
+
+namespace {
+constexpr qint32 mostPieces = 12; ///< more would find too much, one by one
+}
+
+SegmentIndex::SegmentIndex(const std::vector<QString> &names, qint32 limit)
+    : m_limit(limit)
+{
+    size_t entries = 0;
+    for (const QString &name : names) {
+        std::vector<Piece> &pieces = m_lengths[name.size()];
+        if (pieces.empty())
+            pieces = piecesOf(name.size());
+        entries += pieces.size();
+    }
+    m_mask = std::bit_ceil(entries + 1) - 1;
+    m_begin.resize(m_mask + 1);
+    m_entries.resize(entries);
+    const auto forEachEntry = [&](const auto &act) {
+        for (size_t i = 0; i < names.size(); ++i) {
+            const std::vector<Piece> &pieces = m_lengths[names[i].size()];
+            for (size_t k = 0; k < pieces.size(); ++k) {
+                const QStringView text = QStringView(names[i]).mid(pieces[k].start, pieces[k].length);
+                act(placeOf(names[i].size(), k, text), static_cast<qint32>(i));
+            }
+        }
+    };
+    forEachEntry([&](size_t place, qint32) { ++m_begin[place]; });
+    quint32 sum = 0;
+    for (quint32 &begin : m_begin)
+        begin = std::exchange(sum, sum + begin);
+    m_end = m_begin;
+    forEachEntry([&](size_t place, qint32 name) {
+        m_entries[m_end[place]++] = {nameSignature(names[static_cast<size_t>(name)]), name};
+    });
+}
+
+/// Even pieces. With many edits, or names shorter than those, one empty piece, which stands in every name.
+std::vector<SegmentIndex::Piece> SegmentIndex::piecesOf(qsizetype length) const
+{
+    const qsizetype count = qsizetype(m_limit) + 1;
+    if (count > mostPieces || length < count)
+        return {{0, 0}};
+    std::vector<Piece> pieces;
+    for (qsizetype i = 0; i < count; ++i) {
+        const qsizetype start = length * i / count;
+        pieces.push_back({start, length * (i + 1) / count - start});
+    }
+    return pieces;
+}
+
+size_t SegmentIndex::placeOf(qsizetype length, size_t piece, QStringView text) const
+{
+    return qHashMulti(0, length, piece, text) & m_mask;
+}
+
+} // namespace MirrixCore
