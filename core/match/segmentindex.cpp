@@ -22,31 +22,44 @@ SegmentIndex::SegmentIndex(const std::vector<QString> &names, qint32 limit)
         entries += pieces.size();
     }
     m_mask = std::bit_ceil(entries + 1) - 1;
-    m_begin.resize(m_mask + 1);
-    m_entries.resize(entries);
+    std::vector<quint32> frequency(m_mask + 1);
+    const auto placesOf = [&](const QString &name) {
+        const std::vector<Piece> &pieces = m_lengths[name.size()];
+        std::vector<size_t> places;
+        for (size_t k = 0; k < pieces.size(); ++k)
+            places.push_back(placeOf(name.size(), k, QStringView(name).mid(pieces[k].start, pieces[k].length)));
+        return places;
+    };
+    for (const QString &name : names) {
+        for (const size_t place : placesOf(name))
+            ++frequency[place];
+    }
     const auto forEachEntry = [&](const auto &act) {
         for (size_t i = 0; i < names.size(); ++i) {
-            const std::vector<Piece> &pieces = m_lengths[names[i].size()];
-            for (size_t k = 0; k < pieces.size(); ++k) {
-                const QStringView text = QStringView(names[i]).mid(pieces[k].start, pieces[k].length);
-                act(placeOf(names[i].size(), k, text), static_cast<qint32>(i));
-            }
+            std::vector<size_t> places = placesOf(names[i]);
+            if (places.size() > 1)
+                places.erase(std::max_element(places.begin(), places.end(),
+                                              [&](size_t a, size_t b) { return frequency[a] < frequency[b]; }));
+            for (const size_t place : places)
+                act(place, i);
         }
     };
-    forEachEntry([&](size_t place, qint32) { ++m_begin[place]; });
+    m_begin.resize(m_mask + 1);
+    forEachEntry([&](size_t place, size_t) { ++m_begin[place]; });
     quint32 sum = 0;
     for (quint32 &begin : m_begin)
         begin = std::exchange(sum, sum + begin);
+    m_entries.resize(sum);
     m_end = m_begin;
-    forEachEntry([&](size_t place, qint32 name) {
-        m_entries[m_end[place]++] = {nameSignature(names[static_cast<size_t>(name)]), name};
+    forEachEntry([&](size_t place, size_t i) {
+        m_entries[m_end[place]++] = {nameSignature(names[i]), static_cast<qint32>(i)};
     });
 }
 
 /// Even pieces. With many edits, or names shorter than those, one empty piece, which stands in every name.
 std::vector<SegmentIndex::Piece> SegmentIndex::piecesOf(qsizetype length) const
 {
-    const qsizetype count = qsizetype(m_limit) + 1;
+    const qsizetype count = qsizetype(m_limit) + 2;
     if (count > mostPieces || length < count)
         return {{0, 0}};
     std::vector<Piece> pieces;

@@ -11,9 +11,10 @@
 namespace MirrixCore {
 
 /// Finds which of many names can be within a number of edits of another, without looking at all of them. Every name is
-/// cut into one piece more than edits are allowed, so at least one piece of a name near enough stands unchanged in the
-/// other, shifted by no more than the edits around it can do (Li, Deng, Wang, Feng: "Pass-Join", 2011). Names go by
-/// their number. Takes about 35 bytes a piece.
+/// cut into two pieces more than edits are allowed, so at least two pieces of a name near enough stand unchanged in the
+/// other, shifted by no more than the edits around them can do (Li, Deng, Wang, Feng: "Pass-Join", 2011). The commonest
+/// piece of each name ("IMG_", this year) is left out; one of the two is always among the others. Names go by their
+/// number. Takes about 35 bytes a piece.
 class SegmentIndex
 {
 public:
