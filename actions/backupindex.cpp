@@ -1,6 +1,7 @@
 #include "actions/backupindex.h"
 
 #include "actions/movefile.h"
+#include "actions/solelock.h"
 #include "app/storedfile.h"
 
 #include <QFile>
@@ -12,8 +13,6 @@
 namespace Mirrix {
 
 namespace {
-
-constexpr int lockPatienceMs = 5000;
 
 const QString originalKey = QStringLiteral("original");
 const QString backupKey = QStringLiteral("backup");
@@ -87,8 +86,7 @@ BackupIndexSession::BackupIndexSession(const QString &folder)
     if (!makeFolders(folder))
         return;
     m_lock = std::make_unique<QLockFile>(joinedPath(folder, QStringLiteral("backup_index.lock")));
-    m_lock->setStaleLockTime(0); // a batch may take hours; a lock whose program has ended is recognised all the same
-    m_isLocked = m_lock->tryLock(lockPatienceMs);
+    m_isLocked = lockSolely(*m_lock);
 }
 
 bool BackupIndexSession::announce(const QList<BackupEntry> &planned)

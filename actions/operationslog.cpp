@@ -1,6 +1,7 @@
 #include "actions/operationslog.h"
 
 #include "actions/aescbc.h"
+#include "actions/solelock.h"
 #include "app/storedfile.h"
 
 #include <QCryptographicHash>
@@ -11,7 +12,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QLockFile>
 #include <QSysInfo>
 
 #include <optional>
@@ -19,8 +19,6 @@
 namespace Mirrix {
 
 namespace {
-
-constexpr int lockPatienceMs = 5000;
 
 /// A JSON string, quotes included. Qt's writer keeps lone surrogates of file names, which toUtf8 would lose.
 QByteArray jsonText(const QString &text)
@@ -77,7 +75,7 @@ bool OperationsLog::append(const QList<LogEntry> &records)
     QDir().mkpath(QFileInfo(m_filePath).path());
     // The window and the console may write at the same time; without this the later one drops the other's record.
     QLockFile lock(m_filePath + QLatin1String(".lock"));
-    if (!lock.tryLock(lockPatienceMs))
+    if (!lockSolely(lock))
         return false;
     const std::optional<QByteArray> stored = storedBytes(m_filePath);
     if (!stored)

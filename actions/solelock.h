@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QLockFile>
+
+namespace Mirrix {
+
+/// Waits up to five seconds for sole access among programs. False when another holds it for longer.
+[[nodiscard]] inline bool lockSolely(QLockFile &lock)
+{
+    constexpr int patienceMs = 5000;
+    // A program killed while it made the lock leaves an empty one, which only its age gives away. The age of a lock
+    // that is held does no harm: the system itself keeps others from taking it.
+    constexpr int staleMs = 500;
+    lock.setStaleLockTime(staleMs);
+    return lock.tryLock(patienceMs);
+}
+
+} // namespace Mirrix
