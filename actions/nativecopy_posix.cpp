@@ -93,8 +93,9 @@ bool copyAttributes(int from, int to, const struct stat &info)
     // Before the mode, since it takes away the set-user-id bits. Only root may give files to others.
     const bool isOwnerKept = fchown(to, info.st_uid, info.st_gid) == 0;
     const mode_t mode = info.st_mode & (isOwnerKept ? 07777 : 0777);
+    const bool hasMode = fchmod(to, mode) == 0 || errno == EPERM || errno == EOPNOTSUPP; // not all volumes have modes
     const std::array<timespec, 2> times = {info.st_atim, info.st_mtim};
-    return fchmod(to, mode) == 0 && futimens(to, times.data()) == 0;
+    return hasMode && futimens(to, times.data()) == 0;
 }
 
 } // namespace

@@ -10,6 +10,9 @@
 #include <objbase.h>
 #include <shellapi.h>
 
+#include <algorithm>
+#include <map>
+#include <memory>
 #include <optional>
 #include <thread>
 
@@ -47,15 +50,31 @@ bool isBinLargeEnough(const std::wstring &root, qint64 sizeBytes)
     return !capacityMib || sizeBytes <= qint64(*capacityMib) * 1024 * 1024;
 }
 
-bool hasBin(const std::wstring &native, qint64 sizeBytes)
+/// The volumes of one batch that were found to have a bin, or none, by their root. Asking takes the shell a look at all
+/// that is in the bin.
+class Volumes
 {
-    wchar_t root[MAX_PATH] = {};
-    if (!GetVolumePathNameW(native.c_str(), root, MAX_PATH) || GetDriveTypeW(root) != DRIVE_FIXED)
-        return false;
-    SHQUERYRBINFO info = {};
-    info.cbSize = sizeof info;
-    return SHQueryRecycleBinW(root, &info) == S_OK && isBinLargeEnough(root, sizeBytes);
-}
+public:
+    [[nodiscard]] bool haveBinFor(const std::wstring &native, qint64 sizeBytes)
+    {
+        wchar_t root[MAX_PATH] = {};
+        if (!GetVolumePathNameW(native.c_str(), root, MAX_PATH))
+            return false;
+        const auto known = m_hasBin.find(root);
+        const bool hasBin = known != m_hasBin.end() ? known->second : (m_hasBin[root] = ask(root));
+        return hasBin && isBinLargeEnough(root, sizeBytes);
+    }
+
+private:
+    [[nodiscard]] static bool ask(const wchar_t *root)
+    {
+        SHQUERYRBINFO info = {};
+        info.cbSize = sizeof info;
+        return GetDriveTypeW(root) == DRIVE_FIXED && SHQueryRecycleBinW(root, &info) == S_OK;
+    }
+
+    std::map<std::wstring, bool> m_hasBin;
+};
 
 /// The shell drops dots and blanks at the end of a name and takes the wrong file.
 bool hasPlainNames(const QString &native)
@@ -86,11 +105,11 @@ QString shellPath(const QString &path)
     return QDir::toNativeSeparators(MirrixCore::absolutePath(path));
 }
 
-bool canTake(const QString &path)
+bool canTake(const QString &path, Volumes &volumes)
 {
     const QString native = shellPath(path);
     return native.size() < MAX_PATH && hasPlainNames(native) && !hasCompanionFolder(path) &&
-           hasBin(native.toStdWString(), pathState(path).sizeBytes);
+           volumes.haveBinFor(native.toStdWString(), pathState(path).sizeBytes);
 }
 
 RecycleBin::Answer callShell(const QStringList &paths)
@@ -125,7 +144,8 @@ RecycleBin::Answer send(const QStringList &paths)
 
 RecycleBin systemRecycleBin()
 {
-    return {filesPerCall, canTake, send};
+    const auto volumes = std::make_shared<Volumes>();
+    return {filesPerCall, [volumes](const QString &path) { return canTake(path, *volumes); }, send};
 }
 
 } // namespace Mirrix

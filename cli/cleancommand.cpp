@@ -2,12 +2,10 @@
 
 #include "actions/backupstore.h"
 #include "actions/changeguard.h"
-#include "actions/fileoperations.h"
-#include "actions/keeprule.h"
 #include "actions/linkreplacement.h"
 #include "actions/operationslog.h"
-#include "app/settings.h"
 #include "app/sizetext.h"
+#include "cli/cleanplan.h"
 #include "cli/output.h"
 #include "cli/progressline.h"
 #include "cli/scancommand.h"
@@ -15,138 +13,14 @@
 
 #include <QHash>
 
-#include <algorithm>
-#include <array>
-
 namespace MirrixCli {
 
 namespace {
 
 using namespace Mirrix;
-using MirrixCore::ContentMatch;
-using MirrixCore::DuplicateGroup;
-using MirrixCore::FileEntry;
-using MirrixCore::ScanOptions;
 using MirrixCore::ScanResult;
-using MirrixCore::SearchMode;
 
-const QString keepOption = QStringLiteral("keep");
-const QString methodOption = QStringLiteral("method");
-const QString targetOption = QStringLiteral("target");
 const QString applyOption = QStringLiteral("apply");
-
-enum class Act
-{
-    Remove,
-    Link,
-    Backup
-};
-
-struct Method
-{
-    QString name;
-    Act act;
-    RemovalMethod number; ///< for Remove, and for the log
-    QString verb;         ///< as the list of what would be done has it
-};
-
-const std::array<Method, 6> &methods()
-{
-    static const std::array<Method, 6> table = {{
-        {QStringLiteral("recycle"), Act::Remove, RemovalMethod::Recycle, QStringLiteral("recycle")},
-        {QStringLiteral("delete"), Act::Remove, RemovalMethod::Delete, QStringLiteral("delete")},
-        {QStringLiteral("move"), Act::Remove, RemovalMethod::Move, QStringLiteral("move")},
-        {QStringLiteral("symlink"), Act::Link, RemovalMethod::SymbolicLink, QStringLiteral("link")},
-        {QStringLiteral("hardlink"), Act::Link, RemovalMethod::HardLink, QStringLiteral("link")},
-        {QStringLiteral("backup"), Act::Backup, RemovalMethod::Recycle, QStringLiteral("back up")},
-    }};
-    return table;
-}
-
-const QStringList ruleNames = {QStringLiteral("newest"), QStringLiteral("oldest"), QStringLiteral("shallowest"),
-                               QStringLiteral("deepest")};
-
-/// One file to act on and the one of its group that stays.
-struct Surplus
-{
-    FileEntry file;
-    FileEntry keeper;
-};
-
-struct CleanPlan
-{
-    KeepRule rule = KeepRule::Newest;
-    Method method;
-    QString target; ///< absolute: where files are moved, or the backup folder
-    ScanOptions options;
-};
-
-KeepRule ruleOf(const QString &name)
-{
-    const qsizetype index = ruleNames.indexOf(name);
-    if (index < 0)
-        throw UsageError{QStringLiteral("--keep needs %1, not \"%2\"").arg(ruleNames.join(QStringLiteral(", ")), name)};
-    return static_cast<KeepRule>(index);
-}
-
-Method methodOf(const QString &name)
-{
-    QStringList names;
-    for (const Method &method : methods()) {
-        if (method.name == name)
-            return method;
-        names.append(method.name);
-    }
-    throw UsageError{QStringLiteral("--method needs %1, not \"%2\"").arg(names.join(QStringLiteral(", ")), name)};
-}
-
-QString targetOf(const QCommandLineParser &parser, const Method &method)
-{
-    const QString given = parser.value(targetOption);
-    const bool takesTarget = method.act != Act::Remove || method.number == RemovalMethod::Move;
-    if (!takesTarget && parser.isSet(targetOption))
-        throw UsageError{QStringLiteral("--target does not go with --method %1").arg(method.name)};
-    if (method.number == RemovalMethod::Move && given.isEmpty())
-        throw UsageError{QStringLiteral("--method move needs --target DIR")};
-    return backupFolderPath(given.isEmpty() ? readSettings(dataDirectoryOf(parser)).backupRoot : given);
-}
-
-/// Only equal contents are proof enough to act without a person looking.
-void refuseLooseMatching(const ScanOptions &options)
-{
-    const bool isExact = options.searchMode == static_cast<qint32>(SearchMode::Files) &&
-                         options.contentMatch == static_cast<qint32>(ContentMatch::Exact) &&
-                         options.locations.isEmpty();
-    if (!isExact)
-        throw UsageError{QStringLiteral("clean acts on files of identical content only")};
-}
-
-CleanPlan planOf(const QCommandLineParser &parser)
-{
-    CleanPlan plan;
-    plan.rule = ruleOf(parser.value(keepOption));
-    plan.method = methodOf(parser.value(methodOption));
-    plan.target = targetOf(parser, plan.method);
-    plan.options.collapseHardLinks = true;
-    readSelection(parser, plan.options);
-    refuseLooseMatching(plan.options);
-    // What was put away is neither surplus nor a reason to put away the last copy in use.
-    plan.options.excludeFolders.append(plan.target);
-    return plan;
-}
-
-QList<Surplus> surplusOf(const ScanResult &result, KeepRule rule)
-{
-    QList<Surplus> surplus;
-    for (const DuplicateGroup &group : result.groups) {
-        const qsizetype keeper = chooseKeeper(group.files, rule);
-        for (qsizetype i = 0; i < group.files.size(); ++i) {
-            if (i != keeper)
-                surplus.append({group.files[i], group.files[keeper]});
-        }
-    }
-    return surplus;
-}
 
 void printPlan(const QList<Surplus> &surplus, const CleanPlan &plan)
 {
@@ -200,13 +74,13 @@ BatchResult act(const QList<Surplus> &surplus, const CleanPlan &plan)
         links.append({one.file.path, one.keeper.path});
     }
     switch (plan.method.act) {
-    case Act::Backup:
+    case CleanAct::Backup:
         return backupFiles(plan.target, paths, control);
-    case Act::Link:
+    case CleanAct::Link:
         return replaceByLinks(plan.target, links,
                               plan.method.number == RemovalMethod::HardLink ? LinkKind::Hard : LinkKind::Symbolic,
                               Originals::Discard, control);
-    case Act::Remove:
+    case CleanAct::Remove:
         break;
     }
     return removeFiles(plan.method.number, paths, plan.target, {}, control);
@@ -224,7 +98,7 @@ void logScan(OperationsLog &log, const CleanPlan &plan, const ScanResult &result
 
 void logActs(OperationsLog &log, const CleanPlan &plan, qsizetype count)
 {
-    if (plan.method.act == Act::Backup)
+    if (plan.method.act == CleanAct::Backup)
         log.append(QStringLiteral("backup_batch"), QStringLiteral("count=%1").arg(count));
     else
         log.append(QStringLiteral("remove_batch"),
@@ -255,20 +129,8 @@ ExitStatus apply(const QList<Surplus> &surplus, const CleanPlan &plan, Operation
 
 void addCleanOptions(QCommandLineParser &parser)
 {
-    parser.addOptions({
-        {keepOption,
-         QStringLiteral("Which file of each group stays: newest, oldest, shallowest or deepest; the first of equals."),
-         QStringLiteral("RULE")},
-        {methodOption,
-         QStringLiteral("What happens to the others: recycle, delete, move, backup, or symlink or hardlink, which put "
-                        "a link to the kept file in their place."),
-         QStringLiteral("METHOD")},
-        {targetOption,
-         QStringLiteral("Where move puts the files; else the backup folder (default: as in the settings)."),
-         QStringLiteral("DIR")},
-        {applyOption, QStringLiteral("Do it. Without this, what would be done is printed.")},
-    });
-    addSelectionOptions(parser);
+    addPlanOptions(parser);
+    parser.addOption({applyOption, QStringLiteral("Do it. Without this, what would be done is printed.")});
 }
 
 ExitStatus runClean(const QCommandLineParser &parser)
