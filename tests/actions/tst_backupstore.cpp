@@ -26,7 +26,6 @@ class BackupStoreTest : public QObject
 private slots:
     void init() { m_tree = std::make_unique<TempTree>(); }
     void thereAndBack();
-    void acrossVolumes();
     void namesOfBytes();
     void whatCannotBeBackedUpStays();
     void nothingMovesWithoutIndex_data();
@@ -96,20 +95,6 @@ void BackupStoreTest::thereAndBack()
     QCOMPARE(treeBelow(store()).keys(), QStringList{u"backup_index.json"_s});
 }
 
-void BackupStoreTest::acrossVolumes()
-{
-    const auto other = folderOnOtherVolume(m_tree->path());
-    if (!other)
-        QSKIP("no second volume");
-    const QStringList paths = fill({u"one"_s, u"two"_s});
-    const DiskTree before = source();
-    QCOMPARE(backupFiles(other->path(), paths).count, 2);
-    QVERIFY(source().isEmpty());
-    QCOMPARE(treeBelow(other->path()).size(), 3);
-    QCOMPARE(restoreBackups(other->path(), restorableEntries(other->path())).count, 2);
-    QCOMPARE(source(), before);
-}
-
 void BackupStoreTest::namesOfBytes()
 {
     if (!namesAreBytes)
@@ -166,15 +151,7 @@ void BackupStoreTest::nothingMovesWithoutIndex()
 /// The store is full after the first file and the index: what did not get in is where it was, the rest is listed.
 void BackupStoreTest::fullDisk()
 {
-    if (smallDisk().isEmpty()) {
-        QByteArray problem;
-        if (!passesOnSmallDisk(problem)) {
-            if (problem == "cannot mount")
-                QSKIP("cannot mount a small file system");
-            QFAIL(problem.constData());
-        }
-        return;
-    }
+    MIRRIX_ON_SMALL_DISK();
     const QStringList paths = fill({u"1"_s, u"2"_s});
     m_tree->write(u"src/2"_s, patternBytes(30000));
     const DiskTree before = source();

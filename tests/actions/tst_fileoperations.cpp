@@ -200,15 +200,7 @@ void FileOperationsTest::fullDisk()
 {
     QFETCH(int, size);
     QFETCH(bool, fits);
-    if (smallDisk().isEmpty()) {
-        QByteArray problem;
-        if (!passesOnSmallDisk(problem)) {
-            if (problem == "cannot mount")
-                QSKIP("cannot mount a small file system");
-            QFAIL(problem.constData());
-        }
-        return;
-    }
+    MIRRIX_ON_SMALL_DISK();
     const QString path = m_tree->write(u"file"_s, patternBytes(size));
     const DiskTree before = treeBelow(m_tree->path());
     QString error;

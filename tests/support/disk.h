@@ -104,3 +104,14 @@ using DiskTree = QMap<QString, QByteArray>;
 }
 
 } // namespace MirrixTest
+
+/// Goes on on a disk of 20 KiB, in a second run of the row, and ends the first.
+#define MIRRIX_ON_SMALL_DISK()                                                                                         \
+    if (MirrixTest::smallDisk().isEmpty()) {                                                                           \
+        QByteArray problem;                                                                                            \
+        const bool isPassed = MirrixTest::passesOnSmallDisk(problem);                                                  \
+        if (problem == "cannot mount")                                                                                 \
+            QSKIP("cannot mount a small file system");                                                                 \
+        QVERIFY2(isPassed, problem.constData());                                                                       \
+        return;                                                                                                        \
+    }
