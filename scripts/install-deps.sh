@@ -25,6 +25,8 @@ for option in "$@"; do
     esac
 done
     qt6-base-dev qt6-base-dev-tools qt6-l10n-tools libssl-dev)
+    qt6-base-dev qt6-base-dev-tools qt6-l10n-tools
+    libopencv-core-dev libopencv-imgproc-dev libopencv-imgcodecs-dev libtag1-dev libexif-dev libraw-dev libmediainfo0v5)
 if [ "${1:-}" = --windows ]; then
     packages+=(g++-mingw-w64-x86-64-posix wine wine64 xvfb xauth libz-mingw-w64-dev libz-mingw-w64 xz-utils)
 fi

@@ -1,5 +1,9 @@
 #include "core/cache/cacheroot.h"
 
+#include "core/platform/nativepath.h"
+
+#include <QCryptographicHash>
+
 #include <mutex>
 
 namespace MirrixCore {
@@ -30,6 +34,16 @@ QString cacheRoot()
 {
     const std::lock_guard lock(root().mutex);
     return root().folder;
+}
+
+QString cacheEntryPath(const QString &cacheName, const QString &filePath)
+{
+    const QString folder = cacheRoot();
+    if (folder.isEmpty())
+        return {};
+    const QByteArray digest = QCryptographicHash::hash(pathBytes(filePath), QCryptographicHash::Sha256).toHex();
+    return folder + QLatin1Char('/') + cacheName + QLatin1Char('/') + QLatin1String(digest.first(2)) +
+           QLatin1Char('/') + QLatin1String(digest) + QLatin1String(".json");
 }
 
 QStringList cacheFolders()

@@ -16,6 +16,10 @@ void setCacheRoot(const QString &dataDirectory);
 inline const QString fingerprintCacheName = QStringLiteral("fingerprint_cache");
 inline const QString imageFeatureCacheName = QStringLiteral("image_feature_cache");
 
+/// Where a cache keeps its entry for a file: below its folder, by the SHA-256 digest of the file's path; empty while
+/// the caches are off. Thread-safe.
+[[nodiscard]] QString cacheEntryPath(const QString &cacheName, const QString &filePath);
+
 /// Absolute paths of the caches' folders; none while the caches are off.
 [[nodiscard]] QStringList cacheFolders();
 

@@ -3,9 +3,7 @@
 #include "core/cache/cacheroot.h"
 #include "core/hash/contenthasher.h"
 #include "core/hash/filereader.h"
-#include "core/platform/nativepath.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -123,12 +121,7 @@ void store(const QString &filePath, qint64 sizeBytes, qint64 modifiedMs, const Q
 
 QString cachePathFor(const QString &filePath)
 {
-    const QString root = cacheRoot();
-    if (root.isEmpty())
-        return {};
-    const QByteArray digest = QCryptographicHash::hash(pathBytes(filePath), QCryptographicHash::Sha256).toHex();
-    return root + QLatin1Char('/') + fingerprintCacheName + QLatin1Char('/') + QLatin1String(digest.first(2)) +
-           QLatin1Char('/') + QLatin1String(digest) + QLatin1String(".json");
+    return cacheEntryPath(fingerprintCacheName, filePath);
 }
 
 Fingerprint lookupFingerprint(const QString &filePath, qint64 sizeBytes, qint64 modifiedMs)

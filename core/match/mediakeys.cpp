@@ -138,6 +138,17 @@ QStringList imageParts(const FileEntry &entry, const ScanOptions &options)
 
 } // namespace
 
+bool imageTagsDiffer(const FileEntry &a, const FileEntry &b, const ScanOptions &options)
+{
+    return std::any_of(options.imageTags.begin(), options.imageTags.end(), [&](const TagEntry &tag) {
+        if (tag.enabled != 1)
+            return false;
+        const QString first = imageField(a, tag.name);
+        const QString second = imageField(b, tag.name);
+        return !first.isEmpty() && !second.isEmpty() && first != second;
+    });
+}
+
 QStringList mediaKeyParts(const FileEntry &entry, const ScanOptions &options)
 {
     switch (static_cast<SearchMode>(options.searchMode)) {

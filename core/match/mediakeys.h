@@ -11,4 +11,8 @@ namespace MirrixCore {
 /// nothing. Thread-safe.
 [[nodiscard]] QStringList mediaKeyParts(const FileEntry &entry, const ScanOptions &options);
 
+/// Whether two pictures have a different value for one of the enabled image tags. A value that is not known differs
+/// from none. Thread-safe.
+[[nodiscard]] bool imageTagsDiffer(const FileEntry &a, const FileEntry &b, const ScanOptions &options);
+
 } // namespace MirrixCore

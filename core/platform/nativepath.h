@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <filesystem>
+
 namespace MirrixCore {
 
 // Paths inside the program are QStrings with forward slashes. Not every file name is proper Unicode: POSIX names are
@@ -19,6 +21,10 @@ namespace MirrixCore {
 
 /// The path that `bytes` stand for; pathBytes gives them back unchanged.
 [[nodiscard]] QString pathFromBytes(QByteArrayView bytes);
+
+/// The path for libraries that open files themselves, in the units and the form of the system's calls. Its c_str() is
+/// what they take: bytes on POSIX, 16-bit units on Windows.
+[[nodiscard]] std::filesystem::path filesystemPath(const QString &path);
 
 /// `path` made absolute against the current folder, forward slashes. On Windows ".." is resolved, as the system does
 /// it, by the text; on POSIX it stays, since behind a link it leads elsewhere.

@@ -61,6 +61,11 @@ QString pathFromBytes(QByteArrayView bytes)
     return path;
 }
 
+std::filesystem::path filesystemPath(const QString &path)
+{
+    return {pathBytes(path).toStdString()};
+}
+
 QString absolutePath(const QString &path)
 {
     using SystemText = std::unique_ptr<char, decltype(&std::free)>;

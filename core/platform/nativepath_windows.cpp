@@ -47,6 +47,11 @@ QString pathFromBytes(QByteArrayView bytes)
     return path + decodeWholeUtf8(bytes.sliced(done));
 }
 
+std::filesystem::path filesystemPath(const QString &path)
+{
+    return {longPath(path)};
+}
+
 QString absolutePath(const QString &path)
 {
     return QDir::cleanPath(QDir::current().absoluteFilePath(QDir::fromNativeSeparators(path)));

@@ -31,7 +31,7 @@ struct FileEntry
     QString track; ///< decimal text
     QString cameraMake;
     QString cameraModel;
-    QString dateTaken; ///< as the file states it
+    QString dateTaken; ///< "yyyy-MM-dd HH:mm:ss" in local time, or as the file states it when that is no date
 
     double latitude = 0;  ///< degrees, north positive; valid with hasGps
     double longitude = 0; ///< degrees, east positive; valid with hasGps

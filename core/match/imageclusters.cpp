@@ -1,0 +1,171 @@
+#include "core/match/imageclusters.h"
+
+#include "core/match/mediakeys.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <numbers>
+#include <unordered_map>
+
+namespace MirrixCore {
+
+namespace {
+
+/// Width and height, with `anyOrientation` the longer one first.
+struct Sides
+{
+    qint64 first;
+    qint64 second;
+
+    Sides(const FileEntry &file, bool anyOrientation)
+        : first(file.width)
+        , second(file.height)
+    {
+        if (anyOrientation && first < second)
+            std::swap(first, second);
+    }
+
+    [[nodiscard]] double ratio() const { return double(first) / double(second); }
+};
+
+bool sizesAllow(const FileEntry &a, const FileEntry &b, const ScanOptions &options)
+{
+    constexpr double mostRatioDifference = 0.02;
+    const bool isKnown = a.width >= 1 && a.height >= 1 && b.width >= 1 && b.height >= 1;
+    if (!isKnown || (!options.imageSameDimensions && !options.imageSameAspect))
+        return true;
+    const Sides first(a, options.imageFindRotated);
+    const Sides second(b, options.imageFindRotated);
+    if (std::abs(first.ratio() - second.ratio()) > mostRatioDifference)
+        return false;
+    const qint64 tolerance = std::max(options.imageDimensionTolerance, 0);
+    return !options.imageSameDimensions ||
+           (std::abs(first.first - second.first) <= tolerance && std::abs(first.second - second.second) <= tolerance);
+}
+
+bool timesAllow(const FileEntry &a, const FileEntry &b, const ScanOptions &options)
+{
+    if (!options.imageSameShotTime || a.shotMs <= 0 || b.shotMs <= 0)
+        return true;
+    return std::abs(a.shotMs - b.shotMs) <= qint64(std::max(options.imageShotTimeTolerance, 1)) * 1000;
+}
+
+/// Takes the earth for flat between the two: good for the distances that are asked for, up to some kilometres.
+bool positionsAllow(const FileEntry &a, const FileEntry &b, const ScanOptions &options)
+{
+    constexpr double metresPerDegree = 111000;
+    if (!options.imageGroupByGps || !a.hasGps || !b.hasGps)
+        return true;
+    const double middle = (a.latitude + b.latitude) * 0.5 * std::numbers::pi / 180;
+    const double dy = (a.latitude - b.latitude) * metresPerDegree;
+    const double dx = (a.longitude - b.longitude) * metresPerDegree * std::cos(middle);
+    return std::sqrt(dx * dx + dy * dy) <= std::max(options.imageGpsPrecision, 1);
+}
+
+class Clustering
+{
+public:
+    Clustering(const QList<FileEntry> &files, const std::vector<ImageFeature> &features, const ScanOptions &options)
+        : m_files(files)
+        , m_features(features)
+        , m_options(options)
+    {
+        for (size_t i = 0; i < features.size(); ++i) {
+            if (features[i].isValid)
+                m_buckets[bucketOf(i)].push_back(i);
+        }
+    }
+
+    QList<DuplicateGroup> run(const CancelQuery &cancelled)
+    {
+        QList<DuplicateGroup> groups;
+        std::vector<bool> isVisited(m_features.size());
+        for (size_t seed = 0; seed < m_features.size(); ++seed) {
+            if (!m_features[seed].isValid || isVisited[seed])
+                continue;
+            std::vector<size_t> members = componentOf(seed, cancelled);
+            if (isCancelled(cancelled))
+                return {};
+            for (const size_t member : members)
+                isVisited[member] = true;
+            if (members.size() >= 2)
+                groups.append(groupOf(members));
+        }
+        return groups;
+    }
+
+private:
+    using Bucket = std::vector<size_t>; // the pictures of one key that are in no component yet, in list order
+
+    [[nodiscard]] quint32 bucketOf(size_t image) const { return static_cast<quint32>(m_features[image].primary >> 48); }
+
+    /// The seed, which is the first of its component in list order, and all that are reached from it.
+    std::vector<size_t> componentOf(size_t seed, const CancelQuery &cancelled)
+    {
+        std::vector<size_t> members{seed};
+        Bucket &own = m_buckets[bucketOf(seed)];
+        own.erase(std::lower_bound(own.begin(), own.end(), seed));
+        for (size_t next = 0; next < members.size() && !isCancelled(cancelled); ++next) {
+            const quint32 bucket = bucketOf(members[next]);
+            for (const quint32 key : {bucket, bucket ^ 1})
+                moveMatches(members[next], key, members);
+        }
+        return members;
+    }
+
+    /// Moves what matches `image` from a bucket to the members.
+    void moveMatches(size_t image, quint32 key, std::vector<size_t> &members)
+    {
+        const auto found = m_buckets.find(key);
+        if (found == m_buckets.end())
+            return;
+        Bucket &bucket = found->second;
+        const auto rest = std::remove_if(bucket.begin(), bucket.end(), [&](size_t candidate) {
+            const bool isMatch = matches(image, candidate);
+            if (isMatch)
+                members.push_back(candidate);
+            return isMatch;
+        });
+        bucket.erase(rest, bucket.end());
+    }
+
+    [[nodiscard]] bool matches(size_t a, size_t b) const
+    {
+        return factsAllowPair(m_files[static_cast<qsizetype>(a)], m_files[static_cast<qsizetype>(b)], m_options) &&
+               featuresMatch(m_features[a], m_features[b], m_options.imageMaxDistance, m_options.imageMatchHistogram);
+    }
+
+    [[nodiscard]] DuplicateGroup groupOf(std::vector<size_t> &members) const
+    {
+        DuplicateGroup group;
+        group.key = QStringLiteral("img-") +
+                    QStringLiteral("%1").arg(m_features[members.front()].primary, 16, 16, QLatin1Char('0'));
+        std::sort(members.begin(), members.end());
+        for (const size_t member : members)
+            group.files.append(m_files[static_cast<qsizetype>(member)]);
+        group.wastedBytes = wasteOf(group.files);
+        return group;
+    }
+
+    const QList<FileEntry> &m_files;
+    const std::vector<ImageFeature> &m_features;
+    const ScanOptions &m_options;
+    std::unordered_map<quint32, Bucket> m_buckets;
+};
+
+} // namespace
+
+bool factsAllowPair(const FileEntry &a, const FileEntry &b, const ScanOptions &options)
+{
+    return sizesAllow(a, b, options) && timesAllow(a, b, options) && positionsAllow(a, b, options) &&
+           !imageTagsDiffer(a, b, options);
+}
+
+QList<DuplicateGroup> groupSimilarImages(const QList<FileEntry> &files, const std::vector<ImageFeature> &features,
+                                         const ScanOptions &options, const CancelQuery &cancelled)
+{
+    return Clustering(files, features, options).run(cancelled);
+}
+
+} // namespace MirrixCore

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "core/media/imagefeature.h"
+#include "core/scan/scanoptions.h"
+#include "core/scan/scanprogress.h"
+#include "core/scan/scanresult.h"
+
+#include <vector>
+
+namespace MirrixCore {
+
+/// Whether everything but the hashes allows two pictures to be similar under the options: dimensions, aspect ratio,
+/// shot time, position and tags, as far as they are known of both. Thread-safe.
+[[nodiscard]] bool factsAllowPair(const FileEntry &a, const FileEntry &b, const ScanOptions &options);
+
+/// Groups pictures whose hashes are at most `imageMaxDistance` bits apart and which pass the other checks of the
+/// options, each group named "img-" and the hash of its first member. `features[i]` belongs to `files[i]`; pictures
+/// without a valid one join no group. A picture is compared only with those whose primary hash has the same upper 16
+/// bits, their lowest apart: near-linear in the number of pictures, at the price of some that are missed. Similarity
+/// passes on: the ends of a group may be further apart. Members and groups in list order; no group when `cancelled`
+/// answers true.
+[[nodiscard]] QList<DuplicateGroup> groupSimilarImages(const QList<FileEntry> &files,
+                                                       const std::vector<ImageFeature> &features,
+                                                       const ScanOptions &options, const CancelQuery &cancelled);
+
+} // namespace MirrixCore

@@ -1,0 +1,105 @@
+#include "core/media/imagefeature.h"
+
+#include "core/media/opencvfeature.h"
+#include "core/media/pictures.h"
+#include "core/media/qtfeature.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cmath>
+#include <cstring>
+
+namespace MirrixCore {
+
+namespace {
+
+constexpr size_t bins = 64;
+constexpr qint64 mostPixels = qint64(1) << 28; // a gigabyte in colour; beyond lie bombs, not photographs
+
+using Histogram = std::array<float, bins>;
+
+Histogram histogramIn(const QByteArray &bytes)
+{
+    Histogram histogram{};
+    std::memcpy(histogram.data(), bytes.constData(), sizeof histogram);
+    return histogram;
+}
+
+} // namespace
+
+ImageFeature imageFeatureOf(const QByteArray &bytes, const FeatureRequest &request)
+{
+    ImageFeature feature;
+    const QSize size = pictureSize(bytes);
+    if (bytes.isEmpty() || qint64(size.width()) * size.height() > mostPixels)
+        return feature;
+    const OpenCvFeature byOpenCv = openCvFeature();
+    if (!byOpenCv || !byOpenCv(bytes, request, feature))
+        static_cast<void>(qtFeature(bytes, request, feature));
+    return feature;
+}
+
+bool computeImageHash(const QString &path, quint64 &hash)
+{
+    hash = computeImageFeature(path, false, false).primary;
+    return hash != 0;
+}
+
+ImageFeature computeImageFeature(const QString &path, bool allowRotation, bool allowMirror)
+{
+    FeatureRequest request;
+    request.allowRotation = allowRotation;
+    request.allowMirror = allowMirror;
+    return imageFeatureOf(readPicture(path, request.useRawPreview).bytes, request);
+}
+
+QByteArray computeImageHistogram(const QString &path)
+{
+    FeatureRequest request;
+    request.withHistogram = true;
+    return imageFeatureOf(readPicture(path, request.useRawPreview).bytes, request).histogram;
+}
+
+bool histogramsMatch(const QByteArray &a, const QByteArray &b, double threshold)
+{
+    constexpr qsizetype needed = sizeof(Histogram);
+    constexpr double leastLength = 1e-12;
+    if (a.size() < needed || b.size() < needed)
+        return false;
+    const Histogram first = histogramIn(a);
+    const Histogram second = histogramIn(b);
+    double dot = 0;
+    double firstSquares = 0;
+    double secondSquares = 0;
+    for (size_t i = 0; i < bins; ++i) {
+        dot += double(first[i]) * double(second[i]);
+        firstSquares += double(first[i]) * double(first[i]);
+        secondSquares += double(second[i]) * double(second[i]);
+    }
+    const double lengths = std::sqrt(firstSquares * secondSquares);
+    return lengths > leastLength && dot / lengths >= threshold;
+}
+
+bool variantsMatch(std::span<const quint64> a, std::span<const quint64> b, int maxDistance)
+{
+    return std::any_of(a.begin(), a.end(), [&](quint64 first) {
+        return std::any_of(b.begin(), b.end(),
+                           [&](quint64 second) { return std::popcount(first ^ second) <= maxDistance; });
+    });
+}
+
+bool featuresMatch(const ImageFeature &a, const ImageFeature &b, int maxDistance, bool matchHistogram)
+{
+    if (matchHistogram && !histogramsMatch(a.histogram, b.histogram, leastHistogramCosine))
+        return false;
+    return a.isValid && b.isValid && variantsMatch(a.variants, b.variants, maxDistance);
+}
+
+int imageDistanceOfLevel(int level)
+{
+    constexpr std::array distances = {0, 5, 10, 15, 22};
+    return distances[static_cast<size_t>(std::clamp(level, 0, 4))];
+}
+
+} // namespace MirrixCore

@@ -1,0 +1,120 @@
+#include "core/media/opencvfeature.h"
+
+#include "core/media/featurebuilder.h"
+#include "core/media/quietdecoding.h"
+
+#include <opencv2/core.hpp>
+#include <opencv2/core/utils/logger.hpp>
+#include <opencv2/imgcodecs.hpp>
+#include <opencv2/imgproc.hpp>
+
+using namespace MirrixCore;
+
+namespace {
+
+class CvPicture
+{
+public:
+    explicit CvPicture(const cv::Mat &grey)
+        : m_grey(grey)
+    {}
+
+    /// Which of the 63 lowest frequencies but the constant one are stronger than their mean, in rows.
+    [[nodiscard]] quint64 hash() const
+    {
+        constexpr int side = 32;
+        constexpr int kept = 8;
+        const cv::Mat small = resized(side);
+        if (isUniform(small))
+            return 0; // rounding would make bits out of nothing
+        cv::Mat values;
+        small.convertTo(values, CV_32F);
+        cv::Mat waves;
+        cv::dct(values, waves);
+        const auto wave = [&](int k) { return waves.at<float>((k + 1) / kept, (k + 1) % kept); };
+        constexpr int count = kept * kept - 1;
+        double sum = 0;
+        for (int k = 0; k < count; ++k)
+            sum += wave(k);
+        quint64 bits = 0;
+        for (int k = 0; k < count; ++k)
+            bits |= static_cast<quint64>(wave(k) > sum / count) << k;
+        return bits;
+    }
+
+    [[nodiscard]] CvPicture turned(int quarters) const
+    {
+        constexpr cv::RotateFlags flags[] = {cv::ROTATE_90_CLOCKWISE, cv::ROTATE_180, cv::ROTATE_90_COUNTERCLOCKWISE};
+        cv::Mat result;
+        cv::rotate(m_grey, result, flags[quarters - 1]);
+        return CvPicture(result);
+    }
+
+    [[nodiscard]] CvPicture mirrored() const
+    {
+        constexpr int aboutVerticalAxis = 1;
+        cv::Mat result;
+        cv::flip(m_grey, result, aboutVerticalAxis);
+        return CvPicture(result);
+    }
+
+    [[nodiscard]] QByteArray histogram() const
+    {
+        constexpr int side = 128;
+        const cv::Mat small = resized(side);
+        std::array<qint64, histogramBins> counts{};
+        for (auto pixel = small.begin<uchar>(); pixel != small.end<uchar>(); ++pixel)
+            ++counts[*pixel / 4];
+        return histogramFrom(counts, side * side);
+    }
+
+private:
+    [[nodiscard]] cv::Mat resized(int side) const
+    {
+        cv::Mat small;
+        cv::resize(m_grey, small, cv::Size(side, side), 0, 0, cv::INTER_AREA);
+        return small;
+    }
+
+    static bool isUniform(const cv::Mat &picture)
+    {
+        double least = 0;
+        double greatest = 0;
+        cv::minMaxLoc(picture, &least, &greatest);
+        return least == greatest;
+    }
+
+    cv::Mat m_grey;
+};
+
+/// Once a process: no words on standard error, and no threads besides those that call.
+void tameLibrary()
+{
+    static const bool done = [] {
+        cv::utils::logging::setLogLevel(cv::utils::logging::LOG_LEVEL_SILENT);
+        cv::redirectError([](int, const char *, const char *, const char *, int, void *) { return 0; });
+        cv::setNumThreads(1);
+        return true;
+    }();
+    Q_UNUSED(done);
+}
+
+} // namespace
+
+bool mirrixOpenCvFeature(const QByteArray &bytes, const FeatureRequest &request, ImageFeature &feature)
+{
+    tameLibrary();
+    if (bytes.isEmpty() || bytes.size() > std::numeric_limits<int>::max())
+        return false;
+    const QuietDecoding quiet;
+    try {
+        const cv::Mat encoded(1, static_cast<int>(bytes.size()), CV_8U, const_cast<char *>(bytes.constData()));
+        const cv::Mat grey = cv::imdecode(encoded, cv::IMREAD_GRAYSCALE);
+        if (grey.empty() || grey.type() != CV_8U)
+            return false;
+        feature = featureOfPicture(CvPicture(grey), request);
+        return true;
+    } catch (...) { // what a broken file makes the library throw
+        return false;
+    }
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "core/media/imagefeature.h"
+
+/// Computes the feature of a picture's encoded bytes with OpenCV; false when it cannot decode them. Never throws, never
+/// writes to standard error. Thread-safe; runs on the calling thread alone.
+extern "C" bool mirrixOpenCvFeature(const QByteArray &bytes, const MirrixCore::FeatureRequest &request,
+                                    MirrixCore::ImageFeature &feature);
+
+namespace MirrixCore {
+
+using OpenCvFeature = decltype(&mirrixOpenCvFeature);
+
+/// The function above, null where OpenCV is missing. Where the libraries behind OpenCV are many and slow to load, it
+/// lives in a module that the first call of this function loads. Thread-safe.
+[[nodiscard]] OpenCvFeature openCvFeature();
+
+} // namespace MirrixCore

@@ -1,0 +1,10 @@
+#include "core/media/opencvfeature.h"
+
+namespace MirrixCore {
+
+OpenCvFeature openCvFeature()
+{
+    return &mirrixOpenCvFeature;
+}
+
+} // namespace MirrixCore

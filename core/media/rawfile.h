@@ -1,0 +1,27 @@
+#pragma once
+
+#include "core/scan/fileentry.h"
+
+#include <QByteArray>
+#include <QSize>
+#include <QString>
+
+namespace MirrixCore {
+
+// RAW files of cameras, read with LibRaw. All functions are thread-safe and answer with nothing for what LibRaw does
+// not know or cannot read.
+
+/// The largest picture embedded in a RAW file, encoded: mostly JPEG, from a few cameras PPM.
+[[nodiscard]] QByteArray embeddedPreview(const QString &path);
+
+/// A RAW file developed at half its width and height with the camera's white balance, as 8-bit PPM or PGM.
+[[nodiscard]] QByteArray developedRaw(const QString &path);
+
+/// Width and height of the picture a RAW file holds, in pixels, before any turning.
+[[nodiscard]] QSize rawSize(const QString &path);
+
+/// Fills the members of `entry` that are still empty: dimensions, shot time, camera, date taken, description, position,
+/// and with `withTags` the further texts about lens and exposure.
+void readRawFacts(FileEntry &entry, bool withTags);
+
+} // namespace MirrixCore
