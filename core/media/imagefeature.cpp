@@ -3,6 +3,7 @@
 #include "core/media/opencvfeature.h"
 #include "core/media/pictures.h"
 #include "core/media/qtfeature.h"
+#include "core/media/quietdecoding.h"
 
 #include <algorithm>
 #include <array>
@@ -34,6 +35,7 @@ ImageFeature imageFeatureOf(const QByteArray &bytes, const FeatureRequest &reque
     const QSize size = pictureSize(bytes);
     if (bytes.isEmpty() || qint64(size.width()) * size.height() > mostPixels)
         return feature;
+    const QuietDecoding quiet;
     const OpenCvFeature byOpenCv = openCvFeature();
     if (!byOpenCv || !byOpenCv(bytes, request, feature))
         static_cast<void>(qtFeature(bytes, request, feature));

@@ -1,7 +1,6 @@
 #include "core/media/opencvfeature.h"
 
 #include "core/media/featurebuilder.h"
-#include "core/media/quietdecoding.h"
 
 #include <opencv2/core.hpp>
 #include <opencv2/core/utils/logger.hpp>
@@ -87,7 +86,7 @@ private:
     cv::Mat m_grey;
 };
 
-/// Once a process: no words on standard error, and no threads besides those that call.
+/// Once a process: no words of its own about broken files, and no threads besides those that call.
 void tameLibrary()
 {
     static const bool done = [] {
@@ -106,7 +105,6 @@ bool mirrixOpenCvFeature(const QByteArray &bytes, const FeatureRequest &request,
     tameLibrary();
     if (bytes.isEmpty() || bytes.size() > std::numeric_limits<int>::max())
         return false;
-    const QuietDecoding quiet;
     try {
         const cv::Mat encoded(1, static_cast<int>(bytes.size()), CV_8U, const_cast<char *>(bytes.constData()));
         const cv::Mat grey = cv::imdecode(encoded, cv::IMREAD_GRAYSCALE);

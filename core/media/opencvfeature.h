@@ -2,8 +2,8 @@
 
 #include "core/media/imagefeature.h"
 
-/// Computes the feature of a picture's encoded bytes with OpenCV; false when it cannot decode them. Never throws, never
-/// writes to standard error. Thread-safe; runs on the calling thread alone.
+/// Computes the feature of a picture's encoded bytes with OpenCV; false when it cannot decode them. Never throws.
+/// Thread-safe; runs on the calling thread alone.
 extern "C" bool mirrixOpenCvFeature(const QByteArray &bytes, const MirrixCore::FeatureRequest &request,
                                     MirrixCore::ImageFeature &feature);
 

@@ -1,7 +1,6 @@
 #include "core/media/qtfeature.h"
 
 #include "core/media/featurebuilder.h"
-#include "core/media/quietdecoding.h"
 
 #include <QImage>
 #include <QTransform>
@@ -85,7 +84,6 @@ private:
 
 bool qtFeature(const QByteArray &bytes, const FeatureRequest &request, ImageFeature &feature)
 {
-    const QuietDecoding quiet;
     const QImage image = QImage::fromData(bytes);
     if (image.isNull())
         return false;

@@ -2,8 +2,6 @@
 
 namespace MirrixCore {
 
-// A program with windows has no standard error here.
-QuietDecoding::QuietDecoding() = default;
-QuietDecoding::~QuietDecoding() = default;
+void filterCStandardError() {}
 
 } // namespace MirrixCore

@@ -1,0 +1,314 @@
+#include "core/media/imagefeature.h"
+#include "core/media/pictures.h"
+#include "core/media/qtfeature.h"
+#include "tests/support/temptree.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QImageWriter>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+#include <bit>
+#include <cstring>
+#include <functional>
+#include <map>
+
+using namespace MirrixCore;
+using namespace MirrixTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Formula = std::function<int(quint32 x, quint32 y)>;
+
+/// The pictures of scripts/make-image-vectors.py.
+const std::map<QString, Formula> formulas = {
+    {u"gradient"_s, [](quint32 x, quint32 y) { return (x * 5 + y * 2) / 9 % 256; }},
+    {u"xor"_s, [](quint32 x, quint32 y) { return (x ^ y) & 255; }},
+    {u"rings"_s, [](quint32 x, quint32 y) { return (x * x + y * y) / 100 % 256; }},
+    {u"noise"_s, [](quint32 x, quint32 y) { return ((x + 1000 * y) * 2654435761U) >> 24; }},
+    {u"blocks"_s, [](quint32 x, quint32 y) { return 255 * ((x / 37 * 7 + y / 29 * 5) % 3) / 2; }},
+};
+
+QImage grey(int width, int height, const Formula &formula)
+{
+    QImage image(width, height, QImage::Format_Grayscale8);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x)
+            image.scanLine(y)[x] = static_cast<uchar>(formula(static_cast<quint32>(x), static_cast<quint32>(y)));
+    }
+    return image;
+}
+
+QByteArray encoded(const QImage &image, const char *format, int quality = -1, bool progressive = false)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    QImageWriter writer(&buffer, format);
+    writer.setQuality(quality);
+    writer.setProgressiveScanWrite(progressive);
+    return writer.write(image) ? bytes : QByteArray();
+}
+
+ImageFeature featureOf(const QByteArray &bytes, bool rotation = true, bool mirror = true)
+{
+    return imageFeatureOf(bytes, {rotation, mirror, true, true});
+}
+
+int distance(quint64 a, quint64 b)
+{
+    return std::popcount(a ^ b);
+}
+
+/// A PNG that claims to be this large and holds next to nothing.
+QByteArray bomb(quint32 width, quint32 height)
+{
+    QByteArray bytes = encoded(grey(1, 1, formulas.at(u"xor"_s)), "png");
+    const auto put = [&](qsizetype at, quint32 number) {
+        for (int i = 0; i < 4; ++i)
+            bytes[at + i] = static_cast<char>(number >> (24 - 8 * i));
+    };
+    put(16, width);
+    put(20, height);
+    quint32 crc = 0xFFFFFFFF; // of the head's chunk, which begins at byte 12
+    for (qsizetype i = 12; i < 29; ++i) {
+        crc ^= static_cast<uchar>(bytes[i]);
+        for (int bit = 0; bit < 8; ++bit)
+            crc = (crc >> 1) ^ (crc & 1 ? 0xEDB88320U : 0);
+    }
+    put(29, ~crc);
+    return bytes;
+}
+
+} // namespace
+
+class ImageFeatureTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void vectors_data();
+    void vectors();
+    void transformsGoWithTheRequest();
+    void formats_data();
+    void formats();
+    void qtHash();
+    void onlyQtDecodes();
+    void uniformPictureHasNoHash();
+    void brokenBytes_data();
+    void brokenBytes();
+    void truncated();
+    void readsFiles();
+    void histograms();
+    void pairs();
+};
+
+void ImageFeatureTest::vectors_data()
+{
+    QTest::addColumn<QJsonObject>("vector");
+    const QJsonArray vectors = QJsonDocument::fromJson(testData(u"core/data/image-vectors.json"_s)).array();
+    QVERIFY(vectors.size() >= 10);
+    for (const QJsonValue &item : vectors) {
+        const QJsonObject vector = item.toObject();
+        const QString name = u"%1 %2x%3"_s.arg(vector[u"formula"_s].toString())
+                                 .arg(vector[u"width"_s].toInt())
+                                 .arg(vector[u"height"_s].toInt());
+        QTest::newRow(qPrintable(name)) << vector;
+    }
+}
+
+void ImageFeatureTest::vectors()
+{
+    QFETCH(QJsonObject, vector);
+    const QImage image =
+        grey(vector[u"width"_s].toInt(), vector[u"height"_s].toInt(), formulas.at(vector[u"formula"_s].toString()));
+    const ImageFeature feature = featureOf(encoded(image, "png"));
+    QList<quint64> expected;
+    const QJsonArray variants = vector[u"variants"_s].toArray();
+    for (const QJsonValue &variant : variants)
+        expected.append(variant.toString().toULongLong(nullptr, 16));
+    QCOMPARE(feature.variants, expected);
+    QCOMPARE(feature.primary, expected[0]);
+    const QJsonArray counts = vector[u"histogram"_s].toArray();
+    for (qsizetype i = 0; i < counts.size(); ++i) {
+        float share = 0;
+        std::memcpy(&share, feature.histogram.constData() + i * qsizetype(sizeof share), sizeof share);
+        QCOMPARE(share, static_cast<float>(counts[i].toInt() / 16384.0));
+    }
+}
+
+void ImageFeatureTest::transformsGoWithTheRequest()
+{
+    const QImage image = grey(333, 517, formulas.at(u"rings"_s));
+    const QByteArray bytes = encoded(image, "png");
+    const QList<quint64> all = featureOf(bytes).variants;
+    QCOMPARE(all.size(), 8);
+    QCOMPARE(featureOf(bytes, false, false).variants, all.first(1));
+    QCOMPARE(featureOf(bytes, true, false).variants, all.first(4));
+    QCOMPARE(featureOf(bytes, false, true).variants, (QList<quint64>{all[0], all[4]}));
+    QVERIFY(imageFeatureOf(bytes, {}).histogram.isEmpty());
+    const QImage turned = image.transformed(QTransform().rotate(90));
+    QCOMPARE(featureOf(encoded(turned, "png")).primary, all[1]);
+}
+
+void ImageFeatureTest::formats_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<int>("mostBits"); // by which the hash may differ from that of the plain picture
+    const QImage image = grey(333, 517, formulas.at(u"rings"_s));
+    QTest::newRow("PGM") << encoded(image, "pgm") << 0;
+    QTest::newRow("BMP") << encoded(image, "bmp") << 0;
+    QTest::newRow("16 bit") << encoded(image.convertToFormat(QImage::Format_Grayscale16), "png") << 0;
+    QTest::newRow("colour") << encoded(image.convertToFormat(QImage::Format_RGB32), "png") << 0;
+    QTest::newRow("alpha") << encoded(image.convertToFormat(QImage::Format_ARGB32), "png") << 0;
+    QTest::newRow("palette") << encoded(image.convertToFormat(QImage::Format_Indexed8), "png") << 5;
+    QTest::newRow("JPEG") << encoded(image, "jpg", 90) << 5;
+    QTest::newRow("JPEG, low quality") << encoded(image, "jpg", 30) << 10;
+    QTest::newRow("progressive JPEG") << encoded(image, "jpg", 90, true) << 5;
+    QTest::newRow("half size") << encoded(image.scaled(166, 258, Qt::IgnoreAspectRatio, Qt::SmoothTransformation),
+                                          "png")
+                               << 5;
+    QTest::newRow("WebP") << encoded(image, "webp", 90) << 5;
+    QTest::newRow("TIFF") << encoded(image, "tiff") << 0;
+}
+
+void ImageFeatureTest::formats()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(int, mostBits);
+    if (bytes.isEmpty())
+        QSKIP("Qt cannot write this format here");
+    const ImageFeature feature = featureOf(bytes);
+    const ImageFeature plain = featureOf(encoded(grey(333, 517, formulas.at(u"rings"_s)), "png"));
+    QVERIFY(feature.isValid);
+    QVERIFY2(distance(feature.primary, plain.primary) <= mostBits,
+             qPrintable(QString::number(distance(feature.primary, plain.primary))));
+}
+
+/// 72 x 64 pixels are cells of 9 x 8 for one half and of 8 x 8 for the other. Only the upper four rows of each count.
+void ImageFeatureTest::qtHash()
+{
+    ImageFeature feature;
+    const auto hash = [&](const Formula &formula) {
+        return qtFeature(encoded(grey(72, 64, formula), "png"), {}, feature) ? feature.primary : 0;
+    };
+    // Brighter to the right: each pixel less than its neighbour; the right half above the mean.
+    QCOMPARE(hash([](quint32 x, quint32) { return x * 3; }), 0xF0F0F0F0FFFFFFFFU);
+    QCOMPARE(hash([](quint32 x, quint32) { return 216 - x * 3; }), 0x0F0F0F0F00000000U);
+    // The upper half bright.
+    QCOMPARE(hash([](quint32, quint32 y) { return y < 32 ? 200 : 20; }), 0xFFFFFFFF00000000U);
+    const QByteArray ramp = encoded(grey(72, 72, [](quint32 x, quint32) { return x * 3; }), "png");
+    QVERIFY(qtFeature(ramp, {true, true, true, true}, feature));
+    // Turned clockwise it is brighter below, which the upper rows say nothing of but that they are dark.
+    QCOMPARE(feature.variants, (QList<quint64>{0xF0F0F0F0FFFFFFFF, 0x0F0F0F0F00000000, 0xFFFFFFFF00000000}));
+    QCOMPARE(feature.histogram.size(), 256);
+}
+
+void ImageFeatureTest::onlyQtDecodes()
+{
+    const QImage image = grey(72, 64, [](quint32 x, quint32) { return x * 3; });
+    const QByteArray bytes = encoded(image.convertToFormat(QImage::Format_Indexed8), "xpm");
+    QVERIFY(!bytes.isEmpty());
+    QCOMPARE(featureOf(bytes).primary, 0xF0F0F0F0FFFFFFFFU);
+}
+
+void ImageFeatureTest::uniformPictureHasNoHash()
+{
+    for (const int size : {1, 31, 100}) {
+        const ImageFeature feature = featureOf(encoded(grey(size, size, [](quint32, quint32) { return 77; }), "png"));
+        QVERIFY(!feature.isValid);
+        QCOMPARE(feature.variants, QList<quint64>());
+        QByteArray expected(256, '\0');
+        const float whole = 1;
+        std::memcpy(expected.data() + 4 * (77 / 4), &whole, sizeof whole);
+        QCOMPARE(feature.histogram, expected);
+    }
+}
+
+void ImageFeatureTest::brokenBytes_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("one byte") << QByteArray("x");
+    QTest::newRow("text") << QByteArray("This is no picture at all.\n");
+    QTest::newRow("noise") << patternBytes(100000);
+    for (const char *head : {"\xFF\xD8\xFF\xE0", "\x89PNG\r\n\x1A\n", "BM", "GIF89a", "II*\0", "RIFF", "P5 9 9 255\n"})
+        QTest::addRow("head %02x", static_cast<uchar>(head[0])) << QByteArray(head) + patternBytes(1000);
+    QTest::newRow("square bomb") << bomb(60000, 60000);
+    QTest::newRow("long bomb") << bomb(2000000000, 1);
+}
+
+void ImageFeatureTest::brokenBytes()
+{
+    QFETCH(QByteArray, bytes);
+    QVERIFY(!featureOf(bytes).isValid || bytes.startsWith("P5"));
+}
+
+/// No crash, whatever part is missing; what little is decoded of the picture may have a hash.
+void ImageFeatureTest::truncated()
+{
+    const QImage image = grey(333, 517, formulas.at(u"rings"_s));
+    for (const char *format : {"png", "jpg", "bmp", "webp", "tiff"}) {
+        const QByteArray bytes = encoded(image, format, 90);
+        for (int tenth = 0; tenth < 10; ++tenth) {
+            const ImageFeature feature = featureOf(bytes.first(bytes.size() * tenth / 10));
+            QCOMPARE(feature.isValid, !feature.variants.isEmpty());
+        }
+    }
+}
+
+void ImageFeatureTest::readsFiles()
+{
+    const TempTree tree;
+    const QImage image = grey(333, 517, formulas.at(u"rings"_s));
+    const ImageFeature expected = featureOf(encoded(image, "png"));
+    for (const QString &name : {u"a.png"_s, u"wrong.jpg"_s, u"no picture's.cr2"_s, u"日本 é"_s}) {
+        const QString path = tree.write(name, encoded(image, "png"));
+        QCOMPARE(computeImageFeature(path, true, true).variants, expected.variants);
+        quint64 hash = 0;
+        QVERIFY(computeImageHash(path, hash));
+        QCOMPARE(hash, expected.primary);
+        QCOMPARE(computeImageHistogram(path), expected.histogram);
+        QCOMPARE(pictureSizeOfFile(path), QSize(333, 517));
+    }
+    for (const QString &path : {tree.path(u"missing.png"_s), tree.path(), tree.write(u"empty.png"_s, {})}) {
+        quint64 hash = 1;
+        QVERIFY(!computeImageHash(path, hash));
+        QVERIFY(!computeImageFeature(path, true, true).isValid);
+        QVERIFY(computeImageHistogram(path).isEmpty());
+    }
+}
+
+void ImageFeatureTest::histograms()
+{
+    const auto histogram = [](std::initializer_list<float> first) {
+        QByteArray bytes(256, '\0');
+        std::memcpy(bytes.data(), first.begin(), first.size() * sizeof(float));
+        return bytes;
+    };
+    // The cosine of (1, 0) and (3, 4) is 3 / 5.
+    QVERIFY(histogramsMatch(histogram({1, 0}), histogram({3, 4}), 0.6));
+    QVERIFY(!histogramsMatch(histogram({1, 0}), histogram({3, 4}), 0.6001));
+    QVERIFY(!histogramsMatch(histogram({0}), histogram({0}), 0));
+    QVERIFY(!histogramsMatch(histogram({1}), histogram({1}).first(255), 0));
+    QVERIFY(histogramsMatch(histogram({1}), histogram({1}) + "more", 1));
+}
+
+void ImageFeatureTest::pairs()
+{
+    const ImageFeature a{0xF0, {0xF0, 0xFFFF0000}, true, {}};
+    const ImageFeature b{0x3, {0x3, 0xFFFF0007}, true, {}};
+    QVERIFY(featuresMatch(a, b, 3, false));
+    QVERIFY(!featuresMatch(a, b, 2, false));
+    QVERIFY(!featuresMatch(a, b, 64, true)); // no histograms
+    QVERIFY(!featuresMatch(a, {0xF0, {0xF0}, false, {}}, 64, false));
+    const QList<int> distances{0, 5, 10, 15, 22};
+    for (int level = 0; level < 5; ++level)
+        QCOMPARE(imageDistanceOfLevel(level), distances[level]);
+}
+
+QTEST_GUILESS_MAIN(ImageFeatureTest)
+#include "tst_imagefeature.moc"
