@@ -70,25 +70,23 @@ public:
         : m_files(files)
         , m_features(features)
         , m_options(options)
+        , m_isPlaced(features.size())
     {
         for (size_t i = 0; i < features.size(); ++i) {
             if (features[i].isValid)
-                m_buckets[bucketOf(i)].push_back(i);
+                addToBuckets(i);
         }
     }
 
     QList<DuplicateGroup> run(const CancelQuery &cancelled)
     {
         QList<DuplicateGroup> groups;
-        std::vector<bool> isVisited(m_features.size());
         for (size_t seed = 0; seed < m_features.size(); ++seed) {
-            if (!m_features[seed].isValid || isVisited[seed])
+            if (!m_features[seed].isValid || m_isPlaced[seed])
                 continue;
             std::vector<size_t> members = componentOf(seed, cancelled);
             if (isCancelled(cancelled))
                 return {};
-            for (const size_t member : members)
-                isVisited[member] = true;
             if (members.size() >= 2)
                 groups.append(groupOf(members));
         }
@@ -96,20 +94,32 @@ public:
     }
 
 private:
-    using Bucket = std::vector<size_t>; // the pictures of one key that are in no component yet, in list order
+    using Bucket = std::vector<size_t>; // in list order; those in a component already are taken out when met
 
-    [[nodiscard]] quint32 bucketOf(size_t image) const { return static_cast<quint32>(m_features[image].primary >> 48); }
+    static quint32 keyOf(quint64 hash) { return static_cast<quint32>(hash >> 48); }
+
+    /// Under the key of each variant: the hash of a turned copy as it is has nothing in common with the original's.
+    void addToBuckets(size_t image)
+    {
+        const auto add = [&](quint64 hash) {
+            Bucket &bucket = m_buckets[keyOf(hash)];
+            if (bucket.empty() || bucket.back() != image)
+                bucket.push_back(image);
+        };
+        add(m_features[image].primary);
+        for (const quint64 variant : m_features[image].variants)
+            add(variant);
+    }
 
     /// The seed, which is the first of its component in list order, and all that are reached from it.
     std::vector<size_t> componentOf(size_t seed, const CancelQuery &cancelled)
     {
         std::vector<size_t> members{seed};
-        Bucket &own = m_buckets[bucketOf(seed)];
-        own.erase(std::lower_bound(own.begin(), own.end(), seed));
+        m_isPlaced[seed] = true;
         for (size_t next = 0; next < members.size() && !isCancelled(cancelled); ++next) {
-            const quint32 bucket = bucketOf(members[next]);
-            for (const quint32 key : {bucket, bucket ^ 1})
-                moveMatches(members[next], key, members);
+            const quint32 key = keyOf(m_features[members[next]].primary);
+            moveMatches(members[next], key, members);
+            moveMatches(members[next], key ^ 1, members);
         }
         return members;
     }
@@ -122,9 +132,13 @@ private:
             return;
         Bucket &bucket = found->second;
         const auto rest = std::remove_if(bucket.begin(), bucket.end(), [&](size_t candidate) {
+            if (m_isPlaced[candidate])
+                return true;
             const bool isMatch = matches(image, candidate);
-            if (isMatch)
+            if (isMatch) {
+                m_isPlaced[candidate] = true;
                 members.push_back(candidate);
+            }
             return isMatch;
         });
         bucket.erase(rest, bucket.end());
@@ -152,6 +166,7 @@ private:
     const std::vector<ImageFeature> &m_features;
     const ScanOptions &m_options;
     std::unordered_map<quint32, Bucket> m_buckets;
+    std::vector<bool> m_isPlaced; // in a component
 };
 
 } // namespace
