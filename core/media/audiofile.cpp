@@ -7,6 +7,8 @@
 #include <taglib/tag.h>
 #include <taglib/tpropertymap.h>
 
+#include <algorithm>
+
 namespace MirrixCore {
 
 namespace {
@@ -44,10 +46,10 @@ void readAudioFacts(FileEntry &entry, bool withTags)
 {
     const std::filesystem::path path = filesystemPath(entry.path);
     const TagLib::FileRef file(path.c_str(), true, TagLib::AudioProperties::Average);
-    if (file.isNull())
+    if (file.isNull() || file.file()->length() == 0) // of an empty file the library makes up a duration
         return;
     if (const TagLib::AudioProperties *audio = file.audioProperties())
-        entry.durationMs = audio->lengthInMilliseconds();
+        entry.durationMs = std::max(audio->lengthInMilliseconds(), 0);
     if (const TagLib::Tag *tag = file.tag()) {
         setIfEmpty(entry.title, textFrom(tag->title()));
         setIfEmpty(entry.artist, textFrom(tag->artist()));
