@@ -7,7 +7,7 @@
 #include "cli/terminal.h"
 #include "core/cache/cacheroot.h"
 #include "core/match/rulekeys.h"
-#include "core/media/metadata.h"
+#include "core/media/mediakinds.h"
 #include "core/platform/nativepath.h"
 #include "core/scan/duplicatescanner.h"
 #include "core/scan/optiontable.h"
@@ -124,10 +124,6 @@ bool isChoice(qint32 value, qint32 largest)
 /// Refuses what would be answered with an empty result.
 void refuseUnsupported(const ScanOptions &options)
 {
-    if (options.searchMode == static_cast<qint32>(SearchMode::Images))
-        throw UsageError{QStringLiteral("this version does not compare pictures yet")};
-    if (MediaMetadata::isNeeded(options))
-        throw UsageError{QStringLiteral("this version does not read tags and durations yet")};
     if (!isChoice(options.searchMode, 3) || !isChoice(options.contentMatch, 2) ||
         !isChoice(options.mediaCompareDepth, 4) || !isChoice(options.mediaCompareDepthAlt, 2))
         throw UsageError{QStringLiteral("no such choice for searchMode, contentMatch or mediaCompareDepth")};
@@ -247,7 +243,8 @@ void addScanOptions(QCommandLineParser &parser)
     parser.addOptions({
         {modeOption,
          QStringLiteral("What makes files duplicates: content (default); similar-content: samples that agree to "
-                        "similarPercent; audio, video: samples and openings, as deep as mediaCompareDepth (audio) and "
+                        "similarPercent; images: how pictures look, up to imageMaxDistance; audio, video: samples and "
+                        "openings, as deep as mediaCompareDepth (audio) and "
                         "mediaCompareDepthAlt (video) say; rules: names, sizes, dates and paths as set, whatever the "
                         "content."),
          QStringLiteral("MODE")},
@@ -268,6 +265,8 @@ ScanOptions scanOptionsOf(const QCommandLineParser &parser)
     if (parser.isSet(modeOption))
         applyMode(parser.value(modeOption), options);
     refuseUnsupported(options);
+    if (options.includeExtensions.isEmpty())
+        options.includeExtensions = extensionsOf(static_cast<SearchMode>(options.searchMode));
     return options;
 }
 

@@ -201,8 +201,9 @@ void ScanCommandTest::modes_data()
     row({u"--mode"_s, u"content"_s}, {md5}, 1, 0);
     row({u"--set"_s, u"duplicateFoldersOnly=true"_s, u"--set"_s, u"showRemaining=true"_s}, {md5}, 1, 2);
     row({u"--mode"_s, u"similar-content"_s, u"--set"_s, u"similarPercent=60"_s}, {u"SIM:66%"_s}, 0, 0);
-    row({u"--mode"_s, u"audio"_s}, {md5}, 1, 0);
-    row({u"--mode"_s, u"video"_s}, {opening}, 1, 0);
+    const QString all = u"includeExtensions=txt,dat"_s;
+    row({u"--mode"_s, u"audio"_s, u"--set"_s, all}, {md5}, 1, 0);
+    row({u"--mode"_s, u"video"_s, u"--set"_s, all}, {opening}, 1, 0);
 }
 
 void ScanCommandTest::modes()
@@ -362,9 +363,6 @@ void ScanCommandTest::mistakes_data()
     row({u"--threads"_s, QString(), u"/a"_s}, threads.arg(QString()));
     row({u"--mode"_s, u"sound"_s, u"/a"_s},
         u"--mode needs one of content, similar-content, rules, images, audio, video, not \"sound\""_s);
-    row({u"--mode"_s, u"images"_s, u"/a"_s}, u"this version does not compare pictures yet"_s);
-    row({u"--mode"_s, u"audio"_s, u"--set"_s, u"audioMatchDuration=true"_s, u"/a"_s},
-        u"this version does not read tags and durations yet"_s);
     row({u"--hash"_s, u"BLAKE3"_s, u"/a"_s}, u"--hash needs md5 or blake3, not \"BLAKE3\""_s);
     row({u"--format"_s, u"csv"_s, u"/a"_s}, u"--format needs text or json, not \"csv\""_s);
     row({u"--recursive"_s, u"/a"_s}, u"Unknown option 'recursive'."_s);
