@@ -215,5 +215,1241 @@
         <source>停止</source>
         <translation>Stop</translation>
     </message>
+    <message>
+        <source>扫描过程中发生未知错误</source>
+        <translation>An unknown error occurred during the scan</translation>
+    </message>
+    <message>
+        <source>扫描已取消</source>
+        <translation>Scan cancelled</translation>
+    </message>
+    <message>
+        <source>可移动磁盘</source>
+        <translation>Removable disk</translation>
+    </message>
+    <message>
+        <source>本地磁盘</source>
+        <translation>Local disk</translation>
+    </message>
+    <message>
+        <source>网络驱动器</source>
+        <translation>Network drive</translation>
+    </message>
+    <message>
+        <source>光驱</source>
+        <translation>Optical drive</translation>
+    </message>
+    <message>
+        <source>内存盘</source>
+        <translation>RAM disk</translation>
+    </message>
+    <message>
+        <source>恢复失败: %1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>原路径已存在文件，已取消恢复: %1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>无法移动到备份目录: %1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>文件在扫描后已更改，已保留: %1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>要保留的文件已更改，未处理: %1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>与要保留的文件可能是同一个文件，未处理: %1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>无法创建目标目录: %1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>目标已存在: %1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>链接路径已存在: %1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>没有创建符号链接的权限（请启用开发人员模式或以管理员身份运行）: %1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>无法删除: %1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>无法移动: %1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>无法复制: %1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>无法创建硬链接: %1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>无法创建符号链接: %1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>文件不存在: %1</source>
+        <translation>File not found: %1</translation>
+    </message>
+    <message>
+        <source>链接目标不是可用的文件: %1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>原文件未能放回，可从备份中恢复: %1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>无法放入回收站，已保留: %1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>批量移入回收站失败 (code %1, %2 个文件)</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>未移入回收站，仍在原处: %1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>保留最新文件</source>
+        <translation>Keep newest file</translation>
+    </message>
+    <message>
+        <source>保留最旧文件</source>
+        <translation>Keep oldest file</translation>
+    </message>
+    <message>
+        <source>保留最上层目录</source>
+        <translation>Keep shallowest path</translation>
+    </message>
+    <message>
+        <source>保留最深路径</source>
+        <translation>Keep longest path</translation>
+    </message>
+    <message>
+        <source>选择备份目录</source>
+        <translation>Choose the backup folder</translation>
+    </message>
+    <message>
+        <source>高级选项（保留规则、备份等）</source>
+        <translation>Advanced (keep rules, backup, …)</translation>
+    </message>
+    <message>
+        <source>保留规则</source>
+        <translation>Keep rule</translation>
+    </message>
+    <message>
+        <source>跳过隐藏文件</source>
+        <translation>Skip hidden files</translation>
+    </message>
+    <message>
+        <source>排除系统目录</source>
+        <translation>Exclude system folders</translation>
+    </message>
+    <message>
+        <source>删除前自动备份</source>
+        <translation>Auto backup before delete</translation>
+    </message>
+    <message>
+        <source>备份目录</source>
+        <translation>Backup folder</translation>
+    </message>
+    <message>
+        <source>选择要扫描的磁盘 / 分区</source>
+        <translation>Drives / partitions to scan</translation>
+    </message>
+    <message>
+        <source>勾选分区后加入扫描列表（不会立即开始扫描）。
+系统目录仍会默认排除。建议慎选系统盘整盘扫描。</source>
+        <translation>Tick partitions to add them to the scan list (the scan won't start yet).
+System folders stay excluded. Think twice before scanning the whole system drive.</translation>
+    </message>
+    <message>
+        <source>加入扫描列表</source>
+        <translation>Add to scan list</translation>
+    </message>
+    <message>
+        <source>未勾选任何磁盘。</source>
+        <translation>No drives selected.</translation>
+    </message>
+    <message>
+        <source>系统盘确认</source>
+        <translation>System drive confirmation</translation>
+    </message>
+    <message>
+        <source>您选择了系统盘。整盘扫描耗时较长，系统目录仍会排除。
+是否加入扫描列表？</source>
+        <translation>You selected a system drive. Full-disk scans take longer; system folders stay excluded.
+Add to scan list?</translation>
+    </message>
+    <message>
+        <source>确认添加</source>
+        <translation>Confirm add</translation>
+    </message>
+    <message>
+        <source>将 %1 个分区加入扫描列表（不会立即开始扫描）：
+%2</source>
+        <translation>Add %1 partition(s) to scan list (scan won't start yet):
+%2</translation>
+    </message>
+    <message>
+        <source>未检测到可扫描的磁盘或分区。</source>
+        <translation>No scannable drives or partitions found.</translation>
+    </message>
+    <message>
+        <source>选择要排除的文件夹</source>
+        <translation>Choose a folder to exclude</translation>
+    </message>
+    <message>
+        <source>排除目录</source>
+        <translation>Excluded folders</translation>
+    </message>
+    <message>
+        <source>+ 排除</source>
+        <translation>+ Exclude</translation>
+    </message>
+    <message>
+        <source>移除</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>选择一个扫描时不进入的文件夹</source>
+        <translation>Choose a folder that scans do not enter</translation>
+    </message>
+    <message>
+        <source>从排除目录中移除选中的文件夹</source>
+        <translation>Remove the selected folders from the excluded ones</translation>
+    </message>
+    <message>
+        <source>可操作文件夹</source>
+        <translation>Browse folders</translation>
+    </message>
+    <message>
+        <source>浏览文件夹，用右侧的 → 加入扫描位置；
+也可以从资源管理器把文件夹拖入扫描列表。</source>
+        <translation>Browse folders, then use → on the right to add to scan locations;
+or drag folders from Explorer into the scan list.</translation>
+    </message>
+    <message>
+        <source>将选中的文件夹加入扫描位置</source>
+        <translation>Add selected folders to scan locations</translation>
+    </message>
+    <message>
+        <source>选择要扫描的文件夹</source>
+        <translation>Choose a folder to scan</translation>
+    </message>
+    <message>
+        <source>每行一个扫描位置，状态列=启用/停用，已保护=不扫描。</source>
+        <translation>One scan location per row; Status = on/off; Protected = skip.</translation>
+    </message>
+    <message>
+        <source>+文件夹</source>
+        <translation>+ Folder</translation>
+    </message>
+    <message>
+        <source>+磁盘</source>
+        <translation>+ Drive</translation>
+    </message>
+    <message>
+        <source>移除所选</source>
+        <translation>Remove selected</translation>
+    </message>
+    <message>
+        <source>清空列表</source>
+        <translation>Clear list</translation>
+    </message>
+    <message>
+        <source>选择一个文件夹加入扫描位置</source>
+        <translation>Choose a folder to add to the scan locations</translation>
+    </message>
+    <message>
+        <source>已包含</source>
+        <translation>Included</translation>
+    </message>
+    <message>
+        <source>🔒 已保护</source>
+        <translation>🔒 Protected</translation>
+    </message>
+    <message>
+        <source>锁 否</source>
+        <translation>Lock No</translation>
+    </message>
+    <message>
+        <source>📂 是</source>
+        <translation>📂 Yes</translation>
+    </message>
+    <message>
+        <source>📂 否</source>
+        <translation>📂 No</translation>
+    </message>
+    <message>
+        <source>文件夹名称</source>
+        <translation>Folder name</translation>
+    </message>
+    <message>
+        <source>状态</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>已保护</source>
+        <translation>Protected</translation>
+    </message>
+    <message>
+        <source>扫描子目录</source>
+        <translation>Scan subfolders</translation>
+    </message>
+    <message>
+        <source>查找重复</source>
+        <translation>Find duplicates</translation>
+    </message>
+    <message>
+        <source>显示其余文件</source>
+        <translation>Show remaining files</translation>
+    </message>
+    <message>
+        <source>🔍 查找重复</source>
+        <translation>🔍 Duplicates</translation>
+    </message>
+    <message>
+        <source>📄 相同文件名</source>
+        <translation>📄 Same file name</translation>
+    </message>
+    <message>
+        <source>🗑 空文件</source>
+        <translation>🗑 Empty files</translation>
+    </message>
+    <message>
+        <source>%1
+现在找不到这个文件夹。</source>
+        <translation>%1
+This folder cannot be found at the moment.</translation>
+    </message>
+    <message>
+        <source>扫描位置</source>
+        <translation>Scan locations</translation>
+    </message>
+    <message>
+        <source>桌面</source>
+        <translation>Desktop</translation>
+    </message>
+    <message>
+        <source>文档</source>
+        <translation>Documents</translation>
+    </message>
+    <message>
+        <source>下载</source>
+        <translation>Downloads</translation>
+    </message>
+    <message>
+        <source>图片</source>
+        <translation>Pictures</translation>
+    </message>
+    <message>
+        <source>音乐</source>
+        <translation>Music</translation>
+    </message>
+    <message>
+        <source>视频</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>快捷位置</source>
+        <translation>Quick locations</translation>
+    </message>
+    <message>
+        <source>本地磁盘 (%1)</source>
+        <translation>Local disk (%1)</translation>
+    </message>
+    <message>
+        <source>扫描进行中，批量操作已暂停。</source>
+        <translation>Scan in progress; batch actions paused.</translation>
+    </message>
+    <message>
+        <source>「重复文件夹」为只读视图；删除/导出请切换到「重复文件」Tab。</source>
+        <translation>“Duplicate folders” is read-only; delete/export on the Duplicates tab.</translation>
+    </message>
+    <message>
+        <source>「其余文件」为只读视图；请切换到「重复文件」Tab 勾选处理。</source>
+        <translation>“Remaining files” is read-only; switch to the Duplicates tab to select items.</translation>
+    </message>
+    <message>
+        <source>扫描完成后，在左侧勾选重复项再执行批量操作。</source>
+        <translation>After scan, check duplicates on the left, then batch actions.</translation>
+    </message>
+    <message>
+        <source>已勾选 %1 个文件</source>
+        <translation>%1 files selected</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>Group</translation>
+    </message>
+    <message>
+        <source>文件夹组 #%1</source>
+        <translation>Folder group #%1</translation>
+    </message>
+    <message>
+        <source>文件夹路径</source>
+        <translation>Folder path</translation>
+    </message>
+    <message>
+        <source>文件数</source>
+        <translation>File count</translation>
+    </message>
+    <message>
+        <source>大小</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>容量未知</source>
+        <translation>Unknown size</translation>
+    </message>
+    <message>
+        <source>%1 / 可用 %2</source>
+        <translation>%1 / %2 free</translation>
+    </message>
+    <message>
+        <source>无标签</source>
+        <translation>No label</translation>
+    </message>
+    <message>
+        <source>  ·系统盘</source>
+        <translation>  ·System drive</translation>
+    </message>
+    <message>
+        <source>文件已不存在或无法访问</source>
+        <translation>The file no longer exists or cannot be reached</translation>
+    </message>
+    <message>
+        <source>图片过大，无法预览</source>
+        <translation>The picture is too large to preview</translation>
+    </message>
+    <message>
+        <source>无法读取此图片</source>
+        <translation>This picture cannot be read</translation>
+    </message>
+    <message>
+        <source>文件</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>修改时间</source>
+        <translation>Modified</translation>
+    </message>
+    <message>
+        <source>选择</source>
+        <translation>Select</translation>
+    </message>
+    <message>
+        <source>文件 / 分组</source>
+        <translation>File / group</translation>
+    </message>
+    <message>
+        <source>分组 #%1  (%2 个文件, 可回收 %3)</source>
+        <translation>Group #%1  (%2 files, reclaim %3)</translation>
+    </message>
+    <message>
+        <source>本组所有文件均已勾选，处理后将不保留任何副本。</source>
+        <translation>All files of this group are ticked; no copy would be kept.</translation>
+    </message>
+    <message>
+        <source>路径: %1
+大小: %2
+修改: %3
+后缀: %4</source>
+        <translation>Path: %1
+Size: %2
+Modified: %3
+Ext: %4</translation>
+    </message>
+    <message>
+        <source>
+尺寸: %1 × %2</source>
+        <translation>
+Dimensions: %1 × %2</translation>
+    </message>
+    <message>
+        <source>
+相机: %1 %2</source>
+        <translation>
+Camera: %1 %2</translation>
+    </message>
+    <message>
+        <source>
+拍摄: %1</source>
+        <translation>
+Shot: %1</translation>
+    </message>
+    <message>
+        <source>
+艺术家: %1</source>
+        <translation>
+Artist: %1</translation>
+    </message>
+    <message>
+        <source>
+标题: %1</source>
+        <translation>
+Title: %1</translation>
+    </message>
+    <message>
+        <source>常规模式</source>
+        <translation>General mode</translation>
+    </message>
+    <message>
+        <source>图片模式</source>
+        <translation>Image mode</translation>
+    </message>
+    <message>
+        <source>音频模式</source>
+        <translation>Audio mode</translation>
+    </message>
+    <message>
+        <source>视频模式</source>
+        <translation>Video mode</translation>
+    </message>
+    <message>
+        <source>完全相同匹配</source>
+        <translation>Exact match</translation>
+    </message>
+    <message>
+        <source>非常近似匹配</source>
+        <translation>Very close match</translation>
+    </message>
+    <message>
+        <source>近似匹配</source>
+        <translation>Approximate match</translation>
+    </message>
+    <message>
+        <source>相似匹配</source>
+        <translation>Similar match</translation>
+    </message>
+    <message>
+        <source>宽松相似</source>
+        <translation>Loosely similar</translation>
+    </message>
+    <message>
+        <source>采样指纹（多点哈希）</source>
+        <translation>Sample fingerprint (multi-point hash)</translation>
+    </message>
+    <message>
+        <source>近似匹配（开头约 2 分钟采样）</source>
+        <translation>Approximate (≈2 min opening sample)</translation>
+    </message>
+    <message>
+        <source>近似匹配（开头约 30 秒采样）</source>
+        <translation>Approximate (≈30 s opening sample)</translation>
+    </message>
+    <message>
+        <source>全文件精确哈希</source>
+        <translation>Full-file exact hash</translation>
+    </message>
+    <message>
+        <source>仅按标签匹配</source>
+        <translation>Match by tags only</translation>
+    </message>
+    <message>
+        <source>开头采样哈希</source>
+        <translation>Opening sample hash</translation>
+    </message>
+    <message>
+        <source>全文件多点哈希（较慢）</source>
+        <translation>Full-file multi-point hash (slower)</translation>
+    </message>
+    <message>
+        <source>仅显示</source>
+        <translation>Show only</translation>
+    </message>
+    <message>
+        <source>必须匹配</source>
+        <translation>Must match</translation>
+    </message>
+    <message>
+        <source>忽略</source>
+        <translation>Ignore</translation>
+    </message>
+    <message>
+        <source>不限</source>
+        <translation>No limit</translation>
+    </message>
+    <message>
+        <source>、</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>• 图像相似度：%1</source>
+        <translation>• Image similarity: %1</translation>
+    </message>
+    <message>
+        <source>旋转</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>翻转</source>
+        <translation>Flip</translation>
+    </message>
+    <message>
+        <source>• 变体：%1</source>
+        <translation>• Variants: %1</translation>
+    </message>
+    <message>
+        <source>• 匹配：相同内容（字节级）</source>
+        <translation>• Match: same content (byte-level)</translation>
+    </message>
+    <message>
+        <source>• 匹配：相似内容（采样一致 ≥ %1%）</source>
+        <translation>• Match: similar content (≥ %1% sample match)</translation>
+    </message>
+    <message>
+        <source>• 匹配：忽略内容（名称/大小/日期规则）</source>
+        <translation>• Match: ignore content (name/size/date rules)</translation>
+    </message>
+    <message>
+        <source>• 音频比对：%1</source>
+        <translation>• Audio compare: %1</translation>
+    </message>
+    <message>
+        <source>• 视频比对：%1</source>
+        <translation>• Video compare: %1</translation>
+    </message>
+    <message>
+        <source>• 扫描位置：%1</source>
+        <translation>• Scan locations: %1</translation>
+    </message>
+    <message>
+        <source>    … 另有 %1 个</source>
+        <translation>    … %1 more</translation>
+    </message>
+    <message>
+        <source>• 排除目录：%1</source>
+        <translation>• Excluded folders: %1</translation>
+    </message>
+    <message>
+        <source>• 大小限制：%1 ~ %2</source>
+        <translation>• Size limits: %1 ~ %2</translation>
+    </message>
+    <message>
+        <source>• 包含扩展名：%1</source>
+        <translation>• Include extensions: %1</translation>
+    </message>
+    <message>
+        <source>• 排除扩展名：%1</source>
+        <translation>• Exclude extensions: %1</translation>
+    </message>
+    <message>
+        <source>隐藏文件</source>
+        <translation>Hidden files</translation>
+    </message>
+    <message>
+        <source>系统目录</source>
+        <translation>System folders</translation>
+    </message>
+    <message>
+        <source>• 跳过：%1</source>
+        <translation>• Skip: %1</translation>
+    </message>
+    <message>
+        <source>请确认以下扫描设置：</source>
+        <translation>Confirm scan settings:</translation>
+    </message>
+    <message>
+        <source>• 模式：%1</source>
+        <translation>• Mode: %1</translation>
+    </message>
+    <message>
+        <source>扫描在本地执行，文件不会上传到网络。</source>
+        <translation>Scanning is local; files are not uploaded.</translation>
+    </message>
+    <message>
+        <source>拍摄时间</source>
+        <translation>Date/Time taken</translation>
+    </message>
+    <message>
+        <source>相机品牌</source>
+        <translation>Make</translation>
+    </message>
+    <message>
+        <source>相机型号</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <source>图片描述</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>用户注释</source>
+        <translation>UserComment</translation>
+    </message>
+    <message>
+        <source>镜头型号</source>
+        <translation>LensModel</translation>
+    </message>
+    <message>
+        <source>感光度</source>
+        <translation>ISO</translation>
+    </message>
+    <message>
+        <source>光圈值</source>
+        <translation>FNumber</translation>
+    </message>
+    <message>
+        <source>曝光时间</source>
+        <translation>ExposureTime</translation>
+    </message>
+    <message>
+        <source>焦距</source>
+        <translation>FocalLength</translation>
+    </message>
+    <message>
+        <source>处理软件</source>
+        <translation>Software</translation>
+    </message>
+    <message>
+        <source>艺术家</source>
+        <translation>Artist</translation>
+    </message>
+    <message>
+        <source>标题</source>
+        <translation>Title</translation>
+    </message>
+    <message>
+        <source>专辑</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>音轨号</source>
+        <translation>Track</translation>
+    </message>
+    <message>
+        <source>年代</source>
+        <translation>Year</translation>
+    </message>
+    <message>
+        <source>流派</source>
+        <translation>Genre</translation>
+    </message>
+    <message>
+        <source>歌词作者</source>
+        <translation>Lyricist</translation>
+    </message>
+    <message>
+        <source>比特率</source>
+        <translation>Bitrate</translation>
+    </message>
+    <message>
+        <source>采样率</source>
+        <translation>Sample rate</translation>
+    </message>
+    <message>
+        <source>日期</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>导演</source>
+        <translation>Director</translation>
+    </message>
+    <message>
+        <source>批量操作</source>
+        <translation>Batch actions</translation>
+    </message>
+    <message>
+        <source>按规则自动勾选</source>
+        <translation>Auto-select by rule</translation>
+    </message>
+    <message>
+        <source>全选重复项</source>
+        <translation>Select all duplicates</translation>
+    </message>
+    <message>
+        <source>反选</source>
+        <translation>Invert selection</translation>
+    </message>
+    <message>
+        <source>清空结果</source>
+        <translation>Clear results</translation>
+    </message>
+    <message>
+        <source>移动到备份文件夹</source>
+        <translation>Move to backup folder</translation>
+    </message>
+    <message>
+        <source>删除所选</source>
+        <translation>Delete selected</translation>
+    </message>
+    <message>
+        <source>导出…</source>
+        <translation>Export…</translation>
+    </message>
+    <message>
+        <source>删除文件前先将其移动到备份文件夹</source>
+        <translation>Moves files to the backup folder before they are deleted</translation>
+    </message>
+    <message>
+        <source>文件预览</source>
+        <translation>File preview</translation>
+    </message>
+    <message>
+        <source>选择文件以预览</source>
+        <translation>Select a file to preview</translation>
+    </message>
+    <message>
+        <source>文件夹: %1</source>
+        <translation>Folder: %1</translation>
+    </message>
+    <message>
+        <source>无图像预览
+%1</source>
+        <translation>No image preview
+%1</translation>
+    </message>
+    <message>
+        <source>在资源管理器中打开</source>
+        <translation>Show in file manager</translation>
+    </message>
+    <message>
+        <source>打开文件</source>
+        <translation>Open file</translation>
+    </message>
+    <message>
+        <source>打开所在文件夹</source>
+        <translation>Open containing folder</translation>
+    </message>
+    <message>
+        <source>复制路径</source>
+        <translation>Copy path</translation>
+    </message>
+    <message>
+        <source>复制文件夹路径</source>
+        <translation>Copy folder path</translation>
+    </message>
+    <message>
+        <source>尚未扫描。请选择扫描模式，添加目录后点击“立即扫描”。</source>
+        <translation>No scan yet. Choose a mode, add folders, then click Scan now.</translation>
+    </message>
+    <message>
+        <source>视图：</source>
+        <translation>View:</translation>
+    </message>
+    <message>
+        <source>列表</source>
+        <translation>List</translation>
+    </message>
+    <message>
+        <source>缩略图</source>
+        <translation>Thumbnails</translation>
+    </message>
+    <message>
+        <source>重复文件</source>
+        <translation>Duplicate files</translation>
+    </message>
+    <message>
+        <source>重复文件夹</source>
+        <translation>Duplicate folders</translation>
+    </message>
+    <message>
+        <source>其余 / 唯一文件</source>
+        <translation>Remaining / unique files</translation>
+    </message>
+    <message>
+        <source>就绪</source>
+        <translation>Ready</translation>
+    </message>
+    <message>
+        <source>全部展开</source>
+        <translation>Expand all</translation>
+    </message>
+    <message>
+        <source>全部折叠</source>
+        <translation>Collapse all</translation>
+    </message>
+    <message>
+        <source>对比图片 (选 2 个)</source>
+        <translation>Compare pictures (select 2)</translation>
+    </message>
+    <message>
+        <source>全选本组重复项</source>
+        <translation>Select all duplicates in group</translation>
+    </message>
+    <message>
+        <source>音频文件匹配配置</source>
+        <translation>Audio match settings</translation>
+    </message>
+    <message>
+        <source>音频指纹基于采样，并非 Chromaprint 级别。</source>
+        <translation>Audio fingerprint is sample-based, not Chromaprint-grade.</translation>
+    </message>
+    <message>
+        <source> 毫秒</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>音频文件标签</source>
+        <translation>Audio tags</translation>
+    </message>
+    <message>
+        <source>文件类型</source>
+        <translation>File types</translation>
+    </message>
+    <message>
+        <source>扩展名</source>
+        <translation>Extensions</translation>
+    </message>
+    <message>
+        <source>使用当前模式的扩展名</source>
+        <translation>Use the current mode's extensions</translation>
+    </message>
+    <message>
+        <source>勾选时按当前扫描模式扩展名扫描；取消勾选则仅扫描「已包含」列表中的扩展名。</source>
+        <translation>When checked, scan uses extensions for the current mode; when unchecked, only the Included list is used.</translation>
+    </message>
+    <message>
+        <source>已排除</source>
+        <translation>Excluded</translation>
+    </message>
+    <message>
+        <source>例如：jpg, png</source>
+        <translation>For example: jpg, png</translation>
+    </message>
+    <message>
+        <source>用逗号、分号或空格分隔；* 或 *.* 表示全部</source>
+        <translation>Separated by commas, semicolons or spaces; * or *.* stands for all</translation>
+    </message>
+    <message>
+        <source>图片模式包含更多 RAW 格式</source>
+        <translation>More RAW formats in image mode</translation>
+    </message>
+    <message>
+        <source>图片模式下还扫描 arw、dng、rw2、orf、srw 等相机 RAW 文件；
+raw、cr2、nef 始终扫描。仅在「已包含」列表为空时有效。</source>
+        <translation>In image mode, also scan camera RAW files such as arw, dng, rw2, orf and srw;
+raw, cr2 and nef are always scanned. Only while no Included list is used.</translation>
+    </message>
+    <message>
+        <source>文件大小</source>
+        <translation>File size</translation>
+    </message>
+    <message>
+        <source>不限大小</source>
+        <translation>Any size</translation>
+    </message>
+    <message>
+        <source>最小</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>最大</source>
+        <translation>Maximum</translation>
+    </message>
+    <message>
+        <source>任意日期</source>
+        <translation>Any date</translation>
+    </message>
+    <message>
+        <source>创建日期</source>
+        <translation>Created</translation>
+    </message>
+    <message>
+        <source>修改日期</source>
+        <translation>Modified</translation>
+    </message>
+    <message>
+        <source>从这一天开始</source>
+        <translation>From this day on</translation>
+    </message>
+    <message>
+        <source>到这一天为止（含当天）</source>
+        <translation>Up to and including this day</translation>
+    </message>
+    <message>
+        <source>更多判断重复的选项</source>
+        <translation>More duplicate criteria</translation>
+    </message>
+    <message>
+        <source>内容匹配</source>
+        <translation>Content match</translation>
+    </message>
+    <message>
+        <source>相同内容</source>
+        <translation>Same content</translation>
+    </message>
+    <message>
+        <source>相似内容</source>
+        <translation>Similar content</translation>
+    </message>
+    <message>
+        <source>忽略内容</source>
+        <translation>Ignore content</translation>
+    </message>
+    <message>
+        <source>以下模式互斥：
+• 相同内容 = 逐字节一致（默认）
+• 相似内容 = 字节近似匹配
+• 忽略内容 = 仅按元数据规则</source>
+        <translation>Mutually exclusive modes:
+• Same content = exact bytes (default)
+• Similar content = approximate byte match
+• Ignore content = metadata rules only</translation>
+    </message>
+    <message>
+        <source>采样一致的最低比例</source>
+        <translation>Minimum sample agreement</translation>
+    </message>
+    <message>
+        <source>不读文件内容，仅用下方「更多判断重复的选项」分组（名称/大小/日期等）。</source>
+        <translation>Does not read file content; groups using duplicate criteria below.</translation>
+    </message>
+    <message>
+        <source>文件名</source>
+        <translation>File name</translation>
+    </message>
+    <message>
+        <source>相同文件名</source>
+        <translation>Same file name</translation>
+    </message>
+    <message>
+        <source>相同文件拓展名</source>
+        <translation>Same extension</translation>
+    </message>
+    <message>
+        <source>相似文件名</source>
+        <translation>Similar file names</translation>
+    </message>
+    <message>
+        <source>忽略文件名中「副本」字样</source>
+        <translation>Ignore "copy" in file names</translation>
+    </message>
+    <message>
+        <source>相同文件大小</source>
+        <translation>Same file size</translation>
+    </message>
+    <message>
+        <source>容差</source>
+        <translation>Tolerance</translation>
+    </message>
+    <message>
+        <source>容差单位</source>
+        <translation>Tolerance unit</translation>
+    </message>
+    <message>
+        <source>相同创建日期</source>
+        <translation>Same created date</translation>
+    </message>
+    <message>
+        <source>仅匹配日期</source>
+        <translation>Date only</translation>
+    </message>
+    <message>
+        <source>相同修改日期</source>
+        <translation>Same modified date</translation>
+    </message>
+    <message>
+        <source>磁盘</source>
+        <translation>Drive</translation>
+    </message>
+    <message>
+        <source>相同磁盘</source>
+        <translation>Same drive</translation>
+    </message>
+    <message>
+        <source>文件夹与路径</source>
+        <translation>Folders and paths</translation>
+    </message>
+    <message>
+        <source>相同的文件夹名称</source>
+        <translation>Same folder name</translation>
+    </message>
+    <message>
+        <source>匹配完整路径</source>
+        <translation>Match full path</translation>
+    </message>
+    <message>
+        <source>匹配文件夹路径深度</source>
+        <translation>Folder path depth</translation>
+    </message>
+    <message>
+        <source>匹配扫描位置以下路径</source>
+        <translation>Match path under scan root</translation>
+    </message>
+    <message>
+        <source>忽略在同一文件夹的重复组别</source>
+        <translation>Ignore duplicate groups in same folder</translation>
+    </message>
+    <message>
+        <source>文本匹配选项</source>
+        <translation>Text matching options</translation>
+    </message>
+    <message>
+        <source>大小写敏感</source>
+        <translation>Case sensitive</translation>
+    </message>
+    <message>
+        <source>相似文本 - 容差</source>
+        <translation>Similar text tolerance</translation>
+    </message>
+    <message>
+        <source>相似文件名之间最多相差的字符数</source>
+        <translation>How many characters similar file names may differ in</translation>
+    </message>
+    <message>
+        <source>图片匹配配置</source>
+        <translation>Image match settings</translation>
+    </message>
+    <message>
+        <source>匹配RAW图像时使用内嵌JPG图像（较快）</source>
+        <translation>Use embedded JPEG in RAW files (faster)</translation>
+    </message>
+    <message>
+        <source>性能</source>
+        <translation>Performance</translation>
+    </message>
+    <message>
+        <source>使用图片特征值缓存</source>
+        <translation>Use image feature cache</translation>
+    </message>
+    <message>
+        <source>图片标签</source>
+        <translation>Image tags</translation>
+    </message>
+    <message>
+        <source>匹配精度</source>
+        <translation>Match precision</translation>
+    </message>
+    <message>
+        <source>图像相似度</source>
+        <translation>Image similarity</translation>
+    </message>
+    <message>
+        <source>尺寸约束</source>
+        <translation>Dimension constraints</translation>
+    </message>
+    <message>
+        <source>相同尺寸</source>
+        <translation>Same dimensions</translation>
+    </message>
+    <message>
+        <source>宽高比</source>
+        <translation>Aspect ratio</translation>
+    </message>
+    <message>
+        <source>相同长宽比</source>
+        <translation>Same aspect ratio</translation>
+    </message>
+    <message>
+        <source>变换匹配</source>
+        <translation>Transform matching</translation>
+    </message>
+    <message>
+        <source>查找旋转过的</source>
+        <translation>Find rotated</translation>
+    </message>
+    <message>
+        <source>查找翻转过的</source>
+        <translation>Find flipped</translation>
+    </message>
+    <message>
+        <source>同时要求颜色分布（直方图）一致</source>
+        <translation>Also require the same distribution of colours</translation>
+    </message>
+    <message>
+        <source>时间分组</source>
+        <translation>Time grouping</translation>
+    </message>
+    <message>
+        <source>按摄制时间分组</source>
+        <translation>Group by shot time</translation>
+    </message>
+    <message>
+        <source> 秒</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>摄制时间最多相差</source>
+        <translation>Largest difference of shot times</translation>
+    </message>
+    <message>
+        <source>GPS分组</source>
+        <translation>Group by GPS</translation>
+    </message>
+    <message>
+        <source>按GPS地理位置分组</source>
+        <translation>Group by GPS location</translation>
+    </message>
+    <message>
+        <source>拍摄地点最多相距</source>
+        <translation>Largest distance between places</translation>
+    </message>
+    <message>
+        <source>匹配方式</source>
+        <translation>Match method</translation>
+    </message>
+    <message>
+        <source>仅按标签匹配时，请至少将一个标签设为「必须匹配」</source>
+        <translation>To match by tags only, set at least one tag to "Must match"</translation>
+    </message>
+    <message>
+        <source>时长</source>
+        <translation>Duration</translation>
+    </message>
+    <message>
+        <source>匹配时长</source>
+        <translation>Match duration</translation>
+    </message>
+    <message>
+        <source>忽略指向同一文件的硬链接</source>
+        <translation>Ignore hard links to the same file</translation>
+    </message>
+    <message>
+        <source>硬链接只是同一份数据的另一个名称，移除它不会释放空间。</source>
+        <translation>A hard link is another name of the same data; removing it frees no space.</translation>
+    </message>
+    <message>
+        <source>标签</source>
+        <translation>Tags</translation>
+    </message>
+    <message>
+        <source>匹配</source>
+        <translation>Match</translation>
+    </message>
+    <message>
+        <source>勾选=启用标签匹配；取消=忽略本组标签，仅用其它条件分组</source>
+        <translation>Checked = tag matching on; unchecked = ignore tags in this group</translation>
+    </message>
+    <message>
+        <source>+ 添加</source>
+        <translation>+ Add</translation>
+    </message>
+    <message>
+        <source>视频匹配配置</source>
+        <translation>Video match settings</translation>
+    </message>
+    <message>
+        <source>字节采样近似比对，并非逐帧视频指纹。</source>
+        <translation>Byte sampling approximation, not per-frame video fingerprint.</translation>
+    </message>
+    <message>
+        <source>时:分:秒.毫秒</source>
+        <translation>Hours:minutes:seconds.milliseconds</translation>
+    </message>
+    <message>
+        <source>视频文件标签</source>
+        <translation>Video tags</translation>
+    </message>
 </context>
 </TS>

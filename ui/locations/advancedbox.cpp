@@ -46,6 +46,7 @@ AdvancedBox::AdvancedBox(Prompts &prompts, QWidget *parent)
     m_chooseBackup->setObjectName(QStringLiteral("BackupFolderButton"));
     m_chooseBackup->setText(QStringLiteral("..."));
     m_keepRule->addItems(keepRuleTexts());
+    setOptions({});
 
     auto *backup = new QHBoxLayout;
     backup->setSpacing(8);
