@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <numbers>
+#include <span>
 #include <unordered_map>
 
 namespace MirrixCore {
@@ -72,9 +73,11 @@ public:
         , m_options(options)
         , m_isPlaced(features.size())
     {
+        m_firstHash.push_back(0);
         for (size_t i = 0; i < features.size(); ++i) {
             if (features[i].isValid)
-                addToBuckets(i);
+                add(i);
+            m_firstHash.push_back(m_hashes.size());
         }
     }
 
@@ -99,16 +102,20 @@ private:
     static quint32 keyOf(quint64 hash) { return static_cast<quint32>(hash >> 48); }
 
     /// Under the key of each variant: the hash of a turned copy as it is has nothing in common with the original's.
-    void addToBuckets(size_t image)
+    void add(size_t image)
     {
-        const auto add = [&](quint64 hash) {
-            Bucket &bucket = m_buckets[keyOf(hash)];
-            if (bucket.empty() || bucket.back() != image)
-                bucket.push_back(image);
-        };
-        add(m_features[image].primary);
-        for (const quint64 variant : m_features[image].variants)
-            add(variant);
+        const ImageFeature &feature = m_features[image];
+        m_hashes.insert(m_hashes.end(), feature.variants.begin(), feature.variants.end());
+        addToBucket(feature.primary, image);
+        for (const quint64 variant : feature.variants)
+            addToBucket(variant, image);
+    }
+
+    void addToBucket(quint64 hash, size_t image)
+    {
+        Bucket &bucket = m_buckets[keyOf(hash)];
+        if (bucket.empty() || bucket.back() != image)
+            bucket.push_back(image);
     }
 
     /// The seed, which is the first of its component in list order, and all that are reached from it.
@@ -144,10 +151,18 @@ private:
         bucket.erase(rest, bucket.end());
     }
 
+    [[nodiscard]] std::span<const quint64> variantsOf(size_t image) const
+    {
+        return {m_hashes.data() + m_firstHash[image], m_hashes.data() + m_firstHash[image + 1]};
+    }
+
+    /// All checks must hold; the hashes lie close together in memory and refuse nearly every pair, so they come first.
     [[nodiscard]] bool matches(size_t a, size_t b) const
     {
-        return factsAllowPair(m_files[static_cast<qsizetype>(a)], m_files[static_cast<qsizetype>(b)], m_options) &&
-               featuresMatch(m_features[a], m_features[b], m_options.imageMaxDistance, m_options.imageMatchHistogram);
+        return variantsMatch(variantsOf(a), variantsOf(b), m_options.imageMaxDistance) &&
+               factsAllowPair(m_files[static_cast<qsizetype>(a)], m_files[static_cast<qsizetype>(b)], m_options) &&
+               (!m_options.imageMatchHistogram ||
+                histogramsMatch(m_features[a].histogram, m_features[b].histogram, leastHistogramCosine));
     }
 
     [[nodiscard]] DuplicateGroup groupOf(std::vector<size_t> &members) const
@@ -165,6 +180,8 @@ private:
     const QList<FileEntry> &m_files;
     const std::vector<ImageFeature> &m_features;
     const ScanOptions &m_options;
+    std::vector<quint64> m_hashes;   // the variants of all pictures, one after the other
+    std::vector<size_t> m_firstHash; // of each picture, and the end
     std::unordered_map<quint32, Bucket> m_buckets;
     std::vector<bool> m_isPlaced; // in a component
 };

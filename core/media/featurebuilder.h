@@ -19,8 +19,8 @@ inline QByteArray histogramFrom(const std::array<qint64, histogramBins> &counts,
     return {reinterpret_cast<const char *>(shares.data()), sizeof shares};
 }
 
-/// The feature of a decoded grey picture, whichever library holds it. `Picture` offers hash(), 0 for none;
-/// turned(quarters), clockwise; mirrored(), left and right exchanged; and histogram().
+/// The feature but for the histogram of a decoded grey picture, whichever library holds it. `Picture` offers hash(), 0
+/// for none; turned(quarters), clockwise; and mirrored(), left and right exchanged.
 template <typename Picture>
 ImageFeature featureOfPicture(const Picture &picture, const FeatureRequest &request)
 {
@@ -38,8 +38,6 @@ ImageFeature featureOfPicture(const Picture &picture, const FeatureRequest &requ
     feature.isValid = !feature.variants.isEmpty();
     if (feature.isValid)
         feature.primary = feature.variants.constFirst();
-    if (request.withHistogram)
-        feature.histogram = picture.histogram();
     return feature;
 }
 

@@ -87,7 +87,10 @@ bool qtFeature(const QByteArray &bytes, const FeatureRequest &request, ImageFeat
     const QImage image = QImage::fromData(bytes);
     if (image.isNull())
         return false;
-    feature = featureOfPicture(QtPicture(image.convertToFormat(QImage::Format_Grayscale8)), request);
+    const QtPicture picture(image.convertToFormat(QImage::Format_Grayscale8));
+    feature = featureOfPicture(picture, request);
+    if (request.withHistogram)
+        feature.histogram = picture.histogram();
     return true;
 }
 
