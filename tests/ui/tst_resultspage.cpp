@@ -42,7 +42,8 @@ struct Shown
     {
         for (int i = 0; i < groups; ++i) {
             const QString base = u"/photos/%1/"_qs.arg(i);
-            results.groups.append({u"k"_qs, {file(base + u"a.txt"), file(base + u"b.txt"), file(base + u"c.txt")}, 20});
+            results.groups.append(
+                {u"k"_qs, {file(base + u"a.txt"_qs), file(base + u"b.txt"_qs), file(base + u"c.txt"_qs)}, 20});
         }
         for (int i = 0; i < 12; ++i)
             results.folderGroups.append({{{u"/one"_qs, 1, 10}, {u"/two"_qs, 1, 10}}, 1, 10});
@@ -149,6 +150,7 @@ private slots:
         const QRect check = tree->style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, tree);
         QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, check.center());
         QVERIFY(shown.results.marks.isMarked(0, 1));
+        tree->setCurrentIndex(box);
         QTest::keyClick(tree, Qt::Key_Down);
         QTest::keyClick(tree, Qt::Key_Space);
         QVERIFY(shown.results.marks.isMarked(0, 2));

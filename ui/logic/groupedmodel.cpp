@@ -25,19 +25,20 @@ void GroupedModel::retranslate()
 
 qsizetype GroupedModel::itemOf(const QModelIndex &index) const
 {
-    return isChild(index) ? static_cast<qsizetype>(index.internalId() - 1) : m_order.itemAt(index.row());
+    return static_cast<qsizetype>(index.internalId() & ~childBit);
 }
 
 QModelIndex GroupedModel::itemIndex(qsizetype item) const
 {
-    return createIndex(m_order.rowOf(item), 0, quintptr(0));
+    return createIndex(m_order.rowOf(item), 0, quintptr(item));
 }
 
 QModelIndex GroupedModel::index(int row, int column, const QModelIndex &parent) const
 {
     if (row < 0 || column < 0 || column >= m_columns || row >= rowCount(parent))
         return {};
-    return createIndex(row, column, parent.isValid() ? quintptr(m_order.itemAt(parent.row()) + 1) : quintptr(0));
+    const quintptr id = parent.isValid() ? quintptr(itemOf(parent)) | childBit : quintptr(m_order.itemAt(row));
+    return createIndex(row, column, id);
 }
 
 QModelIndex GroupedModel::parent(const QModelIndex &child) const
