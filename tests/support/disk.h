@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QMap>
@@ -44,15 +45,15 @@ using DiskTree = QMap<QString, QByteArray>;
 [[nodiscard]] inline DiskTree treeBelow(const QString &folder)
 {
     DiskTree tree;
-    const std::filesystem::path root = exactNative(folder);
-    for (const auto &entry : std::filesystem::recursive_directory_iterator(root)) {
-        if (entry.is_directory() && !entry.is_symlink())
-            continue;
+    // Only names from here: what Qt tells of a file is of another one where the name ends with a dot.
+    QDirIterator it(folder, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QString path = it.next();
+        const std::filesystem::path native = exactNative(path);
         std::error_code error;
-        const auto time = std::filesystem::last_write_time(entry.path(), error).time_since_epoch().count();
-        const QString name = QString::fromStdU16String(entry.path().lexically_relative(root).generic_u16string());
-        tree.insert(name, (entry.is_symlink() ? "link to " : "") + contentAt(entry.path()) + " @" +
-                              QByteArray::number(qint64(time)));
+        const auto time = std::filesystem::last_write_time(native, error).time_since_epoch().count();
+        tree.insert(path.mid(folder.size() + 1), (std::filesystem::is_symlink(native) ? "link to " : "") +
+                                                     contentAt(native) + " @" + QByteArray::number(qint64(time)));
     }
     return tree;
 }
@@ -66,9 +67,11 @@ using DiskTree = QMap<QString, QByteArray>;
         if (!other->isValid() || !probe.open(QIODevice::WriteOnly))
             continue;
         probe.close();
-        std::error_code error;
-        std::filesystem::rename(exactNative(probe.fileName()), exactNative(other->filePath(QStringLiteral("probe"))),
-                                error);
+        std::error_code error; // hard links end at the volume
+        const std::filesystem::path link = exactNative(other->filePath(QStringLiteral("probe")));
+        std::filesystem::create_hard_link(exactNative(probe.fileName()), link, error);
+        std::error_code ignored;
+        std::filesystem::remove(link, ignored);
         probe.remove();
         if (error)
             return other;
