@@ -33,8 +33,9 @@ bool isAsideName(const QString &name)
 bool isTrustworthy(const BackupEntry &entry, const QString &folder)
 {
     const QString original = MirrixCore::cleanedPath(entry.original);
-    if (original.isEmpty() || original != entry.original || !QDir::isAbsolutePath(original) ||
-        fileNameOf(original).isEmpty())
+    // The system's calls would end a path at a zero.
+    if (original.contains(QChar::Null) || entry.backup.contains(QChar::Null) || original != entry.original ||
+        !QDir::isAbsolutePath(original) || fileNameOf(original).isEmpty())
         return false;
     const QString place = folderOf(entry.backup);
     if (isAsideName(fileNameOf(entry.backup)))

@@ -25,6 +25,10 @@ for option in "$@"; do
         ;;
     esac
 done
+    qt6-base-dev qt6-base-dev-tools qt6-l10n-tools libssl-dev openssl strace)
+if [ "${1:-}" = --windows ]; then
+    packages+=(g++-mingw-w64-x86-64-posix wine wine64 xvfb xauth libz-mingw-w64-dev libz-mingw-w64 xz-utils)
+fi
 
 as_root() {
     if [ "$(id -u)" = 0 ]; then

@@ -222,6 +222,7 @@ void BackupStoreTest::hostileEntries_data()
     QTest::newRow("from below the store") << u"src/new"_s << u"store/deep/sub/file"_s;
     QTest::newRow("aside name from elsewhere") << u"new"_s << u"src/.mirrix-1.aside"_s;
     QTest::newRow("dots in the old path") << u"src/../new"_s << u"store/deep/file"_s;
+    QTest::newRow("a zero in the old path") << u"src/new"_s + QChar(0) + u'x' << u"store/deep/file"_s;
     QTest::newRow("a folder") << u"src/new"_s << u"store/deep/sub"_s;
     QTest::newRow("onto a file") << u"src/victim"_s << u"store/deep/file"_s;
     QTest::newRow("onto the index") << u"store/deep/backup_index.json"_s << u"store/deep/file"_s;
