@@ -1,6 +1,6 @@
 #include "app/identity.h"
+#include "app/translations.h"
 #include "cli/commandline.h"
-#include "cli/englishtexts.h"
 #include "cli/terminal.h"
 #include "core/platform/nativepath.h"
 
@@ -10,8 +10,8 @@ int main(int argc, char *argv[])
 {
     Mirrix::setApplicationIdentity();
     const QCoreApplication application(argc, argv);
-    MirrixCli::EnglishTexts texts;
-    QCoreApplication::installTranslator(&texts);
+    // The console speaks English, whatever the window does.
+    Mirrix::loadLanguage(QStringLiteral("en"));
     MirrixCli::prepareTerminal();
     return static_cast<int>(MirrixCli::runCommandLine(MirrixCore::commandLineArguments(argc, argv)));
 }

@@ -245,63 +245,63 @@
     </message>
     <message>
         <source>恢复失败: %1</source>
-        <translation type="unfinished" />
+        <translation>Restore failed: %1</translation>
     </message>
     <message>
         <source>原路径已存在文件，已取消恢复: %1</source>
-        <translation type="unfinished" />
+        <translation>A file already exists at the original path; restore cancelled: %1</translation>
     </message>
     <message>
         <source>无法移动到备份目录: %1</source>
-        <translation type="unfinished" />
+        <translation>Could not move to backup folder: %1</translation>
     </message>
     <message>
         <source>文件在扫描后已更改，已保留: %1</source>
-        <translation type="unfinished" />
+        <translation>Changed since the scan, kept: %1</translation>
     </message>
     <message>
         <source>要保留的文件已更改，未处理: %1</source>
-        <translation type="unfinished" />
+        <translation>The file to keep has changed, not touched: %1</translation>
     </message>
     <message>
         <source>与要保留的文件可能是同一个文件，未处理: %1</source>
-        <translation type="unfinished" />
+        <translation>Perhaps the same file as the one to keep, not touched: %1</translation>
     </message>
     <message>
         <source>无法创建目标目录: %1</source>
-        <translation type="unfinished" />
+        <translation>Could not create destination folder: %1</translation>
     </message>
     <message>
         <source>目标已存在: %1</source>
-        <translation type="unfinished" />
+        <translation>Destination already exists: %1</translation>
     </message>
     <message>
         <source>链接路径已存在: %1</source>
-        <translation type="unfinished" />
+        <translation>Link path already exists: %1</translation>
     </message>
     <message>
         <source>没有创建符号链接的权限（请启用开发人员模式或以管理员身份运行）: %1</source>
-        <translation type="unfinished" />
+        <translation>No right to create symbolic links (turn on developer mode or run as administrator): %1</translation>
     </message>
     <message>
         <source>无法删除: %1</source>
-        <translation type="unfinished" />
+        <translation>Could not delete: %1</translation>
     </message>
     <message>
         <source>无法移动: %1</source>
-        <translation type="unfinished" />
+        <translation>Could not move: %1</translation>
     </message>
     <message>
         <source>无法复制: %1</source>
-        <translation type="unfinished" />
+        <translation>Could not copy: %1</translation>
     </message>
     <message>
         <source>无法创建硬链接: %1</source>
-        <translation type="unfinished" />
+        <translation>Could not create hard link: %1</translation>
     </message>
     <message>
         <source>无法创建符号链接: %1</source>
-        <translation type="unfinished" />
+        <translation>Could not create symbolic link: %1</translation>
     </message>
     <message>
         <source>文件不存在: %1</source>
@@ -309,23 +309,23 @@
     </message>
     <message>
         <source>链接目标不是可用的文件: %1</source>
-        <translation type="unfinished" />
+        <translation>The link target is not a usable file: %1</translation>
     </message>
     <message>
         <source>原文件未能放回，可从备份中恢复: %1</source>
-        <translation type="unfinished" />
+        <translation>The file could not be put back; it can be restored from the backup: %1</translation>
     </message>
     <message>
         <source>无法放入回收站，已保留: %1</source>
-        <translation type="unfinished" />
+        <translation>No Recycle Bin can take this file, kept: %1</translation>
     </message>
     <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
-        <translation type="unfinished" />
+        <translation>Failed to send files to Recycle Bin (code %1, %2 files)</translation>
     </message>
     <message>
         <source>未移入回收站，仍在原处: %1</source>
-        <translation type="unfinished" />
+        <translation>Not recycled, still in its place: %1</translation>
     </message>
     <message>
         <source>保留最新文件</source>
