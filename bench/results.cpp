@@ -4,6 +4,7 @@
 // Runs without a display with QT_QPA_PLATFORM=offscreen.
 
 #include "ui/results/resultspage.h"
+#include "ui/results/resultstree.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -12,9 +13,6 @@
 #include <QScrollBar>
 #include <QTabWidget>
 #include <QTimer>
-#include <QTreeView>
-
-#include "ui/results/resultstree.h"
 
 #include <cstdio>
 
@@ -75,13 +73,16 @@ public:
     }
 };
 
-/// Twenty jumps and twenty small steps, each in its own turn of the loop.
-void scroll(QScrollBar *bar)
+/// Twenty jumps and twenty small steps back, each in its own turn of the loop.
+void scroll(QScrollBar *bar, int step = 1)
 {
-    for (int i = 1; i <= 20; ++i) {
-        QTimer::singleShot(30 * i, bar, [bar, i] { bar->setValue(bar->maximum() / 20 * i); });
-        QTimer::singleShot(700 + 30 * i, bar, [bar] { bar->setValue(bar->value() - bar->singleStep() * 3); });
-    }
+    constexpr int jumps = 20;
+    if (step <= jumps)
+        bar->setValue(bar->maximum() / jumps * step);
+    else
+        bar->setValue(bar->value() - bar->singleStep() * 3);
+    if (step < 2 * jumps)
+        QTimer::singleShot(10, bar, [bar, step] { scroll(bar, step + 1); });
 }
 
 } // namespace

@@ -106,10 +106,7 @@ private slots:
         results.marks.setMarked(1, 0, true);
         QVERIFY(!group.data(Qt::ToolTipRole).toString().isEmpty()); // nothing would be kept
 
-        QSignalSpy data(&model, &QAbstractItemModel::dataChanged);
         results.marks.invert();
-        model.marksReplaced();
-        QCOMPARE(data.size(), 1); // not one a file
         QCOMPARE(results.marks.markedInAll(), 4);
         QCOMPARE(model.index(0, 0).data(ResultsModel::MarkedCountRole).toInt(), 2);
     }

@@ -19,8 +19,6 @@ void GroupedModel::reload()
 void GroupedModel::retranslate()
 {
     emit headerDataChanged(Qt::Horizontal, 0, m_columns - 1);
-    if (m_order.count() > 0)
-        emit dataChanged(index(0, 0), index(m_order.count() - 1, m_columns - 1), {Qt::DisplayRole});
 }
 
 qsizetype GroupedModel::itemOf(const QModelIndex &index) const
@@ -60,7 +58,8 @@ int GroupedModel::columnCount(const QModelIndex &) const
 
 bool GroupedModel::hasChildren(const QModelIndex &parent) const
 {
-    return rowCount(parent) > 0;
+    // Without a look at the list: views ask for each of 300,000 rows, and sorted ones lie scattered in memory.
+    return parent.isValid() ? !isChild(parent) && parent.column() == 0 : m_order.count() > 0;
 }
 
 Qt::ItemFlags GroupedModel::flags(const QModelIndex &index) const

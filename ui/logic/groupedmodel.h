@@ -19,7 +19,7 @@ public:
     /// To call when the list has been replaced, before anything else happens: all rows anew, unsorted. O(1).
     void reload();
 
-    /// To call when the language changed.
+    /// To call when the language changed. The rows need no signal: views repaint then anyway.
     void retranslate();
 
     [[nodiscard]] static bool isChild(const QModelIndex &index) { return (index.internalId() & childBit) != 0; }

@@ -64,12 +64,6 @@ ResultsModel::ResultsModel(ResultSet &results, const SuffixIcons &icons, QObject
     , m_icons(icons)
 {}
 
-void ResultsModel::marksReplaced()
-{
-    if (const int rows = rowCount(); rows > 0)
-        emit dataChanged(index(0, 0), index(rows - 1, ColumnCount - 1), {Qt::DisplayRole, MarkedCountRole});
-}
-
 void ResultsModel::markDuplicatesOf(qsizetype group)
 {
     m_results.marks.markAllBut(group, 0);

@@ -7,8 +7,9 @@
 namespace Mirrix {
 
 /// The duplicate groups, read in place from a ResultSet: a row per group, below it a row per file with a check box that
-/// is the file's mark. A group keeps its number whatever the order of rows. data() is O(1) and never touches the disk.
-/// Sorts by number of files (SelectColumn), path of the first file, reclaimable size or latest time.
+/// is the file's mark. Marks changed by others need no signal, which a view would answer row by row: repaint the view.
+/// A group keeps its number whatever the order of rows. data() is O(1) and never touches the disk. Sorts by number of
+/// files (SelectColumn), path of the first file, reclaimable size or latest time.
 class ResultsModel : public GroupedModel
 {
     Q_OBJECT
@@ -31,9 +32,6 @@ public:
 
     /// Both must outlive the model.
     ResultsModel(ResultSet &results, const SuffixIcons &icons, QObject *parent = nullptr);
-
-    /// To call when marks changed by other means than this model. One signal, however many they are.
-    void marksReplaced();
 
     /// Ticks all files of a group but the first.
     void markDuplicatesOf(qsizetype group);

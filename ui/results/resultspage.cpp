@@ -219,7 +219,6 @@ void ResultsPage::setStatusText(const QString &text)
 
 void ResultsPage::marksReplaced()
 {
-    m_groups.marksReplaced();
     m_tree->viewport()->update();
     m_thumbnails->viewport()->update();
     refreshPanel();

@@ -6,10 +6,10 @@
 
 namespace Mirrix {
 
-/// A tree over a GroupedModel that stays quick with 300,000 top rows. QTreeView lays out everything anew at each
-/// change, with a reallocation for each expanded row, and would need minutes to expand them all; so here "all expanded"
-/// is a promise, kept for the rows on screen and a page around them. Clicks on the header sort the model, a third click
-/// gives the list's own order back.
+/// A tree over a GroupedModel that stays quick with 300,000 top rows. QTreeView lays every row out anew at each change
+/// and would stand still for seconds with all of them expanded; so here "all expanded" is a promise, kept for the rows
+/// on screen and two pages around them. Clicks on the header sort the model, a third click gives the list's own order
+/// back.
 class ResultsTree : public QTreeView
 {
     Q_OBJECT
