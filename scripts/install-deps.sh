@@ -8,8 +8,8 @@ set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 packages=(build-essential cmake ninja-build ccache python3 clang-format
-    qt6-base-dev qt6-base-dev-tools qt6-l10n-tools librsvg2-bin libssl-dev libopencv-core-dev
-    libopencv-imgproc-dev libopencv-imgcodecs-dev libtag1-dev libexif-dev libraw-dev libmediainfo0v5)
+    qt6-base-dev qt6-base-dev-tools qt6-l10n-tools librsvg2-bin libssl-dev openssl strace
+    libopencv-core-dev libopencv-imgproc-dev libopencv-imgcodecs-dev libtag1-dev libexif-dev libraw-dev libmediainfo0v5)
 windows=
 for option in "$@"; do
     case $option in
@@ -25,10 +25,6 @@ for option in "$@"; do
         ;;
     esac
 done
-    qt6-base-dev qt6-base-dev-tools qt6-l10n-tools libssl-dev openssl strace)
-if [ "${1:-}" = --windows ]; then
-    packages+=(g++-mingw-w64-x86-64-posix wine wine64 xvfb xauth libz-mingw-w64-dev libz-mingw-w64 xz-utils)
-fi
 
 as_root() {
     if [ "$(id -u)" = 0 ]; then

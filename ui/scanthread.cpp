@@ -2,31 +2,35 @@
 
 namespace Mirrix {
 
+namespace {
+
+constexpr int insistMs = 50;
+
+}
+
 ScanThread::ScanThread(QObject *parent)
     : QObject(parent)
     , m_worker(new MirrixCore::ScanWorker)
 {
     m_worker->moveToThread(&m_thread);
+    m_insist.setInterval(insistMs);
+    connect(&m_insist, &QTimer::timeout, this, [this] { m_worker->cancel(); });
+    connect(m_worker, &MirrixCore::ScanWorker::finished, &m_insist, &QTimer::stop);
+    connect(m_worker, &MirrixCore::ScanWorker::failed, &m_insist, &QTimer::stop);
     connect(&m_thread, &QThread::finished, m_worker, &QObject::deleteLater);
-    // The worker forgets a wish to cancel that reaches it before it has begun; here it is heard at the first report.
-    const auto insist = [this] {
-        if (m_cancelWanted)
-            m_worker->cancel();
-    };
-    connect(m_worker, &MirrixCore::ScanWorker::progress, this, insist, Qt::DirectConnection);
     m_thread.start();
 }
 
 ScanThread::~ScanThread()
 {
-    cancel();
     m_thread.quit();
-    m_thread.wait();
+    do
+        m_worker->cancel();
+    while (!m_thread.wait(insistMs));
 }
 
 void ScanThread::start(const MirrixCore::ScanOptions &options)
 {
-    m_cancelWanted = false;
     QMetaObject::invokeMethod(
         m_worker, [worker = m_worker, options] { worker->start(options); }, Qt::QueuedConnection);
 }
@@ -34,6 +38,7 @@ void ScanThread::start(const MirrixCore::ScanOptions &options)
 void ScanThread::cancel()
 {
     m_worker->cancel();
+    m_insist.start();
 }
 
 } // namespace Mirrix

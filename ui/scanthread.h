@@ -3,8 +3,7 @@
 #include "core/scan/scanworker.h"
 
 #include <QThread>
-
-#include <atomic>
+#include <QTimer>
 
 namespace Mirrix {
 
@@ -29,7 +28,7 @@ public:
 private:
     QThread m_thread;
     MirrixCore::ScanWorker *m_worker;
-    std::atomic<bool> m_cancelWanted = false; ///< also while the start is still on its way
+    QTimer m_insist; ///< repeats the wish to cancel: the worker forgets one that reaches it before it has begun
 };
 
 } // namespace Mirrix
