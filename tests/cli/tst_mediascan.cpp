@@ -35,8 +35,6 @@ class MediaScanTest : public QObject
 private slots:
     void images();
     void brokenPicturesAreSilent();
-    void audioTags();
-    void otherFilesAreNoMedia();
 
 private:
     QJsonObject scan(const QStringList &arguments)
@@ -88,28 +86,6 @@ void MediaScanTest::brokenPicturesAreSilent()
     QCOMPARE(m_run.errors, "");
     QCOMPARE(m_run.status, 0);
     QVERIFY(report[u"filesScanned"_s].toInt() >= count);
-}
-
-void MediaScanTest::audioTags()
-{
-    m_tree.write(u"a.wav"_s, wavFile(1000));
-    m_tree.write(u"b.wav"_s, wavFile(1400));
-    m_tree.write(u"c.wav"_s, wavFile(9000));
-    const QJsonArray groups = scan({u"--mode"_s, u"audio"_s, u"--set"_s, u"mediaCompareDepth=4"_s, u"--set"_s,
-                                    u"audioMatchDuration=true"_s})[u"groups"_s]
-                                  .toArray();
-    QCOMPARE(m_run.errors, "");
-    QCOMPARE(groups.size(), 1);
-    QCOMPARE(groups[0][u"key"_s].toString(), u"ADUR:0"_s);
-    const QJsonArray files = groups[0][u"files"_s].toArray();
-    QCOMPARE(files[0][u"durationMs"_s].toInt() + files[1][u"durationMs"_s].toInt(), 2400);
-}
-
-void MediaScanTest::otherFilesAreNoMedia()
-{
-    m_tree.write(u"a.txt"_s, rings(300, 200, "png"));
-    QCOMPARE(scan({u"--mode"_s, u"video"_s})[u"filesScanned"_s].toInt(), 0);
-    QCOMPARE(scan({u"--mode"_s, u"images"_s, u"--set"_s, u"includeExtensions=txt"_s})[u"candidates"_s].toInt(), 1);
 }
 
 QTEST_GUILESS_MAIN(MediaScanTest)

