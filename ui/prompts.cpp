@@ -1,5 +1,7 @@
 #include "ui/prompts.h"
 
+#include "ui/logic/boxtext.h"
+
 #include <QCheckBox>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -7,20 +9,37 @@
 
 namespace Mirrix {
 
+namespace {
+
+/// Texts name files, which may look like markup and may be many.
+int showBox(QMessageBox &box, const QString &text)
+{
+    const BoxText fitted = boxText(text);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(fitted.shown);
+    box.setDetailedText(fitted.details);
+    return box.exec();
+}
+
+} // namespace
+
 void DialogPrompts::inform(QWidget *parent, const QString &title, const QString &text)
 {
-    QMessageBox::information(parent, title, text);
+    QMessageBox box(QMessageBox::Information, title, {}, QMessageBox::Ok, parent);
+    showBox(box, text);
 }
 
 void DialogPrompts::warn(QWidget *parent, const QString &title, const QString &text)
 {
-    QMessageBox::warning(parent, title, text);
+    QMessageBox box(QMessageBox::Warning, title, {}, QMessageBox::Ok, parent);
+    showBox(box, text);
 }
 
 bool DialogPrompts::ask(QWidget *parent, const QString &title, const QString &text)
 {
-    return QMessageBox::question(parent, title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) ==
-           QMessageBox::Yes;
+    QMessageBox box(QMessageBox::Question, title, {}, QMessageBox::Yes | QMessageBox::No, parent);
+    box.setDefaultButton(QMessageBox::No);
+    return showBox(box, text) == QMessageBox::Yes;
 }
 
 Confirmation DialogPrompts::confirm(QWidget *parent, const ConfirmationRequest &request)

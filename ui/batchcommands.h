@@ -1,0 +1,97 @@
+#pragma once
+
+#include "actions/batch.h"
+#include "actions/keeprule.h"
+#include "ui/logic/resultset.h"
+
+#include <QObject>
+
+#include <functional>
+
+class QWidget;
+
+namespace Mirrix {
+
+class CheckedFiles;
+class OperationsLog;
+class Prompts;
+struct BackupEntry;
+struct RemovalChoice;
+struct Settings;
+
+/// What is done to all results at once: setting marks, and removing, backing up and restoring files with the questions
+/// before and the account after. Each command returns when it is over; meanwhile the user can do nothing else in the
+/// window, and a further command is ignored. Work on many files goes on off the interface thread.
+class BatchCommands : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Keeps references to everything; `window`, which owns it, is the parent of all boxes.
+    BatchCommands(ResultSet &results, const Settings &settings, Prompts &prompts, OperationsLog &log, QWidget *window);
+
+    /// The backup folder in effect since the last scan's start.
+    void setBackupFolder(const QString &folder) { m_backupFolder = folder; }
+
+    /// Ticks all files of each group but the one to keep.
+    void applyKeepRule(KeepRule rule);
+
+    /// Ticks all files of each group but the first.
+    void selectAllDuplicates();
+
+    void invertSelection();
+
+    /// Moves the ticked files into the backup folder.
+    void moveCheckedToBackup();
+
+    /// Removes the ticked files in the way that the user chooses.
+    void removeChecked();
+
+    /// Puts files back that the user chooses from the backup folder of the settings.
+    void restoreBackup();
+
+    /// Whether a command is under way, its boxes included.
+    [[nodiscard]] bool isBusy() const { return m_isBusy; }
+
+    /// Asks the batch under way, if any, to stop after the current file.
+    void stop() { emit stopRequested(); }
+
+signals:
+    /// Many marks have changed; what shows them must be repainted.
+    void marksReplaced();
+
+    /// A text for the status label.
+    void statusText(const QString &text);
+
+    /// A command is over.
+    void finished();
+
+    void stopRequested();
+
+private:
+    using MarkChange = std::function<void(SelectionMarks &, const QList<MirrixCore::DuplicateGroup> &)>;
+    using Batch = std::function<BatchResult(const BatchControl &)>;
+
+    void perform(const std::function<void()> &command);
+    void backUpChecked();
+    void removeByChoice();
+    void restoreByChoice();
+
+    bool changeMarks(const QString &status, const MarkChange &change);
+    [[nodiscard]] BatchResult run(const QString &label, const Batch &batch);
+    [[nodiscard]] BatchResult runOn(const CheckedFiles &files, const QString &label, const Batch &batch);
+
+    void backUpAndRemove(const CheckedFiles &files, const RemovalChoice &choice);
+    void removeDirectly(const CheckedFiles &files, const RemovalChoice &choice);
+    void restore(const QString &folder, const QList<BackupEntry> &chosen);
+
+    ResultSet &m_results;
+    const Settings &m_settings;
+    Prompts &m_prompts;
+    OperationsLog &m_log;
+    QWidget *m_window;
+    QString m_backupFolder;
+    bool m_isBusy = false;
+};
+
+} // namespace Mirrix

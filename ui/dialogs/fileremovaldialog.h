@@ -1,0 +1,67 @@
+#pragma once
+
+#include "actions/fileoperations.h"
+#include "app/settings.h"
+
+#include <QDialog>
+
+class QButtonGroup;
+class QCheckBox;
+class QFormLayout;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+namespace Mirrix {
+
+class Prompts;
+
+/// How ticked files are to be removed.
+struct RemovalChoice
+{
+    RemovalMethod method = RemovalMethod::Recycle;
+    QString targetFolder; ///< for moving
+    QString linkTarget;   ///< for links: the file they lead to
+    bool backsUpFirst = false;
+
+    bool operator==(const RemovalChoice &) const = default;
+};
+
+/// What the dialog starts with.
+[[nodiscard]] RemovalChoice initialRemovalChoice(const Settings &settings);
+
+/// Asks how a number of files are to be removed. Does nothing itself and tests nothing: whoever opened it reads the
+/// choice after it was accepted.
+class FileRemovalDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    FileRemovalDialog(qsizetype fileCount, const RemovalChoice &initial, Prompts &prompts, QWidget *parent = nullptr);
+
+    [[nodiscard]] RemovalChoice choice() const;
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    [[nodiscard]] QGroupBox *buildMethods(RemovalMethod initial);
+    [[nodiscard]] QFormLayout *buildInputs(const RemovalChoice &initial);
+    void browse();
+    void retranslate();
+
+    Prompts &m_prompts;
+    qsizetype m_fileCount;
+    QLabel *m_question;
+    QGroupBox *m_methodBox = nullptr;
+    QButtonGroup *m_methods;
+    QLabel *m_folderLabel = nullptr;
+    QLineEdit *m_folder = nullptr;
+    QPushButton *m_browse = nullptr;
+    QLabel *m_linkLabel = nullptr;
+    QLineEdit *m_linkTarget = nullptr;
+    QCheckBox *m_backUp;
+};
+
+} // namespace Mirrix

@@ -1,0 +1,100 @@
+#include "ui/dialogs/restoredialog.h"
+
+#include "app/text.h"
+
+#include <QDialogButtonBox>
+#include <QEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QSortFilterProxyModel>
+#include <QStringListModel>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace Mirrix {
+
+RestoreDialog::RestoreDialog(const QStringList &lines, QWidget *parent)
+    : QDialog(parent)
+    , m_label(new QLabel)
+    , m_filter(new QLineEdit)
+    , m_list(new QListView)
+    , m_rows(new QSortFilterProxyModel(this))
+{
+    setObjectName(QStringLiteral("RestoreDialog"));
+    m_filter->setObjectName(QStringLiteral("RestoreFilter"));
+    m_filter->setClearButtonEnabled(true);
+    m_list->setObjectName(QStringLiteral("RestoreList"));
+    m_list->setUniformItemSizes(true);
+    m_list->setSpacing(2);
+    m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_list->setTextElideMode(Qt::ElideMiddle);
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_rows->setSourceModel(new QStringListModel(lines, m_rows));
+    m_rows->setFilterCaseSensitivity(Qt::CaseInsensitive);
+    m_list->setModel(m_rows);
+    m_label->setBuddy(m_list);
+    buildLayout();
+
+    connect(m_filter, &QLineEdit::textChanged, this, &RestoreDialog::filter);
+    connect(m_list, &QListView::doubleClicked, this, &QDialog::accept);
+    connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this] { m_restore->setEnabled(m_list->selectionModel()->hasSelection()); });
+    retranslate();
+    filter({});
+    m_list->setFocus();
+}
+
+void RestoreDialog::buildLayout()
+{
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    m_restore = buttons->button(QDialogButtonBox::Ok);
+    m_restore->setObjectName(QStringLiteral("RestoreButton"));
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto *column = new QVBoxLayout(this);
+    column->setSpacing(8);
+    column->addWidget(m_label);
+    column->addWidget(m_filter);
+    column->addWidget(m_list, 1);
+    column->addWidget(buttons);
+    resize(820, 440);
+}
+
+QList<qsizetype> RestoreDialog::chosen() const
+{
+    QList<qsizetype> rows;
+    const QModelIndexList selected = m_list->selectionModel()->selectedIndexes();
+    for (const QModelIndex &index : selected)
+        rows.append(m_rows->mapToSource(index).row());
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+void RestoreDialog::filter(const QString &words)
+{
+    m_rows->setFilterFixedString(words);
+    m_list->setCurrentIndex(m_rows->index(0, 0));
+    m_restore->setEnabled(m_rows->rowCount() > 0);
+}
+
+void RestoreDialog::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QDialog::changeEvent(event);
+}
+
+void RestoreDialog::retranslate()
+{
+    setWindowTitle(Text::tr("恢复备份"));
+    m_label->setText(Text::tr("选择要恢复的文件："));
+    m_filter->setPlaceholderText(Text::tr("按路径筛选"));
+    m_filter->setAccessibleName(Text::tr("按路径筛选"));
+    m_restore->setText(Text::tr("恢复所选"));
+}
+
+} // namespace Mirrix
