@@ -4,6 +4,7 @@
 #include "app/translations.h"
 #include "core/scan/metatypes.h"
 #include "ui/caption.h"
+#include "ui/dialogs/logviewer.h"
 #include "ui/locations/locationspage.h"
 #include "ui/logic/locationsjson.h"
 #include "ui/logic/rulessettings.h"
@@ -11,6 +12,7 @@
 #include "ui/logic/scansummary.h"
 #include "ui/mainmenu.h"
 #include "ui/prompts.h"
+#include "ui/resultactions.h"
 #include "ui/results/resultspage.h"
 #include "ui/rules/rulespage.h"
 #include "ui/scanthread.h"
@@ -147,6 +149,13 @@ void Mirrix::connectPages()
         state.advanced.backupBeforeDelete = on;
         m_locations->setState(state);
     });
+    m_actions = new ResultActions(m_results, *m_resultsPage, *m_locations, m_settings, m_prompts, m_log, this);
+    m_actions->commands().setBackupFolder(m_settings.backupRoot);
+    connect(m_actions, &ResultActions::clearRequested, this, &Mirrix::onClearRequested);
+    connect(&m_actions->commands(), &BatchCommands::finished, this, [this] {
+        if (m_quitWanted)
+            quitCompletely();
+    });
     connect(new QShortcut(QKeySequence(Qt::Key_F5), this), &QShortcut::activated, this, &Mirrix::startScan);
     connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this, [this] {
         if (m_scanning)
@@ -156,6 +165,11 @@ void Mirrix::connectPages()
 
 void Mirrix::connectMenu(MainMenu *menu)
 {
+    connect(menu, &MainMenu::logRequested, this, [this] {
+        LogViewer viewer(m_log.filePath(), this);
+        m_prompts.run(viewer);
+    });
+    connect(menu, &MainMenu::restoreRequested, this, [this] { m_actions->commands().restoreBackup(); });
     connect(menu, &MainMenu::dataFolderRequested, this, [this] { openWithSystem(m_settings.directory); });
     connect(menu, &MainMenu::quitRequested, this, &Mirrix::quitCompletely);
     connect(menu, &MainMenu::languageChosen, this, &Mirrix::setLanguage);
@@ -226,6 +240,14 @@ void Mirrix::storeScanSettings(const MirrixCore::ScanOptions &options)
     storeLocations(m_locations->state(), m_settings);
     storeRules(options, m_settings);
     m_settings.save();
+    m_actions->commands().setBackupFolder(m_settings.backupRoot);
+}
+
+void Mirrix::onClearRequested()
+{
+    clearResults();
+    m_resultsPage->setSummary(Text::tr("结果已清空。切换Tab调整规则后可重新开始扫描。"));
+    setStatusText(Text::tr("就绪"));
 }
 
 void Mirrix::clearResults()
@@ -333,13 +355,18 @@ void Mirrix::closeEvent(QCloseEvent *event)
         return;
     }
     quitCompletely();
-    event->accept();
+    event->setAccepted(m_quitting);
 }
 
 void Mirrix::quitCompletely()
 {
     if (m_quitting)
         return; // quitting closes the window, which asks for it again
+    if (m_actions->commands().isBusy()) {
+        m_quitWanted = true; // once the file in hand is done with
+        m_actions->commands().stop();
+        return;
+    }
     m_quitting = true;
     storeLocations(m_locations->state(), m_settings);
     m_settings.save();

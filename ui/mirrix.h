@@ -16,6 +16,7 @@ namespace Mirrix {
 class LocationsPage;
 class MainMenu;
 class Prompts;
+class ResultActions;
 class ResultsPage;
 class RulesPage;
 class ScanThread;
@@ -63,6 +64,7 @@ private:
     [[nodiscard]] bool confirmScanStart(const MirrixCore::ScanOptions &options);
     void storeScanSettings(const MirrixCore::ScanOptions &options);
     void clearResults();
+    void onClearRequested();
     void setScanning(bool on);
     void setStatusText(const QString &text);
 
@@ -81,6 +83,7 @@ private:
     ::Mirrix::ProgressThrottle m_throttle;
     bool m_scanning = false;
     bool m_quitting = false;
+    bool m_quitWanted = false; ///< quit when the batch under way is over
 
     ::Mirrix::WizardSidebar *m_sidebar = nullptr;
     QLabel *m_trail = nullptr;
@@ -89,6 +92,7 @@ private:
     ::Mirrix::LocationsPage *m_locations = nullptr;
     ::Mirrix::RulesPage *m_rules = nullptr;
     ::Mirrix::ResultsPage *m_resultsPage = nullptr;
+    ::Mirrix::ResultActions *m_actions = nullptr;
     ::Mirrix::MainMenu *m_menu = nullptr;
     ::Mirrix::TrayIcon *m_tray = nullptr;
     ::Mirrix::ScanThread *m_scanThread = nullptr;

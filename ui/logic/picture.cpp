@@ -1,8 +1,11 @@
 #include "ui/logic/picture.h"
 
 #include "app/text.h"
+#include "core/media/mediakinds.h"
+#include "core/media/rawfile.h"
 #include "ui/logic/suffixicons.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QImageReader>
 
@@ -18,14 +21,24 @@ bool exceedsLimit(QSize size)
     return limit > 0 && qint64(size.width()) * size.height() * bytesPerPixel > limit * mega;
 }
 
-} // namespace
-
-Picture readPicture(const QString &path, QSize bounds)
+bool isRaw(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {{}, file.exists() ? Picture::Problem::Unreadable : Picture::Problem::Missing};
-    QImageReader reader(&file);
+    return MirrixCore::rawExtensions().contains(suffixOf(path));
+}
+
+/// A RAW file's picture in a format that Qt reads, opened.
+bool openRaw(const QString &path, QBuffer &encoded)
+{
+    QByteArray bytes = MirrixCore::embeddedPreview(path);
+    if (bytes.isEmpty())
+        bytes = MirrixCore::developedRaw(path);
+    encoded.setData(bytes);
+    return !bytes.isEmpty() && encoded.open(QIODevice::ReadOnly);
+}
+
+Picture readFrom(QIODevice *device, QSize bounds)
+{
+    QImageReader reader(device);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
     const QSize size = reader.size();
@@ -39,9 +52,23 @@ Picture readPicture(const QString &path, QSize bounds)
     return {{}, exceedsLimit(size) ? Picture::Problem::TooLarge : Picture::Problem::Unreadable};
 }
 
+} // namespace
+
+Picture readPicture(const QString &path, QSize bounds)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {{}, file.exists() ? Picture::Problem::Unreadable : Picture::Problem::Missing};
+    QBuffer encoded;
+    if (isRaw(path) && openRaw(path, encoded))
+        return readFrom(&encoded, bounds);
+    return readFrom(&file, bounds);
+}
+
 bool isPicture(const QString &path)
 {
-    return QImageReader::supportedImageFormats().contains(suffixOf(path).toLatin1());
+    static const QList<QByteArray> formats = QImageReader::supportedImageFormats();
+    return formats.contains(suffixOf(path).toLatin1()) || isRaw(path);
 }
 
 QString problemText(Picture::Problem problem)
