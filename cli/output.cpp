@@ -26,7 +26,7 @@ void printText(const QString &text)
 void printError(const QString &message)
 {
     const QByteArray line = "mirrix-cli: " + shownPath(message, isErrorTerminal()) + '\n';
-    std::fwrite(line.constData(), 1, static_cast<size_t>(line.size()), stderr);
+    std::fwrite(line.constData(), 1, static_cast<size_t>(line.size()), errorStream());
 }
 
 QByteArray shownPath(const QString &path, bool forTerminal)

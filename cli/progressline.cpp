@@ -30,14 +30,14 @@ void ProgressLine::show(const MirrixCore::ScanProgress &progress)
     m_sinceDrawn.start();
     m_isShown = true;
     const QByteArray text = clearLine + shownPath(progressText(progress, terminalColumns() - 1), true);
-    std::fwrite(text.constData(), 1, static_cast<size_t>(text.size()), stderr);
-    std::fflush(stderr);
+    std::fwrite(text.constData(), 1, static_cast<size_t>(text.size()), errorStream());
+    std::fflush(errorStream());
 }
 
 void ProgressLine::clear()
 {
     if (m_isShown)
-        std::fputs(clearLine, stderr);
+        std::fputs(clearLine, errorStream());
     m_isShown = false;
 }
 

@@ -1,9 +1,15 @@
 #pragma once
 
+#include <cstdio>
+
 namespace MirrixCli {
 
 /// Makes standard output and error take UTF-8 and pass bytes on unchanged. Call first.
 void prepareTerminal();
+
+/// Standard error, for this program's own words. Where the engine silences libraries by taking the C library's stderr
+/// away from the whole process, this is a stream of its own.
+[[nodiscard]] std::FILE *errorStream();
 
 [[nodiscard]] bool isOutputTerminal();
 [[nodiscard]] bool isErrorTerminal();

@@ -22,6 +22,11 @@ void onSignal(int number)
 
 void prepareTerminal() {}
 
+std::FILE *errorStream()
+{
+    return stderr;
+}
+
 bool isOutputTerminal()
 {
     return isatty(STDOUT_FILENO);

@@ -12,6 +12,7 @@ namespace MirrixCli {
 namespace {
 
 std::atomic<bool> interrupted = false;
+FILE *ownErrorStream = nullptr;
 
 BOOL WINAPI onControl(DWORD)
 {
@@ -31,12 +32,20 @@ void prepareTerminal()
     SetConsoleOutputCP(CP_UTF8);
     _setmode(_fileno(stdout), _O_BINARY);
     _setmode(_fileno(stderr), _O_BINARY);
+    ownErrorStream = _fdopen(_dup(_fileno(stderr)), "wb");
+    if (ownErrorStream)
+        setvbuf(ownErrorStream, nullptr, _IONBF, 0);
     // Lets the console understand the sequence that clears the progress line.
     constexpr DWORD virtualTerminal = 0x0004;
     DWORD mode = 0;
     const HANDLE error = GetStdHandle(STD_ERROR_HANDLE);
     if (GetConsoleMode(error, &mode))
         SetConsoleMode(error, mode | virtualTerminal);
+}
+
+FILE *errorStream()
+{
+    return ownErrorStream ? ownErrorStream : stderr;
 }
 
 bool isOutputTerminal()
