@@ -87,7 +87,7 @@ QByteArray preparation(const ExportRecords &records, const ExportOptions &option
     QByteArray lines;
     // In other code pages bytes of UTF-8 may read as wildcards, or swallow the quote behind them.
     if (hasForeign)
-        lines += "chcp 65001 >nul || exit /b 1\r\n";
+        lines += "chcp 65001 >nul\r\nif errorlevel 1 exit /b 1\r\n";
     // On by the machine's settings, it takes exclamation marks and carets out of names; no escape is right both ways.
     if (hasExclamation)
         lines += "setlocal DisableDelayedExpansion\r\n";
