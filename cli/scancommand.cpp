@@ -151,7 +151,9 @@ ReportFormat formatOf(const QString &name)
         return ReportFormat::Text;
     if (name == QLatin1String("json"))
         return ReportFormat::Json;
-    throw UsageError{QStringLiteral("--format needs text or json, not \"%1\"").arg(name)};
+    if (name == QLatin1String("csv"))
+        return ReportFormat::Csv;
+    throw UsageError{QStringLiteral("--format needs text, json or csv, not \"%1\"").arg(name)};
 }
 
 /// Finds out before a long scan whether its report can be written. The file is not left open: its temporary name would
@@ -249,7 +251,7 @@ void addScanOptions(QCommandLineParser &parser)
                         "content."),
          QStringLiteral("MODE")},
         {optionsOption, QStringLiteral("Read scan options from a JSON file."), QStringLiteral("FILE")},
-        {formatOption, QStringLiteral("Form of the report: text (default) or json."), QStringLiteral("FORMAT"),
+        {formatOption, QStringLiteral("Form of the report: text (default), json or csv."), QStringLiteral("FORMAT"),
          QStringLiteral("text")},
         {outputOption, QStringLiteral("Write the report to a file."), QStringLiteral("FILE")},
     });

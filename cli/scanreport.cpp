@@ -1,5 +1,6 @@
 #include "cli/scanreport.h"
 
+#include "actions/exporttexts.h"
 #include "app/sizetext.h"
 
 #include <QJsonArray>
@@ -233,14 +234,30 @@ void writeJson(const ScanResult &result, Output &output)
     output.write("}\n");
 }
 
+void writeCsv(const ScanResult &result, Output &output)
+{
+    const auto sink = [&output](QByteArrayView bytes) {
+        output.write(bytes);
+        return true; // the output keeps its failures for the end
+    };
+    static_cast<void>(Mirrix::writeCsv({result.groups, {}}, {}, sink));
+}
+
 } // namespace
 
 void writeReport(const ScanResult &result, ReportFormat format, Output &output)
 {
-    if (format == ReportFormat::Json)
-        writeJson(result, output);
-    else
+    switch (format) {
+    case ReportFormat::Text:
         writeText(result, output);
+        break;
+    case ReportFormat::Json:
+        writeJson(result, output);
+        break;
+    case ReportFormat::Csv:
+        writeCsv(result, output);
+        break;
+    }
 }
 
 } // namespace MirrixCli

@@ -35,6 +35,12 @@ void DialogPrompts::warn(QWidget *parent, const QString &title, const QString &t
     showBox(box, text);
 }
 
+void DialogPrompts::fail(QWidget *parent, const QString &title, const QString &text)
+{
+    QMessageBox box(QMessageBox::Critical, title, {}, QMessageBox::Ok, parent);
+    showBox(box, text);
+}
+
 bool DialogPrompts::ask(QWidget *parent, const QString &title, const QString &text)
 {
     QMessageBox box(QMessageBox::Question, title, {}, QMessageBox::Yes | QMessageBox::No, parent);
@@ -57,6 +63,12 @@ Confirmation DialogPrompts::confirm(QWidget *parent, const ConfirmationRequest &
 QString DialogPrompts::chooseFolder(QWidget *parent, const QString &title, const QString &start)
 {
     return QFileDialog::getExistingDirectory(parent, title, start, QFileDialog::ShowDirsOnly);
+}
+
+QString DialogPrompts::chooseSaveFile(QWidget *parent, const QString &title, const QString &start,
+                                      const QString &filter)
+{
+    return QFileDialog::getSaveFileName(parent, title, start, filter);
 }
 
 bool DialogPrompts::run(QDialog &dialog)

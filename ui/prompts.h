@@ -33,6 +33,7 @@ public:
 
     virtual void inform(QWidget *parent, const QString &title, const QString &text) = 0;
     virtual void warn(QWidget *parent, const QString &title, const QString &text) = 0;
+    virtual void fail(QWidget *parent, const QString &title, const QString &text) = 0;
 
     /// Asks with Yes and No, No being the default. True for Yes alone.
     [[nodiscard]] virtual bool ask(QWidget *parent, const QString &title, const QString &text) = 0;
@@ -41,6 +42,11 @@ public:
 
     /// A folder chosen by the user; empty when the chooser was cancelled.
     [[nodiscard]] virtual QString chooseFolder(QWidget *parent, const QString &title, const QString &start) = 0;
+
+    /// A file to write chosen by the user, who has agreed to replace it if it exists; empty when the chooser was
+    /// cancelled. `start` is a folder or a proposed file, `filter` a list such as "CSV (*.csv)".
+    [[nodiscard]] virtual QString chooseSaveFile(QWidget *parent, const QString &title, const QString &start,
+                                                 const QString &filter) = 0;
 
     /// Runs a dialog modally; true when it was accepted.
     [[nodiscard]] virtual bool run(QDialog &dialog) = 0;
@@ -52,9 +58,11 @@ class DialogPrompts : public Prompts
 public:
     void inform(QWidget *parent, const QString &title, const QString &text) override;
     void warn(QWidget *parent, const QString &title, const QString &text) override;
+    void fail(QWidget *parent, const QString &title, const QString &text) override;
     bool ask(QWidget *parent, const QString &title, const QString &text) override;
     Confirmation confirm(QWidget *parent, const ConfirmationRequest &request) override;
     QString chooseFolder(QWidget *parent, const QString &title, const QString &start) override;
+    QString chooseSaveFile(QWidget *parent, const QString &title, const QString &start, const QString &filter) override;
     bool run(QDialog &dialog) override;
 };
 

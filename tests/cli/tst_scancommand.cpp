@@ -86,6 +86,7 @@ private slots:
     void modes();
     void textReportOfNothing();
     void jsonReport();
+    void csvReport();
     void options_data();
     void options();
     void digestIsChosen_data();
@@ -264,6 +265,29 @@ void ScanCommandTest::jsonReport()
                                   {u"remaining"_s, QJsonArray()}}));
 }
 
+void ScanCommandTest::csvReport()
+{
+    const QString named = m_tree->write(u"two/c, d.txt"_s, "abc");
+    m_tree->setModified(u"two/c, d.txt"_s, modifiedMs);
+    const QStringList arguments = {u"--format"_s, u"csv"_s, u"--hash"_s, u"md5"_s, m_tree->path()};
+    const ProgramRun run = scan(arguments);
+    QCOMPARE(run.status, 0);
+    QList<QByteArray> lines = run.output.split('\n');
+    QCOMPARE(lines.takeFirst(), "group,path,size,modified,key");
+    std::sort(lines.begin(), lines.end());
+    const QByteArray tail = "\",3,1234567890000,900150983cd24fb0d6963f7d28e17f72"; // md5 of "abc"
+    const QByteArray folder = m_tree->path().toUtf8();
+    QCOMPARE(lines, (QList<QByteArray>{{},
+                                       "1,\"" + folder + "/one/a.txt" + tail,
+                                       "1,\"" + folder + "/two/b.dat" + tail,
+                                       "1,\"" + named.toUtf8() + tail}));
+
+    const TempTree elsewhere;
+    const QString file = elsewhere.path(u"report.csv"_s);
+    QCOMPARE(scan(QStringList{u"--output"_s, file} + arguments).output, "");
+    QCOMPARE(contentOf(file), run.output);
+}
+
 void ScanCommandTest::options_data()
 {
     QTest::addColumn<QStringList>("arguments"); // %1 is the folder of the tree
@@ -364,7 +388,7 @@ void ScanCommandTest::mistakes_data()
     row({u"--mode"_s, u"sound"_s, u"/a"_s},
         u"--mode needs one of content, similar-content, rules, images, audio, video, not \"sound\""_s);
     row({u"--hash"_s, u"BLAKE3"_s, u"/a"_s}, u"--hash needs md5 or blake3, not \"BLAKE3\""_s);
-    row({u"--format"_s, u"csv"_s, u"/a"_s}, u"--format needs text or json, not \"csv\""_s);
+    row({u"--format"_s, u"xml"_s, u"/a"_s}, u"--format needs text, json or csv, not \"xml\""_s);
     row({u"--recursive"_s, u"/a"_s}, u"Unknown option 'recursive'."_s);
     row({u"--mode"_s, u"rules"_s, u"/a"_s}, u"the mode rules needs a rule, for example --set sameName=true"_s);
     for (const QString &rule : {u"searchMode=4"_s, u"contentMatch=-1"_s, u"mediaCompareDepth=5"_s})

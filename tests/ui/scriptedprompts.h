@@ -18,10 +18,12 @@ public:
     QList<bool> answers; ///< for ask and run, in order
     QList<Mirrix::Confirmation> confirmations;
     QStringList folders;                  ///< for chooseFolder, in order
+    QStringList files;                    ///< for chooseSaveFile, in order
     std::function<void(QDialog &)> onRun; ///< what the user does in a dialog before answering it
 
     void inform(QWidget *, const QString &title, const QString &text) override { note(title, text); }
     void warn(QWidget *, const QString &title, const QString &text) override { note(title, text); }
+    void fail(QWidget *, const QString &title, const QString &text) override { note(title, text); }
 
     bool ask(QWidget *, const QString &title, const QString &text) override
     {
@@ -39,6 +41,13 @@ public:
     {
         note(title, {});
         return folders.isEmpty() ? QString() : folders.takeFirst();
+    }
+
+    /// Notes the proposed file and the filter.
+    QString chooseSaveFile(QWidget *, const QString &title, const QString &start, const QString &filter) override
+    {
+        note(title, start + QLatin1Char('|') + filter);
+        return files.isEmpty() ? QString() : files.takeFirst();
     }
 
     bool run(QDialog &dialog) override
