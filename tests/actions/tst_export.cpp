@@ -1,0 +1,332 @@
+#include "actions/exporter.h"
+#include "actions/exportscript.h"
+#include "actions/exporttexts.h"
+#include "core/platform/nativepath.h"
+#include "tests/support/disk.h"
+#include "tests/support/temptree.h"
+
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTest>
+
+#include <memory>
+
+using namespace Mirrix;
+using namespace MirrixTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using MirrixCore::DuplicateGroup;
+using MirrixCore::FileEntry;
+
+const QDateTime now(QDate(2024, 1, 31), QTime(9, 5, 7));
+constexpr ExportOptions everything;
+constexpr ExportOptions checkedOnly = {true, true, false};
+constexpr ExportOptions bare = {false, false, false};
+constexpr ExportOptions redacted = {false, true, true};
+
+FileEntry entry(const QString &path, qint64 size = 1, qint64 modifiedMs = 0)
+{
+    FileEntry file;
+    file.path = path;
+    file.size = size;
+    file.modifiedMs = modifiedMs;
+    return file;
+}
+
+ExportRecords recordsOf(const QStringList &paths)
+{
+    DuplicateGroup group;
+    for (const QString &path : paths)
+        group.files.append(entry(path));
+    return {{group}, {}};
+}
+
+/// Two groups with everything that a format could trip over; the second file of each is ticked.
+ExportRecords trickyRecords()
+{
+    const qint64 modifiedMs = QDateTime(QDate(2020, 2, 29), QTime(23, 59)).toMSecsSinceEpoch();
+    return {{{u"FN:a,\"b\"|SZ:3"_s, {entry(u"/d/a,\"b\".txt"_s, 3, modifiedMs), entry(u"/d/two\nlines"_s, 3)}, 3},
+             {u"90ab"_s, {entry(u"/d/%1 中文😀"_s, 2048), entry(u"/d/c"_s, 2048), entry(u"/d/e"_s, 2048)}, 4096}},
+            [](qsizetype group, qsizetype file) { return group == 1 && file == 1; }};
+}
+
+QString written(ExportFormat format, const ExportRecords &records, const ExportOptions &options)
+{
+    QByteArray text;
+    const ByteSink sink = [&text](QByteArrayView bytes) { return text.append(bytes), true; };
+    QStringList refusals;
+    const bool isWhole = format == ExportFormat::Csv ? writeCsv(records, options, sink)
+                         : format == ExportFormat::TextReport
+                             ? writeTextReport(records, options, u"常规模式"_s, now, sink)
+                             : writeDeletionScript(records, options, sink, refusals);
+    return isWhole ? QString::fromUtf8(text) : u"incomplete"_s;
+}
+
+QString native(const QString &path)
+{
+    return QDir::toNativeSeparators(path);
+}
+
+} // namespace
+
+class ExportTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { m_tree = std::make_unique<TempTree>(); }
+    void texts_data();
+    void texts();
+    void redaction_data();
+    void redaction();
+    void keysAreRedacted();
+    void scriptLines_data();
+    void scriptLines();
+    void scriptPreparesCmd();
+    void scriptDeletesWhatIsListed();
+    void copies();
+    void failures_data();
+    void failures();
+    void fullDisk_data();
+    void fullDisk();
+    void cancelled_data();
+    void cancelled();
+
+private:
+    std::unique_ptr<TempTree> m_tree;
+};
+
+void ExportTest::texts_data()
+{
+    const QString ms = QString::number(QDateTime(QDate(2020, 2, 29), QTime(23, 59)).toMSecsSinceEpoch());
+    const QString csv = u"group,path,size,modified,key\n"_s;
+    const QString report = u"Mirrix 重复文件扫描报告\n生成时间: 2024-01-31 09:05:07\n扫描模式: 常规模式\n"_s;
+    QTest::addColumn<ExportFormat>("format");
+    QTest::addColumn<ExportOptions>("options");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("csv") << ExportFormat::Csv << everything
+                         << csv + u"1,\"/d/a,\"\"b\"\".txt\",3,"_s + ms +
+                                u",\"FN:a,\"\"b\"\"|SZ:3\"\n"
+                                u"1,\"/d/two\nlines\",3,0,\"FN:a,\"\"b\"\"|SZ:3\"\n"
+                                u"2,\"/d/%1 中文😀\",2048,0,90ab\n2,\"/d/c\",2048,0,90ab\n2,\"/d/e\",2048,0,90ab\n"_s;
+    QTest::newRow("csv, checked") << ExportFormat::Csv << checkedOnly << csv + u"2,\"/d/c\",2048,0,90ab\n"_s;
+    QTest::newRow("csv, bare") << ExportFormat::Csv << bare
+                               << csv + u"1,\"/d/a,\"\"b\"\".txt\",3,0,\n1,\"/d/two\nlines\",3,0,\n"
+                                        u"2,\"/d/%1 中文😀\",2048,0,\n2,\"/d/c\",2048,0,\n2,\"/d/e\",2048,0,\n"_s;
+    QTest::newRow("report") << ExportFormat::TextReport << everything
+                            << report + u"[组 1] 键: FN:a,\"b\"|SZ:3  (2 个文件)\n"
+                                        u"  • /d/a,\"b\".txt (3 B)  2020-02-29 23:59\n  • /d/two\nlines (3 B)\n"
+                                        u"[组 2] 键: 90ab  (3 个文件)\n"
+                                        u"  • /d/%1 中文😀 (2 KB)\n  • /d/c (2 KB)\n  • /d/e (2 KB)\n"_s;
+    QTest::newRow("report, checked") << ExportFormat::TextReport << checkedOnly
+                                     << report +
+                                            u"范围: 仅已勾选文件\n[组 2] 键: 90ab  (1 个文件)\n  • /d/c (2 KB)\n"_s;
+    QTest::newRow("report, bare") << ExportFormat::TextReport << bare
+                                  << report + u"[组 1]  (2 个文件)\n  • /d/a,\"b\".txt (3 B)\n  • /d/two\nlines (3 B)\n"
+                                              u"[组 2]  (3 个文件)\n"
+                                              u"  • /d/%1 中文😀 (2 KB)\n  • /d/c (2 KB)\n  • /d/e (2 KB)\n"_s;
+    QTest::newRow("script, checked") << ExportFormat::DeletionScript << checkedOnly
+                                     << u"@echo off\r\ndel /f /q \""_s + native(u"/d/c"_s) + u"\"\r\n"_s;
+}
+
+void ExportTest::texts()
+{
+    QFETCH(ExportFormat, format);
+    QFETCH(ExportOptions, options);
+    QTEST(written(format, trickyRecords(), options), "expected");
+}
+
+void ExportTest::redaction_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("expected");
+    const auto row = [](const char *name, const QString &path, const QString &expected) {
+        QTest::newRow(name) << path << expected;
+    };
+    row("user", uR"(C:\Users\Ann Lee\a.txt)"_s, uR"(C:\Users\***\a.txt)"_s);
+    row("letter case", uR"(d:\USERS\ann\b\c)"_s, uR"(d:\USERS\***\b\c)"_s);
+    row("only the folder", uR"(C:\Users\中文)"_s, uR"(C:\Users\***)"_s);
+    row("elsewhere", uR"(C:\Work\Users\ann)"_s, uR"(C:\Work\Users\ann)"_s);
+    row("slashes of this system", native(u"C:/Users/ann/a"_s),
+        QDir::separator() == u'\\' ? uR"(C:\Users\***\a)"_s : u"C:/Users/ann/a"_s);
+    row("internal slashes", u"E:/x/a.txt"_s, native(u"E:/x/a.txt"_s));
+}
+
+void ExportTest::redaction()
+{
+    QFETCH(QString, path);
+    QFETCH(QString, expected);
+    QCOMPARE(redactedPath(path), expected);
+    QCOMPARE(written(ExportFormat::Csv, recordsOf({path}), redacted),
+             u"group,path,size,modified,key\n1,\"%1\",1,0,\n"_s.arg(expected));
+    const QString report = written(ExportFormat::TextReport, recordsOf({path}), redacted);
+    QVERIFY(report.endsWith(u"说明: 路径已脱敏（用户名已隐藏）\n[组 1]  (1 个文件)\n  • %1 (1 B)\n"_s.arg(expected)));
+}
+
+void ExportTest::keysAreRedacted()
+{
+    ExportRecords records = recordsOf({u"/a"_s});
+    records.groups[0].key = u"EXT:txt|FP:c:/users/ann/b|RP:x/y|FP:C:/Users/bob|SZ:1"_s;
+    const QString hidden = u"EXT:txt|FP:c:/users/***/b|RP:x/y|FP:C:/Users/***|SZ:1"_s;
+    QVERIFY(written(ExportFormat::Csv, records, redacted).endsWith(u",0,"_s + hidden + u"\n"_s));
+    QVERIFY(written(ExportFormat::TextReport, records, redacted).contains(u"[组 1] 键: "_s + hidden + u"  "_s));
+}
+
+void ExportTest::scriptLines_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<bool>("redacts");
+    const auto row = [](const char *name, const QString &path, const QString &line, bool redacts = false) {
+        QTest::newRow(name) << path << line << redacts;
+    };
+    row("plain", uR"(C:\a b\c.txt)"_s, uR"(del /f /q "C:\a b\c.txt")"_s);
+    row("share", uR"(\\host\share\c)"_s, uR"(del /f /q "\\host\share\c")"_s);
+    row("percent", uR"(C:\100%\%PATH%\%1)"_s, uR"(del /f /q "C:\100%%\%%PATH%%\%%1")"_s);
+    row("kept by quotes", uR"(C:\^a&b (c);'=,~)"_s, uR"(del /f /q "C:\^a&b (c);'=,~")"_s);
+    row("redacted", uR"(C:\Users\ann\a)"_s, uR"(del /f /q "C:\Users\***\a")"_s, true);
+    row("would become a wildcard", uR"(C:\Users\desktop.ini)"_s, uR"(rem del /f /q "C:\Users\???")"_s, true);
+    row("wildcards", uR"(C:\a?b*)"_s, uR"(rem del /f /q "C:\a?b?")"_s);
+    row("wildcards of the file system", uR"(C:\a<b>)"_s, uR"(rem del /f /q "C:\a?b?")"_s);
+    row("a further line", u"C:\\a\r\ndel \"x"_s, uR"(rem del /f /q "C:\a??del ?x")"_s);
+    row("trimmed dot", uR"(C:\a.)"_s, uR"(rem del /f /q "C:\a.")"_s);
+    row("trimmed blank of a folder", uR"(C:\a \b)"_s, uR"(rem del /f /q "C:\a \b")"_s);
+    row("stream", uR"(C:\a:b)"_s, uR"(rem del /f /q "C:\a:b")"_s);
+    row("long", u"C:\\"_s + QString(8001, u'a'), u"rem del /f /q \"C:\\"_s + QString(997, u'a') + u'"');
+}
+
+void ExportTest::scriptLines()
+{
+    QFETCH(QString, path);
+    QFETCH(QString, line);
+    QFETCH(bool, redacts);
+    QByteArray text;
+    QStringList refusals;
+    const ByteSink sink = [&text](QByteArrayView bytes) { return text.append(bytes), true; };
+    QVERIFY(writeDeletionScript(recordsOf({path}), redacts ? redacted : everything, sink, refusals));
+    QCOMPARE(QString::fromUtf8(text), u"@echo off\r\n"_s + line + u"\r\n"_s);
+    QCOMPARE(refusals.size(), line.startsWith(u"rem") ? 1 : 0);
+}
+
+void ExportTest::scriptPreparesCmd()
+{
+    const QString script = written(ExportFormat::DeletionScript, recordsOf({uR"(C:\a!)"_s, uR"(C:\é)"_s}), everything);
+    QCOMPARE(script, u"@echo off\r\nchcp 65001 >nul\r\nif errorlevel 1 exit /b 1\r\n"
+                     u"setlocal DisableDelayedExpansion\r\ndel /f /q \"C:\\a!\"\r\ndel /f /q \"C:\\é\"\r\n"_s);
+}
+
+/// Where there is a cmd.exe, with names that it would misread lying beside those that they would be misread as.
+void ExportTest::scriptDeletesWhatIsListed()
+{
+    const QString cmd = QStandardPaths::findExecutable(u"cmd"_s);
+    if (cmd.isEmpty())
+        QSKIP("no cmd.exe");
+    QStringList listed;
+    for (const QString &name : {u"a b.txt"_s, u"100%.txt"_s, u"%OS%.txt"_s, u"%%x%%.txt"_s, u"c^d.txt"_s, u"e&f.txt"_s,
+                                u"(g).txt"_s, u"h!OS!i.txt"_s, u"j^!k.txt"_s, u"%1;l,m=n.txt"_s})
+        listed.append(m_tree->write(name, "x"));
+    const QStringList kept = {u"100.txt"_s, u"%x%.txt"_s, u".txt"_s, u"cd.txt"_s, u"hi.txt"_s, u"j!k.txt"_s, u"a"_s};
+    for (const QString &name : kept)
+        m_tree->write(name, "x");
+    const TempTree elsewhere;
+    const QString script = elsewhere.path(u"x.bat"_s);
+    QVERIFY(writeExport(recordsOf(listed), {ExportFormat::DeletionScript, script, everything}, {}, now).isDone);
+    QProcess::execute(cmd, {u"/v:on"_s, u"/c"_s, native(script)});
+    QStringList left = treeBelow(m_tree->path()).keys();
+    QCOMPARE(QSet<QString>(left.begin(), left.end()), QSet<QString>(kept.begin(), kept.end()));
+}
+
+void ExportTest::copies()
+{
+    ExportRecords records = recordsOf({m_tree->write(u"one/a.txt"_s, "first"), m_tree->write(u"two/a.txt"_s, "second"),
+                                       m_tree->write(u"two/中%1.txt"_s, "third"), m_tree->path(u"missing"_s)});
+    records.isChecked = [](qsizetype, qsizetype file) { return file != 0; };
+    const ExportRequest request = {ExportFormat::Copies, m_tree->path(u"new/deep"_s), everything};
+    const ExportOutcome outcome = writeExport(records, request, {}, now);
+    QVERIFY(outcome.isDone);
+    QCOMPARE(outcome.message, u"已复制 2 个文件"_s);
+    QCOMPARE(outcome.errors.size(), 2); // a name taken, and no such file
+    QCOMPARE(contentOf(m_tree->path(u"new/deep/a.txt"_s)), "first");
+    QCOMPARE(contentOf(m_tree->path(u"new/deep/中%1.txt"_s)), "third");
+    const ExportRequest ticked = {ExportFormat::Copies, m_tree->path(u"ticked"_s), checkedOnly};
+    QCOMPARE(writeExport(records, ticked, {}, now).message, u"已复制 2 个文件"_s);
+    QCOMPARE(contentOf(m_tree->path(u"ticked/a.txt"_s)), "second");
+}
+
+void ExportTest::failures_data()
+{
+    QTest::addColumn<ExportFormat>("format");
+    QTest::addColumn<QString>("place");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("missing folder") << ExportFormat::Csv << u"missing/x.csv"_s << u"无法写入文件。"_s;
+    QTest::newRow("a folder") << ExportFormat::TextReport << u"folder"_s << u"无法写入文件。"_s;
+    QTest::newRow("script") << ExportFormat::DeletionScript << u"missing/x.bat"_s << u"无法写入脚本。"_s;
+    QTest::newRow("unknown") << static_cast<ExportFormat>(4) << u"x"_s << u"未知导出格式。"_s;
+    QTest::newRow("below a file") << ExportFormat::Copies << u"folder/file/x"_s << u"无法创建目标目录: %1"_s;
+}
+
+void ExportTest::failures()
+{
+    QFETCH(ExportFormat, format);
+    QFETCH(QString, place);
+    QFETCH(QString, message);
+    m_tree->write(u"folder/file"_s, "x");
+    const DiskTree before = treeBelow(m_tree->path());
+    const ExportRequest request = {format, m_tree->path(place), everything};
+    const QString expected = message.contains(u"%1"_s) ? message.arg(request.path) : message;
+    QCOMPARE(writeExport(trickyRecords(), request, {}, now), (ExportOutcome{false, false, expected, {}}));
+    QCOMPARE(treeBelow(m_tree->path()), before);
+    QVERIFY(!QFileInfo::exists(m_tree->path(u"missing"_s)));
+}
+
+void ExportTest::fullDisk_data()
+{
+    QTest::addColumn<ExportFormat>("format");
+    QTest::newRow("csv") << ExportFormat::Csv;
+    QTest::newRow("report") << ExportFormat::TextReport;
+    QTest::newRow("script") << ExportFormat::DeletionScript;
+}
+
+void ExportTest::fullDisk()
+{
+    MIRRIX_ON_SMALL_DISK();
+    QFETCH(ExportFormat, format);
+    const ExportRequest request = {format, smallDisk() + u"/out"_s, everything};
+    QVERIFY(writeExport(recordsOf({u"/old"_s}), request, {}, now).isDone);
+    const DiskTree before = treeBelow(smallDisk());
+    const ExportRecords large = recordsOf(QStringList(2000, u"/a/file/with/a/name"_s));
+    QVERIFY(!writeExport(large, request, {}, now).isDone);
+    QCOMPARE(treeBelow(smallDisk()), before);
+}
+
+void ExportTest::cancelled_data()
+{
+    QTest::addColumn<ExportFormat>("format");
+    for (int number = 0; number < 4; ++number)
+        QTest::addRow("%d", number) << static_cast<ExportFormat>(number);
+}
+
+void ExportTest::cancelled()
+{
+    QFETCH(ExportFormat, format);
+    const ExportRecords records = recordsOf({m_tree->write(u"a"_s, "1"), m_tree->write(u"b"_s, "2")});
+    QList<qsizetype> seen;
+    const auto stopAtSecond = [&seen](qsizetype done, qsizetype total) {
+        seen.append(done * 10 + total);
+        return done == 0;
+    };
+    const QString target = m_tree->path(u"out"_s);
+    const ExportOutcome outcome = writeExport(records, {format, target, everything}, {}, now, stopAtSecond);
+    QVERIFY(outcome.isCancelled);
+    QCOMPARE(seen, (QList<qsizetype>{2, 12}));
+    const bool isCopy = format == ExportFormat::Copies;
+    QCOMPARE(outcome.isDone, isCopy);
+    QCOMPARE(QDir(m_tree->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden).size(),
+             isCopy ? 3 : 2);
+    QCOMPARE(QDir(target).entryList(QDir::Files), isCopy ? QStringList{u"a"_s} : QStringList());
+}
+
+QTEST_GUILESS_MAIN(ExportTest)
+#include "tst_export.moc"
