@@ -1,0 +1,213 @@
+#include "ui/dialogs/exportdialog.h"
+
+#include "tests/ui/cleaningscene.h"
+#include "ui/exportcommand.h"
+
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QPushButton>
+#include <QRegularExpression>
+
+using Mirrix::ExportDialog;
+using Mirrix::ExportFormat;
+using Mirrix::ExportRequest;
+using MirrixTest::CleaningScene;
+using MirrixTest::text;
+
+namespace {
+
+template <typename Widget>
+Widget *part(QDialog &dialog, const char *name)
+{
+    return dialog.findChild<Widget *>(QLatin1String(name));
+}
+
+void chooseFormat(QDialog &dialog, ExportFormat format)
+{
+    const QByteArray name = "ExportFormat" + QByteArray::number(static_cast<int>(format));
+    auto *button = part<QAbstractButton>(dialog, name);
+    QTest::mouseClick(button, Qt::LeftButton, {}, {8, button->height() / 2}); // its middle is blank
+}
+
+} // namespace
+
+class ExportDialogTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void untouched();
+    void choices();
+    void browsing_data();
+    void browsing();
+    void pathFollowsFormat();
+    void exports_data();
+    void exports();
+    void copies();
+    void notices();
+    void failure();
+
+private:
+    /// The user's choice when the dialog opens.
+    static void choose(CleaningScene &scene, ExportFormat format, const QString &path, bool onlyChecked)
+    {
+        scene.prompts.onRun = [=](QDialog &dialog) {
+            dialog.show();
+            chooseFormat(dialog, format);
+            QTest::keyClicks(part<QLineEdit>(dialog, "OutputPathEdit"), path);
+            part<QCheckBox>(dialog, "OnlyCheckedBox")->setChecked(onlyChecked);
+        };
+        scene.prompts.answers.append(true);
+    }
+
+    static void run(CleaningScene &scene)
+    {
+        Mirrix::exportResults(&scene.window, scene.results, text("常规模式"), scene.prompts, scene.log);
+    }
+};
+
+void ExportDialogTest::untouched()
+{
+    MirrixTest::ScriptedPrompts prompts;
+    ExportDialog dialog({}, prompts);
+    dialog.show();
+    QCOMPARE(dialog.windowTitle(), text("导出扫描结果"));
+    QTest::mouseClick(dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok), Qt::LeftButton);
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    QCOMPARE(dialog.request(), (ExportRequest{ExportFormat::Csv, {}, {false, true, false}}));
+}
+
+void ExportDialogTest::choices()
+{
+    MirrixTest::ScriptedPrompts prompts;
+    const ExportRequest initial = {ExportFormat::TextReport, QStringLiteral("/x/y.txt"), {true, false, true}};
+    ExportDialog dialog(initial, prompts);
+    dialog.show();
+    QCOMPARE(dialog.request(), initial);
+    for (const char *name : {"OnlyCheckedBox", "IncludeKeyAndTimeBox", "RedactPathsBox"})
+        QTest::keyClick(part<QCheckBox>(dialog, name), Qt::Key_Space);
+    QCOMPARE(dialog.request().options, (Mirrix::ExportOptions{false, true, false}));
+    for (int number = 0; number < 4; ++number) {
+        chooseFormat(dialog, static_cast<ExportFormat>(number));
+        QCOMPARE(static_cast<int>(dialog.request().format), number);
+    }
+}
+
+void ExportDialogTest::browsing_data()
+{
+    QTest::addColumn<ExportFormat>("format");
+    QTest::addColumn<QString>("asked"); // an expression
+    const QString stamp = QStringLiteral("^保存\\|.*/Mirrix_20[0-9]{6}_[0-9]{4}");
+    QTest::newRow("csv") << ExportFormat::Csv << stamp + QStringLiteral("\\.csv\\|CSV \\(\\*\\.csv\\)$");
+    QTest::newRow("report") << ExportFormat::TextReport << stamp + QStringLiteral("\\.txt\\|文本 \\(\\*\\.txt\\)$");
+    QTest::newRow("copies") << ExportFormat::Copies << QStringLiteral("^选择目标文件夹\\|$");
+    QTest::newRow("script") << ExportFormat::DeletionScript
+                            << stamp + QStringLiteral("\\.bat\\|批处理 \\(\\*\\.bat\\)$");
+}
+
+void ExportDialogTest::browsing()
+{
+    QFETCH(ExportFormat, format);
+    QFETCH(QString, asked);
+    MirrixTest::ScriptedPrompts prompts;
+    const QString chosen = QStringLiteral("/somewhere/chosen");
+    (format == ExportFormat::Copies ? prompts.folders : prompts.files) = QStringList{QString(), chosen};
+    ExportDialog dialog({format, {}, {}}, prompts);
+    auto *browse = part<QPushButton>(dialog, "BrowseOutputButton");
+    QTest::mouseClick(browse, Qt::LeftButton);
+    QCOMPARE(dialog.request().path, QString());
+    const QString question = prompts.asked.value(0);
+    QVERIFY2(QRegularExpression(asked).match(question).hasMatch(), qPrintable(question));
+    QTest::mouseClick(browse, Qt::LeftButton);
+    QCOMPARE(dialog.request().path, chosen);
+}
+
+void ExportDialogTest::pathFollowsFormat()
+{
+    MirrixTest::ScriptedPrompts prompts;
+    ExportDialog dialog({ExportFormat::Csv, QStringLiteral("/x/list.CSV"), {}}, prompts);
+    dialog.show();
+    chooseFormat(dialog, ExportFormat::DeletionScript);
+    QCOMPARE(dialog.request().path, QStringLiteral("/x/list.bat"));
+    part<QLineEdit>(dialog, "OutputPathEdit")->setText(QStringLiteral("/x/own.log"));
+    chooseFormat(dialog, ExportFormat::TextReport);
+    QCOMPARE(dialog.request().path, QStringLiteral("/x/own.log"));
+    chooseFormat(dialog, ExportFormat::Copies);
+    QCOMPARE(dialog.request().path, QString());
+}
+
+void ExportDialogTest::exports_data()
+{
+    QTest::addColumn<ExportFormat>("format");
+    QTest::addColumn<QByteArray>("firstLine");
+    QTest::addColumn<bool>("onlyChecked");
+    for (bool onlyChecked : {false, true}) {
+        const char *what = onlyChecked ? "ticked" : "all";
+        QTest::addRow("csv, %s", what) << ExportFormat::Csv << QByteArray("group,path,size,modified,key")
+                                       << onlyChecked;
+        QTest::addRow("report, %s", what)
+            << ExportFormat::TextReport << QByteArray("Mirrix 重复文件扫描报告") << onlyChecked;
+        QTest::addRow("script, %s", what) << ExportFormat::DeletionScript << QByteArray("@echo off") << onlyChecked;
+    }
+}
+
+void ExportDialogTest::exports()
+{
+    QFETCH(ExportFormat, format);
+    QFETCH(QByteArray, firstLine);
+    QFETCH(bool, onlyChecked);
+    CleaningScene scene;
+    scene.addGroup({QStringLiteral("kept.dat"), QStringLiteral("ticked.dat*")}, "abc");
+    const QString path = scene.path("out.file");
+    choose(scene, format, path, onlyChecked);
+    run(scene);
+    const QString shown = QDir::toNativeSeparators(path);
+    QCOMPARE(scene.prompts.asked, QStringList{text("完成|已导出：%1").arg(shown)});
+    QCOMPARE(scene.logged(), QStringList{QStringLiteral("export ") + shown});
+    const QByteArray content = scene.content(path);
+    QCOMPARE(content.left(content.indexOf('\n')).trimmed(), firstLine);
+    QCOMPARE(content.contains("kept.dat"), !onlyChecked);
+    QVERIFY(content.contains("ticked.dat"));
+}
+
+void ExportDialogTest::copies()
+{
+    CleaningScene scene;
+    scene.addGroup({QStringLiteral("a/x.dat"), QStringLiteral("b/x.dat*")}, "abc");
+    choose(scene, ExportFormat::Copies, scene.path("copies"), false);
+    run(scene);
+    const QString shown = QDir::toNativeSeparators(scene.path("copies"));
+    QCOMPARE(scene.prompts.asked.size(), 2); // one name was taken
+    QVERIFY(scene.prompts.asked.first().startsWith(text("导出警告|部分文件未能导出：\n")));
+    QCOMPARE(scene.prompts.asked.last(), text("完成|已复制文件到：%1\n已复制 1 个文件").arg(shown));
+    QCOMPARE(scene.logged(), QStringList{QStringLiteral("export_copy ") + shown});
+    QVERIFY(scene.has("copies/x.dat") && scene.has("a/x.dat") && scene.has("b/x.dat"));
+}
+
+void ExportDialogTest::notices()
+{
+    CleaningScene scene;
+    choose(scene, ExportFormat::Csv, scene.path("out.csv"), false);
+    run(scene);
+    scene.addGroup({QStringLiteral("a"), QStringLiteral("b")}, "abc");
+    choose(scene, ExportFormat::Csv, {}, false);
+    run(scene);
+    QCOMPARE(scene.prompts.asked, (QStringList{text("提示|没有可导出的结果。"), text("提示|请指定输出路径。")}));
+    run(scene); // the dialog is cancelled
+    QCOMPARE(scene.prompts.asked.size(), 2);
+    QVERIFY(scene.logged().isEmpty());
+    QVERIFY(!scene.has("out.csv"));
+}
+
+void ExportDialogTest::failure()
+{
+    CleaningScene scene;
+    scene.addGroup({QStringLiteral("a"), QStringLiteral("b")}, "abc");
+    choose(scene, ExportFormat::DeletionScript, scene.path("missing/out.bat"), false);
+    run(scene);
+    QCOMPARE(scene.prompts.asked, QStringList{text("错误|导出失败。\n无法写入脚本。")});
+    QVERIFY(scene.logged().isEmpty());
+}
+
+QTEST_MAIN(ExportDialogTest)
+#include "tst_exportdialog.moc"
