@@ -1,12 +1,10 @@
 #include "actions/exporter.h"
 #include "actions/exportscript.h"
 #include "actions/exporttexts.h"
-#include "core/platform/nativepath.h"
+#include "tests/actions/exportscene.h"
 #include "tests/support/disk.h"
 #include "tests/support/temptree.h"
 
-#include <QProcess>
-#include <QStandardPaths>
 #include <QTest>
 
 #include <memory>
@@ -17,32 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using MirrixCore::DuplicateGroup;
-using MirrixCore::FileEntry;
-
 const QDateTime now(QDate(2024, 1, 31), QTime(9, 5, 7));
-constexpr ExportOptions everything;
-constexpr ExportOptions checkedOnly = {true, true, false};
-constexpr ExportOptions bare = {false, false, false};
-constexpr ExportOptions redacted = {false, true, true};
-
-FileEntry entry(const QString &path, qint64 size = 1, qint64 modifiedMs = 0)
-{
-    FileEntry file;
-    file.path = path;
-    file.size = size;
-    file.modifiedMs = modifiedMs;
-    return file;
-}
-
-ExportRecords recordsOf(const QStringList &paths)
-{
-    DuplicateGroup group;
-    for (const QString &path : paths)
-        group.files.append(entry(path));
-    return {{group}, {}};
-}
-
 /// Two groups with everything that a format could trip over; the second file of each is ticked.
 ExportRecords trickyRecords()
 {
@@ -82,10 +55,6 @@ private slots:
     void redaction_data();
     void redaction();
     void keysAreRedacted();
-    void scriptLines_data();
-    void scriptLines();
-    void scriptPreparesCmd();
-    void scriptDeletesWhatIsListed();
     void copies();
     void failures_data();
     void failures();
@@ -172,70 +141,6 @@ void ExportTest::keysAreRedacted()
     const QString hidden = u"EXT:txt|FP:c:/users/***/b|RP:x/y|FP:C:/Users/***|SZ:1"_s;
     QVERIFY(written(ExportFormat::Csv, records, redacted).endsWith(u",0,"_s + hidden + u"\n"_s));
     QVERIFY(written(ExportFormat::TextReport, records, redacted).contains(u"[组 1] 键: "_s + hidden + u"  "_s));
-}
-
-void ExportTest::scriptLines_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<bool>("redacts");
-    const auto row = [](const char *name, const QString &path, const QString &line, bool redacts = false) {
-        QTest::newRow(name) << path << line << redacts;
-    };
-    row("plain", uR"(C:\a b\c.txt)"_s, uR"(del /f /q "C:\a b\c.txt")"_s);
-    row("share", uR"(\\host\share\c)"_s, uR"(del /f /q "\\host\share\c")"_s);
-    row("percent", uR"(C:\100%\%PATH%\%1)"_s, uR"(del /f /q "C:\100%%\%%PATH%%\%%1")"_s);
-    row("kept by quotes", uR"(C:\^a&b (c);'=,~)"_s, uR"(del /f /q "C:\^a&b (c);'=,~")"_s);
-    row("redacted", uR"(C:\Users\ann\a)"_s, uR"(del /f /q "C:\Users\***\a")"_s, true);
-    row("would become a wildcard", uR"(C:\Users\desktop.ini)"_s, uR"(rem del /f /q "C:\Users\???")"_s, true);
-    row("wildcards", uR"(C:\a?b*)"_s, uR"(rem del /f /q "C:\a?b?")"_s);
-    row("wildcards of the file system", uR"(C:\a<b>)"_s, uR"(rem del /f /q "C:\a?b?")"_s);
-    row("a further line", u"C:\\a\r\ndel \"x"_s, uR"(rem del /f /q "C:\a??del ?x")"_s);
-    row("trimmed dot", uR"(C:\a.)"_s, uR"(rem del /f /q "C:\a.")"_s);
-    row("trimmed blank of a folder", uR"(C:\a \b)"_s, uR"(rem del /f /q "C:\a \b")"_s);
-    row("stream", uR"(C:\a:b)"_s, uR"(rem del /f /q "C:\a:b")"_s);
-    row("long", u"C:\\"_s + QString(8001, u'a'), u"rem del /f /q \"C:\\"_s + QString(997, u'a') + u'"');
-}
-
-void ExportTest::scriptLines()
-{
-    QFETCH(QString, path);
-    QFETCH(QString, line);
-    QFETCH(bool, redacts);
-    QByteArray text;
-    QStringList refusals;
-    const ByteSink sink = [&text](QByteArrayView bytes) { return text.append(bytes), true; };
-    QVERIFY(writeDeletionScript(recordsOf({path}), redacts ? redacted : everything, sink, refusals));
-    QCOMPARE(QString::fromUtf8(text), u"@echo off\r\n"_s + line + u"\r\n"_s);
-    QCOMPARE(refusals.size(), line.startsWith(u"rem") ? 1 : 0);
-}
-
-void ExportTest::scriptPreparesCmd()
-{
-    const QString script = written(ExportFormat::DeletionScript, recordsOf({uR"(C:\a!)"_s, uR"(C:\é)"_s}), everything);
-    QCOMPARE(script, u"@echo off\r\nchcp 65001 >nul\r\nif errorlevel 1 exit /b 1\r\n"
-                     u"setlocal DisableDelayedExpansion\r\ndel /f /q \"C:\\a!\"\r\ndel /f /q \"C:\\é\"\r\n"_s);
-}
-
-/// Where there is a cmd.exe, with names that it would misread lying beside those that they would be misread as.
-void ExportTest::scriptDeletesWhatIsListed()
-{
-    const QString cmd = QStandardPaths::findExecutable(u"cmd"_s);
-    if (cmd.isEmpty())
-        QSKIP("no cmd.exe");
-    QStringList listed;
-    for (const QString &name : {u"a b.txt"_s, u"100%.txt"_s, u"%OS%.txt"_s, u"%%x%%.txt"_s, u"c^d.txt"_s, u"e&f.txt"_s,
-                                u"(g).txt"_s, u"h!OS!i.txt"_s, u"j^!k.txt"_s, u"%1;l,m=n.txt"_s})
-        listed.append(m_tree->write(name, "x"));
-    const QStringList kept = {u"100.txt"_s, u"%x%.txt"_s, u".txt"_s, u"cd.txt"_s, u"hi.txt"_s, u"j!k.txt"_s, u"a"_s};
-    for (const QString &name : kept)
-        m_tree->write(name, "x");
-    const TempTree elsewhere;
-    const QString script = elsewhere.path(u"x.bat"_s);
-    QVERIFY(writeExport(recordsOf(listed), {ExportFormat::DeletionScript, script, everything}, {}, now).isDone);
-    QProcess::execute(cmd, {u"/v:on"_s, u"/c"_s, native(script)});
-    QStringList left = treeBelow(m_tree->path()).keys();
-    QCOMPARE(QSet<QString>(left.begin(), left.end()), QSet<QString>(kept.begin(), kept.end()));
 }
 
 void ExportTest::copies()
