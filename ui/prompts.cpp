@@ -60,6 +60,11 @@ Confirmation DialogPrompts::confirm(QWidget *parent, const ConfirmationRequest &
     return {box.clickedButton() == accept, check->isChecked()};
 }
 
+QStringList DialogPrompts::chooseFiles(QWidget *parent, const QString &title, const QString &start)
+{
+    return QFileDialog::getOpenFileNames(parent, title, start);
+}
+
 QString DialogPrompts::chooseFolder(QWidget *parent, const QString &title, const QString &start)
 {
     return QFileDialog::getExistingDirectory(parent, title, start, QFileDialog::ShowDirsOnly);

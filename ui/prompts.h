@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 class QDialog;
 class QWidget;
@@ -40,6 +41,9 @@ public:
 
     [[nodiscard]] virtual Confirmation confirm(QWidget *parent, const ConfirmationRequest &request) = 0;
 
+    /// Existing files chosen by the user; none when the chooser was cancelled.
+    [[nodiscard]] virtual QStringList chooseFiles(QWidget *parent, const QString &title, const QString &start) = 0;
+
     /// A folder chosen by the user; empty when the chooser was cancelled.
     [[nodiscard]] virtual QString chooseFolder(QWidget *parent, const QString &title, const QString &start) = 0;
 
@@ -61,6 +65,7 @@ public:
     void fail(QWidget *parent, const QString &title, const QString &text) override;
     bool ask(QWidget *parent, const QString &title, const QString &text) override;
     Confirmation confirm(QWidget *parent, const ConfirmationRequest &request) override;
+    QStringList chooseFiles(QWidget *parent, const QString &title, const QString &start) override;
     QString chooseFolder(QWidget *parent, const QString &title, const QString &start) override;
     QString chooseSaveFile(QWidget *parent, const QString &title, const QString &start, const QString &filter) override;
     bool run(QDialog &dialog) override;

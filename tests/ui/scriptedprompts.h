@@ -17,6 +17,7 @@ public:
 
     QList<bool> answers; ///< for ask and run, in order
     QList<Mirrix::Confirmation> confirmations;
+    QList<QStringList> chosenFiles;       ///< for chooseFiles, in order
     QStringList folders;                  ///< for chooseFolder, in order
     QStringList files;                    ///< for chooseSaveFile, in order
     std::function<void(QDialog &)> onRun; ///< what the user does in a dialog before answering it
@@ -35,6 +36,12 @@ public:
     {
         note(request.title, request.text);
         return confirmations.isEmpty() ? Mirrix::Confirmation() : confirmations.takeFirst();
+    }
+
+    QStringList chooseFiles(QWidget *, const QString &title, const QString &) override
+    {
+        note(title, {});
+        return chosenFiles.isEmpty() ? QStringList() : chosenFiles.takeFirst();
     }
 
     QString chooseFolder(QWidget *, const QString &title, const QString &) override
