@@ -123,7 +123,7 @@ void Mirrix::buildLayout()
     row->addWidget(m_sidebar);
     row->addLayout(right, 1);
     setCentralWidget(centre);
-    resize(1180, 760);
+    resize(1240, 800);
 }
 
 void Mirrix::buildTray()
@@ -141,9 +141,8 @@ void Mirrix::connectPages()
     connect(m_sidebar, &WizardSidebar::startRequested, this, &Mirrix::startScan);
     connect(m_sidebar, &WizardSidebar::stopRequested, this, &Mirrix::cancelScan);
     m_resultsPage->setBackupBeforeDelete(m_locations->state().advanced.backupBeforeDelete);
-    connect(m_locations, &LocationsPage::changed, this, [this] {
-        m_resultsPage->setBackupBeforeDelete(m_locations->state().advanced.backupBeforeDelete);
-    });
+    connect(m_locations, &LocationsPage::changed, this,
+            [this] { m_resultsPage->setBackupBeforeDelete(m_locations->state().advanced.backupBeforeDelete); });
     connect(m_resultsPage, &ResultsPage::backupBeforeDeleteChanged, this, [this](bool on) {
         LocationsState state = m_locations->state();
         state.advanced.backupBeforeDelete = on;
@@ -226,8 +225,8 @@ bool Mirrix::confirmScanStart(const MirrixCore::ScanOptions &options)
     if (m_settings.skipScanConfirm)
         return true;
     const Confirmation answer =
-        m_prompts.confirm(this, {Text::tr("确认开始扫描"), scanSummary(options), Text::tr("开始扫描"),
-                                 Text::tr("取消"), Text::tr("不再显示此确认")});
+        m_prompts.confirm(this, {Text::tr("确认开始扫描"), scanSummary(options), Text::tr("开始扫描"), Text::tr("取消"),
+                                 Text::tr("不再显示此确认")});
     if (answer.accepted && answer.checked) {
         m_settings.skipScanConfirm = true;
         m_settings.save();

@@ -27,8 +27,8 @@ class WizardSidebar;
 
 namespace MirrixUi {
 
-/// The main window: the frame around the three pages of the wizard and the flow of one scan. It has a namespace of its own
-/// because that of the rest bears its name.
+/// The main window: the frame around the three pages of the wizard and the flow of one scan. It has a namespace of its
+/// own because that of the rest bears its name.
 class Mirrix : public QMainWindow
 {
     Q_OBJECT

@@ -33,6 +33,7 @@ WizardSidebar::WizardSidebar(QWidget *parent)
     , m_stop(new QPushButton)
 {
     setObjectName(QStringLiteral("WizardSidebar"));
+    setMinimumWidth(190); // the same in short and long languages
     m_start->setObjectName(QStringLiteral("PrimaryButton"));
     m_stop->setObjectName(QStringLiteral("StopButton"));
 

@@ -104,15 +104,13 @@ void TestFileProgress::quickWorkShowsNothing()
 void TestFileProgress::theApplicationEnds()
 {
     FileProgressDialog dialog(QStringLiteral("Working"), nullptr);
-    QSemaphore mayGoOn;
-    connect(&dialog, &FileProgressDialog::stopRequested, &dialog, [&] { mayGoOn.release(); });
     QTimer::singleShot(0, &dialog, [] { QCoreApplication::exit(); });
-    bool isWanted = true;
-    Mirrix::runUnderProgress(dialog, [&](const Mirrix::BatchProgress &progress) {
-        mayGoOn.acquire();
-        isWanted = progress(0, 1);
+    // Without the stop this would go on for ever.
+    Mirrix::runUnderProgress(dialog, [](const Mirrix::BatchProgress &progress) {
+        while (progress(0, 1))
+            QThread::yieldCurrentThread();
     });
-    QVERIFY(!isWanted);
+    QVERIFY(dialog.isStopped());
 }
 
 QTEST_MAIN(TestFileProgress)

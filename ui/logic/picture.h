@@ -31,8 +31,9 @@ using PictureReader = std::function<Picture(const QString &path, QSize bounds)>;
 /// Completes what is known of a file with its media members. Runs on pool threads.
 using FactsReader = std::function<MirrixCore::FileEntry(const MirrixCore::FileEntry &)>;
 
-/// A PictureReader for Qt's formats and the RAW files of cameras (their embedded picture): scales while decoding, never up; turns as the camera was held. A picture that would
-/// take more memory than the limit of QImageReader is not decoded.
+/// A PictureReader for Qt's formats and the RAW files of cameras (their embedded picture): scales while decoding, never
+/// up; turns as the camera was held. A picture that would take more memory than the limit of QImageReader is not
+/// decoded.
 [[nodiscard]] Picture readPicture(const QString &path, QSize bounds);
 
 /// Whether readPicture knows files with this suffix.
