@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
 
 namespace Mirrix {
 
@@ -16,5 +17,8 @@ inline constexpr qsizetype aesBlockBytes = 16;
 
 /// The content of what encryptAesCbc made. Empty on failure; the content itself may be empty too.
 [[nodiscard]] QByteArray decryptAesCbc(const QByteArray &key, const QByteArray &encrypted);
+
+/// The version of the library behind this, such as "3.0.15"; empty where it is the system's own.
+[[nodiscard]] QString cipherLibraryVersion();
 
 } // namespace Mirrix

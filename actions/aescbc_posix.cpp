@@ -1,5 +1,6 @@
 #include "actions/aescbc.h"
 
+#include <openssl/crypto.h>
 #include <openssl/evp.h>
 #include <openssl/rand.h>
 
@@ -55,6 +56,11 @@ QByteArray decryptAesCbc(const QByteArray &key, const QByteArray &encrypted)
     if (encrypted.size() < aesBlockBytes)
         return {};
     return run(key, encrypted.first(aesBlockBytes), encrypted.sliced(aesBlockBytes), false);
+}
+
+QString cipherLibraryVersion()
+{
+    return QString::fromLatin1(OpenSSL_version(OPENSSL_VERSION_STRING));
 }
 
 } // namespace Mirrix

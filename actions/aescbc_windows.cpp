@@ -84,4 +84,9 @@ QByteArray decryptAesCbc(const QByteArray &key, const QByteArray &encrypted)
     return CbcKey(key).run(BCryptDecrypt, encrypted.first(aesBlockBytes), encrypted.sliced(aesBlockBytes));
 }
 
+QString cipherLibraryVersion()
+{
+    return {};
+}
+
 } // namespace Mirrix

@@ -4,9 +4,12 @@
 #include "app/translations.h"
 #include "core/scan/metatypes.h"
 #include "ui/caption.h"
+#include "ui/dialogs/hashtooldialog.h"
 #include "ui/dialogs/logviewer.h"
+#include "ui/exportcommand.h"
 #include "ui/locations/locationspage.h"
 #include "ui/logic/locationsjson.h"
+#include "ui/logic/rulenames.h"
 #include "ui/logic/rulessettings.h"
 #include "ui/logic/scanoptionsfrom.h"
 #include "ui/logic/scansummary.h"
@@ -151,6 +154,8 @@ void Mirrix::connectPages()
     m_actions = new ResultActions(m_results, *m_resultsPage, *m_locations, m_settings, m_prompts, m_log, this);
     m_actions->commands().setBackupFolder(m_settings.backupRoot);
     connect(m_actions, &ResultActions::clearRequested, this, &Mirrix::onClearRequested);
+    connect(m_resultsPage, &ResultsPage::exportRequested, this,
+            [this] { exportResults(this, m_results, modeName(m_scannedMode), m_prompts, m_log); });
     connect(&m_actions->commands(), &BatchCommands::finished, this, [this] {
         if (m_quitWanted)
             quitCompletely();
@@ -170,6 +175,12 @@ void Mirrix::connectMenu(MainMenu *menu)
     });
     connect(menu, &MainMenu::restoreRequested, this, [this] { m_actions->commands().restoreBackup(); });
     connect(menu, &MainMenu::dataFolderRequested, this, [this] { openWithSystem(m_settings.directory); });
+    connect(menu, &MainMenu::hashToolRequested, this, [this] {
+        HashToolDialog tool(m_prompts, this);
+        m_prompts.run(tool);
+    });
+    connect(menu, &MainMenu::optionsRequested, this, [this] { openOptions(OptionsDialog::General); });
+    connect(menu, &MainMenu::aboutRequested, this, [this] { openOptions(OptionsDialog::About); });
     connect(menu, &MainMenu::quitRequested, this, &Mirrix::quitCompletely);
     connect(menu, &MainMenu::languageChosen, this, &Mirrix::setLanguage);
 }
@@ -212,6 +223,8 @@ void Mirrix::startScan()
     goToStep(resultsStep);
     statusBar()->showMessage(Text::tr("扫描进行中：已锁定规则与位置页，请勿修改扫描参数。"));
     m_log.append(QStringLiteral("scan_start"), options.roots.join(QLatin1Char('|')));
+    m_scannedMode = options.searchMode;
+    applyContentHashAlgorithm(m_settings); // it may have been changed during the scan before
     m_scanThread->start(options);
 }
 
@@ -338,6 +351,18 @@ void Mirrix::setLanguage(const QString &code)
 {
     m_settings.uiLanguage = loadLanguage(code);
     m_settings.save();
+}
+
+void Mirrix::openOptions(OptionsDialog::Page page)
+{
+    OptionsDialog options(m_settings, m_prompts, this);
+    options.showPage(page);
+    connect(&options, &OptionsDialog::themeChanged, this, [this] { applyTheme(m_settings.appTheme); });
+    connect(&options, &OptionsDialog::contentHashAlgorithmChanged, this, [this] {
+        if (!m_scanning) // else from the next scan on
+            applyContentHashAlgorithm(m_settings);
+    });
+    m_prompts.run(options);
 }
 
 QString Mirrix::modeText() const

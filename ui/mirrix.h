@@ -4,6 +4,7 @@
 #include "app/settings.h"
 #include "core/scan/scanoptions.h"
 #include "core/scan/scanprogress.h"
+#include "ui/dialogs/optionsdialog.h"
 #include "ui/logic/resultset.h"
 #include "ui/logic/scanstatus.h"
 
@@ -74,6 +75,7 @@ private:
 
     void showMainWindow();
     void setLanguage(const QString &code);
+    void openOptions(::Mirrix::OptionsDialog::Page page);
     [[nodiscard]] QString modeText() const;
 
     ::Mirrix::Settings &m_settings;
@@ -81,6 +83,7 @@ private:
     ::Mirrix::OperationsLog m_log;
     ::Mirrix::ResultSet m_results;
     ::Mirrix::ProgressThrottle m_throttle;
+    qint32 m_scannedMode = 0; ///< of the scan that the results are of
     bool m_scanning = false;
     bool m_quitting = false;
     bool m_quitWanted = false; ///< quit when the batch under way is over

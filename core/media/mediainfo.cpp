@@ -23,6 +23,7 @@ struct Library
     size_t (*addBuffer)(void *, const quint8 *bytes, size_t length) = nullptr;
     quint64 (*nextOffset)(void *) = nullptr;
     size_t (*endBuffer)(void *) = nullptr;
+    const wchar_t *(*option)(void *, const wchar_t *name, const wchar_t *value) = nullptr;
 
     template <typename Function>
     static bool resolve(QLibrary &file, const char *name, Function &function)
@@ -39,7 +40,7 @@ struct Library
                resolve(file, "MediaInfo_Open_Buffer_Init", beginBuffer) &&
                resolve(file, "MediaInfo_Open_Buffer_Continue", addBuffer) &&
                resolve(file, "MediaInfo_Open_Buffer_Continue_GoTo_Get", nextOffset) &&
-               resolve(file, "MediaInfo_Open_Buffer_Finalize", endBuffer);
+               resolve(file, "MediaInfo_Open_Buffer_Finalize", endBuffer) && resolve(file, "MediaInfo_Option", option);
     }
 };
 
@@ -132,6 +133,15 @@ bool MediaInfoFile::isAvailable()
 QString MediaInfoFile::unavailableText()
 {
     return isAvailable() ? QString() : QStringLiteral("Unable to load MediaInfo.dll");
+}
+
+QString MediaInfoFile::libraryVersion()
+{
+    if (!isAvailable())
+        return {};
+    const QString answer =
+        QString::fromWCharArray(library()->option(nullptr, L"Info_Version", L"")); // "MediaInfoLib - v23.04"
+    return answer.section(QLatin1Char('v'), -1);
 }
 
 } // namespace MirrixCore

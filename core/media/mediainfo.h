@@ -35,6 +35,9 @@ public:
     /// Why it could not; empty when it could.
     [[nodiscard]] static QString unavailableText();
 
+    /// What the library says its version is, such as "23.04"; empty when it could not be loaded.
+    [[nodiscard]] static QString libraryVersion();
+
 private:
     void *m_handle = nullptr;
 };

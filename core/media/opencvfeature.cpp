@@ -133,3 +133,9 @@ bool mirrixOpenCvFeature(const QByteArray &bytes, const FeatureRequest &request,
         return false;
     }
 }
+
+const char *mirrixOpenCvVersion()
+{
+    static const std::string version = cv::getVersionString();
+    return version.c_str();
+}

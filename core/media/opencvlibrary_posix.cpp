@@ -9,12 +9,12 @@ namespace {
 
 // Debian's OpenCV brings some 130 libraries along, which takes 60 to 110 ms and 50 MB: too much for a program that
 // only compares bytes.
-OpenCvFeature loadModule()
+QFunctionPointer resolveInModule(const char *name)
 {
     const QString folder = QCoreApplication::applicationDirPath();
     for (const QString &place : {QStringLiteral("/"), QStringLiteral("/../lib/mirrix/")}) {
         QLibrary module(folder + place + QStringLiteral("libmirrix_opencv.so"));
-        if (const auto function = reinterpret_cast<OpenCvFeature>(module.resolve("mirrixOpenCvFeature")))
+        if (const QFunctionPointer function = module.resolve(name))
             return function;
     }
     return nullptr;
@@ -24,8 +24,14 @@ OpenCvFeature loadModule()
 
 OpenCvFeature openCvFeature()
 {
-    static const OpenCvFeature function = loadModule();
+    static const auto function = reinterpret_cast<OpenCvFeature>(resolveInModule("mirrixOpenCvFeature"));
     return function;
+}
+
+QString openCvVersion()
+{
+    const auto version = reinterpret_cast<decltype(&mirrixOpenCvVersion)>(resolveInModule("mirrixOpenCvVersion"));
+    return version ? QString::fromLatin1(version()) : QString();
 }
 
 } // namespace MirrixCore

@@ -7,4 +7,9 @@ OpenCvFeature openCvFeature()
     return &mirrixOpenCvFeature;
 }
 
+QString openCvVersion()
+{
+    return QString::fromLatin1(mirrixOpenCvVersion());
+}
+
 } // namespace MirrixCore

@@ -1021,7 +1021,7 @@ Title: %1</translation>
     </message>
     <message>
         <source>在资源管理器中打开</source>
-        <translation>Show in file manager</translation>
+        <translation>Open in Explorer</translation>
     </message>
     <message>
         <source>打开文件</source>
@@ -1450,6 +1450,736 @@ raw, cr2 and nef are always scanned. Only while no Included list is used.</trans
     <message>
         <source>视频文件标签</source>
         <translation>Video tags</translation>
+    </message>
+    <message>
+        <source>已复制 %1 个文件</source>
+        <translation>Copied %1 files</translation>
+    </message>
+    <message>
+        <source>无法写入文件。</source>
+        <translation>Cannot write file.</translation>
+    </message>
+    <message>
+        <source>无法写入脚本。</source>
+        <translation>Cannot write script.</translation>
+    </message>
+    <message>
+        <source>未知导出格式。</source>
+        <translation>Unknown export format.</translation>
+    </message>
+    <message>
+        <source>批处理脚本无法准确指明该文件，已写为注释: %1</source>
+        <translation>A batch script cannot name this file exactly; written as a remark: %1</translation>
+    </message>
+    <message>
+        <source>Mirrix 重复文件扫描报告</source>
+        <translation>Mirrix duplicate scan report</translation>
+    </message>
+    <message>
+        <source>生成时间: %1</source>
+        <translation>Generated: %1</translation>
+    </message>
+    <message>
+        <source>扫描模式: %1</source>
+        <translation>Scan mode: %1</translation>
+    </message>
+    <message>
+        <source>范围: 仅已勾选文件</source>
+        <translation>Scope: checked files only</translation>
+    </message>
+    <message>
+        <source>说明: 路径已脱敏（用户名已隐藏）</source>
+        <translation>Note: paths redacted (username hidden)</translation>
+    </message>
+    <message>
+        <source>[组 %1]</source>
+        <translation>[Group %1]</translation>
+    </message>
+    <message>
+        <source> 键: %1</source>
+        <translation> Key: %1</translation>
+    </message>
+    <message>
+        <source>  (%1 个文件)</source>
+        <translation>  (%1 files)</translation>
+    </message>
+    <message>
+        <source>
+部分失败：
+</source>
+        <translation>
+Partial failures:
+</translation>
+    </message>
+    <message>
+        <source>已按规则自动勾选待处理文件</source>
+        <translation>Auto-selected files by rule</translation>
+    </message>
+    <message>
+        <source>已勾选各组重复项（默认保留每组第一个）</source>
+        <translation>Duplicates checked in each group (first kept by default)</translation>
+    </message>
+    <message>
+        <source>已反选</source>
+        <translation>Selection inverted</translation>
+    </message>
+    <message>
+        <source>正在更新勾选…</source>
+        <translation>Updating the selection…</translation>
+    </message>
+    <message>
+        <source>已停止，其余文件未处理</source>
+        <translation>Stopped; the other files were not processed</translation>
+    </message>
+    <message>
+        <source>请先勾选要处理的文件。</source>
+        <translation>Select files to process first.</translation>
+    </message>
+    <message>
+        <source>将把 %1 个文件移动到备份目录：
+%2
+是否继续？</source>
+        <translation>Move %1 files to backup folder:
+%2
+Continue?</translation>
+    </message>
+    <message>
+        <source>确认备份移动</source>
+        <translation>Confirm backup move</translation>
+    </message>
+    <message>
+        <source>正在备份移动文件… (%1/%2)</source>
+        <translation>Moving to backup… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>完成</source>
+        <translation>Done</translation>
+    </message>
+    <message>
+        <source>已备份移动 %1 个文件。%2
+请重新扫描以刷新结果。</source>
+        <translation>Moved %1 files to backup. %2
+Rescan to refresh.</translation>
+    </message>
+    <message>
+        <source>请先勾选要删除的文件。</source>
+        <translation>Select files to delete first.</translation>
+    </message>
+    <message>
+        <source>正在备份并移除文件… (%1/%2)</source>
+        <translation>Backup and remove… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>备份警告</source>
+        <translation>Backup warning</translation>
+    </message>
+    <message>
+        <source>部分文件备份失败：
+%1</source>
+        <translation>Some backups failed:
+%1</translation>
+    </message>
+    <message>
+        <source>已备份并移除 %1 个文件。请重新扫描以刷新结果。</source>
+        <translation>Backed up and removed %1 files. Rescan to refresh.</translation>
+    </message>
+    <message>
+        <source>永久删除确认</source>
+        <translation>Confirm permanent delete</translation>
+    </message>
+    <message>
+        <source>即将永久删除 %1 个文件，此操作不可撤销。是否继续？</source>
+        <translation>Permanently delete %1 files? This cannot be undone.</translation>
+    </message>
+    <message>
+        <source>正在移除文件… (%1/%2)</source>
+        <translation>Removing files… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>请重新扫描以刷新结果。</source>
+        <translation>Rescan to refresh results.</translation>
+    </message>
+    <message>
+        <source>已处理 %1 个文件。%2</source>
+        <translation>Processed %1 files. %2</translation>
+    </message>
+    <message>
+        <source>正在读取备份索引…</source>
+        <translation>Reading the backup index…</translation>
+    </message>
+    <message>
+        <source>备份索引为空。</source>
+        <translation>Backup index is empty.</translation>
+    </message>
+    <message>
+        <source>确认恢复</source>
+        <translation>Confirm restore</translation>
+    </message>
+    <message>
+        <source>将恢复：
+%1</source>
+        <translation>Will restore:
+%1</translation>
+    </message>
+    <message>
+        <source>正在恢复文件… (%1/%2)</source>
+        <translation>Restoring files… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>已恢复 %1 个文件。</source>
+        <translation>Restored %1 files.</translation>
+    </message>
+    <message>
+        <source>失败</source>
+        <translation>Failed</translation>
+    </message>
+    <message>
+        <source>文件已恢复。</source>
+        <translation>File restored.</translation>
+    </message>
+    <message>
+        <source>快速、安全的重复文件查找与清理工具，支持常规内容、图片相似、音频指纹与视频缩略图模式。</source>
+        <translation>Fast, safe duplicate finder and cleaner. Supports general content, image similarity, audio fingerprint, and video thumbnail modes.</translation>
+    </message>
+    <message>
+        <source>便携模式（数据位于程序旁的 \Data）</source>
+        <translation>Portable mode (data in \Data next to the app)</translation>
+    </message>
+    <message>
+        <source>标准模式（数据位于用户 AppData）</source>
+        <translation>Standard mode (data in user AppData)</translation>
+    </message>
+    <message>
+        <source>版本 %1 · %2 · %3</source>
+        <translation>Version %1 · %2 · %3</translation>
+    </message>
+    <message>
+        <source>数据文件夹：%1</source>
+        <translation>Data folder: %1</translation>
+    </message>
+    <message>
+        <source>开源致谢</source>
+        <translation>Open source acknowledgments</translation>
+    </message>
+    <message>
+        <source>库</source>
+        <translation>Library</translation>
+    </message>
+    <message>
+        <source>版本</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>许可</source>
+        <translation>Licence</translation>
+    </message>
+    <message>
+        <source>CSV 清单 (.csv)</source>
+        <translation>CSV list (.csv)</translation>
+    </message>
+    <message>
+        <source>文本清单 (.txt)</source>
+        <translation>Text list (.txt)</translation>
+    </message>
+    <message>
+        <source>复制文件到文件夹</source>
+        <translation>Copy files to folder</translation>
+    </message>
+    <message>
+        <source>生成批处理脚本 (.bat)</source>
+        <translation>Generate batch script (.bat)</translation>
+    </message>
+    <message>
+        <source>文本 (*.txt)</source>
+        <translation>Text (*.txt)</translation>
+    </message>
+    <message>
+        <source>批处理 (*.bat)</source>
+        <translation>Batch (*.bat)</translation>
+    </message>
+    <message>
+        <source>选择目标文件夹</source>
+        <translation>Choose target folder</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>导出扫描结果</source>
+        <translation>Export scan results</translation>
+    </message>
+    <message>
+        <source>导出格式</source>
+        <translation>Export format</translation>
+    </message>
+    <message>
+        <source>运行脚本会删除其中列出的每个文件，包括要保留的副本；如只删除已勾选的文件，请勾选“仅导出已勾选的文件”</source>
+        <translation>Running the script deletes every file listed in it, the copies to keep included; to delete the checked files alone, tick “Export checked files only”</translation>
+    </message>
+    <message>
+        <source>输出路径：</source>
+        <translation>Output path:</translation>
+    </message>
+    <message>
+        <source>浏览...</source>
+        <translation>Browse...</translation>
+    </message>
+    <message>
+        <source>仅导出已勾选的文件</source>
+        <translation>Export checked files only</translation>
+    </message>
+    <message>
+        <source>包含分组键与修改时间</source>
+        <translation>Include group key and modified time</translation>
+    </message>
+    <message>
+        <source>路径脱敏（隐藏用户名，便于分享）</source>
+        <translation>Redact paths (hide username)</translation>
+    </message>
+    <message>
+        <source>脱敏后的批处理脚本只供阅读，不会删除被隐藏用户名的文件</source>
+        <translation>A redacted batch script is for reading: it does not delete files whose username is hidden</translation>
+    </message>
+    <message>
+        <source>正在停止…</source>
+        <translation>Stopping…</translation>
+    </message>
+    <message>
+        <source>正在处理</source>
+        <translation>Working</translation>
+    </message>
+    <message>
+        <source>完成当前文件后停止</source>
+        <translation>Stops after the current file</translation>
+    </message>
+    <message>
+        <source>进度</source>
+        <translation>Progress</translation>
+    </message>
+    <message>
+        <source>移入回收站（可恢复）</source>
+        <translation>Move to Recycle Bin</translation>
+    </message>
+    <message>
+        <source>永久删除</source>
+        <translation>Delete permanently</translation>
+    </message>
+    <message>
+        <source>移动到指定文件夹</source>
+        <translation>Move to folder</translation>
+    </message>
+    <message>
+        <source>删除后创建符号链接</source>
+        <translation>Create symbolic link after delete</translation>
+    </message>
+    <message>
+        <source>删除后创建硬链接</source>
+        <translation>Create hard link after delete</translation>
+    </message>
+    <message>
+        <source>文件移除</source>
+        <translation>Remove files</translation>
+    </message>
+    <message>
+        <source>即将处理 %1 个文件。请选择移除方式：</source>
+        <translation>About to process %1 files. Choose removal method:</translation>
+    </message>
+    <message>
+        <source>移除方式</source>
+        <translation>Removal method</translation>
+    </message>
+    <message>
+        <source>目标文件夹：</source>
+        <translation>Target folder:</translation>
+    </message>
+    <message>
+        <source>链接目标：</source>
+        <translation>Link target:</translation>
+    </message>
+    <message>
+        <source>保留的文件路径（用于创建链接）</source>
+        <translation>Path to keep (for links)</translation>
+    </message>
+    <message>
+        <source>先备份再创建链接时可留空：每个链接指向本组中未勾选的文件</source>
+        <translation>May be left empty when backing up first: each link then leads to the unticked file of its group</translation>
+    </message>
+    <message>
+        <source>移除前先备份</source>
+        <translation>Backup before remove</translation>
+    </message>
+    <message>
+        <source>哈希值工具 - Mirrix</source>
+        <translation>Hash tool - Mirrix</translation>
+    </message>
+    <message>
+        <source>+ 选择文件</source>
+        <translation>+ Select files</translation>
+    </message>
+    <message>
+        <source>+ 选择文件夹</source>
+        <translation>+ Select folder</translation>
+    </message>
+    <message>
+        <source>重新计算</source>
+        <translation>Recalculate</translation>
+    </message>
+    <message>
+        <source>算法</source>
+        <translation>Algorithm</translation>
+    </message>
+    <message>
+        <source>添加文件夹时包含其所有下级文件夹中的文件</source>
+        <translation>Adding a folder takes the files of all its subfolders too</translation>
+    </message>
+    <message>
+        <source>哈希值</source>
+        <translation>Hash</translation>
+    </message>
+    <message>
+        <source>可将文件或文件夹拖放到此窗口</source>
+        <translation>Files and folders can be dropped here</translation>
+    </message>
+    <message>
+        <source>选择文件</source>
+        <translation>Select files</translation>
+    </message>
+    <message>
+        <source>选择文件夹</source>
+        <translation>Select folder</translation>
+    </message>
+    <message>
+        <source>正在查找文件…</source>
+        <translation>Finding files…</translation>
+    </message>
+    <message>
+        <source>正在计算哈希…</source>
+        <translation>Computing hashes…</translation>
+    </message>
+    <message>
+        <source>复制：哈希值</source>
+        <translation>Copy: hash</translation>
+    </message>
+    <message>
+        <source>复制：文件名</source>
+        <translation>Copy: file name</translation>
+    </message>
+    <message>
+        <source>图片对比</source>
+        <translation>Compare images</translation>
+    </message>
+    <message>
+        <source>文件 A</source>
+        <translation>File A</translation>
+    </message>
+    <message>
+        <source>文件 B</source>
+        <translation>File B</translation>
+    </message>
+    <message>
+        <source>正在读取…</source>
+        <translation>Reading…</translation>
+    </message>
+    <message>
+        <source>日志为空。</source>
+        <translation>The log is empty.</translation>
+    </message>
+    <message>
+        <source>显示 %1 条，共 %2 条</source>
+        <translation>%1 of %2 entries shown</translation>
+    </message>
+    <message>
+        <source>操作日志</source>
+        <translation>Operation log</translation>
+    </message>
+    <message>
+        <source>筛选日志</source>
+        <translation>Filter the log</translation>
+    </message>
+    <message>
+        <source>复制所选</source>
+        <translation>Copy selected</translation>
+    </message>
+    <message>
+        <source>刷新</source>
+        <translation>Refresh</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>将删除目录下的全部图片哈希/直方图缓存：
+%1
+
+下次图片扫描会重新计算，可能稍慢。是否继续？</source>
+        <translation>Delete all image hash/histogram cache under:
+%1
+
+Next image scan will be slower. Continue?</translation>
+    </message>
+    <message>
+        <source>清空图片特征缓存</source>
+        <translation>Clear image feature cache</translation>
+    </message>
+    <message>
+        <source>图片特征缓存已清空。</source>
+        <translation>Image feature cache cleared.</translation>
+    </message>
+    <message>
+        <source>部分缓存文件无法删除。</source>
+        <translation>Some cache files could not be deleted.</translation>
+    </message>
+    <message>
+        <source>选项</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>⚙  常规</source>
+        <translation>⚙  General</translation>
+    </message>
+    <message>
+        <source>🎨  主题</source>
+        <translation>🎨  Theme</translation>
+    </message>
+    <message>
+        <source>ℹ  关于程序</source>
+        <translation>ℹ  About</translation>
+    </message>
+    <message>
+        <source>常规设置</source>
+        <translation>General settings</translation>
+    </message>
+    <message>
+        <source>关闭主窗口时</source>
+        <translation>When closing the main window</translation>
+    </message>
+    <message>
+        <source>最小化到系统托盘（推荐）</source>
+        <translation>Minimize to system tray (recommended)</translation>
+    </message>
+    <message>
+        <source>退出程序</source>
+        <translation>Exit application</translation>
+    </message>
+    <message>
+        <source>扫描</source>
+        <translation>Scan</translation>
+    </message>
+    <message>
+        <source>扫描完成后播放提示音</source>
+        <translation>Beep when scan completes</translation>
+    </message>
+    <message>
+        <source>扫描开始前显示确认对话框</source>
+        <translation>Show confirmation before scan</translation>
+    </message>
+    <message>
+        <source>关闭后点击「开始扫描」将立即执行；也可在确认对话框中勾选「不再显示此确认」。</source>
+        <translation>If disabled, Start Scan runs immediately; use “Don't show again” in the dialog.</translation>
+    </message>
+    <message>
+        <source>内容指纹算法</source>
+        <translation>Content fingerprint algorithm</translation>
+    </message>
+    <message>
+        <source>MD5（默认，沿用现有指纹缓存）</source>
+        <translation>MD5 (default, keeps existing fingerprint cache)</translation>
+    </message>
+    <message>
+        <source>BLAKE3（更快、更强；切换后重建缓存）</source>
+        <translation>BLAKE3 (faster, stronger; cache rebuilds after switch)</translation>
+    </message>
+    <message>
+        <source>仅影响「相同内容」精确查重的 quick/full 哈希；相似内容采样仍使用 MD5。</source>
+        <translation>Only affects the quick and full hashes of exact same-content scans; similar-content sampling keeps MD5.</translation>
+    </message>
+    <message>
+        <source>缓存与数据</source>
+        <translation>Cache &amp; data</translation>
+    </message>
+    <message>
+        <source>图片特征缓存可加快重复图片的扫描。位置：</source>
+        <translation>Image feature cache speeds up duplicate image scans. Location:</translation>
+    </message>
+    <message>
+        <source>清除已缓存的感知哈希与直方图，下次扫描会重新计算</source>
+        <translation>Clears cached perceptual hashes and histograms; next scan recalculates them</translation>
+    </message>
+    <message>
+        <source>主题</source>
+        <translation>Theme</translation>
+    </message>
+    <message>
+        <source>浅色（Fusion）</source>
+        <translation>Light (Fusion)</translation>
+    </message>
+    <message>
+        <source>深色（Fusion）</source>
+        <translation>Dark (Fusion)</translation>
+    </message>
+    <message>
+        <source>使用 Qt Fusion 样式，立即生效并自动保存。</source>
+        <translation>Uses the Qt Fusion style. Applies immediately and is saved.</translation>
+    </message>
+    <message>
+        <source>恢复备份</source>
+        <translation>Restore backup</translation>
+    </message>
+    <message>
+        <source>选择要恢复的文件：</source>
+        <translation>Files to restore:</translation>
+    </message>
+    <message>
+        <source>按路径筛选</source>
+        <translation>Filter by path</translation>
+    </message>
+    <message>
+        <source>恢复所选</source>
+        <translation>Restore selected</translation>
+    </message>
+    <message>
+        <source>正在复制文件… (%1/%2)</source>
+        <translation>Copying files… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>正在导出… (%1/%2)</source>
+        <translation>Exporting… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>错误</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>导出失败。</source>
+        <translation>Export failed.</translation>
+    </message>
+    <message>
+        <source>导出警告</source>
+        <translation>Export warning</translation>
+    </message>
+    <message>
+        <source>部分文件未能导出：
+%1</source>
+        <translation>Some files were not exported:
+%1</translation>
+    </message>
+    <message>
+        <source>已复制文件到：%1
+%2</source>
+        <translation>Copied files to: %1
+%2</translation>
+    </message>
+    <message>
+        <source>已导出：%1</source>
+        <translation>Exported: %1</translation>
+    </message>
+    <message>
+        <source>没有可导出的结果。</source>
+        <translation>No results to export.</translation>
+    </message>
+    <message>
+        <source>请指定输出路径。</source>
+        <translation>Specify output path.</translation>
+    </message>
+    <message>
+        <source>…… 另有 %1 行，见详细信息</source>
+        <translation>… %1 more lines, see the details</translation>
+    </message>
+    <message>
+        <source>…… 另有 %1 行未显示</source>
+        <translation>… %1 more lines not shown</translation>
+    </message>
+    <message>
+        <source>未勾选的文件，未处理: %1</source>
+        <translation>Not ticked, not processed: %1</translation>
+    </message>
+    <message>
+        <source>链接目标属于另一组，未处理: %1</source>
+        <translation>The link target belongs to another group; not processed: %1</translation>
+    </message>
+    <message>
+        <source>没有可链接的保留文件，未处理: %1</source>
+        <translation>No kept file to link to; not processed: %1</translation>
+    </message>
+    <message>
+        <source>共 %1 个文件</source>
+        <translation>%1 files</translation>
+    </message>
+    <message>
+        <source>共 %1 个文件 @ %2.%3 秒</source>
+        <translation>%1 files @ %2.%3 s</translation>
+    </message>
+    <message>
+        <source>路径: %1
+大小: %2 字节
+修改: %3</source>
+        <translation>Path: %1
+Size: %2 bytes
+Modified: %3</translation>
+    </message>
+    <message>
+        <source>
+GPS: %1, %2</source>
+        <translation>
+GPS: %1, %2</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>Action</translation>
+    </message>
+    <message>
+        <source>详情</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>程序启动</source>
+        <translation>Program started</translation>
+    </message>
+    <message>
+        <source>扫描完成</source>
+        <translation>Scan finished</translation>
+    </message>
+    <message>
+        <source>按规则勾选</source>
+        <translation>Selected by rule</translation>
+    </message>
+    <message>
+        <source>移动到备份</source>
+        <translation>Moved to backup</translation>
+    </message>
+    <message>
+        <source>备份并移除</source>
+        <translation>Backed up and removed</translation>
+    </message>
+    <message>
+        <source>移除文件</source>
+        <translation>Removed files</translation>
+    </message>
+    <message>
+        <source>导出</source>
+        <translation>Export</translation>
+    </message>
+    <message>
+        <source>导出副本</source>
+        <translation>Exported copies</translation>
+    </message>
+    <message>
+        <source>恢复备份…</source>
+        <translation>Restore backup…</translation>
+    </message>
+    <message>
+        <source>结果已清空。切换Tab调整规则后可重新开始扫描。</source>
+        <translation>Results cleared. Adjust rules and scan again.</translation>
+    </message>
+    <message>
+        <source>请选中同一组内的两个图片文件进行对比。</source>
+        <translation>Select two image files of the same group to compare.</translation>
     </message>
 </context>
 </TS>
