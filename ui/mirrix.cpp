@@ -8,6 +8,7 @@
 #include "ui/dialogs/logviewer.h"
 #include "ui/exportcommand.h"
 #include "ui/locations/locationspage.h"
+#include "ui/logic/asidethreads.h"
 #include "ui/logic/locationsjson.h"
 #include "ui/logic/rulenames.h"
 #include "ui/logic/rulessettings.h"
@@ -55,7 +56,7 @@ QString imageHashName()
 void discard(ResultSet &&results)
 {
     auto old = std::make_shared<ResultSet>(std::move(results));
-    QThreadPool::globalInstance()->start([old = std::move(old)]() mutable { old.reset(); });
+    asideThreads()->start([old = std::move(old)]() mutable { old.reset(); });
 }
 
 } // namespace

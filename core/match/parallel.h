@@ -2,9 +2,11 @@
 
 #include "core/scan/scanprogress.h"
 
+#include <QThreadPool>
 #include <QUnhandledException>
 #include <QtConcurrent>
 
+#include <algorithm>
 #include <atomic>
 #include <exception>
 #include <functional>
@@ -12,16 +14,37 @@
 
 namespace MirrixCore {
 
+/// While one lives, the global thread pool runs one task more than its size. Qt 6.4 fills large areas of a window on
+/// that pool and waits for it: with every thread busy for long, the interface would stand still.
+class SpareThread
+{
+public:
+    SpareThread() { QThreadPool::globalInstance()->releaseThread(); }
+    ~SpareThread() { QThreadPool::globalInstance()->reserveThread(); }
+    SpareThread(const SpareThread &) = delete;
+    SpareThread &operator=(const SpareThread &) = delete;
+};
+
 /// Calls `task(i)` for each i in 0..count-1 on Qt's global thread pool, and meanwhile `meanwhile()` on the calling
 /// thread; returns when both are done. A task writes only what belongs to its index. The calling thread takes no task,
 /// so the pool's size is the number of threads at work on them. An exception of a task is thrown again here, as what it
-/// was.
+/// was; tasks not yet begun are then left out.
 template <typename Task, typename Meanwhile>
 void forEachParallel(qsizetype count, Task task, Meanwhile meanwhile)
 {
-    QList<qsizetype> indices(count);
-    std::iota(indices.begin(), indices.end(), qsizetype(0));
-    QFuture<void> future = QtConcurrent::map(indices, [&task](const qsizetype &index) { task(index); });
+    const SpareThread spare;
+    std::atomic<qsizetype> next = 0;
+    // As many items as threads, so that the spare thread finds none.
+    QList<int> lanes(std::min<qsizetype>(count, QThreadPool::globalInstance()->maxThreadCount()));
+    QFuture<void> future = QtConcurrent::map(lanes, [&](const int &) {
+        try {
+            for (qsizetype i = next++; i < count; i = next++)
+                task(i);
+        } catch (...) {
+            next = count;
+            throw;
+        }
+    });
     meanwhile();
     try {
         future.waitForFinished();

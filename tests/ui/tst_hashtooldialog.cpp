@@ -194,16 +194,17 @@ void HashToolDialogTest::cancelLeavesRowsWhole()
     const QStringList before = column(dialog, 1);
     dialog.findChild<QComboBox *>()->setCurrentIndex(2);
 
-    // One thread, held up by a task that cancels: nothing is hashed before the cancelling.
+    // One thread and the spare one, both held up until it is cancelled: nothing is hashed before.
     QThreadPool *pool = QThreadPool::globalInstance();
     const int threads = pool->maxThreadCount();
     pool->setMaxThreadCount(1);
     QSemaphore gate;
-    pool->start([&gate] { gate.acquire(); });
+    for (int thread = 0; thread < 2; ++thread)
+        pool->start([&gate] { gate.acquire(); });
     QTimer::singleShot(0, &dialog, [&] {
         dialog.computeRows(false); // refused: one is under way
         emit dialog.findChild<QProgressDialog *>(u"HashProgress"_s)->canceled();
-        gate.release();
+        gate.release(2);
     });
     dialog.computeRows(false);
     pool->setMaxThreadCount(threads);

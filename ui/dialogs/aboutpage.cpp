@@ -2,6 +2,7 @@
 
 #include "actions/aescbc.h"
 #include "app/text.h"
+#include "ui/logic/asidethreads.h"
 
 #include <QApplication>
 #include <QDir>
@@ -80,7 +81,7 @@ void AboutPage::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
     if (m_libraries->topLevelItemCount() == 0 && !m_asking.isRunning())
-        m_asking.setFuture(QtConcurrent::run(allLibraries));
+        m_asking.setFuture(QtConcurrent::run(asideThreads(), allLibraries));
 }
 
 void AboutPage::showLibraries()

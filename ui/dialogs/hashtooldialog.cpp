@@ -2,8 +2,10 @@
 
 #include "app/sizetext.h"
 #include "app/text.h"
+#include "core/match/parallel.h"
 #include "core/platform/nativepath.h"
 #include "ui/dialogs/fileprogressdialog.h"
+#include "ui/logic/asidethreads.h"
 #include "ui/logic/resulttexts.h"
 #include "ui/prompts.h"
 #include "ui/shell.h"
@@ -332,18 +334,20 @@ bool HashToolDialog::runTasks(QList<Task> &tasks, HashChoice choice)
     };
     QFutureWatcher<void> watcher;
     QEventLoop loop;
-    const auto stop = [&] {
-        isStopped = true;
-        watcher.cancel();
-    };
+    const auto stop = [&] { isStopped = true; };
     connect(&progress, &QProgressDialog::canceled, &watcher, stop);
     connect(this, &HashToolDialog::stopRequested, &watcher, stop);
     connect(&watcher, &QFutureWatcherBase::finished, &loop, &QEventLoop::quit);
-    watcher.setFuture(QtConcurrent::map(tasks, [&](Task &task) {
-        task.hash = hexHash(task.path, choice, [&isStopped] { return isStopped.load(); });
-        ++count;
-        if (!isStepPosted.exchange(true))
-            QMetaObject::invokeMethod(&progress, step, Qt::QueuedConnection);
+    const auto isStoppedNow = [&isStopped] { return isStopped.load(); };
+    watcher.setFuture(QtConcurrent::run(asideThreads(), [&] {
+        MirrixCore::forEachParallel(tasks.size(), [&](qsizetype i) {
+            if (isStopped)
+                return;
+            tasks[i].hash = hexHash(tasks[i].path, choice, isStoppedNow);
+            ++count;
+            if (!isStepPosted.exchange(true))
+                QMetaObject::invokeMethod(&progress, step, Qt::QueuedConnection);
+        });
     }));
     loop.exec();
     if (!watcher.isFinished()) // the program is ending

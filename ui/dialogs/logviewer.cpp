@@ -1,6 +1,7 @@
 #include "ui/dialogs/logviewer.h"
 
 #include "app/text.h"
+#include "ui/logic/asidethreads.h"
 #include "ui/logic/logmodel.h"
 
 #include <QAction>
@@ -112,7 +113,8 @@ void LogViewer::reload()
 {
     m_reload->setEnabled(false);
     m_note->setText(Text::tr("正在读取…"));
-    m_reading.setFuture(QtConcurrent::run([path = m_logPath] { return OperationsLog(path).readAll(); }));
+    m_reading.setFuture(
+        QtConcurrent::run(asideThreads(), [path = m_logPath] { return OperationsLog(path).readAll(); }));
 }
 
 void LogViewer::showRecords(const QList<LogEntry> &records)

@@ -5,6 +5,7 @@
 #include "core/cache/cacheroot.h"
 #include "core/cache/imagefeaturecache.h"
 #include "ui/dialogs/aboutpage.h"
+#include "ui/logic/asidethreads.h"
 #include "ui/prompts.h"
 #include "ui/theme.h"
 
@@ -216,7 +217,7 @@ void OptionsDialog::onClearImageCache()
         return;
     // Aside: the cache may be large, and a scan may hold its lock.
     m_clearCache->setEnabled(false);
-    m_clearing.setFuture(QtConcurrent::run(MirrixCore::clearImageFeatureCache));
+    m_clearing.setFuture(QtConcurrent::run(asideThreads(), MirrixCore::clearImageFeatureCache));
 }
 
 void OptionsDialog::onImageCacheCleared()

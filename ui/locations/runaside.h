@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/logic/asidethreads.h"
+
 #include <QFutureWatcher>
 #include <QtConcurrent>
 
@@ -19,7 +21,7 @@ void runAside(QObject *owner, Work work, Done done)
         watcher->deleteLater();
         done(watcher->result());
     });
-    watcher->setFuture(QtConcurrent::run(std::move(work)));
+    watcher->setFuture(QtConcurrent::run(asideThreads(), std::move(work)));
 }
 
 } // namespace Mirrix

@@ -1,5 +1,7 @@
 #include "ui/logic/roworder.h"
 
+#include "ui/logic/asidethreads.h"
+
 #include <QtConcurrent>
 
 namespace Mirrix {
@@ -23,7 +25,7 @@ void RowOrder::reset(qsizetype count)
 
 void RowOrder::start(Sort sort)
 {
-    m_watcher.setFuture(QtConcurrent::run(std::move(sort)));
+    m_watcher.setFuture(QtConcurrent::run(asideThreads(), std::move(sort)));
 }
 
 void RowOrder::apply(Permutation items)
