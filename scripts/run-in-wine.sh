@@ -20,9 +20,6 @@ for folder in "$sdk/bin" "$gcc" /usr/x86_64-w64-mingw32/lib; do
     WINEPATH+=";$(windows_path "$folder")"
 done
 export WINEPATH
-QT_PLUGIN_PATH=$(windows_path "$sdk/qt/plugins")
-export QT_PLUGIN_PATH
-
 mkdir -p "$WINEPREFIX" # its parent must exist before Wine makes it
 
 program=$1
@@ -31,6 +28,9 @@ case "$(basename "$program")" in
 tst_*)
     report=$(mktemp)
     trap 'rm -f "$report"' EXIT
+    if [ -n "${QT_QPA_PLATFORM:-}" ]; then
+        set -- "$@" -platform "$QT_QPA_PLATFORM" # Wine keeps Qt's variables from its programs
+    fi
     status=0
     "$wine" "$program" -o "$(windows_path "$report"),txt" "$@" </dev/null || status=$?
     cat "$report"
