@@ -2,8 +2,10 @@
 
 #include "app/text.h"
 
+#include <QAbstractFileIconProvider>
 #include <QDir>
 #include <QEvent>
+#include <QFileIconProvider>
 #include <QFileSystemModel>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -13,8 +15,23 @@
 
 namespace Mirrix {
 
+/// Gives out icons that were made in the interface thread. The model asks from a thread of its own, in which the style
+/// and the shell must not be asked for icons while the interface uses them.
+class FolderBrowser::Icons : public QAbstractFileIconProvider
+{
+public:
+    [[nodiscard]] QIcon icon(IconType type) const override { return type == Drive ? m_drive : m_folder; }
+    [[nodiscard]] QIcon icon(const QFileInfo &info) const override { return info.isRoot() ? m_drive : m_folder; }
+    [[nodiscard]] QString type(const QFileInfo &) const override { return {}; } // in a column that is hidden
+
+private:
+    QIcon m_folder = QFileIconProvider().icon(Folder);
+    QIcon m_drive = QFileIconProvider().icon(Drive);
+};
+
 FolderBrowser::FolderBrowser(QWidget *parent)
     : QWidget(parent)
+    , m_icons(std::make_unique<Icons>())
     , m_model(new QFileSystemModel(this))
     , m_tree(new QTreeView)
     , m_title(new QLabel)
@@ -44,8 +61,14 @@ FolderBrowser::FolderBrowser(QWidget *parent)
     retranslate();
 }
 
+FolderBrowser::~FolderBrowser()
+{
+    delete m_model; // before the icons that its thread uses
+}
+
 void FolderBrowser::buildTree()
 {
+    m_model->setIconProvider(m_icons.get());
     m_model->setFilter(QDir::Drives | QDir::AllDirs | QDir::NoDotAndDotDot);
     // A watched folder could not be ejected or removed, and a folder's own icon is read from inside it.
     m_model->setOption(QFileSystemModel::DontWatchForChanges);

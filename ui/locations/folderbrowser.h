@@ -3,6 +3,8 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <memory>
+
 class QFileSystemModel;
 class QLabel;
 class QToolButton;
@@ -18,6 +20,7 @@ class FolderBrowser : public QWidget
 
 public:
     explicit FolderBrowser(QWidget *parent = nullptr);
+    ~FolderBrowser() override;
 
     [[nodiscard]] QStringList selectedFolders() const;
     void setLocked(bool isLocked);
@@ -30,10 +33,13 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    class Icons;
+
     void buildTree();
     void updateArrow();
     void retranslate();
 
+    std::unique_ptr<Icons> m_icons;
     QFileSystemModel *m_model;
     QTreeView *m_tree;
     QLabel *m_title;
