@@ -10,14 +10,13 @@ constexpr int insistMs = 50;
 
 ScanThread::ScanThread(QObject *parent)
     : QObject(parent)
-    , m_worker(new MirrixCore::ScanWorker)
+    , m_worker(std::make_unique<MirrixCore::ScanWorker>())
 {
     m_worker->moveToThread(&m_thread);
     m_insist.setInterval(insistMs);
     connect(&m_insist, &QTimer::timeout, this, [this] { m_worker->cancel(); });
-    connect(m_worker, &MirrixCore::ScanWorker::finished, &m_insist, &QTimer::stop);
-    connect(m_worker, &MirrixCore::ScanWorker::failed, &m_insist, &QTimer::stop);
-    connect(&m_thread, &QThread::finished, m_worker, &QObject::deleteLater);
+    connect(m_worker.get(), &MirrixCore::ScanWorker::finished, &m_insist, &QTimer::stop);
+    connect(m_worker.get(), &MirrixCore::ScanWorker::failed, &m_insist, &QTimer::stop);
     m_thread.start();
 }
 
@@ -32,7 +31,7 @@ ScanThread::~ScanThread()
 void ScanThread::start(const MirrixCore::ScanOptions &options)
 {
     QMetaObject::invokeMethod(
-        m_worker, [worker = m_worker, options] { worker->start(options); }, Qt::QueuedConnection);
+        m_worker.get(), [worker = m_worker.get(), options] { worker->start(options); }, Qt::QueuedConnection);
 }
 
 void ScanThread::cancel()

@@ -5,6 +5,8 @@
 #include <QThread>
 #include <QTimer>
 
+#include <memory>
+
 namespace Mirrix {
 
 /// The scan worker on a thread of its own. Ending it stops a running scan and waits for it.
@@ -23,11 +25,11 @@ public:
     void cancel();
 
     /// For connections to the worker's signals, which arrive queued.
-    [[nodiscard]] MirrixCore::ScanWorker *worker() { return m_worker; }
+    [[nodiscard]] MirrixCore::ScanWorker *worker() { return m_worker.get(); }
 
 private:
     QThread m_thread;
-    MirrixCore::ScanWorker *m_worker;
+    std::unique_ptr<MirrixCore::ScanWorker> m_worker; ///< lives longer than its thread runs
     QTimer m_insist; ///< repeats the wish to cancel: the worker forgets one that reaches it before it has begun
 };
 
