@@ -88,7 +88,10 @@ Mirrix::Mirrix(Settings &settings, Prompts &prompts, QWidget *parent)
 
 Mirrix::~Mirrix()
 {
-    delete m_scanThread; // before the members that its last signals reach
+    // Before the members that they refer to; the base class would delete them after those.
+    delete m_scanThread;
+    delete m_actions;
+    delete takeCentralWidget();
 }
 
 void Mirrix::addLocation(const QString &path)
