@@ -60,7 +60,7 @@ void BatchCommands::applyKeepRule(KeepRule rule)
             marks.markAllBut(group, chooseKeeper(groups[group].files, rule));
     };
     perform([&] {
-        if (!changeMarks(Text::tr("已按规则自动勾选待处理文件"), mark))
+        if (!changeMarks(QT_TRANSLATE_NOOP("Mirrix", "已按规则自动勾选待处理文件"), mark))
             return;
         const qsizetype count = m_results.marks.markedInAll();
         m_log.append(QStringLiteral("auto_keep"),
@@ -74,13 +74,13 @@ void BatchCommands::selectAllDuplicates()
         for (qsizetype group = 0; group < groups.size(); ++group)
             marks.markAllBut(group, 0);
     };
-    perform([&] { changeMarks(Text::tr("已勾选各组重复项（默认保留每组第一个）"), mark); });
+    perform([&] { changeMarks(QT_TRANSLATE_NOOP("Mirrix", "已勾选各组重复项（默认保留每组第一个）"), mark); });
 }
 
 void BatchCommands::invertSelection()
 {
     const auto mark = [](SelectionMarks &marks, const QList<DuplicateGroup> &) { marks.invert(); };
-    perform([&] { changeMarks(Text::tr("已反选"), mark); });
+    perform([&] { changeMarks(QT_TRANSLATE_NOOP("Mirrix", "已反选"), mark); });
 }
 
 void BatchCommands::moveCheckedToBackup()
@@ -108,7 +108,7 @@ void BatchCommands::perform(const std::function<void()> &command)
     emit finished();
 }
 
-bool BatchCommands::changeMarks(const QString &status, const MarkChange &change)
+bool BatchCommands::changeMarks(const char *status, const MarkChange &change)
 {
     if (m_results.groups.isEmpty())
         return false;
@@ -121,7 +121,7 @@ bool BatchCommands::changeMarks(const QString &status, const MarkChange &change)
         return false;
     std::swap(m_results.marks, marks);
     emit marksReplaced();
-    emit statusText(status);
+    emit statusText(QString::fromUtf8(status));
     return true;
 }
 
@@ -132,7 +132,7 @@ BatchResult BatchCommands::run(const QString &label, const Batch &batch)
     connect(this, &BatchCommands::stopRequested, &dialog, &FileProgressDialog::stop);
     runUnderProgress(dialog, [&](const BatchProgress &progress) { result = batch({progress, {}}); });
     if (result.isCancelled)
-        emit statusText(Text::tr("已停止，其余文件未处理"));
+        emit statusText(QString::fromUtf8(QT_TRANSLATE_NOOP("Mirrix", "已停止，其余文件未处理")));
     return result;
 }
 

@@ -60,8 +60,8 @@ signals:
     /// Many marks have changed; what shows them must be repainted.
     void marksReplaced();
 
-    /// A text for the status label.
-    void statusText(const QString &text);
+    /// A text for the status label, in the source language.
+    void statusText(const QString &source);
 
     /// A command is over.
     void finished();
@@ -77,7 +77,7 @@ private:
     void removeByChoice();
     void restoreByChoice();
 
-    bool changeMarks(const QString &status, const MarkChange &change);
+    bool changeMarks(const char *status, const MarkChange &change);
     [[nodiscard]] BatchResult run(const QString &label, const Batch &batch);
     [[nodiscard]] BatchResult runOn(const CheckedFiles &files, const QString &label, const Batch &batch);
 

@@ -19,23 +19,21 @@
 #include "ui/resultactions.h"
 #include "ui/results/resultspage.h"
 #include "ui/rules/rulespage.h"
+#include "ui/scandisplay.h"
 #include "ui/scanthread.h"
 #include "ui/shell.h"
 #include "ui/theme.h"
 #include "ui/trayicon.h"
-#include "ui/windowtitle.h"
 #include "ui/wizardpage.h"
 #include "ui/wizardsidebar.h"
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDateTime>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenuBar>
 #include <QShortcut>
 #include <QStackedWidget>
-#include <QStatusBar>
 #include <QThreadPool>
 
 namespace MirrixUi {
@@ -50,6 +48,12 @@ constexpr int resultsStep = 2;
 QString imageHashName()
 {
     return QStringLiteral("OpenCV-pHash");
+}
+
+/// A text that came from elsewhere in the source language.
+QString translated(const QString &source)
+{
+    return source.isEmpty() ? QString() : Text::tr(source.toUtf8().constData());
 }
 
 /// Frees what may be a million records without holding up the interface.
@@ -70,6 +74,7 @@ Mirrix::Mirrix(Settings &settings, Prompts &prompts, QWidget *parent)
     MirrixCore::registerScanMetaTypes();
     buildLayout();
     buildTray();
+    m_display = new ScanDisplay(*this, *m_resultsPage, m_tray);
     retranslate();
     m_locations->setState(locationsStateFrom(m_settings));
     m_rules->setState(rulesStateFrom(m_settings));
@@ -77,12 +82,13 @@ Mirrix::Mirrix(Settings &settings, Prompts &prompts, QWidget *parent)
 
     m_scanThread = new ScanThread(this);
     const MirrixCore::ScanWorker *worker = m_scanThread->worker();
-    connect(worker, &MirrixCore::ScanWorker::progress, this, &Mirrix::onScanProgress);
+    connect(worker, &MirrixCore::ScanWorker::progress, m_display, &ScanDisplay::showProgress);
     connect(worker, &MirrixCore::ScanWorker::finished, this, &Mirrix::onScanFinished);
     connect(worker, &MirrixCore::ScanWorker::failed, this, &Mirrix::onScanFailed);
 
     goToStep(0);
-    statusBar()->showMessage(Text::tr("%1 · 本地运行 · 零广告 · 图片哈希: %2").arg(modeText(), imageHashName()));
+    m_display->showInBar(
+        [this] { return Text::tr("%1 · 本地运行 · 零广告 · 图片哈希: %2").arg(modeText(), imageHashName()); });
     m_log.append(QStringLiteral("app_start"), QStringLiteral("Mirrix started"));
 }
 
@@ -130,7 +136,7 @@ void Mirrix::buildLayout()
     row->addWidget(m_sidebar);
     row->addLayout(right, 1);
     setCentralWidget(centre);
-    resize(1240, 800);
+    resize(1280, 800);
 }
 
 void Mirrix::buildTray()
@@ -160,6 +166,8 @@ void Mirrix::connectPages()
     connect(m_actions, &ResultActions::clearRequested, this, &Mirrix::onClearRequested);
     connect(m_resultsPage, &ResultsPage::exportRequested, this,
             [this] { exportResults(this, m_results, modeName(m_scannedMode), m_prompts, m_log); });
+    connect(&m_actions->commands(), &BatchCommands::statusText, this,
+            [this](const QString &source) { m_display->showStatus([source] { return translated(source); }); });
     connect(&m_actions->commands(), &BatchCommands::finished, this, [this] {
         if (m_quitWanted)
             quitCompletely();
@@ -191,7 +199,6 @@ void Mirrix::connectMenu(MainMenu *menu)
 
 void Mirrix::retranslate()
 {
-    setWindowTitle(productTitle());
     m_trail->setText(Text::tr("① 选择位置 → ② 匹配规则 → ③ 预览并清理"));
     m_wrappers[0]->setTexts(Text::tr("选择一个路径开始查重"), Text::tr("选好后点击左侧「开始扫描」"));
     m_wrappers[1]->setTexts(Text::tr("配置匹配规则"));
@@ -203,9 +210,11 @@ void Mirrix::goToStep(int index)
     index = std::clamp(index, 0, m_pages->count() - 1);
     m_pages->setCurrentIndex(index);
     m_sidebar->setActiveStep(index);
-    const QString hints[] = {Text::tr("请选择要扫描的位置"), Text::tr("配置规则后点击「开始扫描」"),
-                             Text::tr("勾选重复项并进行清理")};
-    statusBar()->showMessage(hints[index]);
+    m_display->showInBar([index] {
+        const QString hints[] = {Text::tr("请选择要扫描的位置"), Text::tr("配置规则后点击「开始扫描」"),
+                                 Text::tr("勾选重复项并进行清理")};
+        return hints[index];
+    });
 }
 
 void Mirrix::startScan()
@@ -222,10 +231,10 @@ void Mirrix::startScan()
         return;
     storeScanSettings(options);
     clearResults();
-    m_resultsPage->setSummary({});
+    m_display->showSummary([] { return QString(); });
     setScanning(true);
     goToStep(resultsStep);
-    statusBar()->showMessage(Text::tr("扫描进行中：已锁定规则与位置页，请勿修改扫描参数。"));
+    showLocked();
     m_log.append(QStringLiteral("scan_start"), options.roots.join(QLatin1Char('|')));
     m_scannedMode = options.searchMode;
     applyContentHashAlgorithm(m_settings); // it may have been changed during the scan before
@@ -262,8 +271,8 @@ void Mirrix::storeScanSettings(const MirrixCore::ScanOptions &options)
 void Mirrix::onClearRequested()
 {
     clearResults();
-    m_resultsPage->setSummary(Text::tr("结果已清空。切换Tab调整规则后可重新开始扫描。"));
-    setStatusText(Text::tr("就绪"));
+    m_display->showSummary([] { return Text::tr("结果已清空。切换Tab调整规则后可重新开始扫描。"); });
+    m_display->showStatus([] { return Text::tr("就绪"); });
 }
 
 void Mirrix::clearResults()
@@ -271,7 +280,6 @@ void Mirrix::clearResults()
     m_resultsPage->clearResults();
     discard(std::exchange(m_results, {}));
     m_resultsPage->setProgress(0);
-    m_throttle.reset();
 }
 
 void Mirrix::setScanning(bool on)
@@ -282,10 +290,16 @@ void Mirrix::setScanning(bool on)
     for (int step = 0; step < resultsStep; ++step)
         m_wrappers[step]->setEnabled(!on);
     m_resultsPage->setScanning(on);
+    m_display->setScanning(on);
     if (on)
-        statusBar()->showMessage(Text::tr("扫描进行中：已锁定规则与位置页，请勿修改扫描参数。"));
+        showLocked();
     else
-        statusBar()->showMessage(Text::tr("%1 · 本地运行 · 图片哈希: %2").arg(modeText(), imageHashName()));
+        m_display->showInBar([this] { return idleText(); });
+}
+
+void Mirrix::showLocked()
+{
+    m_display->showInBar([] { return Text::tr("扫描进行中：已锁定规则与位置页，请勿修改扫描参数。"); });
 }
 
 void Mirrix::cancelScan()
@@ -293,15 +307,7 @@ void Mirrix::cancelScan()
     if (!m_scanning)
         return;
     m_scanThread->cancel();
-    setStatusText(Text::tr("正在取消..."));
-}
-
-void Mirrix::onScanProgress(const MirrixCore::ScanProgress &progress)
-{
-    if (m_throttle.admits(progress.phase, QDateTime::currentMSecsSinceEpoch()))
-        setStatusText(progressText(progress));
-    if (const auto percent = progressPercent(progress))
-        m_resultsPage->setProgress(*percent);
+    m_display->showStatus([] { return Text::tr("正在取消..."); });
 }
 
 void Mirrix::onScanFinished(MirrixCore::ScanResult result)
@@ -317,11 +323,11 @@ void Mirrix::onScanFinished(MirrixCore::ScanResult result)
     m_results.candidates = result.candidates;
     m_results.marks.reset(m_results.groups);
     m_resultsPage->showResults();
-    m_resultsPage->setProgress(100);
-    m_resultsPage->setSummary(resultSummary(m_results));
-    setStatusText(Text::tr("扫描完成 · 图片哈希后端: %1").arg(imageHashName()));
+    m_display->setPercent(100);
+    m_display->showSummary([this] { return resultSummary(m_results); });
+    m_display->showStatus([] { return Text::tr("扫描完成 · 图片哈希后端: %1").arg(imageHashName()); });
     constexpr int shownMs = 5000;
-    statusBar()->showMessage(Text::tr("%1 · 本地运行 · 图片哈希: %2").arg(modeText(), imageHashName()), shownMs);
+    m_display->showInBar([this] { return idleText(); }, shownMs);
     m_log.append(QStringLiteral("scan_done"), QStringLiteral("groups=%1 wasted=%2 candidates=%3")
                                                   .arg(m_results.groups.size())
                                                   .arg(m_results.wastedBytes)
@@ -333,16 +339,10 @@ void Mirrix::onScanFinished(MirrixCore::ScanResult result)
 void Mirrix::onScanFailed(const QString &message)
 {
     setScanning(false);
-    const QString shown = message.isEmpty() ? QString() : Text::tr(message.toUtf8().constData());
-    setStatusText(shown);
-    m_resultsPage->setProgress(0);
+    m_display->showStatus([message] { return translated(message); });
+    m_display->setPercent(0);
     if (message != QString::fromUtf8(MirrixCore::scanCancelledMessage))
-        m_prompts.warn(this, Text::tr("扫描失败"), shown);
-}
-
-void Mirrix::setStatusText(const QString &text)
-{
-    m_resultsPage->setStatusText(text);
+        m_prompts.warn(this, Text::tr("扫描失败"), translated(message));
 }
 
 void Mirrix::showMainWindow()
@@ -372,6 +372,11 @@ void Mirrix::openOptions(OptionsDialog::Page page)
 QString Mirrix::modeText() const
 {
     return m_settings.portable ? Text::tr("便携模式") : Text::tr("标准模式");
+}
+
+QString Mirrix::idleText() const
+{
+    return Text::tr("%1 · 本地运行 · 图片哈希: %2").arg(modeText(), imageHashName());
 }
 
 void Mirrix::closeEvent(QCloseEvent *event)
@@ -415,6 +420,7 @@ void Mirrix::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
         retranslate();
+        m_display->retranslate();
         m_menu->retranslate();
         if (m_tray)
             m_tray->retranslate();

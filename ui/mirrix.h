@@ -3,10 +3,8 @@
 #include "actions/operationslog.h"
 #include "app/settings.h"
 #include "core/scan/scanoptions.h"
-#include "core/scan/scanprogress.h"
 #include "ui/dialogs/optionsdialog.h"
 #include "ui/logic/resultset.h"
-#include "ui/logic/scanstatus.h"
 
 #include <QMainWindow>
 
@@ -20,6 +18,7 @@ class Prompts;
 class ResultActions;
 class ResultsPage;
 class RulesPage;
+class ScanDisplay;
 class ScanThread;
 class TrayIcon;
 class WizardPage;
@@ -67,9 +66,8 @@ private:
     void clearResults();
     void onClearRequested();
     void setScanning(bool on);
-    void setStatusText(const QString &text);
+    void showLocked();
 
-    void onScanProgress(const MirrixCore::ScanProgress &progress);
     void onScanFinished(MirrixCore::ScanResult result);
     void onScanFailed(const QString &message);
 
@@ -77,12 +75,12 @@ private:
     void setLanguage(const QString &code);
     void openOptions(::Mirrix::OptionsDialog::Page page);
     [[nodiscard]] QString modeText() const;
+    [[nodiscard]] QString idleText() const;
 
     ::Mirrix::Settings &m_settings;
     ::Mirrix::Prompts &m_prompts;
     ::Mirrix::OperationsLog m_log;
     ::Mirrix::ResultSet m_results;
-    ::Mirrix::ProgressThrottle m_throttle;
     qint32 m_scannedMode = 0; ///< of the scan that the results are of
     bool m_scanning = false;
     bool m_quitting = false;
@@ -98,6 +96,7 @@ private:
     ::Mirrix::ResultActions *m_actions = nullptr;
     ::Mirrix::MainMenu *m_menu = nullptr;
     ::Mirrix::TrayIcon *m_tray = nullptr;
+    ::Mirrix::ScanDisplay *m_display = nullptr;
     ::Mirrix::ScanThread *m_scanThread = nullptr;
 };
 

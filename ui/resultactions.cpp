@@ -32,7 +32,6 @@ ResultActions::ResultActions(ResultSet &results, ResultsPage &page, const Locati
     , m_commands(results, settings, prompts, log, window)
 {
     connect(&m_commands, &BatchCommands::marksReplaced, &page, &ResultsPage::marksReplaced);
-    connect(&m_commands, &BatchCommands::statusText, &page, &ResultsPage::setStatusText);
     connect(&page, &ResultsPage::autoSelectRequested, this, [this, &locations] {
         m_commands.applyKeepRule(static_cast<KeepRule>(locations.state().advanced.keepRule));
     });

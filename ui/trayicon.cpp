@@ -23,6 +23,7 @@ TrayIcon::TrayIcon(QObject *parent)
         if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
             emit showRequested();
     });
+    setToolTip(productTitle());
     retranslate();
     m_icon->show();
 }
@@ -51,9 +52,13 @@ void TrayIcon::tellStillRunning()
                         QSystemTrayIcon::Information, shownMs);
 }
 
+void TrayIcon::setToolTip(const QString &text)
+{
+    m_icon->setToolTip(text);
+}
+
 void TrayIcon::retranslate()
 {
-    m_icon->setToolTip(productTitle());
     m_show->setText(Text::tr("显示主窗口"));
     m_quit->setText(Text::tr("一键完整退出"));
 }

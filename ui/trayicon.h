@@ -28,6 +28,7 @@ public:
     /// Tells that the program goes on without its window.
     void tellStillRunning();
 
+    void setToolTip(const QString &text);
     void retranslate();
 
 signals:

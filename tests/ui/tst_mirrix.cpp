@@ -192,9 +192,11 @@ private slots:
         stage.window->addLocation(stage.tree.path(u"in"_qs));
         stage.start();
         QTRY_VERIFY(stage.find<QLabel>(u"StatusLabel"_qs)->text() != u"就绪");
+        QVERIFY(stage.window->windowTitle().endsWith(u" % - Mirrix · 重复文件查找与清理"));
         stage.click(u"StopButton"_qs);
         QVERIFY(stage.waitForEnd());
         QCOMPARE(stage.find<QLabel>(u"StatusLabel"_qs)->text(), u"扫描已取消"_qs);
+        QCOMPARE(stage.window->windowTitle(), u"Mirrix · 重复文件查找与清理"_qs);
         QVERIFY(stage.prompts.asked.isEmpty()); // a cancelled scan ends without a box
         QVERIFY(QFile::remove(stage.tree.path(u"in/long1"_qs)));
         stage.start();

@@ -5,6 +5,7 @@
 #include "ui/prompts.h"
 
 #include <QDialogButtonBox>
+#include <QEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -18,36 +19,53 @@ DrivePicker::DrivePicker(Prompts &prompts, const QList<Drive> &drives, QWidget *
     : QDialog(parent)
     , m_prompts(prompts)
     , m_drives(drives)
+    , m_hint(new QLabel)
     , m_list(new QListWidget)
 {
     setObjectName(QStringLiteral("DrivePicker"));
-    setWindowTitle(Text::tr("选择要扫描的磁盘 / 分区"));
-    auto *hint = new QLabel(
-        Text::tr("勾选分区后加入扫描列表（不会立即开始扫描）。\n系统目录仍会默认排除。建议慎选系统盘整盘扫描。"));
-    hint->setObjectName(QStringLiteral("DrivePickerHint"));
-    hint->setWordWrap(true);
+    m_hint->setObjectName(QStringLiteral("DrivePickerHint"));
+    m_hint->setWordWrap(true);
     m_list->setObjectName(QStringLiteral("DriveList"));
-    m_list->setAccessibleName(windowTitle());
-    for (const Drive &drive : drives) {
-        auto *item = new QListWidgetItem(driveLine(drive), m_list);
+    for (qsizetype i = 0; i < drives.size(); ++i) {
+        auto *item = new QListWidgetItem(m_list);
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         item->setCheckState(Qt::Unchecked);
     }
-    m_list->setMinimumWidth(m_list->sizeHintForColumn(0) + 4 * m_list->frameWidth());
     auto *buttons = new QDialogButtonBox;
-    QPushButton *add = buttons->addButton(Text::tr("加入扫描列表"), QDialogButtonBox::AcceptRole);
-    add->setObjectName(QStringLiteral("DrivePickerAddButton"));
-    add->setDefault(true);
-    buttons->addButton(Text::tr("取消"), QDialogButtonBox::RejectRole);
+    m_add = buttons->addButton(QString(), QDialogButtonBox::AcceptRole);
+    m_add->setObjectName(QStringLiteral("DrivePickerAddButton"));
+    m_add->setDefault(true);
+    m_cancel = buttons->addButton(QString(), QDialogButtonBox::RejectRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &DrivePicker::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &DrivePicker::reject);
 
     auto *layout = new QVBoxLayout(this);
     layout->setSpacing(12);
-    layout->addWidget(hint);
+    layout->addWidget(m_hint);
     layout->addWidget(m_list, 1);
     layout->addWidget(buttons);
     m_list->setFocus();
+    retranslate();
+}
+
+void DrivePicker::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QDialog::changeEvent(event);
+}
+
+void DrivePicker::retranslate()
+{
+    setWindowTitle(Text::tr("选择要扫描的磁盘 / 分区"));
+    m_hint->setText(
+        Text::tr("勾选分区后加入扫描列表（不会立即开始扫描）。\n系统目录仍会默认排除。建议慎选系统盘整盘扫描。"));
+    m_list->setAccessibleName(windowTitle());
+    for (int row = 0; row < m_list->count(); ++row)
+        m_list->item(row)->setText(driveLine(m_drives[row]));
+    m_list->setMinimumWidth(m_list->sizeHintForColumn(0) + 4 * m_list->frameWidth());
+    m_add->setText(Text::tr("加入扫描列表"));
+    m_cancel->setText(Text::tr("取消"));
 }
 
 QStringList DrivePicker::checkedRoots() const

@@ -4,7 +4,9 @@
 
 #include <QDialog>
 
+class QLabel;
 class QListWidget;
+class QPushButton;
 
 namespace Mirrix {
 
@@ -24,13 +26,20 @@ public:
 
     void accept() override;
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     [[nodiscard]] QList<Drive> checkedDrives() const;
     [[nodiscard]] bool isConfirmed(const QList<Drive> &chosen);
+    void retranslate();
 
     Prompts &m_prompts;
     QList<Drive> m_drives;
+    QLabel *m_hint;
     QListWidget *m_list;
+    QPushButton *m_add;
+    QPushButton *m_cancel;
 };
 
 /// Lets the user pick among the scannable ones of `drives`; empty when none was picked.

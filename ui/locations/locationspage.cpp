@@ -9,13 +9,13 @@
 #include "ui/locations/quicklocations.h"
 #include "ui/locations/runaside.h"
 #include "ui/prompts.h"
+#include "ui/verticalscrollarea.h"
 
 #include <QDir>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QSplitter>
 
 namespace Mirrix {
@@ -56,7 +56,7 @@ LocationsPage::LocationsPage(Prompts &prompts, QWidget *parent, DriveLister driv
     splitter->addWidget(m_browser);
     splitter->addWidget(m_tableSide);
     splitter->setHandleWidth(12);
-    splitter->setSizes({300, 700});
+    splitter->setSizes({260, 740});
     splitter->setStretchFactor(0, 0);
     splitter->setStretchFactor(1, 1);
     auto *layout = new QVBoxLayout(this);
@@ -103,12 +103,8 @@ QWidget *LocationsPage::buildTableButtons()
 
 QWidget *LocationsPage::buildLowerSide()
 {
-    auto *options = new QScrollArea;
+    auto *options = new VerticalScrollArea(m_advanced);
     options->setObjectName(QStringLiteral("OptionsScroll"));
-    options->setFrameShape(QFrame::NoFrame);
-    options->setWidgetResizable(true);
-    options->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    options->setWidget(m_advanced);
     auto *lower = new QWidget;
     auto *layout = new QHBoxLayout(lower);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -1,6 +1,7 @@
 #include "ui/locations/locationtable.h"
 
 #include "app/text.h"
+#include "ui/logic/columntitle.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -239,7 +240,9 @@ void LocationTable::showToggle(int row, Column column, bool isOn)
 void LocationTable::retranslate()
 {
     setAccessibleName(Text::tr("扫描位置"));
-    setHorizontalHeaderLabels(columnTitles());
+    QStringList titles = columnTitles();
+    std::transform(titles.begin(), titles.end(), titles.begin(), inTwoLines);
+    setHorizontalHeaderLabels(titles);
     horizontalHeaderItem(NameColumn)->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     for (int row = 0; row < rowCount(); ++row)
         showRow(row);

@@ -2,6 +2,7 @@
 
 #include "app/text.h"
 #include "ui/logic/bytetext.h"
+#include "ui/logic/columntitle.h"
 #include "ui/logic/resultsmodel.h"
 #include "ui/logic/resulttexts.h"
 
@@ -73,7 +74,7 @@ int FolderGroupsModel::childCount(qsizetype item) const
 
 QString FolderGroupsModel::title(int column) const
 {
-    return columnInfo(column).title();
+    return inTwoLines(columnInfo(column).title());
 }
 
 Qt::Alignment FolderGroupsModel::alignment(int column) const

@@ -44,10 +44,10 @@ BatchPanel::BatchPanel(QWidget *parent)
     layout->addWidget(m_selectAll, 2, 0);
     layout->addWidget(m_invert, 2, 1);
     layout->addWidget(m_backupFirst, 3, 0, 1, 2);
-    layout->addWidget(m_moveToBackup, 4, 0, 1, 2);
-    layout->addWidget(m_remove, 5, 0, 1, 2);
-    layout->addWidget(m_export, 6, 0);
-    layout->addWidget(m_clear, 6, 1);
+    layout->addWidget(m_moveToBackup, 4, 0);
+    layout->addWidget(m_remove, 4, 1);
+    layout->addWidget(m_export, 5, 0);
+    layout->addWidget(m_clear, 5, 1);
     connect(m_autoSelect, &QPushButton::clicked, this, &BatchPanel::autoSelectRequested);
     connect(m_selectAll, &QPushButton::clicked, this, &BatchPanel::selectAllRequested);
     connect(m_invert, &QPushButton::clicked, this, &BatchPanel::invertRequested);

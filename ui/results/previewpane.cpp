@@ -39,7 +39,7 @@ void PreviewCanvas::paintEvent(QPaintEvent *event)
     constexpr int margin = 6;
     const QRect area = contentsRect().adjusted(margin, margin, -margin, -margin);
     if (m_picture.isNull()) {
-        painter.setPen(palette().color(QPalette::PlaceholderText));
+        painter.setPen(palette().color(QPalette::WindowText));
         painter.drawText(area, Qt::AlignCenter | Qt::TextWrapAnywhere, m_text);
         return;
     }
@@ -76,8 +76,10 @@ PreviewPane::PreviewPane(QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(8);
     layout->addWidget(m_title);
-    layout->addWidget(m_canvas, 3);
-    layout->addWidget(scroll, 2);
+    constexpr int lines = 6; // of facts; more are scrolled
+    scroll->setMaximumHeight(fontMetrics().lineSpacing() * lines);
+    layout->addWidget(m_canvas, 1);
+    layout->addWidget(scroll);
     connect(&m_loader, &PictureLoader::loaded, this, &PreviewPane::showLoaded);
     retranslate();
 }

@@ -83,10 +83,15 @@ void ResultsPage::setUpTrees()
     m_folderTree->setModel(&m_folders);
     m_remainingTree->setModel(&m_remaining);
     m_remainingTree->setRootIsDecorated(false);
+}
+
+void ResultsPage::fitColumns()
+{
     const QString size = QStringLiteral("1023.99 MB");
     const QString time = QStringLiteral("0000-00-00 00:00");
-    m_tree->fitColumns(ResultsModel::FileColumn, {QStringLiteral("M 00 / 00"), {}, size, time});
-    m_folderTree->fitColumns(FolderGroupsModel::PathColumn, {Text::tr("文件夹组 #%1").arg(1000), {}, size, size});
+    const QString folderGroup = QStringLiteral("M ") + Text::tr("文件夹组 #%1").arg(1000);
+    m_tree->fitColumns(ResultsModel::FileColumn, {QStringLiteral("MM 00 / 00"), {}, size, time});
+    m_folderTree->fitColumns(FolderGroupsModel::PathColumn, {folderGroup, {}, QStringLiteral("000000"), size});
     m_remainingTree->fitColumns(RemainingModel::FileColumn, {{}, size, time});
 }
 
@@ -326,6 +331,7 @@ void ResultsPage::retranslate()
     m_groups.retranslate();
     m_folders.retranslate();
     m_remaining.retranslate();
+    fitColumns();
 }
 
 void ResultsPage::changeEvent(QEvent *event)

@@ -85,6 +85,7 @@ protected:
 
 private:
     void setUpTrees();
+    void fitColumns();
     void layOut();
     void connectTree();
     void connectThumbnails();

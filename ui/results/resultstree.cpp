@@ -45,13 +45,13 @@ void ResultsTree::setModel(QAbstractItemModel *model)
 
 void ResultsTree::fitColumns(int stretched, const QStringList &samples)
 {
-    const int padding = fontMetrics().horizontalAdvance(QStringLiteral("MMM"));
+    const int padding = fontMetrics().horizontalAdvance(QStringLiteral("MM"));
+    const bool isFitted = std::exchange(m_isFitted, true);
     for (int column = 0; column < samples.size(); ++column) {
-        const QString title = model()->headerData(column, Qt::Horizontal).toString();
-        const int text =
-            std::max(fontMetrics().horizontalAdvance(title), fontMetrics().horizontalAdvance(samples[column]));
+        const int text = fontMetrics().horizontalAdvance(samples[column]) + padding;
+        const int needed = std::max(header()->sectionSizeHint(column), text);
         header()->setSectionResizeMode(column, column == stretched ? QHeaderView::Stretch : QHeaderView::Interactive);
-        header()->resizeSection(column, text + padding);
+        header()->resizeSection(column, std::max(needed, isFitted ? header()->sectionSize(column) : 0));
     }
 }
 

@@ -19,7 +19,8 @@ public:
 
     void setModel(QAbstractItemModel *model) override;
 
-    /// Gives `stretched` all width that is left and the others the width of a sample text each.
+    /// Gives `stretched` all width that is left and the others the width of a sample text each, or of their title. A
+    /// second time, in another language, makes columns wider where that is needed.
     void fitColumns(int stretched, const QStringList &samples);
 
     /// To call after a reset: expands the first `count` top rows and forgets the order by column.
@@ -52,6 +53,7 @@ private:
     void keepPromise();
     void expandOnly(int first, int last);
 
+    bool m_isFitted = false;
     bool m_expandsAll = false;
     bool m_isExpanding = false;
     QList<QPersistentModelIndex> m_opened; ///< expanded for the promise

@@ -8,52 +8,16 @@
 #include "ui/rules/imagerulestab.h"
 #include "ui/rules/rulecontrols.h"
 #include "ui/rules/videorulestab.h"
+#include "ui/verticalscrollarea.h"
 
 #include <QCheckBox>
 #include <QEvent>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
 namespace Mirrix {
-
-namespace {
-
-/// Scrolls up and down only: never narrower than its content.
-class VerticalScrollArea : public QScrollArea
-{
-public:
-    QSize minimumSizeHint() const override
-    {
-        const int width = widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
-        return {width, QScrollArea::minimumSizeHint().height()};
-    }
-
-    QSize sizeHint() const override { return QScrollArea::sizeHint().expandedTo(minimumSizeHint()); }
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() == QEvent::LayoutRequest)
-            updateGeometry();
-        return QScrollArea::eventFilter(watched, event);
-    }
-};
-
-/// Lets `area` scroll `content`, which it takes over.
-QScrollArea *scrolling(QScrollArea *area, QWidget *content, const QString &name)
-{
-    area->setObjectName(name);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidget(content);
-    return area;
-}
-
-} // namespace
 
 RulesPage::RulesPage(QWidget *parent)
     : QWidget(parent)
@@ -131,7 +95,9 @@ void RulesPage::changeEvent(QEvent *event)
 void RulesPage::addTab(QWidget *tab, const QString &name)
 {
     tab->setObjectName(name);
-    m_tabs->addTab(scrolling(new QScrollArea, tab, name + QStringLiteral("Scroll")), QString());
+    auto *scroll = new VerticalScrollArea(tab);
+    scroll->setObjectName(name + QStringLiteral("Scroll"));
+    m_tabs->addTab(scroll, QString());
 }
 
 QWidget *RulesPage::makeCommonSide()
@@ -145,7 +111,9 @@ QWidget *RulesPage::makeCommonSide()
     layout->addWidget(m_fileTypes);
     layout->addWidget(m_ignoreHardLinks);
     layout->addStretch();
-    return scrolling(new VerticalScrollArea, side, QStringLiteral("CommonRulesScroll"));
+    auto *scroll = new VerticalScrollArea(side);
+    scroll->setObjectName(QStringLiteral("CommonRulesScroll"));
+    return scroll;
 }
 
 void RulesPage::retranslate()

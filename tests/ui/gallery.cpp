@@ -1,0 +1,164 @@
+#include "tests/ui/gallery.h"
+
+#include "actions/exporter.h"
+#include "actions/operationslog.h"
+#include "ui/dialogs/exportdialog.h"
+#include "ui/dialogs/fileprogressdialog.h"
+#include "ui/dialogs/fileremovaldialog.h"
+#include "ui/dialogs/hashtooldialog.h"
+#include "ui/dialogs/imagecomparedialog.h"
+#include "ui/dialogs/logviewer.h"
+#include "ui/dialogs/optionsdialog.h"
+#include "ui/dialogs/restoredialog.h"
+#include "ui/locations/drivepicker.h"
+#include "ui/mirrix.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLinearGradient>
+#include <QPainter>
+#include <QTabWidget>
+#include <QTest>
+#include <QTreeView>
+
+namespace MirrixTest {
+
+namespace {
+
+/// A made landscape, so that previews and thumbnails have something to show.
+void paintPicture(const QString &path, int hue)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QImage picture(960, 640, QImage::Format_RGB32);
+    QPainter painter(&picture);
+    QLinearGradient sky(0, 0, 0, picture.height());
+    sky.setColorAt(0, QColor::fromHsv(hue, 160, 210));
+    sky.setColorAt(1, QColor::fromHsv((hue + 40) % 360, 70, 250));
+    painter.fillRect(picture.rect(), sky);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(255, 244, 214));
+    painter.drawEllipse(QPoint(680, 190), 70, 70);
+    for (int ridge = 0; ridge < 3; ++ridge) {
+        QPolygon hills({{0, 640}});
+        for (int x = 0; x <= 960; x += 60)
+            hills << QPoint(x, 380 + ridge * 80 + ((x * (ridge + 3) + hue) % 140) - 60);
+        hills << QPoint(960, 640);
+        painter.setBrush(QColor::fromHsv((hue + 100) % 360, 120, 150 - ridge * 40));
+        painter.drawPolygon(hills);
+    }
+    painter.end();
+    picture.save(path, "JPG", 90);
+}
+
+void makeSample(const TempTree &tree)
+{
+    const QString root = tree.path(u"Anna"_qs);
+    const auto copy = [&root](const QString &from, const QString &to) {
+        QDir().mkpath(QFileInfo(root + to).path());
+        QFile::copy(root + from, root + to);
+    };
+    for (int hue : {200, 20, 280})
+        paintPicture(root + QStringLiteral("/Pictures/2025 Coast/IMG_%1.jpg").arg(2000 + hue), hue);
+    copy(u"/Pictures/2025 Coast/IMG_2200.jpg"_qs, u"/Backup/phone/IMG_2200.jpg"_qs);
+    copy(u"/Pictures/2025 Coast/IMG_2200.jpg"_qs, u"/Downloads/IMG_2200 (1).jpg"_qs);
+    copy(u"/Pictures/2025 Coast/IMG_2020.jpg"_qs, u"/Backup/phone/IMG_2020.jpg"_qs);
+    copy(u"/Pictures/2025 Coast/IMG_2280.jpg"_qs, u"/Backup/phone/IMG_2280.jpg"_qs);
+    tree.write(u"Anna/Documents/contract.pdf"_qs, QByteArray(3'400'000, 'c'));
+    copy(u"/Documents/contract.pdf"_qs, u"/Downloads/contract.pdf"_qs);
+    tree.write(u"Anna/Documents/notes.txt"_qs, "only here");
+}
+
+QList<Mirrix::Drive> sampleDrives()
+{
+    constexpr qint64 giga = qint64(1) << 30;
+    return {{u"C:/"_qs, Mirrix::DriveType::Fixed, u"System"_qs, u"NTFS"_qs, 476 * giga, 91 * giga, true},
+            {u"D:/"_qs, Mirrix::DriveType::Fixed, u"Photos"_qs, u"NTFS"_qs, 1863 * giga, 640 * giga, false},
+            {u"E:/"_qs, Mirrix::DriveType::Removable, {}, u"exFAT"_qs, 58 * giga, 12 * giga, false}};
+}
+
+} // namespace
+
+Gallery::Gallery(const std::function<void(Mirrix::Settings &)> &tweak)
+    : m_settings(Mirrix::defaultSettings(m_tree.makeFolder(u"data"_qs)))
+{
+    makeSample(m_tree);
+    m_settings.trayEnabled = false;
+    m_settings.skipScanConfirm = true;
+    if (tweak)
+        tweak(m_settings);
+    m_window = std::make_unique<MirrixUi::Mirrix>(m_settings, m_prompts);
+    for (const QString &folder : {u"Pictures"_qs, u"Documents"_qs, u"Downloads"_qs, u"Backup"_qs})
+        m_window->addLocation(sample(folder));
+    m_window->show();
+}
+
+Gallery::~Gallery() = default;
+
+QString Gallery::sample(const QString &relative) const
+{
+    return m_tree.path(u"Anna/"_qs + relative);
+}
+
+bool Gallery::scan()
+{
+    m_window->startScan();
+    if (!QTest::qWaitFor([this] { return !m_window->isScanning(); }, 60000))
+        return false;
+    auto *tree = m_window->findChild<QTreeView *>(u"DuplicateFilesTree"_qs);
+    tree->setCurrentIndex(tree->model()->index(0, 1, tree->model()->index(0, 0)));
+    return true;
+}
+
+void Gallery::visitPages(const std::function<void(const QString &, QWidget &)> &look)
+{
+    m_window->goToStep(0);
+    look(u"locations"_qs, *m_window);
+    int step = 1;
+    for (const QString &name : {u"RulesTabs"_qs, u"ResultsTabs"_qs}) {
+        m_window->goToStep(step++);
+        auto *tabs = m_window->findChild<QTabWidget *>(name);
+        for (int tab = 0; tab < tabs->count(); ++tab) {
+            tabs->setCurrentIndex(tab);
+            look(QStringLiteral("%1-%2").arg(step == 2 ? u"rules"_qs : u"results"_qs).arg(tab + 1), *m_window);
+        }
+        tabs->setCurrentIndex(0);
+    }
+}
+
+std::vector<std::pair<QString, std::unique_ptr<QDialog>>> Gallery::dialogs()
+{
+    std::vector<std::pair<QString, std::unique_ptr<QDialog>>> made;
+    const auto add = [&made](const QString &name, QDialog *dialog) { made.emplace_back(name, dialog); };
+    auto *hashes = new Mirrix::HashToolDialog(m_prompts, m_window.get());
+    hashes->addPaths({sample(u"Pictures"_qs), sample(u"Backup"_qs)});
+    add(u"hashes"_qs, hashes);
+    for (const auto page :
+         {Mirrix::OptionsDialog::General, Mirrix::OptionsDialog::Theme, Mirrix::OptionsDialog::About}) {
+        auto *options = new Mirrix::OptionsDialog(m_settings, m_prompts, m_window.get());
+        options->showPage(page);
+        add(QStringLiteral("options-%1").arg(page + 1), options);
+    }
+    add(u"export"_qs, new Mirrix::ExportDialog({}, m_prompts, m_window.get()));
+    Mirrix::RemovalChoice removal = Mirrix::initialRemovalChoice(m_settings);
+    removal.targetFolder = sample(u"Duplicates"_qs);
+    add(u"removal"_qs, new Mirrix::FileRemovalDialog(12, removal, m_prompts, m_window.get()));
+    add(u"restore"_qs, new Mirrix::RestoreDialog({sample(u"Pictures/IMG_2200.jpg"_qs)}, m_window.get()));
+    add(u"log"_qs, new Mirrix::LogViewer(Mirrix::operationsLogPath(m_settings.directory), m_window.get()));
+    add(u"compare"_qs, new Mirrix::ImageCompareDialog(sample(u"Pictures/2025 Coast/IMG_2200.jpg"_qs),
+                                                      sample(u"Backup/phone/IMG_2200.jpg"_qs), m_window.get()));
+    add(u"drives"_qs, new Mirrix::DrivePicker(m_prompts, sampleDrives(), m_window.get()));
+    return made;
+}
+
+void Gallery::visitAll(const std::function<void(const QString &, QWidget &)> &look)
+{
+    visitPages(look);
+    for (const auto &[name, dialog] : dialogs()) {
+        dialog->show();
+        look(name, *dialog);
+        dialog->close();
+    }
+}
+
+} // namespace MirrixTest

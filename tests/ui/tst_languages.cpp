@@ -1,0 +1,171 @@
+#include "app/languagecodes.h"
+#include "app/translations.h"
+#include "tests/ui/clipping.h"
+#include "tests/ui/gallery.h"
+#include "ui/mirrix.h"
+#include "ui/theme.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QRegularExpression>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QTest>
+#include <QTreeView>
+
+using MirrixTest::Gallery;
+
+namespace {
+
+/// Lets layouts that wait for others come to rest.
+void settle()
+{
+    constexpr int nesting = 10;
+    for (int i = 0; i < nesting; ++i)
+        QCoreApplication::processEvents();
+}
+
+/// Languages that this build can show.
+QStringList shownLanguages()
+{
+    QStringList codes;
+    for (const Mirrix::Language &language : Mirrix::languages()) {
+        if (language.catalogue.isEmpty() || QFile::exists(u":/translations/"_qs + language.catalogue + u".qm"_qs))
+            codes.append(language.code);
+    }
+    return codes;
+}
+
+void addTextsOf(const QAbstractItemModel &model, const QModelIndex &parent, QStringList &texts)
+{
+    constexpr int rows = 30;
+    for (int row = 0; row < std::min(rows, model.rowCount(parent)); ++row) {
+        for (int column = 0; column < model.columnCount(parent); ++column)
+            texts.append(model.index(row, column, parent).data().toString());
+        addTextsOf(model, model.index(row, 0, parent), texts);
+    }
+}
+
+void addTextsOf(const QWidget &widget, QStringList &texts)
+{
+    texts << widget.windowTitle() << widget.toolTip() << widget.accessibleName();
+    if (const auto *label = qobject_cast<const QLabel *>(&widget))
+        texts << label->text();
+    if (const auto *button = qobject_cast<const QAbstractButton *>(&widget))
+        texts << button->text();
+    if (const auto *box = qobject_cast<const QGroupBox *>(&widget))
+        texts << box->title();
+    if (const auto *edit = qobject_cast<const QLineEdit *>(&widget))
+        texts << edit->placeholderText() << edit->text();
+    if (const auto *sheet = qobject_cast<const QPlainTextEdit *>(&widget))
+        texts << sheet->toPlainText();
+    if (const auto *bar = qobject_cast<const QStatusBar *>(&widget))
+        texts << bar->currentMessage();
+    for (int i = 0; const auto *combo = qobject_cast<const QComboBox *>(&widget); ++i) {
+        if (i >= combo->count())
+            break;
+        texts << combo->itemText(i);
+    }
+    for (int i = 0; const auto *tabs = qobject_cast<const QTabWidget *>(&widget); ++i) {
+        if (i >= tabs->count())
+            break;
+        texts << tabs->tabText(i);
+    }
+    if (const auto *header = qobject_cast<const QHeaderView *>(&widget); header && header->model()) {
+        for (int i = 0; i < header->count(); ++i)
+            texts << header->model()->headerData(i, header->orientation()).toString();
+    }
+    const auto *view = qobject_cast<const QAbstractItemView *>(&widget);
+    if (view && view->model() && view->objectName() != u"FolderTree")
+        addTextsOf(*view->model(), {}, texts);
+}
+
+/// Everything that a window says, its menus included.
+QStringList textsOf(const QWidget &window)
+{
+    QStringList texts;
+    addTextsOf(window, texts);
+    const auto widgets = window.findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        addTextsOf(*widget, texts);
+        const auto *menu = qobject_cast<const QMenu *>(widget);
+        if (!menu || menu->objectName() == u"LanguageMenu")
+            continue;
+        texts << menu->title();
+        for (const QAction *action : menu->actions())
+            texts << action->text() << action->toolTip();
+    }
+    return texts;
+}
+
+} // namespace
+
+class TestLanguages : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { Mirrix::applyTheme(u"light"_qs); }
+    void cleanup() { Mirrix::loadLanguage(u"zh_CN"_qs); }
+
+    void cutsNothingOff_data()
+    {
+        QTest::addColumn<QString>("language");
+        for (const QString &code : shownLanguages())
+            QTest::newRow(qUtf8Printable(code)) << code;
+    }
+
+    void cutsNothingOff()
+    {
+        QFETCH(QString, language);
+        Mirrix::loadLanguage(language);
+        Gallery gallery;
+        gallery.window().resize(1280, 800);
+        QVERIFY(gallery.scan());
+        QStringList problems;
+        gallery.visitAll([&problems](const QString &name, QWidget &window) {
+            QVERIFY(QTest::qWaitForWindowExposed(&window));
+            settle();
+            for (const QString &problem : MirrixTest::clippedTexts(window))
+                problems.append(name + u": "_qs + problem);
+        });
+        problems.removeDuplicates();
+        QVERIFY2(problems.isEmpty(), qUtf8Printable(u'\n' + problems.join(u'\n')));
+    }
+
+    void followsAtOnce()
+    {
+        Gallery gallery;
+        QVERIFY(gallery.scan());
+        const auto dialogs = gallery.dialogs();
+        for (const auto &[name, dialog] : dialogs)
+            dialog->show();
+        Mirrix::loadLanguage(u"en"_qs);
+        settle();
+        // Yes, no and two hints are the same in every language.
+        const QStringList everywhere = {u"是"_qs, u"否"_qs, u"请选择要扫描的位置"_qs, u"配置规则后点击「开始扫描」"_qs};
+        static const QRegularExpression han(u"\\p{Han}"_qs);
+        QStringList left;
+        const auto collect = [&](const QString &name, const QWidget &window) {
+            for (const QString &text : textsOf(window)) {
+                if (text.contains(han) && !everywhere.contains(text.section(u": "_qs, -1)))
+                    left.append(name + u": "_qs + text);
+            }
+        };
+        collect(u"main"_qs, gallery.window());
+        for (const auto &[name, dialog] : dialogs)
+            collect(name, *dialog);
+        left.removeDuplicates();
+        QVERIFY2(left.isEmpty(), qUtf8Printable(u'\n' + left.join(u'\n')));
+    }
+};
+
+QTEST_MAIN(TestLanguages)
+#include "tst_languages.moc"
