@@ -92,6 +92,7 @@ void RestoreDialog::retranslate()
 {
     setWindowTitle(Text::tr("恢复备份"));
     m_label->setText(Text::tr("选择要恢复的文件："));
+    m_list->setAccessibleName(m_label->text());
     m_filter->setPlaceholderText(Text::tr("按路径筛选"));
     m_filter->setAccessibleName(Text::tr("按路径筛选"));
     m_restore->setText(Text::tr("恢复所选"));

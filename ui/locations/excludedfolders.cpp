@@ -102,6 +102,7 @@ void ExcludedFolders::changeEvent(QEvent *event)
 void ExcludedFolders::retranslate()
 {
     m_title->setText(Text::tr("排除目录"));
+    m_list->setAccessibleName(m_title->text());
     m_add->setText(Text::tr("+ 排除"));
     m_remove->setText(Text::tr("移除"));
     m_add->setToolTip(Text::tr("选择一个扫描时不进入的文件夹"));

@@ -129,6 +129,7 @@ void FolderBrowser::changeEvent(QEvent *event)
 void FolderBrowser::retranslate()
 {
     m_title->setText(Text::tr("可操作文件夹"));
+    m_tree->setAccessibleName(m_title->text());
     m_hint->setText(Text::tr("浏览文件夹，用右侧的 → 加入扫描位置；\n也可以从资源管理器把文件夹拖入扫描列表。"));
     m_arrow->setToolTip(Text::tr("将选中的文件夹加入扫描位置"));
     m_arrow->setAccessibleName(m_arrow->toolTip());

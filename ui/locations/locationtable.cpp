@@ -3,10 +3,12 @@
 #include "app/text.h"
 #include "ui/logic/columntitle.h"
 
+#include <QClipboard>
 #include <QComboBox>
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMimeData>
@@ -52,12 +54,19 @@ QStringList findTexts()
     return {Text::tr("🔍 查找重复"), Text::tr("📄 相同文件名"), Text::tr("🗑 空文件")};
 }
 
+/// The folders among copied or dragged files, or of a text with one path a line.
 QStringList foldersOf(const QMimeData *data)
 {
+    QStringList paths;
+    for (const QUrl &url : data->urls())
+        paths.append(url.toLocalFile());
+    if (!data->hasUrls())
+        paths = data->text().split(u'\n', Qt::SkipEmptyParts);
     QStringList folders;
-    for (const QUrl &url : data->urls()) {
-        if (url.isLocalFile() && QFileInfo(url.toLocalFile()).isDir())
-            folders.append(url.toLocalFile());
+    for (const QString &path : paths) {
+        const QString folder = path.trimmed();
+        if (QDir::isAbsolutePath(folder) && QFileInfo(folder).isDir())
+            folders.append(folder);
     }
     return folders;
 }
@@ -259,6 +268,8 @@ void LocationTable::keyPressEvent(QKeyEvent *event)
 {
     if (event->matches(QKeySequence::Delete))
         removeSelected();
+    else if (event->matches(QKeySequence::Paste))
+        addFolders(foldersOf(QGuiApplication::clipboard()->mimeData()));
     else
         QTableWidget::keyPressEvent(event);
 }

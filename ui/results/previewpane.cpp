@@ -56,6 +56,7 @@ PreviewPane::PreviewPane(QWidget *parent)
     : QWidget(parent)
     , m_title(new QLabel)
     , m_canvas(new PreviewCanvas)
+    , m_facts(new QScrollArea)
     , m_text(new QLabel)
 {
     setObjectName(QStringLiteral("PreviewPane"));
@@ -67,19 +68,18 @@ PreviewPane::PreviewPane(QWidget *parent)
     m_text->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_text->setMinimumWidth(1);
-    auto *scroll = new QScrollArea;
-    scroll->setObjectName(QStringLiteral("PreviewTextScroll"));
-    scroll->setWidget(m_text);
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
+    m_facts->setObjectName(QStringLiteral("PreviewTextScroll"));
+    m_facts->setWidget(m_text);
+    m_facts->setWidgetResizable(true);
+    m_facts->setFrameShape(QFrame::NoFrame);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(8);
     layout->addWidget(m_title);
     constexpr int lines = 6; // of facts; more are scrolled
-    scroll->setMaximumHeight(fontMetrics().lineSpacing() * lines);
+    m_facts->setMaximumHeight(fontMetrics().lineSpacing() * lines);
     layout->addWidget(m_canvas, 1);
-    layout->addWidget(scroll);
+    layout->addWidget(m_facts);
     connect(&m_loader, &PictureLoader::loaded, this, &PreviewPane::showLoaded);
     retranslate();
 }
@@ -123,6 +123,7 @@ void PreviewPane::retranslate()
 {
     m_title->setText(Text::tr("文件预览"));
     m_canvas->setAccessibleName(m_title->text());
+    m_facts->setAccessibleName(m_title->text());
     if (!m_file) {
         m_canvas->showText({});
         m_text->setText(m_folder.isEmpty() ? Text::tr("选择文件以预览")

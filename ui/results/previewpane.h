@@ -9,6 +9,7 @@
 #include <optional>
 
 class QLabel;
+class QScrollArea;
 
 namespace Mirrix {
 
@@ -60,6 +61,7 @@ private:
 
     QLabel *m_title;
     PreviewCanvas *m_canvas;
+    QScrollArea *m_facts;
     QLabel *m_text;
     std::optional<MirrixCore::FileEntry> m_file;
     Picture m_picture;

@@ -16,6 +16,7 @@ ScanFooter::ScanFooter(QWidget *parent)
     m_bar->setRange(0, 100);
     m_bar->setValue(0);
     m_status->setObjectName(QStringLiteral("StatusLabel"));
+    m_status->setProperty("elided", true);
     m_status->setTextFormat(Qt::PlainText);
     m_status->setMinimumWidth(1); // a long text must not widen the window
     auto *layout = new QVBoxLayout(this);

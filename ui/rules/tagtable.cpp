@@ -67,6 +67,7 @@ TagTable::TagTable(NamesFunction names, QWidget *parent)
 {
     setCheckable(true);
     m_table->setObjectName(QStringLiteral("TagRowsTable"));
+    m_table->setTabKeyNavigation(false);
     m_table->verticalHeader()->hide();
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     m_table->horizontalHeader()->setHighlightSections(false);
