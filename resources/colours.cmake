@@ -11,7 +11,7 @@ set(MIRRIX_COLOURS
     "dimmed        #5A6675 #A6B0BC"
     "disabled      #98A2AE #6B7580"
     "accent        #1D5FD0 #2F6FDE"
-    "accentHover   #184FB0 #4A83E6"
+    "accentHover   #184FB0 #2863CC"
     "accentSoft    #DCE8FB #26374F"
     "accentText    #FFFFFF #FFFFFF"
     "link          #1D5FD0 #82AEFA"

@@ -1,5 +1,6 @@
 #include "ui/results/duplicatefilestreedelegate.h"
 
+#include "resources/colours.h"
 #include "ui/logic/resultsmodel.h"
 
 #include <QApplication>
@@ -9,10 +10,9 @@ namespace Mirrix {
 
 namespace {
 
-/// Readable on the base colour of light and dark palettes.
 QColor warningColor(const QPalette &palette)
 {
-    return palette.base().color().lightness() > 127 ? QColor(0xa8, 0x45, 0x00) : QColor(0xff, 0xb3, 0x66);
+    return QColor(palette.base().color().lightness() > 127 ? lightColours.warning : darkColours.warning);
 }
 
 /// A folder and a file name; the name keeps its room as long as there is any.
@@ -28,11 +28,6 @@ void drawPath(QPainter *painter, const QRect &area, const QString &path, const Q
     painter->drawText(area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, folder);
     painter->setPen(clear);
     painter->drawText(area.adjusted(folderWidth, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, name);
-}
-
-QColor mixed(const QColor &one, const QColor &other)
-{
-    return QColor((one.red() + other.red()) / 2, (one.green() + other.green()) / 2, (one.blue() + other.blue()) / 2);
 }
 
 } // namespace
@@ -70,11 +65,11 @@ void DuplicateFilesTreeDelegate::paint(QPainter *painter, const QStyleOptionView
     const bool isSelected = row.state.testFlag(QStyle::State_Selected);
     const auto group = row.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
     const QColor clear = row.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
-    const QColor back = row.palette.color(group, isSelected ? QPalette::Highlight : QPalette::Base);
+    const QColor faint = isSelected ? clear : row.palette.color(group, QPalette::PlaceholderText);
     painter->save();
     painter->setFont(row.font);
     const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, &row, row.widget) + 1;
-    drawPath(painter, text.adjusted(margin, 0, -margin, 0), path, mixed(clear, back), clear);
+    drawPath(painter, text.adjusted(margin, 0, -margin, 0), path, faint, clear);
     painter->restore();
 }
 
