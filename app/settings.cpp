@@ -35,6 +35,11 @@ QJsonValue written(const QJsonArray &value)
     return value;
 }
 
+QJsonValue written(const QJsonObject &value)
+{
+    return value;
+}
+
 QJsonValue written(bool value)
 {
     return value;
@@ -84,6 +89,11 @@ QStringList readAs(const QJsonValue &json, const QStringList &)
 QJsonArray readAs(const QJsonValue &json, const QJsonArray &)
 {
     return json.toArray();
+}
+
+QJsonObject readAs(const QJsonValue &json, const QJsonObject &)
+{
+    return json.toObject();
 }
 
 bool readAs(const QJsonValue &json, bool fallback)
@@ -148,6 +158,7 @@ const QList<Field> &table()
         MIRRIX_SETTING(closeToTray),
         MIRRIX_SETTING(scanDoneBeep),
         MIRRIX_SETTING(skipScanConfirm),
+        MIRRIX_SETTING(window),
         MIRRIX_SETTING(uiLanguage),
     };
     return fields;

@@ -24,6 +24,7 @@
 #include "ui/shell.h"
 #include "ui/theme.h"
 #include "ui/trayicon.h"
+#include "ui/windowmemory.h"
 #include "ui/wizardpage.h"
 #include "ui/wizardsidebar.h"
 
@@ -86,6 +87,7 @@ Mirrix::Mirrix(Settings &settings, Prompts &prompts, QWidget *parent)
     connect(worker, &MirrixCore::ScanWorker::finished, this, &Mirrix::onScanFinished);
     connect(worker, &MirrixCore::ScanWorker::failed, this, &Mirrix::onScanFailed);
 
+    recallWindow(*this, m_settings.window, QSize(1280, 800));
     goToStep(0);
     m_display->showInBar(
         [this] { return Text::tr("%1 · 本地运行 · 零广告 · 图片哈希: %2").arg(modeText(), imageHashName()); });
@@ -136,7 +138,6 @@ void Mirrix::buildLayout()
     row->addWidget(m_sidebar);
     row->addLayout(right, 1);
     setCentralWidget(centre);
-    resize(1280, 800);
 }
 
 void Mirrix::buildTray()
@@ -402,6 +403,7 @@ void Mirrix::quitCompletely()
     }
     m_quitting = true;
     storeLocations(m_locations->state(), m_settings);
+    m_settings.window = windowMemory(*this, m_settings.window);
     m_settings.save();
     m_log.append(QStringLiteral("app_quit"), QStringLiteral("user quit"));
     if (m_tray)

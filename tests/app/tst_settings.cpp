@@ -71,7 +71,7 @@ private:
             "excludeExts": [], "minFileBytes": 0, "maxFileBytes": 0, "keepRule": 0, "skipHidden": true, "skipSystemDirs": true,
             "similarThreshold": 10, "largeFileMinBytes": 104857600, "trayEnabled": true,
             "autoBackupBeforeDelete": true, "appTheme": "light", "contentHashAlgorithm": "md5", "closeToTray": true,
-            "scanDoneBeep": false, "skipScanConfirm": false})");
+            "scanDoneBeep": false, "skipScanConfirm": false, "window": {}})");
         expected.insert(u"backupRoot"_s, m_tree->path(u"Backup"_s));
         expected.insert(u"uiLanguage"_s, systemLanguageCode());
         return expected;
@@ -97,6 +97,7 @@ void SettingsTest::everyMemberTravels()
     settings.lastRoots = {u"C:/a, b"_s, u"/home/日本"_s};
     settings.excludeDirs = {u"C:/x"_s};
     settings.locations = {QJsonObject{{u"path"_s, u"C:/x"_s}}};
+    settings.window = {{u"maximized"_s, true}};
     settings.includeExts = {u"jpg"_s};
     settings.excludeExts = {u"tmp"_s, u"bak"_s};
     settings.minFileBytes = 1;
@@ -163,7 +164,8 @@ void SettingsTest::values_data()
     row("a text as size", R"({"largeFileMinBytes": "big", "maxFileBytes": [1]})", R"({})");
     row("flags as numbers", R"({"skipHidden": 0, "scanDoneBeep": 1, "trayEnabled": "false"})", R"({})");
     row("texts as numbers", R"({"appTheme": 1, "backupRoot": 5})", R"({})");
-    row("lists as texts", R"({"lastRoots": "/a", "includeExts": {"a": 1}, "locations": {"a": 1}})", R"({})");
+    row("lists as texts", R"({"lastRoots": "/a", "includeExts": {"a": 1}, "locations": {"a": 1}, "window": [1]})",
+        R"({})");
     row("other cases of the keys", R"({"KeepRule": 3, "skiphidden": false})",
         R"({"KeepRule": 3, "skiphidden": false})");
     row("fractions are cut",

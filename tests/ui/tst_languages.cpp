@@ -135,7 +135,13 @@ private slots:
             settle();
             for (const QString &problem : MirrixTest::clippedTexts(window))
                 problems.append(name + u": "_qs + problem);
+            if (window.isModal() || qobject_cast<QDialog *>(&window))
+                QVERIFY2(window.width() <= 1008 && window.height() <= 684, qUtf8Printable(name));
         });
+        constexpr QSize smallScreen(1024 - 16, 768 - 84); // less task bar and frame
+        const QSize least = gallery.window().minimumSizeHint();
+        QVERIFY2(least.boundedTo(smallScreen) == least,
+                 qUtf8Printable(u"%1x%2"_qs.arg(least.width()).arg(least.height())));
         problems.removeDuplicates();
         QVERIFY2(problems.isEmpty(), qUtf8Printable(u'\n' + problems.join(u'\n')));
     }

@@ -6,9 +6,11 @@
 
 #include <QAction>
 #include <QDir>
+#include <QHeaderView>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTest>
@@ -218,6 +220,28 @@ private slots:
         stage.start();
         QVERIFY(stage.waitForEnd());
         QVERIFY(stage.prompts.asked.isEmpty());
+    }
+
+    void keepsItsPlaceBetweenRuns()
+    {
+        Stage stage;
+        const QRect place(20, 60, 720, 600);
+        stage.window->setGeometry(place);
+        stage.window->goToStep(2);
+        auto *splitter = stage.find<QSplitter>(u"ResultsSplitter"_qs);
+        auto *header = stage.find<QTreeView>(u"DuplicateFilesTree"_qs)->header();
+        const int wider = header->sectionSize(0) + 25;
+        header->resizeSection(0, wider);
+        const QList<int> sizes = splitter->sizes();
+        stage.window->close();
+
+        stage.settings = Mirrix::readSettings(stage.settings.directory);
+        stage.settings.trayEnabled = false;
+        stage.open();
+        QCOMPARE(stage.window->geometry(), place);
+        stage.window->goToStep(2);
+        QCOMPARE(stage.find<QTreeView>(u"DuplicateFilesTree"_qs)->header()->sectionSize(0), wider);
+        QCOMPARE(stage.find<QSplitter>(u"ResultsSplitter"_qs)->sizes(), sizes);
     }
 
     void endsInTheMiddleOfAScan()

@@ -52,6 +52,7 @@ LocationsPage::LocationsPage(Prompts &prompts, QWidget *parent, DriveLister driv
     setObjectName(QStringLiteral("LocationsPage"));
     m_tableSide = buildTableSide();
     auto *splitter = new QSplitter;
+    splitter->setObjectName(QStringLiteral("LocationsSplitter"));
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(m_browser);
     splitter->addWidget(m_tableSide);

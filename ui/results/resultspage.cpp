@@ -123,6 +123,7 @@ void ResultsPage::layOut()
     m_splitter->addWidget(side);
     m_splitter->setStretchFactor(0, 1);
     m_splitter->setChildrenCollapsible(false);
+    m_splitter->setHandleWidth(12);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(12);

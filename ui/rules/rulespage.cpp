@@ -39,6 +39,7 @@ RulesPage::RulesPage(QWidget *parent)
     auto *splitter = new QSplitter(this);
     splitter->setObjectName(QStringLiteral("RulesSplitter"));
     splitter->setChildrenCollapsible(false);
+    splitter->setHandleWidth(12);
     splitter->addWidget(m_tabs);
     splitter->addWidget(makeCommonSide());
     splitter->setStretchFactor(0, 1);
