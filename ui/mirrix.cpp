@@ -278,9 +278,9 @@ void Mirrix::onClearRequested()
 
 void Mirrix::clearResults()
 {
+    ResultSet old = std::exchange(m_results, {});
     m_resultsPage->clearResults();
-    discard(std::exchange(m_results, {}));
-    m_resultsPage->setProgress(0);
+    discard(std::move(old));
 }
 
 void Mirrix::setScanning(bool on)

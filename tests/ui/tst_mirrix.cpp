@@ -174,6 +174,13 @@ private slots:
         QCOMPARE(tree->model()->rowCount(tree->model()->index(0, 0)), 3);
         QVERIFY(tree->isExpanded(tree->model()->index(0, 0)));
         QCOMPARE(stage.find<QStackedWidget>(u"WizardPages"_qs)->currentIndex(), 2);
+        auto *hint = stage.find<QTreeView>(u"DuplicateFilesTree"_qs)->viewport()->findChild<QLabel *>();
+        QVERIFY(!hint->isVisible());
+        stage.click(u"ClearResultsButton"_qs);
+        QCOMPARE(tree->model()->rowCount(), 0);
+        QCOMPARE(stage.find<QLabel>(u"SummaryLabel"_qs)->text(), u"结果已清空。切换Tab调整规则后可重新开始扫描。"_qs);
+        QVERIFY(hint->isVisible());
+        QCOMPARE(hint->text(), u"扫描后在这里显示结果。"_qs);
         QCOMPARE(stage.logged(),
                  QStringList({u"app_start|Mirrix started"_qs, u"scan_start|"_qs + stage.tree.path(u"in"_qs),
                               u"scan_done|groups=1 wasted=16 candidates=3"_qs}));

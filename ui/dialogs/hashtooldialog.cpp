@@ -5,6 +5,7 @@
 #include "core/match/parallel.h"
 #include "core/platform/nativepath.h"
 #include "ui/dialogs/fileprogressdialog.h"
+#include "ui/emptyhint.h"
 #include "ui/logic/asidethreads.h"
 #include "ui/logic/resulttexts.h"
 #include "ui/prompts.h"
@@ -173,6 +174,7 @@ void HashToolDialog::buildTable()
     const int letter = fontMetrics().averageCharWidth();
     m_table->setObjectName(QStringLiteral("HashTable"));
     m_table->setColumnCount(ColumnCount);
+    new EmptyHint(m_table, [] { return Text::tr("可将文件或文件夹拖放到此窗口"); });
     m_table->setRootIsDecorated(false);
     m_table->setUniformRowHeights(true);
     m_table->setAlternatingRowColors(true);

@@ -1,6 +1,7 @@
 #include "ui/dialogs/logviewer.h"
 
 #include "app/text.h"
+#include "ui/emptyhint.h"
 #include "ui/logic/asidethreads.h"
 #include "ui/logic/logmodel.h"
 
@@ -69,6 +70,7 @@ void LogViewer::buildTable()
     m_table->setTabKeyNavigation(false);
     m_table->verticalHeader()->hide();
     m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 10);
+    new EmptyHint(m_table, [this] { return m_filter->text().isEmpty() ? QString() : Text::tr("没有匹配的记录。"); });
     QHeaderView *header = m_table->horizontalHeader();
     header->setStretchLastSection(true);
     header->setHighlightSections(false);

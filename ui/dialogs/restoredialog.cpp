@@ -1,6 +1,7 @@
 #include "ui/dialogs/restoredialog.h"
 
 #include "app/text.h"
+#include "ui/emptyhint.h"
 
 #include <QDialogButtonBox>
 #include <QEvent>
@@ -37,6 +38,7 @@ RestoreDialog::RestoreDialog(const QStringList &lines, QWidget *parent)
     m_rows->setFilterCaseSensitivity(Qt::CaseInsensitive);
     m_list->setModel(m_rows);
     m_label->setBuddy(m_list);
+    new EmptyHint(m_list, [] { return Text::tr("没有匹配的文件。"); });
     buildLayout();
 
     connect(m_filter, &QLineEdit::textChanged, this, &RestoreDialog::filter);

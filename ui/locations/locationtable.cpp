@@ -1,6 +1,7 @@
 #include "ui/locations/locationtable.h"
 
 #include "app/text.h"
+#include "ui/emptyhint.h"
 #include "ui/logic/columntitle.h"
 
 #include <QClipboard>
@@ -93,6 +94,8 @@ LocationTable::LocationTable(QWidget *parent)
     header->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
     header->setMinimumSectionSize(fontMetrics().averageCharWidth() * 12);
     header->setHighlightSections(false);
+    new EmptyHint(this,
+                  [] { return Text::tr("还没有扫描位置。\n点击“+文件夹”，在左侧选择，或把文件夹拖放、粘贴到这里。"); });
     retranslate();
 }
 

@@ -1,6 +1,7 @@
 #include "ui/results/resultspage.h"
 
 #include "app/text.h"
+#include "ui/emptyhint.h"
 #include "ui/logic/resulttexts.h"
 #include "ui/results/batchpanel.h"
 #include "ui/results/duplicatefilestreedelegate.h"
@@ -83,6 +84,14 @@ void ResultsPage::setUpTrees()
     m_folderTree->setModel(&m_folders);
     m_remainingTree->setModel(&m_remaining);
     m_remainingTree->setRootIsDecorated(false);
+    const auto hint = [this](const QString &nothingFound) {
+        return m_results.filesScanned > 0 ? nothingFound : Text::tr("扫描后在这里显示结果。");
+    };
+    new EmptyHint(m_tree, [hint] { return hint(Text::tr("没有找到重复文件。")); });
+    new EmptyHint(m_folderTree, [hint] { return hint(Text::tr("没有找到重复文件夹。")); });
+    new EmptyHint(m_remainingTree, [hint] {
+        return hint(Text::tr("没有列出其余文件。\n要查看它们，请在扫描位置中打开“显示其余文件”，然后重新扫描。"));
+    });
 }
 
 void ResultsPage::fitColumns()
