@@ -2181,5 +2181,37 @@ GPS: %1, %2</translation>
         <source>请选中同一组内的两个图片文件进行对比。</source>
         <translation>Select two image files of the same group to compare.</translation>
     </message>
+    <message>
+        <source>没有匹配的记录。</source>
+        <translation>No matching records.</translation>
+    </message>
+    <message>
+        <source>没有匹配的文件。</source>
+        <translation>No matching files.</translation>
+    </message>
+    <message>
+        <source>还没有扫描位置。
+点击“+文件夹”，在左侧选择，或把文件夹拖放、粘贴到这里。</source>
+        <translation>No scan locations yet.
+Click “+ Folder”, choose on the left, or drop or paste folders here.</translation>
+    </message>
+    <message>
+        <source>扫描后在这里显示结果。</source>
+        <translation>Results appear here after a scan.</translation>
+    </message>
+    <message>
+        <source>没有找到重复文件。</source>
+        <translation>No duplicate files found.</translation>
+    </message>
+    <message>
+        <source>没有找到重复文件夹。</source>
+        <translation>No duplicate folders found.</translation>
+    </message>
+    <message>
+        <source>没有列出其余文件。
+要查看它们，请在扫描位置中打开“显示其余文件”，然后重新扫描。</source>
+        <translation>No other files are listed.
+To see them, switch on “Show remaining files” for a scan location and scan again.</translation>
+    </message>
 </context>
 </TS>
