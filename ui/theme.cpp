@@ -50,7 +50,8 @@ QPalette themePalette(const ThemeColours &colours)
     set(QPalette::Mid, colours.border);
     set(QPalette::Dark, colours.border);
     set(QPalette::Shadow, colours.sidebar);
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText})
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText,
+                            QPalette::PlaceholderText})
         palette.setColor(QPalette::Disabled, role, QColor(colours.disabled));
     palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(colours.border));
     return palette;

@@ -106,7 +106,8 @@ bool Gallery::scan()
     if (!QTest::qWaitFor([this] { return !m_window->isScanning(); }, 60000))
         return false;
     auto *tree = m_window->findChild<QTreeView *>(u"DuplicateFilesTree"_qs);
-    tree->setCurrentIndex(tree->model()->index(0, 1, tree->model()->index(0, 0)));
+    constexpr int pictures = 1; // the first group is of documents
+    tree->setCurrentIndex(tree->model()->index(0, 1, tree->model()->index(pictures, 0)));
     return true;
 }
 

@@ -1,5 +1,5 @@
-// Takes pictures of all windows: screenshots FOLDER [THEME [LANGUAGE]]. Runs a real scan on sample files of its own and
-// grabs each page and dialog. scripts/screenshots.sh calls it for all themes, languages and scales.
+// Takes pictures of all windows: screenshots FOLDER [THEME [LANGUAGE [NAME...]]]. Runs a real scan on sample files of its
+// own and grabs each page and dialog, or those named. scripts/screenshots.sh calls it.
 
 #include "app/translations.h"
 #include "tests/ui/gallery.h"
@@ -30,7 +30,10 @@ int main(int argc, char *argv[])
     gallery.window().resize(1280, 800);
     if (!gallery.scan())
         return 1;
-    gallery.visitAll([&prefix](const QString &name, QWidget &window) {
+    const QStringList wanted = arguments.mid(4);
+    gallery.visitAll([&](const QString &name, QWidget &window) {
+        if (!wanted.isEmpty() && !wanted.contains(name))
+            return;
         constexpr int arrivalMs = 300; // of pictures, layouts and what is read aside
         QTest::qWait(arrivalMs);
         window.grab().save(prefix + name + u".png"_qs);

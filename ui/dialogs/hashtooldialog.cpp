@@ -170,8 +170,9 @@ QHBoxLayout *HashToolDialog::buildControls()
 
 void HashToolDialog::buildTable()
 {
-    constexpr int hashLetters = 34; // an MD5 digest whole
-    const int letter = fontMetrics().averageCharWidth();
+    constexpr int digits = 32; // an MD5 digest whole
+    constexpr int padding = 24;
+    const int hashWidth = fontMetrics().horizontalAdvance(QString(digits, QLatin1Char('0'))) + padding;
     m_table->setObjectName(QStringLiteral("HashTable"));
     m_table->setColumnCount(ColumnCount);
     new EmptyHint(m_table, [] { return Text::tr("可将文件或文件夹拖放到此窗口"); });
@@ -184,7 +185,7 @@ void HashToolDialog::buildTable()
     m_table->setContextMenuPolicy(Qt::CustomContextMenu);
     m_table->header()->setStretchLastSection(false);
     m_table->header()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
-    m_table->header()->resizeSection(HashColumn, hashLetters * letter);
+    m_table->header()->resizeSection(HashColumn, hashWidth);
     m_table->header()->setSortIndicator(-1, Qt::AscendingOrder); // as added, until the user sorts
     m_table->setSortingEnabled(true);
     connect(m_table, &QWidget::customContextMenuRequested, this, &HashToolDialog::showMenu);
