@@ -1,5 +1,6 @@
 ; The Windows installer: for one user, without administrator rights. Uninstalling leaves settings, backups and the log.
-; Given by package.sh: VERSION, STAGE (the program's folder), ICON, OUTPUT.
+; Given by package.sh: VERSION, STAGE (the program's folder), SIZE_KIB of it, REMOVAL (lines that
+; remove what it holds, folders only when empty), ICON, OUTPUT.
 
 Unicode true
 SetCompressor /SOLID lzma
@@ -43,19 +44,49 @@ VIAddVersionKey LegalCopyright "Mirrix"
 !insertmacro MUI_LANGUAGE "Italian"
 !insertmacro MUI_LANGUAGE "Dutch"
 
+!insertmacro MUI_RESERVEFILE_LANGDLL
+
+LangString IsRunning ${LANG_ENGLISH} "Mirrix is running. Exit it completely (icon in the notification area), then try again."
+LangString IsRunning ${LANG_SIMPCHINESE} "Mirrix 正在运行。请先通过托盘图标完整退出，然后重试。"
+LangString IsRunning ${LANG_TRADCHINESE} "Mirrix 正在執行。請先透過系統匣圖示完整結束，然後重試。"
+LangString IsRunning ${LANG_GERMAN} "Mirrix läuft noch. Bitte beenden Sie es vollständig (Symbol im Infobereich) und versuchen Sie es erneut."
+LangString IsRunning ${LANG_JAPANESE} "Mirrix が実行中です。通知領域のアイコンから完全に終了して、もう一度お試しください。"
+LangString IsRunning ${LANG_FRENCH} "Mirrix est en cours d’exécution. Quittez-le complètement (icône de la zone de notification), puis réessayez."
+LangString IsRunning ${LANG_SPANISH} "Mirrix está en ejecución. Ciérrelo por completo (icono del área de notificación) e inténtelo de nuevo."
+LangString IsRunning ${LANG_PORTUGUESEBR} "O Mirrix está em execução. Encerre-o por completo (ícone na área de notificação) e tente novamente."
+LangString IsRunning ${LANG_KOREAN} "Mirrix가 실행 중입니다. 알림 영역의 아이콘에서 완전히 종료한 후 다시 시도하십시오."
+LangString IsRunning ${LANG_ITALIAN} "Mirrix è in esecuzione. Chiuderlo completamente (icona nell’area di notifica) e riprovare."
+LangString IsRunning ${LANG_DUTCH} "Mirrix is actief. Sluit het volledig af (pictogram in het systeemvak) en probeer het opnieuw."
+
+; The program lives on in the notification area when its window is closed, and its files cannot be replaced then.
+!macro STOP_WHILE_RUNNING
+    again:
+        IfFileExists "$INSTDIR\Mirrix.exe" 0 closed
+        ClearErrors
+        FileOpen $0 "$INSTDIR\Mirrix.exe" a
+        IfErrors 0 free
+        MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$(IsRunning)" /SD IDCANCEL IDRETRY again
+        SetErrorLevel 2
+        Quit
+    free:
+        FileClose $0
+    closed:
+!macroend
+
 Function .onInit
     !insertmacro MUI_LANGDLL_DISPLAY
 FunctionEnd
 
+Function un.onInit
+    !insertmacro MUI_UNGETLANGUAGE
+FunctionEnd
+
 Section
+    !insertmacro STOP_WHILE_RUNNING
+    ; An older version removes what it had, and only that: the user may have chosen a folder with other files.
+    IfFileExists "$INSTDIR\Uninstall.exe" 0 +2
+    ExecWait '"$INSTDIR\Uninstall.exe" /S _?=$INSTDIR'
     SetOutPath "$INSTDIR"
-    ; What an older version left; the program's own files only.
-    RMDir /r "$INSTDIR\platforms"
-    RMDir /r "$INSTDIR\styles"
-    RMDir /r "$INSTDIR\imageformats"
-    RMDir /r "$INSTDIR\translations"
-    RMDir /r "$INSTDIR\licences"
-    Delete "$INSTDIR\*.dll"
     File /r "${STAGE}\*.*"
     CreateShortcut "$SMPROGRAMS\Mirrix.lnk" "$INSTDIR\Mirrix.exe"
     WriteUninstaller "$INSTDIR\Uninstall.exe"
@@ -67,24 +98,16 @@ Section
     WriteRegStr HKCU "${UNINSTALL}" "InstallLocation" "$INSTDIR"
     WriteRegStr HKCU "${UNINSTALL}" "UninstallString" '"$INSTDIR\Uninstall.exe"'
     WriteRegStr HKCU "${UNINSTALL}" "QuietUninstallString" '"$INSTDIR\Uninstall.exe" /S'
+    WriteRegDWORD HKCU "${UNINSTALL}" "EstimatedSize" ${SIZE_KIB}
     WriteRegDWORD HKCU "${UNINSTALL}" "NoModify" 1
     WriteRegDWORD HKCU "${UNINSTALL}" "NoRepair" 1
 SectionEnd
 
 Section "Uninstall"
+    !insertmacro STOP_WHILE_RUNNING
     Delete "$SMPROGRAMS\Mirrix.lnk"
-    Delete "$INSTDIR\Mirrix.exe"
-    Delete "$INSTDIR\mirrix-cli.exe"
-    Delete "$INSTDIR\*.dll"
-    Delete "$INSTDIR\qt.conf"
-    Delete "$INSTDIR\README.md"
-    RMDir /r "$INSTDIR\platforms"
-    RMDir /r "$INSTDIR\styles"
-    RMDir /r "$INSTDIR\imageformats"
-    RMDir /r "$INSTDIR\translations"
-    RMDir /r "$INSTDIR\licences"
+    !include "${REMOVAL}"
     Delete "$INSTDIR\Uninstall.exe"
-    ; Only when empty: the user may keep files here.
     RMDir "$INSTDIR"
     DeleteRegKey HKCU "${UNINSTALL}"
     DeleteRegKey HKCU "Software\Mirrix"

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Makes the Windows packages: a portable zip and, where makensis is, an installer.
+# Makes the Windows packages: a portable zip and an installer.
 #   package.sh [FOLDER]     writes into FOLDER (default: dist)
 # Needs what scripts/install-deps.sh --windows --packages installs, and the prefix with Qt for Windows ($WINDOWS_SDK,
 # default .deps/winsdk).
@@ -18,16 +18,15 @@ cmake --build --preset windows --target Mirrix mirrix-cli
 stage=$(mktemp -d)
 trap 'rm -rf "$stage"' EXIT
 app=$stage/Mirrix
-mkdir -p "$app/platforms" "$app/styles" "$app/imageformats" "$app/translations" "$app/licences"
+mkdir -p "$app/platforms" "$app/imageformats" "$app/translations" "$app/licences"
 
 cp build/windows/bin/Mirrix.exe build/windows/bin/mirrix-cli.exe "$app"
-x86_64-w64-mingw32-strip "$app"/*.exe
 cp "$sdk/qt/plugins/platforms/qwindows.dll" "$app/platforms"
-cp "$sdk"/qt/plugins/styles/*.dll "$app/styles"
 cp "$sdk"/qt/plugins/imageformats/*.dll "$app/imageformats"
 cp "$sdk/bin/libmediainfo.dll" "$app/MediaInfo.dll" # loaded at run time, under this name
 gcc=$(dirname "$(x86_64-w64-mingw32-gcc-posix -print-libgcc-file-name)")
 packaging/windows/collect.py "$app" "$sdk/qt/bin" "$sdk/bin" "$gcc" /usr/x86_64-w64-mingw32/lib
+find "$app" -name '*.exe' -o -name '*.dll' | xargs -d '\n' x86_64-w64-mingw32-strip --strip-unneeded
 printf '[Paths]\nPlugins = .\nTranslations = translations\n' >"$app/qt.conf"
 
 # Qt's own texts, in the languages of the program.
@@ -36,17 +35,26 @@ for catalogue in resources/translations/mirrix_*.ts; do
     language=${language#mirrix_}
     for name in "$language" "${language}_BR"; do
         file=/usr/share/qt6/translations/qtbase_$name.qm
-        [ -f "$file" ] && cp "$file" "$app/translations"
+        if [ -f "$file" ]; then
+            cp "$file" "$app/translations"
+        fi
     done
 done
 packaging/windows/licences.sh "$app/licences"
 cp README.md "$app"
 
-(cd "$stage" && rm -f "$out/Mirrix-$version-win64-setup.exe" &&
-    if command -v makensis >/dev/null; then
-        makensis -V2 -DVERSION="$version" -DSTAGE="$app" -DICON="$root/build/windows/resources/mirrix.ico" \
-            -DOUTPUT="$out/Mirrix-$version-win64-setup.exe" "$root/packaging/windows/installer.nsi"
-    fi)
+# The uninstaller removes these files and no others; folders only when they are empty.
+removal=$stage/removal.nsh
+(
+    cd "$app"
+    find . -type f -printf '%P\n' | sort | sed 's|/|\\|g; s|.*|Delete "$INSTDIR\\&"|'
+    find . -mindepth 1 -depth -type d -printf '%P\n' | sed 's|/|\\|g; s|.*|RMDir "$INSTDIR\\&"|'
+) >"$removal"
+setup=$out/Mirrix-$version-win64-setup.exe
+rm -f "$setup"
+makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$version" -DSTAGE="$app" -DREMOVAL="$removal" -DOUTPUT="$setup" \
+    -DSIZE_KIB="$(du -sk "$app" | cut -f1)" -DICON="$root/build/windows/resources/mirrix.ico" \
+    packaging/windows/installer.nsi
 
 : >"$app/Mirrix.portable"
 zip=$out/Mirrix-$version-win64-portable.zip
