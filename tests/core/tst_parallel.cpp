@@ -3,10 +3,26 @@
 #include <QSemaphore>
 #include <QTest>
 
+#include <array>
 #include <set>
 #include <stdexcept>
+#include <thread>
 
 using namespace MirrixCore;
+
+namespace {
+
+/// As large as what a heap overwrites when it is freed.
+struct LastWords
+{
+    static inline std::array<quint64, 32> heard;
+    std::array<quint64, 32> words = {};
+    ~LastWords() { heard = words; }
+};
+
+thread_local LastWords last;
+
+} // namespace
 
 class ParallelTest : public QObject
 {
@@ -18,6 +34,7 @@ private slots:
     void everyItemOnce();
     void leavesAThreadToThePainter();
     void passesExceptionsOn();
+    void threadLocalsAreWholeAtTheEnd();
 
 private:
     static constexpr int threads = 3;
@@ -84,6 +101,13 @@ void ParallelTest::passesExceptionsOn()
     };
     QVERIFY_THROWS_EXCEPTION(std::runtime_error, forEachParallel(1000, fail));
     QVERIFY(begun <= threads);
+}
+
+void ParallelTest::threadLocalsAreWholeAtTheEnd()
+{
+    static constexpr quint64 word = 0x6d69727269782121;
+    std::thread([] { last.words.fill(word); }).join();
+    QVERIFY(std::all_of(LastWords::heard.begin(), LastWords::heard.end(), [](quint64 heard) { return heard == word; }));
 }
 
 QTEST_GUILESS_MAIN(ParallelTest)
