@@ -4,6 +4,7 @@
 #   install-deps.sh --windows        also what the cross-built Windows program and its tests need
 #   install-deps.sh --packages       also what makes the Windows packages
 #   install-deps.sh --screenshots    also what takes pictures of the window
+#   install-deps.sh --e2e            also what the tests of the Windows packages need
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -19,6 +20,7 @@ for option in "$@"; do
         ;;
     --packages) packages+=(nsis qt6-translations-l10n) ;;
     --screenshots) packages+=(xvfb xauth fonts-noto-cjk fonts-dejavu-core) ;;
+    --e2e) packages+=(xvfb xdotool imagemagick tesseract-ocr tesseract-ocr-eng fonts-noto-cjk fonts-dejavu-core) ;;
     *)
         echo "install-deps.sh: unknown option $option" >&2
         exit 2

@@ -2,7 +2,7 @@
 ; Given by package.sh: VERSION, STAGE (the program's folder), SIZE_KIB of it, REMOVAL (lines that
 ; remove what it holds, folders only when empty), ICON, OUTPUT.
 
-Unicode true
+Target amd64-unicode
 SetCompressor /SOLID lzma
 !include MUI2.nsh
 
