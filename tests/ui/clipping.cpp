@@ -35,6 +35,8 @@ QSize neededBy(const QLabel &label)
 {
     if (!label.wordWrap())
         return label.sizeHint();
+    if (label.parentWidget() && qobject_cast<const QScrollArea *>(label.parentWidget()->parentWidget()))
+        return {label.minimumSizeHint().width(), 0}; // scrolled
     return {label.minimumSizeHint().width(), label.heightForWidth(label.width())};
 }
 

@@ -76,7 +76,7 @@ PreviewPane::PreviewPane(QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(8);
     layout->addWidget(m_title);
-    constexpr int lines = 6; // of facts; more are scrolled
+    constexpr int lines = 8; // of facts; more are scrolled
     m_facts->setMaximumHeight(fontMetrics().lineSpacing() * lines);
     layout->addWidget(m_canvas, 1);
     layout->addWidget(m_facts);
