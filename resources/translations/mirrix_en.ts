@@ -2213,5 +2213,9 @@ Click “+ Folder”, choose on the left, or drop or paste folders here.</transl
         <translation>No other files are listed.
 To see them, switch on “Show remaining files” for a scan location and scan again.</translation>
     </message>
+    <message>
+        <source>筛选只改变列表中显示的内容，勾选与批量操作仍针对全部结果。</source>
+        <translation>The filter only changes what the lists show; ticks and batch actions still apply to all results.</translation>
+    </message>
 </context>
 </TS>

@@ -136,6 +136,13 @@ private slots:
         prompts.confirmations.append({true, false});
         press(Qt::Key_F5);
         QVERIFY(QTest::qWaitFor([&window] { return !window.isScanning(); }, 60000));
+        const auto *groups = window.findChild<QTreeView *>(u"DuplicateFilesTree"_qs);
+        QVERIFY(tabTo(u"ResultsFilter"_qs));
+        QTest::keyClicks(QApplication::focusWidget(), u"B.TXT?"_qs);
+        QTRY_COMPARE(groups->model()->rowCount(), 0);
+        press(Qt::Key_Backspace);
+        QTRY_COMPARE(groups->model()->rowCount(), 1);
+        QVERIFY(groups->isExpanded(groups->model()->index(0, 0)));
         QVERIFY(tabTo(u"DuplicateFilesTree"_qs));
         for (const Qt::Key key : {Qt::Key_Home, Qt::Key_Down, Qt::Key_Down, Qt::Key_Space})
             press(key);

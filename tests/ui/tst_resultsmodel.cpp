@@ -150,6 +150,41 @@ private slots:
         QVERIFY(results.marks.isMarked(1, 1)); // the mark of the group, not of the row
     }
 
+    void filtersByPath()
+    {
+        Mirrix::ResultSet results = made();
+        results.marks.setMarked(2, 1, true);
+        const Mirrix::SuffixIcons icons;
+        ResultsModel model(results, icons);
+        model.reload();
+        const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QSignalSpy filtered(&model, &ResultsModel::filtered);
+        const auto shown = [&model] {
+            QList<int> groups;
+            for (int row = 0; row < model.rowCount(); ++row)
+                groups.append(int(model.itemOf(model.index(row, 0))));
+            return groups;
+        };
+        model.setPathFilter(u"/b/"_qs); // overtaken by the next
+        model.setPathFilter(u"1.jp"_qs);
+        QTRY_COMPARE(filtered.size(), 1);
+        QCOMPARE(shown(), QList({0, 1}));
+        QCOMPARE(model.rowCount(model.index(1, 0)), 3); // with the copies that do not match
+        QVERIFY(!model.itemIndex(2).isValid());
+        model.sort(ResultsModel::FileColumn);
+        QTRY_COMPARE(shown(), QList({1, 0}));
+        QVERIFY(model.setData(model.index(0, 0, model.index(0, 0)), Qt::Checked, Qt::CheckStateRole));
+        QVERIFY(results.marks.isMarked(1, 0));
+        model.setPathFilter(u"nowhere"_qs);
+        QTRY_COMPARE(shown(), QList<int>());
+        model.setPathFilter({});
+        QTRY_COMPARE(shown(), QList({1, 2, 0}));
+        QCOMPARE(results.marks.markedInAll(), 2);
+        model.setPathFilter(u"/a/"_qs);
+        model.reload(); // new results forget the filter
+        QCOMPARE(shown(), QList({0, 1, 2}));
+    }
+
     void showsFoldersAndRemaining()
     {
         Mirrix::ResultSet results = made();

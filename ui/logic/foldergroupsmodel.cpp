@@ -6,6 +6,8 @@
 #include "ui/logic/resultsmodel.h"
 #include "ui/logic/resulttexts.h"
 
+#include <algorithm>
+
 namespace Mirrix {
 
 using MirrixCore::FolderEntry;
@@ -85,6 +87,16 @@ Qt::Alignment FolderGroupsModel::alignment(int column) const
 RowOrder::Sort FolderGroupsModel::sortBy(int column, bool descending) const
 {
     return sortOf(m_results.folderGroups, columnInfo(column).sortKey, descending);
+}
+
+RowOrder::Filter FolderGroupsModel::filterBy(const QString &words) const
+{
+    return [groups = m_results.folderGroups, words](qsizetype item) {
+        const QList<FolderEntry> &folders = groups[item].folders;
+        return std::any_of(folders.begin(), folders.end(), [&words](const FolderEntry &folder) {
+            return folder.path.contains(words, Qt::CaseInsensitive);
+        });
+    };
 }
 
 QVariant FolderGroupsModel::itemData(qsizetype item, int column, int role) const

@@ -1,12 +1,14 @@
 #include "ui/logic/groupedmodel.h"
 
+#include <QDir>
+
 namespace Mirrix {
 
 GroupedModel::GroupedModel(int columns, QObject *parent)
     : QAbstractItemModel(parent)
     , m_columns(columns)
 {
-    connect(&m_order, &RowOrder::sorted, this, &GroupedModel::applyOrder);
+    connect(&m_order, &RowOrder::arranged, this, &GroupedModel::apply);
 }
 
 void GroupedModel::reload()
@@ -28,7 +30,8 @@ qsizetype GroupedModel::itemOf(const QModelIndex &index) const
 
 QModelIndex GroupedModel::itemIndex(qsizetype item) const
 {
-    return createIndex(m_order.rowOf(item), 0, quintptr(item));
+    const int row = m_order.rowOf(item);
+    return row < 0 ? QModelIndex() : createIndex(row, 0, quintptr(item));
 }
 
 QModelIndex GroupedModel::index(int row, int column, const QModelIndex &parent) const
@@ -99,7 +102,24 @@ void GroupedModel::sort(int column, Qt::SortOrder order)
         m_order.start([] { return Permutation(); });
 }
 
-void GroupedModel::applyOrder(const Permutation &items)
+void GroupedModel::setPathFilter(const QString &words)
+{
+    m_order.setFilter(words.isEmpty() ? RowOrder::Filter() : filterBy(QDir::fromNativeSeparators(words)));
+}
+
+void GroupedModel::apply(const Arrangement &arrangement)
+{
+    if (!m_order.isFiltered() && !arrangement.isFiltered) {
+        applyOrder(arrangement);
+        return;
+    }
+    beginResetModel();
+    m_order.apply(arrangement);
+    endResetModel();
+    emit filtered();
+}
+
+void GroupedModel::applyOrder(const Arrangement &arrangement)
 {
     emit layoutAboutToBeChanged({}, VerticalSortHint);
     const QModelIndexList before = persistentIndexList();
@@ -107,7 +127,7 @@ void GroupedModel::applyOrder(const Permutation &items)
     numbers.reserve(before.size());
     for (const QModelIndex &index : before)
         numbers.append(itemOf(index));
-    m_order.apply(items);
+    m_order.apply(arrangement);
     QModelIndexList after = before;
     for (qsizetype i = 0; i < before.size(); ++i) {
         if (!isChild(before[i]))

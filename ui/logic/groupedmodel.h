@@ -16,7 +16,8 @@ class GroupedModel : public QAbstractItemModel
     Q_OBJECT
 
 public:
-    /// To call when the list has been replaced, before anything else happens: all rows anew, unsorted. O(1).
+    /// To call when the list has been replaced, before anything else happens: all rows anew, unsorted and unfiltered.
+    /// O(1).
     void reload();
 
     /// To call when the language changed. The rows need no signal: views repaint then anyway.
@@ -41,6 +42,14 @@ public:
     /// pool thread has sorted a shared copy of the list; the latest call wins.
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
+    /// Shows only the top rows whose path, or a path below them, holds `words` without regard to case; with empty words
+    /// all. Happens later, like a sort; `filtered` follows.
+    void setPathFilter(const QString &words);
+
+signals:
+    /// Other rows are shown than before, after a reset.
+    void filtered();
+
 protected:
     GroupedModel(int columns, QObject *parent);
 
@@ -52,10 +61,14 @@ protected:
     virtual QVariant childData(qsizetype item, int child, int column, int role) const = 0;
     virtual RowOrder::Sort sortBy(int column, bool descending) const = 0;
 
+    /// Admits an item by its paths; called on other threads, so it must own what it reads.
+    virtual RowOrder::Filter filterBy(const QString &words) const = 0;
+
 private:
     static constexpr quintptr childBit = quintptr(1) << (8 * sizeof(quintptr) - 1);
 
-    void applyOrder(const Permutation &items);
+    void apply(const Arrangement &arrangement);
+    void applyOrder(const Arrangement &arrangement);
 
     const int m_columns;
     RowOrder m_order;

@@ -82,6 +82,13 @@ RowOrder::Sort RemainingModel::sortBy(int column, bool descending) const
     return sortOf(m_results.remaining, columnInfo(column).sortKey, descending);
 }
 
+RowOrder::Filter RemainingModel::filterBy(const QString &words) const
+{
+    return [files = m_results.remaining, words](qsizetype item) {
+        return files[item].path.contains(words, Qt::CaseInsensitive);
+    };
+}
+
 QVariant RemainingModel::itemData(qsizetype item, int column, int role) const
 {
     const FileEntry &file = m_results.remaining[item];

@@ -34,6 +34,7 @@ protected:
     QVariant itemData(qsizetype item, int column, int role) const override;
     QVariant childData(qsizetype item, int child, int column, int role) const override;
     RowOrder::Sort sortBy(int column, bool descending) const override;
+    RowOrder::Filter filterBy(const QString &words) const override;
 
 private:
     const ResultSet &m_results;

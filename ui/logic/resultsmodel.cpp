@@ -4,6 +4,8 @@
 #include "ui/logic/bytetext.h"
 #include "ui/logic/resulttexts.h"
 
+#include <algorithm>
+
 namespace Mirrix {
 
 using MirrixCore::DuplicateGroup;
@@ -116,6 +118,15 @@ Qt::Alignment ResultsModel::alignment(int column) const
 RowOrder::Sort ResultsModel::sortBy(int column, bool descending) const
 {
     return sortOf(m_results.groups, columnInfo(column).sortKey, descending);
+}
+
+RowOrder::Filter ResultsModel::filterBy(const QString &words) const
+{
+    return [groups = m_results.groups, words](qsizetype item) {
+        const QList<FileEntry> &files = groups[item].files;
+        return std::any_of(files.begin(), files.end(),
+                           [&words](const FileEntry &file) { return file.path.contains(words, Qt::CaseInsensitive); });
+    };
 }
 
 QString ResultsModel::groupText(qsizetype group, int column) const

@@ -3,7 +3,9 @@
 #include <QFutureWatcher>
 #include <QObject>
 
+#include <atomic>
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace Mirrix {
@@ -11,41 +13,70 @@ namespace Mirrix {
 /// Item numbers in the order of their rows.
 using Permutation = std::vector<quint32>;
 
-/// Which item stands in which row of a model: a permutation, sorted off the interface thread. Interface thread only.
+/// An order of all items and which of them are shown.
+struct Arrangement
+{
+    Permutation order; ///< of all items; empty = their own
+    Permutation shown; ///< item of each row, where a filter is set
+    bool isFiltered = false;
+};
+
+/// Which item stands in which row of a model: a permutation, or a part of one, sorted and filtered off the interface
+/// thread. Interface thread only.
 class RowOrder : public QObject
 {
     Q_OBJECT
 
 public:
     using Sort = std::function<Permutation()>;
+    using Filter = std::function<bool(qsizetype item)>;
 
     explicit RowOrder(QObject *parent = nullptr);
 
-    /// `count` items in their own order. A sort under way is forgotten. O(1).
+    ~RowOrder() override;
+
+    /// `count` items in their own order, all shown. Work under way is forgotten. O(1).
     void reset(qsizetype count);
 
-    [[nodiscard]] int count() const { return static_cast<int>(m_count); }
-    [[nodiscard]] qsizetype itemAt(int row) const { return m_items.empty() ? row : m_items[static_cast<size_t>(row)]; }
+    /// Rows, not items.
+    [[nodiscard]] int count() const { return static_cast<int>(isOwn() ? m_count : qsizetype(rows().size())); }
+    [[nodiscard]] bool isFiltered() const { return m_now.isFiltered; }
+    [[nodiscard]] qsizetype itemAt(int row) const { return isOwn() ? row : rows()[static_cast<size_t>(row)]; }
+
+    /// -1 for an item that is not shown.
     [[nodiscard]] int rowOf(qsizetype item) const
     {
-        return static_cast<int>(m_rows.empty() ? item : m_rows[static_cast<size_t>(item)]);
+        return static_cast<int>(isOwn() ? item : m_rowOf[static_cast<size_t>(item)]);
     }
 
-    /// Runs `sort` on a pool thread, so it must own what it reads. The latest call wins; `sorted` follows.
+    /// Runs `sort` on a pool thread, so it must own what it reads. An empty permutation is the items' own order. The
+    /// latest call wins; `arranged` follows.
     void start(Sort sort);
 
-    /// Takes the order over: empty for the items' own order, else as many numbers as there are items. O(n).
-    void apply(Permutation items);
+    /// Shows only the items that `filter` admits, in the order there is; all without one. It runs on a pool thread like
+    /// a sort; the latest call wins, and `arranged` follows.
+    void setFilter(Filter filter);
+
+    /// Takes the arrangement over. O(n).
+    void apply(Arrangement arrangement);
 
 signals:
-    /// A sort is done. The receiver announces the change to its views and calls `apply` with it.
-    void sorted(const Mirrix::Permutation &items);
+    /// Sort and filter are done. The receiver announces the change to its views and calls `apply` with it.
+    void arranged(const Mirrix::Arrangement &arrangement);
 
 private:
-    QFutureWatcher<Permutation> m_watcher;
+    [[nodiscard]] bool isOwn() const { return !m_now.isFiltered && m_now.order.empty(); }
+    [[nodiscard]] const Permutation &rows() const { return m_now.isFiltered ? m_now.shown : m_now.order; }
+    void run();
+    void stop();
+
+    QFutureWatcher<Arrangement> m_watcher;
+    std::shared_ptr<std::atomic<bool>> m_isStopped;
     qsizetype m_count = 0;
-    Permutation m_items; ///< item of each row; empty = identity
-    Permutation m_rows;  ///< row of each item; empty = identity
+    Sort m_sort; ///< while it runs
+    Filter m_filter;
+    Arrangement m_now;
+    Permutation m_rowOf; ///< of each item, unless the items are in their own order
 };
 
 /// The numbers 0..keys.size()-1 sorted by `less` on the keys; equals keep their order, downwards too.

@@ -17,6 +17,7 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QTabWidget>
@@ -51,6 +52,7 @@ ResultsPage::ResultsPage(ResultSet &results, QWidget *parent)
     , m_summary(new QLabel)
     , m_viewLabel(new QLabel)
     , m_view(new QComboBox)
+    , m_filter(new QLineEdit)
     , m_tabs(new QTabWidget)
     , m_duplicates(new QStackedWidget)
     , m_tree(new ResultsTree)
@@ -65,6 +67,7 @@ ResultsPage::ResultsPage(ResultSet &results, QWidget *parent)
     setUpTrees();
     layOut();
     connectTree();
+    connectFilter();
     connectThumbnails();
     connectPanel();
     connectMenus();
@@ -85,6 +88,8 @@ void ResultsPage::setUpTrees()
     m_remainingTree->setModel(&m_remaining);
     m_remainingTree->setRootIsDecorated(false);
     const auto hint = [this](const QString &nothingFound) {
+        if (!m_filter->text().isEmpty())
+            return Text::tr("没有匹配的文件。");
         return m_results.filesScanned > 0 ? nothingFound : Text::tr("扫描后在这里显示结果。");
     };
     new EmptyHint(m_tree, [hint] { return hint(Text::tr("没有找到重复文件。")); });
@@ -113,6 +118,8 @@ void ResultsPage::layOut()
     m_viewLabel->setBuddy(m_view);
     m_tabs->setObjectName(QStringLiteral("ResultsTabs"));
     m_splitter->setObjectName(QStringLiteral("ResultsSplitter"));
+    m_filter->setObjectName(QStringLiteral("ResultsFilter"));
+    m_filter->setClearButtonEnabled(true);
     auto *top = new QHBoxLayout;
     top->addWidget(m_summary, 1);
     top->addWidget(m_viewLabel);
@@ -128,7 +135,13 @@ void ResultsPage::layOut()
     sideLayout->setSpacing(12);
     sideLayout->addWidget(m_preview, 1);
     sideLayout->addWidget(m_panel);
-    m_splitter->addWidget(m_tabs);
+    auto *lists = new QWidget;
+    auto *listsLayout = new QVBoxLayout(lists);
+    listsLayout->setContentsMargins(0, 0, 0, 0);
+    listsLayout->setSpacing(8);
+    listsLayout->addWidget(m_filter);
+    listsLayout->addWidget(m_tabs, 1);
+    m_splitter->addWidget(lists);
     m_splitter->addWidget(side);
     m_splitter->setStretchFactor(0, 1);
     m_splitter->setChildrenCollapsible(false);
@@ -161,9 +174,22 @@ void ResultsPage::connectTree()
     });
 }
 
+void ResultsPage::connectFilter()
+{
+    for (GroupedModel *model : {static_cast<GroupedModel *>(&m_groups), static_cast<GroupedModel *>(&m_folders),
+                                static_cast<GroupedModel *>(&m_remaining)})
+        connect(m_filter, &QLineEdit::textChanged, model, &GroupedModel::setPathFilter);
+    connect(&m_groups, &GroupedModel::filtered, m_tree, [this] { m_tree->expandAgain(expandedGroups); });
+    connect(&m_folders, &GroupedModel::filtered, m_folderTree,
+            [this] { m_folderTree->expandAgain(expandedFolderGroups); });
+}
+
 void ResultsPage::connectThumbnails()
 {
-    connect(m_view, &QComboBox::currentIndexChanged, m_duplicates, &QStackedWidget::setCurrentIndex);
+    connect(m_view, &QComboBox::currentIndexChanged, this, [this](int view) {
+        m_duplicates->setCurrentIndex(view);
+        m_filter->setEnabled(!showsThumbnails());
+    });
     connect(m_thumbnails, &ThumbnailView::currentChanged, this,
             [this](qsizetype group, qsizetype file) { m_preview->showFile(m_results.groups[group].files[file]); });
     connect(m_thumbnails, &ThumbnailView::markChanged, this, [this] {
@@ -188,6 +214,7 @@ void ResultsPage::connectPanel()
 
 void ResultsPage::showResults()
 {
+    m_filter->clear();
     m_groups.reload();
     m_folders.reload();
     m_remaining.reload();
@@ -327,6 +354,9 @@ void ResultsPage::retranslate()
 {
     m_summary->setText(m_summaryText.value_or(Text::tr("尚未扫描。请选择扫描模式，添加目录后点击“立即扫描”。")));
     m_viewLabel->setText(Text::tr("视图："));
+    m_filter->setPlaceholderText(Text::tr("按路径筛选"));
+    m_filter->setAccessibleName(m_filter->placeholderText());
+    m_filter->setToolTip(Text::tr("筛选只改变列表中显示的内容，勾选与批量操作仍针对全部结果。"));
     m_view->setItemText(0, Text::tr("列表"));
     m_view->setItemText(1, Text::tr("缩略图"));
     m_tabs->setTabText(0, Text::tr("重复文件"));

@@ -13,6 +13,7 @@
 
 class QComboBox;
 class QLabel;
+class QLineEdit;
 class QSplitter;
 class QStackedWidget;
 class QTabWidget;
@@ -88,6 +89,7 @@ private:
     void fitColumns();
     void layOut();
     void connectTree();
+    void connectFilter();
     void connectThumbnails();
     void connectPanel();
     void connectMenus();
@@ -109,6 +111,7 @@ private:
     QLabel *m_summary;
     QLabel *m_viewLabel;
     QComboBox *m_view;
+    QLineEdit *m_filter;
     QTabWidget *m_tabs;
     QStackedWidget *m_duplicates;
     ResultsTree *m_tree;

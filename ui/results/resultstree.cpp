@@ -62,9 +62,16 @@ void ResultsTree::startAfresh(int count)
         header()->setSortIndicator(-1, Qt::AscendingOrder);
     }
     m_expandsAll = false;
+    expandAgain(count);
+}
+
+void ResultsTree::expandAgain(int count)
+{
     m_closed.clear();
     m_opened.clear();
-    const int rows = std::min(count, model()->rowCount());
+    if (m_expandsAll)
+        keepPromise();
+    const int rows = m_expandsAll ? 0 : std::min(count, model()->rowCount());
     for (int row = 0; row < rows; ++row)
         expand(model()->index(row, 0));
 }

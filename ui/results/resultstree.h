@@ -26,6 +26,9 @@ public:
     /// To call after a reset: expands the first `count` top rows and forgets the order by column.
     void startAfresh(int count);
 
+    /// To call after another reset: expands the first `count` top rows, or all where that was wished; the order stays.
+    void expandAgain(int count);
+
     void expandEverything();
     void collapseEverything();
 
