@@ -87,7 +87,7 @@ Mirrix::Mirrix(Settings &settings, Prompts &prompts, QWidget *parent)
     connect(worker, &MirrixCore::ScanWorker::finished, this, &Mirrix::onScanFinished);
     connect(worker, &MirrixCore::ScanWorker::failed, this, &Mirrix::onScanFailed);
 
-    recallWindow(*this, m_settings.window, QSize(1280, 800));
+    recallWindow(*this, m_settings.window, QSize(1280, 860));
     goToStep(0);
     m_display->showInBar(
         [this] { return Text::tr("%1 · 本地运行 · 零广告 · 图片哈希: %2").arg(modeText(), imageHashName()); });

@@ -136,6 +136,9 @@ QStringList clippedTexts(const QWidget &window)
         if (const auto *area = qobject_cast<const QScrollArea *>(widget)) {
             if (area->widget() && area->widget()->width() > area->viewport()->width() + slack)
                 found.append(nameOf(*area, {}) + QStringLiteral("must be scrolled sideways"));
+            const bool isPage = area->objectName() == QLatin1String("WizardPageScroll");
+            if (isPage && area->widget()->height() > area->viewport()->height() + slack)
+                found.append(nameOf(*area, {}) + QStringLiteral("must be scrolled"));
         }
         if (widget->layout())
             found += overlapsIn(*widget->layout());
