@@ -2,6 +2,7 @@
 # Installs what building needs on Debian and its derivatives; asks for root only when something is missing.
 #   install-deps.sh                  what the Linux program and its tests need
 #   install-deps.sh --windows        also what the cross-built Windows program and its tests need
+#   install-deps.sh --sdk            also what builds the libraries for Windows (packaging/windows/build-sdk.sh)
 #   install-deps.sh --packages       also what makes the Windows packages
 #   install-deps.sh --screenshots    also what takes pictures of the window
 #   install-deps.sh --e2e            also what the tests of the Windows packages need
@@ -18,6 +19,7 @@ for option in "$@"; do
         windows=yes
         packages+=(g++-mingw-w64-x86-64-posix wine wine64 xvfb xauth libz-mingw-w64-dev libz-mingw-w64 xz-utils)
         ;;
+    --sdk) packages+=(dpkg-dev autoconf automake libtool gettext autopoint nasm) ;;
     --packages) packages+=(nsis qt6-translations-l10n) ;;
     --screenshots) packages+=(xvfb xauth fonts-noto-cjk fonts-noto-color-emoji fonts-dejavu-core) ;;
     --e2e) packages+=(xvfb xdotool imagemagick tesseract-ocr tesseract-ocr-eng fonts-noto-cjk fonts-dejavu-core) ;;

@@ -26,7 +26,7 @@ cp "$sdk"/qt/plugins/imageformats/*.dll "$app/imageformats"
 cp "$sdk/bin/libmediainfo.dll" "$app/MediaInfo.dll" # loaded at run time, under this name
 gcc=$(dirname "$(x86_64-w64-mingw32-gcc-posix -print-libgcc-file-name)")
 packaging/windows/collect.py "$app" "$sdk/qt/bin" "$sdk/bin" "$gcc" /usr/x86_64-w64-mingw32/lib
-find "$app" -name '*.exe' -o -name '*.dll' | xargs -d '\n' x86_64-w64-mingw32-strip --strip-unneeded
+find "$app" -name '*.[de][lx][le]' -exec x86_64-w64-mingw32-strip --strip-unneeded {} +
 printf '[Paths]\nPlugins = .\nTranslations = translations\n' >"$app/qt.conf"
 
 # Qt's own texts, in the languages of the program.
