@@ -19,7 +19,7 @@ for option in "$@"; do
         windows=yes
         packages+=(g++-mingw-w64-x86-64-posix wine wine64 xvfb xauth libz-mingw-w64-dev libz-mingw-w64 xz-utils)
         ;;
-    --sdk) packages+=(dpkg-dev autoconf automake libtool gettext autopoint nasm) ;;
+    --sdk) packages+=(dpkg-dev autoconf automake libtool gettext autopoint nasm libutfcpp-dev) ;;
     --packages) packages+=(nsis qt6-translations-l10n) ;;
     --screenshots) packages+=(xvfb xauth fonts-noto-cjk fonts-noto-color-emoji fonts-dejavu-core) ;;
     --e2e) packages+=(xvfb xdotool imagemagick tesseract-ocr tesseract-ocr-eng fonts-noto-cjk fonts-dejavu-core) ;;

@@ -111,7 +111,8 @@ build_libtiff() {
 }
 
 build_taglib() {
-    with_cmake taglib "$(source_of taglib)"
+    # Debian keeps this header-only library in a package of its own.
+    with_cmake taglib "$(source_of taglib)" -DCMAKE_CXX_FLAGS=-I/usr/include/utf8cpp
 }
 
 build_zenlib() {
