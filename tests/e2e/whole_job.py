@@ -92,6 +92,7 @@ class Job:
 
     def restore(self):
         self.desktop.key("alt+f")
+        self.desktop.await_text("Restore backup")
         self.desktop.picture("menu")
         self.desktop.click("Restore backup")
         self.desktop.await_window("Restore backup")
