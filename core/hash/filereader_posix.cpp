@@ -48,6 +48,7 @@ bool FileReader::open(const QString &path)
 {
     m_state->closeFile();
     m_state->readCount = 0;
+    m_state->info = {};
     // Without O_NONBLOCK, a pipe that took the file's place since the walk would block for ever.
     m_state->descriptor = ::open(pathBytes(path).constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
     return m_state->descriptor >= 0 || m_state->fail(errno);
@@ -87,9 +88,9 @@ qint64 FileReader::readAt(qint64 offset, char *buffer, qint64 length)
             m_state->error = systemErrorText(errno);
             return -1;
         }
-        const bool isEnd = count < length - done; // a plain file gives less than asked only at its end
         done += count;
-        if (isEnd)
+        // Drives of the network and of programs may give less than asked before the end, too.
+        if (count == 0 || (done < length && offset + done >= m_state->info.st_size))
             break;
     }
     return done;

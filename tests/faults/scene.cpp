@@ -1,0 +1,241 @@
+#include "tests/faults/scene.h"
+
+#include "actions/backupstore.h"
+#include "actions/operationslog.h"
+#include "tests/support/program.h"
+
+#include <QJsonDocument>
+#include <QMap>
+#include <QRegularExpression>
+#include <QUrl>
+
+#include <filesystem>
+
+using namespace Mirrix;
+using namespace Qt::StringLiterals;
+
+namespace MirrixTest {
+
+namespace {
+
+/// Which file stays in place of each.
+const QMap<QString, QString> &keepers()
+{
+    static const QMap<QString, QString> table = {
+        {u"src/x/a1"_s, u"src/keep/a"_s}, {u"src/x/a2"_s, u"src/keep/a"_s}, {u"src/y/b1"_s, u"src/keep/b"_s}};
+    return table;
+}
+
+bool exists(const QString &path)
+{
+    std::error_code ignored;
+    return std::filesystem::exists(std::filesystem::symlink_status(exactNative(path), ignored));
+}
+
+/// A file's content and time in the form of a DiskTree; empty when it is not there.
+QByteArray stateOf(const QString &path)
+{
+    const QFileInfo info(path);
+    return treeBelow(info.path()).value(info.fileName());
+}
+
+} // namespace
+
+Scene::Scene(const QString &method, bool isOnOtherVolume)
+    : m_method(method)
+    , m_other(isOnOtherVolume ? folderOnOtherVolume(m_tree.path()) : nullptr)
+    , m_target(m_other ? m_other->path() : m_tree.path(u"target"_s))
+{
+    const QByteArray large = patternBytes(70000);
+    const QMap<QString, QByteArray> files = {{u"src/keep/a"_s, "alpha"},    {u"src/keep/b"_s, large},
+                                             {u"src/x/a1"_s, "alpha"},      {u"src/x/a2"_s, "alpha"},
+                                             {u"src/y/b1"_s, large},        {u"src/x/alone"_s, "alphb"},
+                                             {u"src/y/mine"_s, "not yours"}};
+    for (auto file = files.begin(); file != files.end(); ++file) {
+        m_tree.write(file.key(), file.value());
+        m_tree.setModified(file.key(), file.key().contains(u"keep"_s) ? 1000000000000 : 1100000000000);
+    }
+    m_tree.makeFolder(u"share"_s); // the bin is there only if it is on the volume of the home folder
+    m_tree.makeFolder(u"home"_s);
+    m_tree.makeFolder(u"target"_s);
+    m_tree.write(u"data/settings.json"_s, R"({"keepRule":1})");
+    OperationsLog(path(u"data/ops.log.enc"_s)).append({{1, u"first"_s, u"old"_s}});
+    m_before = treeBelow(path(u"src"_s));
+    if (method == u"restore") {
+        QStringList paths;
+        for (const QString &victim : victims())
+            paths.append(path(victim));
+        static_cast<void>(backupFiles(m_target, paths));
+    }
+}
+
+QStringList Scene::victims()
+{
+    return keepers().keys();
+}
+
+QStringList Scene::arguments() const
+{
+    const QStringList common = {u"--data-dir"_s, path(u"data"_s)};
+    if (m_method == u"restore")
+        return QStringList{u"restore"_s} + common + QStringList{u"--target"_s, m_target, u"--all"_s};
+    if (m_method == u"scan")
+        return QStringList{u"scan"_s} + common + QStringList{u"--threads"_s, u"1"_s,        u"--format"_s,
+                                                             u"json"_s,      u"--output"_s, path(u"report"_s),
+                                                             path(u"src"_s)};
+    QStringList arguments =
+        QStringList{u"clean"_s} + common +
+        QStringList{u"--threads"_s, u"1"_s, u"--keep"_s, u"oldest"_s, u"--method"_s, m_method, u"--apply"_s};
+    if (m_method != u"recycle" && m_method != u"delete")
+        arguments += {u"--target"_s, m_target};
+    return arguments + QStringList{path(u"src"_s)};
+}
+
+void Scene::prepare(QProcess &process) const
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"HOME"_s, path(u"home"_s));
+    environment.insert(u"XDG_DATA_HOME"_s, path(u"share"_s));
+    environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(path(u"data"_s));
+}
+
+QByteArray Scene::run(const QStringList &arguments) const
+{
+    QProcess process;
+    prepare(process);
+    process.start(Program::builtExecutable(), arguments);
+    return Program::ended(process).output;
+}
+
+QString Scene::problem(int status, const QByteArray &output, bool mayMiss, bool mayLeave) const
+{
+    qsizetype handled = 0;
+    const QStringList all = victims();
+    for (const QString &victim : all) {
+        const Place place = placeOf(victim);
+        if (place == Place::Lost)
+            return u"lost: "_s + victim;
+        handled += place == Place::Gone ? 1 : 0;
+    }
+    const QString others = problemOfOthers();
+    if (!others.isEmpty())
+        return others;
+    if (!mayLeave && !leftover().isEmpty())
+        return u"left behind: "_s + leftover();
+    if (m_method == u"scan")
+        return {};
+    static const QRegularExpression claim(u"(\\d+) of (\\d+) files"_s);
+    const QRegularExpressionMatch said = claim.match(QString::fromUtf8(output));
+    if (said.hasMatch() ? said.captured(1).toInt() != handled : status == 0 || handled > 0)
+        return u"%1 handled, told: %2"_s.arg(handled).arg(QString::fromUtf8(output));
+    if (status == 0 && handled != all.size() && !mayMiss)
+        return u"success told, %1 handled"_s.arg(handled);
+    return {};
+}
+
+QString Scene::problemAfterRecovery() const
+{
+    static_cast<void>(restoreBackups(m_target, restorableEntries(m_target)));
+    for (const QString &victim : victims()) {
+        const bool isDone = m_method == u"backup" || m_method == u"restore" ? false : isHandled(victim);
+        if (!isDone && !isAtHome(victim))
+            return u"not put back: "_s + victim;
+    }
+    return problemOfOthers();
+}
+
+Scene::Place Scene::placeOf(const QString &victim) const
+{
+    if (m_method == u"restore")
+        return isAtHome(victim) ? Place::Gone : isListed(victim) ? Place::Listed : Place::Lost;
+    if (isAtHome(victim))
+        return Place::AtHome;
+    if (m_method.endsWith(u"link") && isListed(victim))
+        return Place::Listed; // set aside, even where the link stands already
+    return isHandled(victim) ? Place::Gone : isListed(victim) ? Place::Listed : Place::Lost;
+}
+
+bool Scene::isHandled(const QString &victim) const
+{
+    const QString place = path(victim);
+    const std::filesystem::path keeper = exactNative(path(keepers()[victim]));
+    std::error_code ignored;
+    if (m_method == u"symlink")
+        return std::filesystem::read_symlink(exactNative(place), ignored) == keeper;
+    if (m_method == u"hardlink")
+        return std::filesystem::equivalent(exactNative(place), keeper, ignored);
+    if (exists(place))
+        return false;
+    if (m_method == u"recycle")
+        return isInBin(victim);
+    if (m_method == u"move")
+        return isAsBefore(m_target + victim.mid(victim.lastIndexOf(u'/')), victim);
+    return m_method == u"delete" || (m_method == u"backup" && isListed(victim));
+}
+
+bool Scene::isInBin(const QString &victim) const
+{
+    const QDir notes(path(u"share/Trash/info"_s));
+    const QStringList names = notes.entryList({u"*.trashinfo"_s}, QDir::Files);
+    for (const QString &name : names) {
+        const QList<QByteArray> lines = contentOf(notes.filePath(name)).split('\n');
+        const bool isNoted = lines.contains("Path=" + QUrl::toPercentEncoding(path(victim), "/"));
+        if (isNoted && isAsBefore(path(u"share/Trash/files/"_s + name.chopped(10)), victim))
+            return true;
+    }
+    return false;
+}
+
+bool Scene::isListed(const QString &victim) const
+{
+    const QList<BackupEntry> entries = loadBackupIndex(m_target);
+    return std::any_of(entries.begin(), entries.end(), [&](const BackupEntry &entry) {
+        return entry.original == path(victim) && isAsBefore(entry.backup, victim);
+    });
+}
+
+bool Scene::isAtHome(const QString &relative) const
+{
+    return isAsBefore(path(relative), relative);
+}
+
+bool Scene::isAsBefore(const QString &path, const QString &relative) const
+{
+    return exists(path) && stateOf(path) == m_before.value(relative.mid(4));
+}
+
+/// Files that nobody may touch, and the program's own.
+QString Scene::problemOfOthers() const
+{
+    for (auto file = m_before.begin(); file != m_before.end(); ++file) {
+        if (!keepers().contains(u"src/"_s + file.key()) && !isAtHome(u"src/"_s + file.key()))
+            return u"touched: "_s + file.key();
+    }
+    const QList<LogEntry> log = OperationsLog(path(u"data/ops.log.enc"_s)).readAll();
+    if (log.isEmpty() || log.constFirst().detail != u"old")
+        return u"log lost"_s;
+    if (contentOf(path(u"data/settings.json"_s)) != R"({"keepRule":1})")
+        return u"settings lost"_s;
+    const QByteArray index = contentOf(m_target + u"/backup_index.json"_s);
+    return index.isEmpty() || QJsonDocument::fromJson(index).isArray() ? QString() : u"index damaged"_s;
+}
+
+/// A file of a passing name that no index lists.
+QString Scene::leftover() const
+{
+    QStringList listed;
+    for (const BackupEntry &entry : loadBackupIndex(m_target))
+        listed.append(entry.backup);
+    for (const QString &folder : {path(u"src"_s), m_target}) {
+        const QStringList found = treeBelow(folder).keys();
+        for (const QString &name : found) {
+            if (name.contains(u".mirrix-"_s) && !listed.contains(folder + u'/' + name))
+                return name;
+        }
+    }
+    return {};
+}
+
+} // namespace MirrixTest

@@ -1,0 +1,208 @@
+#include "actions/exporter.h"
+#include "app/settings.h"
+#include "tests/actions/exportscene.h"
+#include "tests/faults/scene.h"
+#include "tests/support/program.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+#include <cerrno>
+
+using namespace Mirrix;
+using namespace MirrixTest;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Fault
+{
+    QString name;
+    int code;      ///< 0: a short read or write
+    bool isSticky; ///< everything fails from then on
+};
+
+const QList<Fault> faults = {
+    {u"ENOSPC"_s, ENOSPC, false}, {u"EACCES"_s, EACCES, false}, {u"EIO"_s, EIO, false},
+    {u"EINTR"_s, EINTR, false},   {u"EXDEV"_s, EXDEV, false},   {u"ENOENT"_s, ENOENT, false},
+    {u"short"_s, 0, false},       {u"drive gone"_s, EIO, true}, {u"disk full"_s, ENOSPC, true},
+};
+
+struct Run
+{
+    ProgramRun program;
+    QByteArray failed; ///< name of the call that failed; empty when the program ended before
+};
+
+/// The flows that no command of the console has, run by this program itself.
+bool act(const QString &flow, const QString &root)
+{
+    if (flow == u"settings") {
+        Settings values = readSettings(root + u"/data"_s);
+        values.keepRule = 2;
+        return values.save();
+    }
+    const ExportFormat format = flow == u"export copies" ? ExportFormat::Copies : ExportFormat::Csv;
+    const ExportRecords records = recordsOf({root + u"/src/x/a1"_s, root + u"/src/y/b1"_s});
+    const ExportOutcome outcome = writeExport(records, {format, root + u"/target/out"_s, everything}, {}, {});
+    return outcome.isDone && outcome.errors.isEmpty();
+}
+
+} // namespace
+
+class FaultsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleaning_data();
+    void cleaning();
+    void scanning();
+    void ownFiles_data();
+    void ownFiles();
+
+private:
+    /// Runs `check` for every fault on every n-th call, and the flow before it, until the flow ends untouched.
+    void sweep(const QString &method, bool isOnOtherVolume, const QString &action,
+               const std::function<QString(const Scene &, const Run &, const Fault &)> &check);
+    [[nodiscard]] Run run(const Scene &scene, const QString &action, const Fault &fault, int number) const;
+};
+
+Run FaultsTest::run(const Scene &scene, const QString &action, const Fault &fault, int number) const
+{
+    const QTemporaryDir control;
+    const QString report = control.filePath(u"failed"_s);
+    QProcess process;
+    scene.prepare(process);
+    QProcessEnvironment environment = process.processEnvironment();
+    environment.insert(u"LD_PRELOAD"_s, QStringLiteral(MIRRIX_FAULT_SHIM));
+    environment.insert(u"MIRRIX_FAULT_FOLDERS"_s, scene.folders().join(u':'));
+    environment.insert(u"MIRRIX_FAULT_AT"_s, QString::number(number));
+    environment.insert(u"MIRRIX_FAULT_ERRNO"_s, QString::number(fault.code));
+    environment.insert(u"MIRRIX_FAULT_REPORT"_s, report);
+    if (fault.isSticky)
+        environment.insert(u"MIRRIX_FAULT_STICKY"_s, u"1"_s);
+    process.setProcessEnvironment(environment);
+    if (action.isEmpty())
+        process.start(Program::builtExecutable(), scene.arguments());
+    else
+        process.start(QCoreApplication::applicationFilePath(), {u"--act"_s, action, scene.path({})});
+    const ProgramRun program = Program::ended(process);
+    return {program, contentOf(report).trimmed()};
+}
+
+void FaultsTest::sweep(const QString &method, bool isOnOtherVolume, const QString &action,
+                       const std::function<QString(const Scene &, const Run &, const Fault &)> &check)
+{
+    const int stride = std::max(1, qEnvironmentVariableIntValue("MIRRIX_FAULT_STRIDE"));
+    int start = 1; // other calls for each fault
+    int runs = 0;
+    QStringList problems;
+    for (const Fault &fault : faults) {
+        start = start % stride + 1;
+        for (int number = start;; number += stride) {
+            const Scene scene(method, isOnOtherVolume);
+            const Run result = run(scene, action, fault, number);
+            ++runs;
+            QString problem = result.program.status < 0 ? u"crashed or hung"_s : check(scene, result, fault);
+            if (!problem.isEmpty())
+                problems.append(u"%1 at call %2 (%3): %4"_s.arg(fault.name)
+                                    .arg(number)
+                                    .arg(QString::fromUtf8(result.failed), problem));
+            if (result.failed.isEmpty())
+                break;
+        }
+    }
+    qInfo("%d runs", runs);
+    QVERIFY2(problems.isEmpty(), qPrintable(u"\n"_s + problems.join(u'\n')));
+}
+
+void FaultsTest::cleaning_data()
+{
+    QTest::addColumn<bool>("isOnOtherVolume");
+    for (const char *method : {"recycle", "delete", "move", "symlink", "hardlink", "backup", "restore"})
+        QTest::newRow(method) << false;
+    for (const char *method : {"move ", "backup ", "restore "})
+        QTest::newRow(method) << true;
+}
+
+void FaultsTest::cleaning()
+{
+    QFETCH(bool, isOnOtherVolume);
+    if (isOnOtherVolume && !folderOnOtherVolume(QDir::tempPath()))
+        QSKIP("no second volume");
+    const QString method = QString::fromLatin1(QTest::currentDataTag()).trimmed();
+    sweep(method, isOnOtherVolume, {}, [](const Scene &scene, const Run &run, const Fault &fault) {
+        // A file that is not there any more is no failure of a scan.
+        const QString problem =
+            scene.problem(run.program.status, run.program.output, fault.code == ENOENT, fault.isSticky);
+        return problem.isEmpty() ? scene.problemAfterRecovery() : problem;
+    });
+}
+
+/// A scan changes nothing, its report is whole or not there, and the cache it leaves does not mislead the next.
+void FaultsTest::scanning()
+{
+    const auto groupsIn = [](const QByteArray &report) {
+        return QJsonDocument::fromJson(report).object()[u"groups"_s].toArray();
+    };
+    const Scene clean(u"scan"_s, false);
+    static_cast<void>(clean.run(clean.arguments()));
+    QCOMPARE(groupsIn(contentOf(clean.path(u"report"_s))).size(), 2);
+    sweep(u"scan"_s, false, {}, [&](const Scene &scene, const Run &run, const Fault &fault) {
+        const QByteArray report = contentOf(scene.path(u"report"_s));
+        if (!report.isEmpty() && !QJsonDocument::fromJson(report).isObject())
+            return u"half a report"_s;
+        if (run.program.status == 0 && fault.code != ENOENT && groupsIn(report).size() != 2)
+            return u"success told, groups missing"_s;
+        static_cast<void>(scene.run(scene.arguments()));
+        const QJsonArray groups = groupsIn(contentOf(scene.path(u"report"_s)));
+        if (groups.size() != 2 || groups[0][u"files"_s].toArray().size() + groups[1][u"files"_s].toArray().size() != 5)
+            return u"the next scan is misled"_s;
+        return scene.problem(run.program.status, run.program.output, true, fault.isSticky);
+    });
+}
+
+void FaultsTest::ownFiles_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::newRow("settings") << u"data/settings.json"_s;
+    QTest::newRow("export") << u"target/out"_s;
+    QTest::newRow("export copies") << u"target/out/b1"_s;
+}
+
+/// What is told to be written is there whole; otherwise the old file, or none, is.
+void FaultsTest::ownFiles()
+{
+    QFETCH(QString, file);
+    const QString action = QString::fromLatin1(QTest::currentDataTag());
+    const Scene clean(u"scan"_s, false);
+    const QByteArray before = contentOf(clean.path(file));
+    QVERIFY(act(action, clean.path({})));
+    QByteArray after = contentOf(clean.path(file));
+    QVERIFY(before != after);
+    after.replace(clean.path({}).toUtf8(), "ROOT");
+    sweep(u"scan"_s, false, action, [&](const Scene &scene, const Run &run, const Fault &fault) {
+        QByteArray now = contentOf(scene.path(file));
+        now.replace(scene.path({}).toUtf8(), "ROOT");
+        if (now != after && (now != before || run.program.status == 0))
+            return u"status %1, holds %2 bytes"_s.arg(run.program.status).arg(now.size());
+        const qsizetype most = 2 + (action == u"export copies" ? 1 : 0);
+        const qsizetype count = treeBelow(scene.path(u"data"_s)).size() + treeBelow(scene.path(u"target"_s)).size();
+        return count > most + 1 && !fault.isSticky ? u"left behind"_s : QString();
+    });
+}
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == u"--act")
+        return act(arguments.value(2), arguments.value(3)) ? 0 : 1;
+    FaultsTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_faults.moc"
