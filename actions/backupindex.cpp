@@ -10,6 +10,8 @@
 #include <QJsonObject>
 #include <QSet>
 
+#include <optional>
+
 namespace Mirrix {
 
 namespace {
@@ -24,10 +26,25 @@ QString indexPath(const QString &folder)
     return joinedPath(folder, QStringLiteral("backup_index.json"));
 }
 
-QJsonDocument indexDocument(const QString &folder)
+/// The index as it stands, empty when there is none. Nothing when it is there and cannot be read.
+std::optional<QByteArray> indexText(const QString &folder)
 {
-    QFile file(indexPath(folder));
-    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()) : QJsonDocument();
+    const QString path = indexPath(folder);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return pathState(path).kind == PathState::Kind::Missing ? std::optional(QByteArray()) : std::nullopt;
+    const QByteArray text = file.readAll();
+    return file.error() == QFileDevice::NoError ? std::optional(text) : std::nullopt;
+}
+
+QList<BackupEntry> entriesIn(const QByteArray &text)
+{
+    QList<BackupEntry> entries;
+    const QJsonArray items = QJsonDocument::fromJson(text).array();
+    for (const QJsonValue &item : items)
+        entries.append({item[originalKey].toString(), item[backupKey].toString(), item[sizeKey].toInteger(),
+                        item[timeKey].toInteger()});
+    return entries;
 }
 
 /// Whether the file has gone for certain. A folder that is away may be on a drive that comes back.
@@ -40,32 +57,30 @@ bool isGone(const BackupEntry &entry)
 /// An index that holds no list would be overwritten as if it were empty; what it says may still be of use to somebody.
 bool setDamagedAside(const QString &folder)
 {
-    const QString path = indexPath(folder);
-    if (pathState(path).kind == PathState::Kind::Missing || indexDocument(folder).isArray())
-        return true;
     const QString aside = joinedPath(folder, QStringLiteral("backup_index.damaged%1.json"));
     FileFault fault = FileFault::Occupied;
     for (int number = 1; fault == FileFault::Occupied; ++number)
-        fault = renameExclusively(path, aside.arg(number));
-    return fault == FileFault::None;
+        fault = renameExclusively(indexPath(folder), aside.arg(number));
+    return fault == FileFault::None || fault == FileFault::Missing;
 }
 
 } // namespace
 
 QList<BackupEntry> loadBackupIndex(const QString &folder)
 {
-    QList<BackupEntry> entries;
-    const QJsonArray items = indexDocument(folder).array();
-    for (const QJsonValue &item : items)
-        entries.append({item[originalKey].toString(), item[backupKey].toString(), item[sizeKey].toInteger(),
-                        item[timeKey].toInteger()});
-    return entries;
+    return entriesIn(indexText(folder).value_or(QByteArray()));
 }
 
-QList<BackupEntry> restorableEntries(const QString &folder)
+QList<BackupEntry> restorableEntries(const QString &folder, bool *isRead)
 {
-    QList<BackupEntry> entries = loadBackupIndex(folder);
-    entries.removeIf([](const BackupEntry &entry) { return pathState(entry.backup).kind != PathState::Kind::File; });
+    const std::optional<QByteArray> text = indexText(folder);
+    if (isRead)
+        *isRead = text.has_value();
+    QList<BackupEntry> entries = entriesIn(text.value_or(QByteArray()));
+    entries.removeIf([](const BackupEntry &entry) {
+        const PathState::Kind kind = pathState(entry.backup).kind;
+        return kind != PathState::Kind::File && kind != PathState::Kind::Unknown;
+    });
     return entries;
 }
 
@@ -112,9 +127,13 @@ bool BackupIndexSession::remove(const QList<BackupEntry> &restored)
 
 bool BackupIndexSession::takeOver()
 {
-    if (!m_isLocked || !setDamagedAside(m_folder))
+    // Read once: what could not be read now but is overwritten later would be lost to those who backed it up.
+    const std::optional<QByteArray> text = m_isLocked ? indexText(m_folder) : std::nullopt;
+    if (!text)
         return false;
-    m_earlier = loadBackupIndex(m_folder);
+    if (!QJsonDocument::fromJson(*text).isArray() && !setDamagedAside(m_folder))
+        return false;
+    m_earlier = entriesIn(*text);
     m_earlier.removeIf(isGone);
     return true;
 }

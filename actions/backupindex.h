@@ -22,8 +22,9 @@ struct BackupEntry
 /// The entries of the index file in a backup folder, in their order; none when it is missing or unusable. Thread-safe.
 [[nodiscard]] QList<BackupEntry> loadBackupIndex(const QString &folder);
 
-/// Those whose backup file is still there, which can be restored. Looks at each file.
-[[nodiscard]] QList<BackupEntry> restorableEntries(const QString &folder);
+/// Those whose backup file is still there, as far as the system says, which can be restored. Looks at each file.
+/// `isRead` becomes false when there is an index that cannot be read.
+[[nodiscard]] QList<BackupEntry> restorableEntries(const QString &folder, bool *isRead = nullptr);
 
 /// Replaces the index atomically, making the folder as needed. False, with the old index in place, when that failed.
 bool saveBackupIndex(const QString &folder, const QList<BackupEntry> &entries);

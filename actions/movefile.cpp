@@ -48,6 +48,9 @@ FileFault moveFile(const QString &from, const QString &to)
     // What was written into the source meanwhile is not in the copy.
     if (pathState(from).isSameFileAs(before) && removeFile(from) == FileFault::None)
         return FileFault::None;
+    // Another took it away, or a network drive did as told and says otherwise: then the copy is all there is.
+    if (pathState(from).kind == PathState::Kind::Missing)
+        return FileFault::None;
     static_cast<void>(removeFile(to));
     return FileFault::Failed;
 }

@@ -8,9 +8,11 @@ namespace Mirrix {
 
 namespace {
 
-bool isMissing(const QString &path)
+/// What the disk says counts; only where it does not say, what the system answered.
+bool hasLeft(const QString &path, bool isSaidDone)
 {
-    return pathState(path).kind == PathState::Kind::Missing;
+    const PathState::Kind kind = pathState(path).kind;
+    return kind == PathState::Kind::Missing || (kind == PathState::Kind::Unknown && isSaidDone);
 }
 
 /// Why the file is not handed to the bin; empty when it is.
@@ -30,12 +32,13 @@ QString obstacle(const RecycleBin &bin, const QString &path, const BatchControl 
 void sendBatch(const RecycleBin &bin, const QStringList &batch, BatchResult &result)
 {
     const RecycleBin::Answer answer = bin.send(batch);
-    if (answer.code != 0 || answer.isAborted)
+    const bool isSaidDone = answer.code == 0 && !answer.isAborted;
+    if (!isSaidDone)
         result.errors.append(QCoreApplication::translate("Mirrix", "批量移入回收站失败 (code %1, %2 个文件)")
                                  .arg(answer.code)
                                  .arg(batch.size()));
     for (const QString &path : batch) {
-        if (isMissing(path))
+        if (hasLeft(path, isSaidDone))
             ++result.count;
         else
             result.errors.append(QCoreApplication::translate("Mirrix", "未移入回收站，仍在原处: %1").arg(path));

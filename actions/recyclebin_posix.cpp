@@ -1,44 +1,133 @@
 #include "actions/recyclebin.h"
 
+#include "actions/movefile.h"
 #include "core/platform/nativepath.h"
 
+#include <QDateTime>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
+#include <QRandomGenerator>
 #include <QStandardPaths>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace Mirrix {
 
 namespace {
 
-/// Qt spells a name that is not UTF-8 in another way, and would take the wrong file or none.
-bool isSpelledRight(const QString &path)
+using MirrixCore::pathBytes;
+
+// The freedesktop.org trash: "files" holds what was thrown away, "info" a note on each. QFile::moveToTrash tries for
+// ever where a note cannot be written: on a full disk, or for a name near the longest.
+
+struct Trash
 {
-    return QFile::encodeName(path) == MirrixCore::pathBytes(path);
+    QString folder;
+    QString top; ///< the volume's topmost folder, to which the paths in notes are relative; empty for the home's trash
+};
+
+QString homeTrash()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QLatin1String("/Trash");
 }
 
-/// Without a usable trash in the home folder, which is also its last resort for other volumes, Qt takes the current
-/// folder for the trash. It makes that folder, but not those above it.
-bool hasHomeTrash()
+quint32 volumeOf(const QString &path)
 {
-    const QString trash =
-        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QLatin1String("/Trash");
+    return MirrixCore::fileStatus(path).identity.volume;
+}
+
+Trash volumeTrash(const QString &path)
+{
+    QString top = folderOf(path);
+    for (QString parent = folderOf(top); parent != top && volumeOf(parent) == volumeOf(top); parent = folderOf(top))
+        top = parent;
+    return {joinedPath(top, QStringLiteral(".Trash-%1").arg(geteuid())), top};
+}
+
+/// Others may write into a volume's topmost folder, so what stands there already must be ours.
+bool makePrivateFolder(const QString &path)
+{
+    struct stat info = {};
+    const QByteArray bytes = pathBytes(path);
+    return mkdir(bytes.constData(), 0700) == 0 ||
+           (lstat(bytes.constData(), &info) == 0 && S_ISDIR(info.st_mode) && info.st_uid == geteuid());
+}
+
+QByteArray noteOn(const QString &path, const Trash &trash)
+{
+    const QByteArray whole = pathBytes(path);
+    const qsizetype skipped = trash.top.isEmpty() ? 0 : pathBytes(joinedPath(trash.top, {})).size();
+    return "[Trash Info]\nPath=" + whole.mid(skipped).toPercentEncoding("/") +
+           "\nDeletionDate=" + QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-ddThh:mm:ss")).toLatin1() +
+           '\n';
+}
+
+FileFault writeNote(const QString &notePath, const QByteArray &note)
+{
+    const QByteArray path = pathBytes(notePath);
+    const int file = open(path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    if (file < 0)
+        return errno == EEXIST ? FileFault::Occupied : FileFault::Failed;
+    const bool isWritten = write(file, note.constData(), static_cast<size_t>(note.size())) == note.size();
+    if (close(file) == 0 && isWritten)
+        return FileFault::None;
+    unlink(path.constData());
+    return FileFault::Failed;
+}
+
+/// A name for the trash, another at each further try, that leaves room for what is put behind it.
+QString nameInTrash(const QString &path, int attempt)
+{
+    constexpr qsizetype mostBytes = 220; // of 255
+    QByteArray name = pathBytes(fileNameOf(path)).left(mostBytes);
+    if (attempt > 0)
+        name += '.' + QByteArray::number(QRandomGenerator::system()->generate(), 16);
+    return MirrixCore::pathFromBytes(name);
+}
+
+/// Renames into the trash or leaves the file where it is; nothing is copied or deleted.
+FileFault throwInto(const Trash &trash, const QString &path)
+{
+    const QString files = trash.folder + QLatin1String("/files/");
+    const QString notes = trash.folder + QLatin1String("/info/");
+    const bool isReady = (trash.top.isEmpty() || makePrivateFolder(trash.folder)) && makePrivateFolder(files) &&
+                         makePrivateFolder(notes);
+    FileFault fault = isReady ? FileFault::Occupied : FileFault::Failed;
+    const QByteArray note = noteOn(path, trash);
+    constexpr int mostAttempts = 100;
+    for (int attempt = 0; fault == FileFault::Occupied && attempt < mostAttempts; ++attempt) {
+        const QString name = nameInTrash(path, attempt);
+        const QString notePath = notes + name + QLatin1String(".trashinfo");
+        fault = writeNote(notePath, note);
+        if (fault != FileFault::None)
+            continue;
+        fault = renameExclusively(path, files + name);
+        if (fault != FileFault::None)
+            static_cast<void>(removeFile(notePath));
+    }
+    return fault;
+}
+
+/// A home without a usable trash belongs to no desktop: nobody would look for the file elsewhere either.
+bool canTake(const QString &)
+{
+    const QString trash = homeTrash();
     return QDir().mkpath(trash) && QFileInfo(trash).isWritable();
 }
 
-bool canTake(const QString &path)
-{
-    return isSpelledRight(path) && hasHomeTrash();
-}
-
-/// Qt renames into the trash of the file's own volume or fails; it neither copies nor deletes.
 RecycleBin::Answer moveToTrash(const QStringList &paths)
 {
     RecycleBin::Answer answer;
     for (const QString &path : paths) {
-        QFile file(MirrixCore::absolutePath(path));
-        if (!file.moveToTrash())
-            answer.code = static_cast<int>(file.error());
+        const QString absolute = MirrixCore::absolutePath(path);
+        FileFault fault = throwInto({homeTrash(), {}}, absolute);
+        if (fault == FileFault::OtherVolume)
+            fault = throwInto(volumeTrash(absolute), absolute);
+        if (fault != FileFault::None)
+            answer.code = static_cast<int>(fault);
     }
     return answer;
 }

@@ -104,7 +104,12 @@ ExitStatus runRestore(const QCommandLineParser &parser)
     const QString dataDirectory = dataDirectoryOf(parser);
     const QString given = parser.value(targetOption);
     const QString folder = backupFolderPath(given.isEmpty() ? readSettings(dataDirectory).backupRoot : given);
-    const Entries entries = restorableEntries(folder);
+    bool isRead = false;
+    const Entries entries = restorableEntries(folder, &isRead);
+    if (!isRead) {
+        printError(QStringLiteral("cannot read the index in %1").arg(folder));
+        return ExitStatus::SomeFailed;
+    }
     if (!parser.isSet(allOption) && !hasWords)
         return listEntries(entries);
 

@@ -51,9 +51,10 @@ Scene::Scene(const QString &method, bool isOnOtherVolume)
                                              {u"src/x/a1"_s, "alpha"},      {u"src/x/a2"_s, "alpha"},
                                              {u"src/y/b1"_s, large},        {u"src/x/alone"_s, "alphb"},
                                              {u"src/y/mine"_s, "not yours"}};
+    qint64 modifiedMs = 1000000000000; // the keepers, which come first, are the oldest
     for (auto file = files.begin(); file != files.end(); ++file) {
         m_tree.write(file.key(), file.value());
-        m_tree.setModified(file.key(), file.key().contains(u"keep"_s) ? 1000000000000 : 1100000000000);
+        m_tree.setModified(file.key(), modifiedMs += 1000);
     }
     m_tree.makeFolder(u"share"_s); // the bin is there only if it is on the volume of the home folder
     m_tree.makeFolder(u"home"_s);
@@ -160,12 +161,13 @@ Scene::Place Scene::placeOf(const QString &victim) const
 bool Scene::isHandled(const QString &victim) const
 {
     const QString place = path(victim);
-    const std::filesystem::path keeper = exactNative(path(keepers()[victim]));
+    const std::filesystem::path native = exactNative(place);
     std::error_code ignored;
-    if (m_method == u"symlink")
-        return std::filesystem::read_symlink(exactNative(place), ignored) == keeper;
-    if (m_method == u"hardlink")
-        return std::filesystem::equivalent(exactNative(place), keeper, ignored);
+    if (m_method.endsWith(u"link")) { // where the scan could not see the keeper, to another copy
+        const bool isLink = m_method == u"symlink" ? std::filesystem::is_symlink(native)
+                                                   : std::filesystem::hard_link_count(native, ignored) > 1;
+        return isLink && contentOf(place) == contentOf(path(keepers()[victim]));
+    }
     if (exists(place))
         return false;
     if (m_method == u"recycle")
