@@ -2213,5 +2213,9 @@ Pulse «+ Carpeta», elija a la izquierda, o arrastre o pegue carpetas aquí.</t
         <translation>No se muestran otros archivos.
 Para verlos, active «Mostrar archivos restantes» en una ubicación y analice de nuevo.</translation>
     </message>
+    <message>
+        <source>筛选只改变列表中显示的内容，勾选与批量操作仍针对全部结果。</source>
+        <translation>El filtro solo cambia lo que muestran las listas; las marcas y las acciones por lotes siguen afectando a todos los resultados.</translation>
+    </message>
 </context>
 </TS>

@@ -2213,5 +2213,9 @@ Cliquez sur « + Dossier », choisissez à gauche, ou déposez ou collez des dos
         <translation>Aucun autre fichier n’est affiché.
 Pour les voir, activez « Afficher les fichiers restants » pour un emplacement et relancez l’analyse.</translation>
     </message>
+    <message>
+        <source>筛选只改变列表中显示的内容，勾选与批量操作仍针对全部结果。</source>
+        <translation>Le filtre ne change que ce que les listes affichent ; les coches et les actions groupées portent toujours sur tous les résultats.</translation>
+    </message>
 </context>
 </TS>

@@ -2213,5 +2213,9 @@ GPS: %1, %2</translation>
         <translation>その他のファイルは表示されていません。
 表示するには、スキャン場所の「その他のファイルを表示」をオンにして、もう一度スキャンしてください。</translation>
     </message>
+    <message>
+        <source>筛选只改变列表中显示的内容，勾选与批量操作仍针对全部结果。</source>
+        <translation>フィルターは一覧の表示だけを変えます。チェックと一括操作は引き続きすべての結果が対象です。</translation>
+    </message>
 </context>
 </TS>

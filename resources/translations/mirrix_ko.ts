@@ -2213,5 +2213,9 @@ GPS: %1, %2</translation>
         <translation>나머지 파일이 표시되지 않았습니다.
 보려면 스캔 위치에서 '나머지 파일 표시'를 켜고 다시 스캔하세요.</translation>
     </message>
+    <message>
+        <source>筛选只改变列表中显示的内容，勾选与批量操作仍针对全部结果。</source>
+        <translation>필터는 목록에 표시되는 내용만 바꿉니다. 체크와 일괄 작업은 계속 모든 결과에 적용됩니다.</translation>
+    </message>
 </context>
 </TS>

@@ -2213,5 +2213,9 @@ Clique em “+ Pasta”, escolha à esquerda, ou arraste ou cole pastas aqui.</t
         <translation>Nenhum outro arquivo está listado.
 Para vê-los, ative “Mostrar arquivos restantes” em um local e verifique novamente.</translation>
     </message>
+    <message>
+        <source>筛选只改变列表中显示的内容，勾选与批量操作仍针对全部结果。</source>
+        <translation>O filtro muda apenas o que as listas mostram; as marcações e as ações em lote continuam valendo para todos os resultados.</translation>
+    </message>
 </context>
 </TS>

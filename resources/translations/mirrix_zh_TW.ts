@@ -489,7 +489,7 @@
     </message>
     <message>
         <source>锁 否</source>
-        <translation>鎖定 否</translation>
+        <translation>鎖定 無</translation>
     </message>
     <message>
         <source>📂 是</source>
@@ -2212,6 +2212,10 @@ GPS: %1, %2</translation>
 要查看它们，请在扫描位置中打开“显示其余文件”，然后重新扫描。</source>
         <translation>沒有列出其餘檔案。
 若要檢視，請在掃描位置開啟「顯示其餘檔案」，然後重新掃描。</translation>
+    </message>
+    <message>
+        <source>筛选只改变列表中显示的内容，勾选与批量操作仍针对全部结果。</source>
+        <translation>篩選只改變清單中顯示的內容，勾選與批次操作仍針對全部結果。</translation>
     </message>
 </context>
 </TS>
