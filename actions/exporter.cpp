@@ -4,6 +4,7 @@
 #include "actions/exporttexts.h"
 #include "actions/fileoperations.h"
 #include "actions/movefile.h"
+#include "app/storedfile.h"
 #include "app/text.h"
 
 #include <QSaveFile>
@@ -33,7 +34,7 @@ bool writeFile(const QString &path, QIODevice::OpenMode mode, const TextWriter &
         buffer.append(bytes);
         return buffer.size() < bufferBytes || flush();
     };
-    if (write(sink) && flush())
+    if (write(sink) && flush() && flushToDisk(file))
         return file.commit();
     file.cancelWriting();
     return false;

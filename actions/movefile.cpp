@@ -62,11 +62,10 @@ FileFault copyFile(const QString &from, const QString &to)
     if (fault != FileFault::None)
         return fault;
     fault = haveSameContent(from, passing) ? renameExclusively(passing, to) : FileFault::Failed;
-    if (fault == FileFault::None)
-        flushFolder(folderOf(to));
-    else
-        static_cast<void>(removeFile(passing));
-    return fault;
+    if (fault == FileFault::None && flushFolder(folderOf(to)))
+        return FileFault::None;
+    static_cast<void>(removeFile(fault == FileFault::None ? to : passing));
+    return fault == FileFault::None ? FileFault::Failed : fault;
 }
 
 bool makeFolders(const QString &path)

@@ -64,7 +64,7 @@ enum class FileFault
 /// Makes one folder. Occupied when something, perhaps a folder, stands there.
 [[nodiscard]] FileFault makeFolder(const QString &path);
 
-/// Waits until the names in a folder are on the disk, where the system knows how.
-void flushFolder(const QString &folder);
+/// Waits until the names in a folder are on the disk, where the system knows how. False when they did not get there.
+[[nodiscard]] bool flushFolder(const QString &folder);
 
 } // namespace Mirrix

@@ -101,13 +101,14 @@ FileFault makeFolder(const QString &path)
     return faultUnless(mkdir(pathBytes(path).constData(), 0777));
 }
 
-void flushFolder(const QString &folder)
+bool flushFolder(const QString &folder)
 {
     const int descriptor = open(pathBytes(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor < 0)
-        return;
-    fsync(descriptor);
+        return true; // names may be made where they cannot be listed
+    const bool isFlushed = fsync(descriptor) == 0 || (errno != EIO && errno != ENOSPC && errno != EDQUOT);
     close(descriptor);
+    return isFlushed;
 }
 
 } // namespace Mirrix

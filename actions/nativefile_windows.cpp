@@ -134,9 +134,9 @@ FileFault makeFolder(const QString &path)
     return CreateDirectoryW(wide(path).c_str(), nullptr) ? FileFault::None : faultOf(GetLastError());
 }
 
-void flushFolder(const QString &)
+bool flushFolder(const QString &)
 {
-    // The file system journals its names by itself.
+    return true; // the file system journals its names by itself
 }
 
 } // namespace Mirrix

@@ -11,7 +11,7 @@ bool replaceFile(const QString &path, const QByteArray &content)
     // disk it would put a cut file into place.
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return false;
-    if (file.write(content) != content.size()) {
+    if (file.write(content) != content.size() || !flushToDisk(file)) {
         file.cancelWriting();
         return false;
     }

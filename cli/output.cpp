@@ -1,5 +1,6 @@
 #include "cli/output.h"
 
+#include "app/storedfile.h"
 #include "cli/terminal.h"
 #include "core/platform/nativepath.h"
 
@@ -74,6 +75,7 @@ bool Output::finish()
     if (!m_isReplacing)
         return m_device->flush() && !m_hasFailed;
     auto *file = static_cast<QSaveFile *>(m_device.get());
+    m_hasFailed = m_hasFailed || !Mirrix::flushToDisk(*file);
     if (m_hasFailed)
         file->cancelWriting();
     return file->commit();

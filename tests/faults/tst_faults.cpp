@@ -189,6 +189,9 @@ void FaultsTest::ownFiles()
         now.replace(scene.path({}).toUtf8(), "ROOT");
         if (now != after && (now != before || run.program.status == 0))
             return u"status %1, holds %2 bytes"_s.arg(run.program.status).arg(now.size());
+        const bool isFlush = run.failed == "fsync" && (fault.code == EIO || fault.code == ENOSPC);
+        if (isFlush && run.program.status == 0)
+            return u"told to be on the disk"_s;
         const qsizetype most = 2 + (action == u"export copies" ? 1 : 0);
         const qsizetype count = treeBelow(scene.path(u"data"_s)).size() + treeBelow(scene.path(u"target"_s)).size();
         return count > most + 1 && !fault.isSticky ? u"left behind"_s : QString();
