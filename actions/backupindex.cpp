@@ -131,7 +131,7 @@ bool BackupIndexSession::takeOver()
     const std::optional<QByteArray> text = m_isLocked ? indexText(m_folder) : std::nullopt;
     if (!text)
         return false;
-    if (!QJsonDocument::fromJson(*text).isArray() && !setDamagedAside(m_folder))
+    if (!text->isEmpty() && !QJsonDocument::fromJson(*text).isArray() && !setDamagedAside(m_folder))
         return false;
     m_earlier = entriesIn(*text);
     m_earlier.removeIf(isGone);

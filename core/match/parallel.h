@@ -2,9 +2,9 @@
 
 #include "core/scan/scanprogress.h"
 
+#include <QScopeGuard>
+#include <QSemaphore>
 #include <QThreadPool>
-#include <QUnhandledException>
-#include <QtConcurrent>
 
 #include <algorithm>
 #include <atomic>
@@ -32,27 +32,33 @@ public:
 template <typename Task, typename Meanwhile>
 void forEachParallel(qsizetype count, Task task, Meanwhile meanwhile)
 {
+    QThreadPool &pool = *QThreadPool::globalInstance();
     const SpareThread spare;
     std::atomic<qsizetype> next = 0;
-    // As many items as threads, so that the spare thread finds none.
-    QList<int> lanes(std::min<qsizetype>(count, QThreadPool::globalInstance()->maxThreadCount()));
-    QFuture<void> future = QtConcurrent::map(lanes, [&](const int &) {
-        try {
-            for (qsizetype i = next++; i < count; i = next++)
-                task(i);
-        } catch (...) {
-            next = count;
-            throw;
-        }
-    });
-    meanwhile();
-    try {
-        future.waitForFinished();
-    } catch (const QUnhandledException &wrapped) { // Qt's own wrapping, which has lost the words
-        if (wrapped.exception())
-            std::rethrow_exception(wrapped.exception());
-        throw;
+    std::mutex mutex;
+    std::exception_ptr failure;
+    QSemaphore ended;
+    // As many as threads, so that the spare thread finds none.
+    const int lanes = static_cast<int>(std::min<qsizetype>(count, pool.maxThreadCount()));
+    for (int lane = 0; lane < lanes; ++lane) {
+        pool.start([&] {
+            try {
+                for (qsizetype i = next++; i < count; i = next++)
+                    task(i);
+            } catch (...) {
+                next = count;
+                const std::lock_guard lock(mutex);
+                failure = std::current_exception();
+            }
+            ended.release();
+        });
     }
+    {
+        const auto wait = qScopeGuard([&] { ended.acquire(lanes); }); // also when `meanwhile` fails
+        meanwhile();
+    }
+    if (failure)
+        std::rethrow_exception(failure);
 }
 
 template <typename Task>

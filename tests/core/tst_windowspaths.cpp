@@ -53,6 +53,7 @@ void WindowsPathsTest::walksDriveRoots()
     QTemporaryFile probe(root + u"mirrix-XXXXXX.probe"_s);
     if (!probe.open())
         QSKIP("the root is not for writing here");
+    const QString path = probe.fileName(); // a temporary file has no name until it is asked for
     ScanOptions options;
     options.roots = {root};
     options.locations = {{root, false, 0, false}};
@@ -60,7 +61,7 @@ void WindowsPathsTest::walksDriveRoots()
     QStringList paths;
     for (const FileEntry &file : enumerateFiles(options, {}, {}))
         paths.append(file.path);
-    QVERIFY2(paths.contains(probe.fileName()), qPrintable(paths.join(u'\n')));
+    QVERIFY2(paths.contains(path), qPrintable(paths.join(u'\n')));
 }
 
 QTEST_GUILESS_MAIN(WindowsPathsTest)

@@ -7,9 +7,11 @@
 #include <QJsonDocument>
 #include <QMap>
 #include <QRegularExpression>
+#include <QStorageInfo>
 #include <QUrl>
 
 #include <filesystem>
+#include <unistd.h>
 
 using namespace Mirrix;
 using namespace Qt::StringLiterals;
@@ -67,6 +69,14 @@ Scene::Scene(const QString &method, bool isOnOtherVolume)
         for (const QString &victim : victims())
             paths.append(path(victim));
         static_cast<void>(backupFiles(m_target, paths));
+    }
+}
+
+Scene::~Scene()
+{
+    for (const auto &[note, file] : binned()) { // in the bin of the volume they would stay for ever
+        QFile::remove(note);
+        QFile::remove(file);
     }
 }
 
@@ -181,15 +191,30 @@ bool Scene::isHandled(const QString &victim) const
 
 bool Scene::isInBin(const QString &victim) const
 {
-    const QDir notes(path(u"share/Trash/info"_s));
-    const QStringList names = notes.entryList({u"*.trashinfo"_s}, QDir::Files);
-    for (const QString &name : names) {
-        const QList<QByteArray> lines = contentOf(notes.filePath(name)).split('\n');
-        const bool isNoted = lines.contains("Path=" + QUrl::toPercentEncoding(path(victim), "/"));
-        if (isNoted && isAsBefore(path(u"share/Trash/files/"_s + name.chopped(10)), victim))
+    for (const auto &[note, file] : binned()) {
+        const bool isNoted = contentOf(note).contains(QUrl::toPercentEncoding(path(victim), "/") + '\n');
+        if (isNoted && isAsBefore(file, victim))
             return true;
     }
     return false;
+}
+
+/// The scene's notes and files in the bin of its home and in that of its volume, where a file goes that could not be
+/// moved to the home.
+QList<std::pair<QString, QString>> Scene::binned() const
+{
+    const QString top = QStorageInfo(m_tree.path()).rootPath();
+    const QString ofVolume = QDir(top).filePath(u".Trash-%1"_s.arg(geteuid()));
+    const QByteArray scene = QUrl::toPercentEncoding(QDir(top).relativeFilePath(m_tree.path()), "/");
+    QList<std::pair<QString, QString>> found;
+    for (const QString &bin : {path(u"share/Trash"_s), ofVolume}) {
+        const QDir notes(bin + u"/info"_s);
+        for (const QString &name : notes.entryList({u"*.trashinfo"_s}, QDir::Files)) {
+            if (contentOf(notes.filePath(name)).contains(scene))
+                found.append({notes.filePath(name), bin + u"/files/"_s + name.chopped(10)});
+        }
+    }
+    return found;
 }
 
 bool Scene::isListed(const QString &victim) const

@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <memory>
+#include <utility>
 
 namespace MirrixTest {
 
@@ -18,6 +19,8 @@ public:
     /// `method` is one of clean's, or "restore", for which the surplus files are backed up already. The folder into
     /// which files go lies on another volume when `isOnOtherVolume`.
     Scene(const QString &method, bool isOnOtherVolume);
+    Q_DISABLE_COPY_MOVE(Scene)
+    ~Scene();
 
     [[nodiscard]] const QString &target() const { return m_target; }
     [[nodiscard]] QString path(const QString &relative) const { return m_tree.path(relative); }
@@ -56,6 +59,7 @@ private:
     [[nodiscard]] Place placeOf(const QString &victim) const;
     [[nodiscard]] bool isHandled(const QString &victim) const;
     [[nodiscard]] bool isInBin(const QString &victim) const;
+    [[nodiscard]] QList<std::pair<QString, QString>> binned() const;
     [[nodiscard]] bool isListed(const QString &victim) const;
     [[nodiscard]] bool isAtHome(const QString &relative) const;
     [[nodiscard]] bool isAsBefore(const QString &path, const QString &relative) const;

@@ -1,5 +1,5 @@
-// Takes pictures of all windows: screenshots FOLDER [THEME [LANGUAGE [NAME...]]]. Runs a real scan on sample files of its
-// own and grabs each page and dialog, or those named. scripts/screenshots.sh calls it.
+// Takes pictures of all windows: screenshots FOLDER [THEME [LANGUAGE [NAME...]]]. Runs a real scan on sample files of
+// its own and grabs each page and dialog, or those named. scripts/screenshots.sh calls it.
 
 #include "app/translations.h"
 #include "tests/ui/gallery.h"
