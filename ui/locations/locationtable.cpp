@@ -208,6 +208,8 @@ void LocationTable::addFindCombo(int row)
 {
     auto *combo = new QComboBox;
     combo->setObjectName(QStringLiteral("LocationFindCombo"));
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToContents); // other languages, other widths
+    combo->setMinimumContentsLength(10); // the style takes pictures among letters for narrower than they are
     combo->addItems(findTexts());
     // Values from elsewhere that name no item show, and mean, the first.
     if (m_rows[row].findKind < 1 || m_rows[row].findKind >= combo->count())
