@@ -8,8 +8,8 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QComboBox>
-#include <QGroupBox>
 #include <QFontDatabase>
+#include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
