@@ -380,6 +380,12 @@ QString Mirrix::idleText() const
     return Text::tr("%1 · 本地运行 · 图片哈希: %2").arg(modeText(), imageHashName());
 }
 
+bool Mirrix::event(QEvent *event)
+{
+    // Entries of the menus, which have no tips, would empty the bar as the mouse passes over them.
+    return event->type() == QEvent::StatusTip || QMainWindow::event(event);
+}
+
 void Mirrix::closeEvent(QCloseEvent *event)
 {
     if (!m_quitting && m_tray && m_tray->isVisible() && m_settings.closeToTray) {

@@ -49,6 +49,7 @@ public:
     [[nodiscard]] bool isScanning() const { return m_scanning; }
 
 protected:
+    bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;

@@ -13,6 +13,7 @@
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QStatusTipEvent>
 #include <QTest>
 #include <QTreeView>
 
@@ -132,6 +133,8 @@ private slots:
         QCOMPARE(rows.size(), 3);
         QTest::mouseClick(rows[1], Qt::LeftButton);
         QCOMPARE(pages->currentIndex(), 1);
+        QStatusTipEvent passing({}); // as from a mouse over the menus
+        QCoreApplication::sendEvent(stage.window.get(), &passing);
         QCOMPARE(stage.window->statusBar()->currentMessage(), u"配置规则后点击「开始扫描」"_qs);
         QVERIFY(rows[1]->parentWidget()->property("activeStep").toBool());
         QVERIFY(!rows[0]->parentWidget()->property("activeStep").toBool());

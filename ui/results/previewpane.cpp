@@ -76,8 +76,10 @@ PreviewPane::PreviewPane(QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(8);
     layout->addWidget(m_title);
-    constexpr int lines = 8; // of facts; more are scrolled
-    m_facts->setMaximumHeight(fontMetrics().lineSpacing() * lines);
+    constexpr int leastLines = 7; // of facts; more than the most are scrolled
+    constexpr int mostLines = 8;
+    m_facts->setMinimumHeight(fontMetrics().lineSpacing() * leastLines);
+    m_facts->setMaximumHeight(fontMetrics().lineSpacing() * mostLines);
     layout->addWidget(m_canvas, 1);
     layout->addWidget(m_facts);
     connect(&m_loader, &PictureLoader::loaded, this, &PreviewPane::showLoaded);
