@@ -36,9 +36,7 @@ QString surplusProblem(const FileEntry &surplus, const FileEntry &keeper)
         return changedText(surplus.path);
     if (!matches(other, keeper.size, keeper.modifiedMs))
         return QCoreApplication::translate("Mirrix", "要保留的文件已更改，未处理: %1").arg(surplus.path);
-    const bool areTold =
-        one.identity.isKnown && other.identity.isKnown && one.identity.index != 0 && other.identity.index != 0;
-    if (!areTold || one.identity.isSameAs(other.identity))
+    if (!one.identity.isOtherThan(other.identity))
         return QCoreApplication::translate("Mirrix", "与要保留的文件可能是同一个文件，未处理: %1").arg(surplus.path);
     return {};
 }

@@ -149,8 +149,7 @@ bool leadsTo(const QString &path, const QString &target)
         return false;
     const MirrixCore::FileIdentity reached = MirrixCore::fileStatus(path).identity;
     const MirrixCore::FileIdentity wanted = MirrixCore::fileStatus(target).identity;
-    const bool areTold = reached.isKnown && wanted.isKnown && reached.index != 0 && wanted.index != 0;
-    return areTold ? reached.isSameAs(wanted) : haveSameContent(path, target);
+    return reached.isSameAs(wanted) || (!reached.isOtherThan(wanted) && haveSameContent(path, target));
 }
 
 } // namespace Mirrix

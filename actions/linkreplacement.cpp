@@ -65,9 +65,7 @@ private:
             return text(QT_TRANSLATE_NOOP("Mirrix", "文件不存在: %1"), file.path);
         if (target.kind != PathState::Kind::File)
             return text(QT_TRANSLATE_NOOP("Mirrix", "链接目标不是可用的文件: %1"), file.target);
-        const bool areTold = before.identity.isKnown && target.identity.isKnown && before.identity.index != 0 &&
-                             target.identity.index != 0;
-        if (!areTold || before.identity.isSameAs(target.identity))
+        if (!before.identity.isOtherThan(target.identity))
             return text(QT_TRANSLATE_NOOP("Mirrix", "与要保留的文件可能是同一个文件，未处理: %1"), file.path);
         if (m_originals == Originals::Discard && before.isUndeletable)
             return text(QT_TRANSLATE_NOOP("Mirrix", "无法删除: %1"), file.path);

@@ -15,7 +15,19 @@ struct FileIdentity
     /// Whether both are known for certain and the same file or folder.
     [[nodiscard]] bool isSameAs(const FileIdentity &other) const
     {
-        return isKnown && other.isKnown && index != 0 && index == other.index && volume == other.volume;
+        return areTold(*this, other) && index == other.index && volume == other.volume;
+    }
+
+    /// Whether both are known for certain and not the same. What is unknown is neither the same nor another.
+    [[nodiscard]] bool isOtherThan(const FileIdentity &other) const
+    {
+        return areTold(*this, other) && !isSameAs(other);
+    }
+
+    /// Whether anything can be said of the two.
+    static bool areTold(const FileIdentity &one, const FileIdentity &other)
+    {
+        return one.isKnown && other.isKnown && one.index != 0 && other.index != 0;
     }
 };
 

@@ -70,6 +70,7 @@ private slots:
     void init() { m_tree = std::make_unique<TempTree>(); }
     void matrix_data();
     void matrix();
+    void neverReplaces();
     void acrossVolumes();
     void fullDisk_data();
     void fullDisk();
@@ -157,6 +158,19 @@ void FileOperationsTest::matrix()
     }
     QCOMPARE(treeBelow(m_tree->path()), expected);
     QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+}
+
+/// What appears at the target after it was looked for, as from another program, stays too.
+void FileOperationsTest::neverReplaces()
+{
+    const QString from = m_tree->write(u"from"_s, "one");
+    const QString to = m_tree->write(u"to"_s, "other");
+    for (const auto act : {renameExclusively, moveFile, copyFile, copyToNewFile}) {
+        QCOMPARE(act(from, to), FileFault::Occupied);
+        QCOMPARE(contentOf(from), QByteArray("one"));
+        QCOMPARE(contentOf(to), QByteArray("other"));
+    }
+    QCOMPARE(treeBelow(m_tree->path()).size(), 2);
 }
 
 void FileOperationsTest::acrossVolumes()

@@ -297,6 +297,12 @@ void FolderReaderTest::comparesNoUnknownIdentities()
     QVERIFY(!known.isSameAs({7, 42, 1, false}));
     QVERIFY(!(FileIdentity{7, 42, 1, false}).isSameAs(known));
     QVERIFY(!(FileIdentity{7, 0, 1, true}).isSameAs({7, 0, 1, true}));
+    QVERIFY(!known.isOtherThan(known));
+    QVERIFY(known.isOtherThan({8, 42, 1, true}));
+    QVERIFY(known.isOtherThan({7, 43, 1, true}));
+    QVERIFY(!known.isOtherThan({7, 43, 1, false}));
+    QVERIFY(!known.isOtherThan({7, 0, 1, true}));
+    QVERIFY(!(FileIdentity{7, 0, 1, true}).isOtherThan(known));
 }
 
 QTEST_GUILESS_MAIN(FolderReaderTest)
