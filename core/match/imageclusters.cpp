@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <numbers>
 #include <span>
-#include <unordered_map>
+#include <vector>
 
 namespace MirrixCore {
 
@@ -97,23 +97,28 @@ public:
     }
 
 private:
-    using Bucket = std::vector<size_t>; // in list order; those in a component already are taken out when met
+    using Bucket = std::vector<size_t>;  // in list order; those in a component already are taken out when met
+    using Buckets = std::vector<Bucket>; // by key
 
-    static quint32 keyOf(quint64 hash) { return static_cast<quint32>(hash >> 48); }
+    static constexpr size_t keyCount = 1 << 16;
 
-    /// Under the key of each variant: the hash of a turned copy as it is has nothing in common with the original's.
+    static size_t keyOf(quint64 hash) { return static_cast<size_t>(hash >> 48); }
+
+    /// Also under the key of each variant: the hash of a turned copy as it is has nothing in common with the
+    /// original's.
     void add(size_t image)
     {
         const ImageFeature &feature = m_features[image];
         m_hashes.insert(m_hashes.end(), feature.variants.begin(), feature.variants.end());
-        addToBucket(feature.primary, image);
+        m_byPrimary[keyOf(feature.primary)].push_back(image);
+        addByVariant(feature.primary, image);
         for (const quint64 variant : feature.variants)
-            addToBucket(variant, image);
+            addByVariant(variant, image);
     }
 
-    void addToBucket(quint64 hash, size_t image)
+    void addByVariant(quint64 hash, size_t image)
     {
-        Bucket &bucket = m_buckets[keyOf(hash)];
+        Bucket &bucket = m_byVariant[keyOf(hash)];
         if (bucket.empty() || bucket.back() != image)
             bucket.push_back(image);
     }
@@ -123,32 +128,38 @@ private:
     {
         std::vector<size_t> members{seed};
         m_isPlaced[seed] = true;
-        for (size_t next = 0; next < members.size() && !isCancelled(cancelled); ++next) {
-            const quint32 key = keyOf(m_features[members[next]].primary);
-            moveMatches(members[next], key, members);
-            moveMatches(members[next], key ^ 1, members);
-        }
+        for (size_t next = 0; next < members.size() && !isCancelled(cancelled); ++next)
+            moveAllMatches(members[next], members);
         return members;
     }
 
-    /// Moves what matches `image` from a bucket to the members.
-    void moveMatches(size_t image, quint32 key, std::vector<size_t> &members)
+    /// The primary hash meets the variants of others, and the variants the others' primary hashes: whether two pictures
+    /// are compared must not depend on which one comes first.
+    void moveAllMatches(size_t image, std::vector<size_t> &members)
     {
-        const auto found = m_buckets.find(key);
-        if (found == m_buckets.end())
-            return;
-        Bucket &bucket = found->second;
-        const auto rest = std::remove_if(bucket.begin(), bucket.end(), [&](size_t candidate) {
-            if (m_isPlaced[candidate])
-                return true;
-            const bool isMatch = matches(image, candidate);
-            if (isMatch) {
-                m_isPlaced[candidate] = true;
-                members.push_back(candidate);
-            }
-            return isMatch;
-        });
-        bucket.erase(rest, bucket.end());
+        const quint64 primary = m_features[image].primary;
+        moveMatches(image, m_byVariant, keyOf(primary), members);
+        for (const quint64 variant : variantsOf(image)) {
+            if (variant != primary)
+                moveMatches(image, m_byPrimary, keyOf(variant), members);
+        }
+    }
+
+    /// Moves what matches `image` from the bucket of a key and from the one beside it to the members.
+    void moveMatches(size_t image, Buckets &buckets, size_t key, std::vector<size_t> &members)
+    {
+        for (Bucket *const bucket : {&buckets[key], &buckets[key ^ 1]}) {
+            std::erase_if(*bucket, [&](size_t candidate) {
+                if (m_isPlaced[candidate])
+                    return true;
+                const bool isMatch = matches(image, candidate);
+                if (isMatch) {
+                    m_isPlaced[candidate] = true;
+                    members.push_back(candidate);
+                }
+                return isMatch;
+            });
+        }
     }
 
     [[nodiscard]] std::span<const quint64> variantsOf(size_t image) const
@@ -182,7 +193,8 @@ private:
     const ScanOptions &m_options;
     std::vector<quint64> m_hashes;   // the variants of all pictures, one after the other
     std::vector<size_t> m_firstHash; // of each picture, and the end
-    std::unordered_map<quint32, Bucket> m_buckets;
+    Buckets m_byPrimary = Buckets(keyCount);
+    Buckets m_byVariant = Buckets(keyCount);
     std::vector<bool> m_isPlaced; // in a component
 };
 

@@ -15,10 +15,10 @@ namespace MirrixCore {
 
 /// Groups pictures whose hashes are at most `imageMaxDistance` bits apart and which pass the other checks of the
 /// options, each group named "img-" and the hash of its first member. `features[i]` belongs to `files[i]`; pictures
-/// without a valid one join no group. A picture is compared only with those whose primary hash has the same upper 16
-/// bits, their lowest apart: near-linear in the number of pictures, at the price of some that are missed. Similarity
-/// passes on: the ends of a group may be further apart. Members and groups in list order; no group when `cancelled`
-/// answers true.
+/// without a valid one join no group. Two pictures are compared only if the primary hash of one and some variant of the
+/// other have the same upper 16 bits, their lowest apart: near-linear in the number of pictures, at the price of some
+/// that are missed. Similarity passes on: the ends of a group may be further apart. Members and groups in list order,
+/// which has no influence on who belongs together; no group when `cancelled` answers true.
 [[nodiscard]] QList<DuplicateGroup> groupSimilarImages(const QList<FileEntry> &files,
                                                        const std::vector<ImageFeature> &features,
                                                        const ScanOptions &options, const CancelQuery &cancelled);

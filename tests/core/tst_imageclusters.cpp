@@ -89,6 +89,10 @@ void ImageClustersTest::distancesAndBuckets_data()
         {picture, featureOf({base ^ (quint64(1) << 48)}), featureOf({base ^ (quint64(3) << 48)})}, 22, {u"0 1"_s});
     row("variants", {featureOf({base, 7}), featureOf({base ^ 0xFFFFFF, 9, 8, 5})}, 1, {u"0 1"_s});
     row("a variant of another bucket", {featureOf({base, 1}), featureOf({~base, 1})}, 0, {});
+    const ImageFeature turned = featureOf({7});
+    row("only a variant of the first", {featureOf({base, 7}), turned}, 0, {u"0 1"_s});
+    row("only a variant of the last", {turned, featureOf({base, 7})}, 0, {u"0 1"_s});
+    row("chain through a turned one", {featureOf({~base, 7}), turned, featureOf({base, 7})}, 0, {u"0 1 2"_s});
     row("invalid", {picture, featureOf({}), picture}, 22, {u"0 2"_s});
     row("two groups", {picture, featureOf({~base}), picture, featureOf({~base})}, 5, {u"0 2"_s, u"1 3"_s});
     for (const int bit : {49, 55, 62, 63})
