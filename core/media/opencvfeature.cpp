@@ -9,19 +9,37 @@
 #include <opencv2/imgproc.hpp>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 using namespace MirrixCore;
 
 namespace {
 
-/// The library's area interpolation, the quick way. By whole factors the library sums whole numbers and is quick
-/// itself, and what it enlarges it interpolates; for the rest it sums floating-point numbers, five times as slowly as
-/// exact means take and equal to them but for a grey level in one of a hundred pictures.
+/// The library divides twice to learn whether a side shrinks by a whole factor, and misses some, such as 49.
+bool isWholeFactor(int pixels, int side)
+{
+    const double factor = 1 / (static_cast<double>(side) / pixels);
+    return std::abs(factor - std::round(factor)) < std::numeric_limits<double>::epsilon();
+}
+
+/// Whether the library is needed for its very own result: what it enlarges it interpolates, halving has a rounding of
+/// its own, and of whole factors it knows those it finds.
+bool isForLibrary(const cv::Mat &grey, int side)
+{
+    const bool isHalved = grey.cols == 2 * side && grey.rows == 2 * side;
+    const bool isWhole = grey.cols % side == 0 && grey.rows % side == 0;
+    const bool isFoundWhole = isWholeFactor(grey.cols, side) && isWholeFactor(grey.rows, side);
+    return std::min(grey.cols, grey.rows) < side || isHalved || (isWhole && !isFoundWhole);
+}
+
+/// The library's area interpolation, the quick way. By whole factors our sums give what the library gives, in half its
+/// time and a twentieth for large pictures. Else it sums floating-point numbers, many times as slowly and equal to our
+/// exact means but for a grey level in one of a hundred pictures.
 cv::Mat shrunk(const cv::Mat &grey, int side)
 {
-    cv::Mat small;
-    if ((grey.cols % side == 0 && grey.rows % side == 0) || std::min(grey.cols, grey.rows) < side) {
+    if (isForLibrary(grey, side)) {
+        cv::Mat small;
         cv::resize(grey, small, cv::Size(side, side), 0, 0, cv::INTER_AREA);
         return small;
     }
