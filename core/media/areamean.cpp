@@ -1,7 +1,6 @@
 #include "core/media/areamean.h"
 
 #include <algorithm>
-#include <cmath>
 #include <numeric>
 
 namespace MirrixCore {
@@ -111,9 +110,12 @@ uchar exactRatio(quint64 sum, quint64 area)
 }
 
 /// As OpenCV rounds where a cell covers whole pixels: its product may lie beside a half level that the mean hits.
+/// Adding 2^23 leaves no room for a fraction and so rounds, halves to even, without the call that std::lrint is.
 uchar quickRatio(quint64 sum, float share)
 {
-    return static_cast<uchar>(std::lrint(static_cast<float>(sum) * share));
+    constexpr float wholeFrom = 1 << 23;
+    const float level = static_cast<float>(static_cast<qint64>(sum)) * share;
+    return static_cast<uchar>(level + wholeFrom - wholeFrom);
 }
 
 } // namespace
