@@ -54,8 +54,8 @@ for target in "${targets[@]}"; do
     echo "== $target"
     scratch=$(mktemp -d)
     MIRRIX_FUZZ_TARGET=$target TMPDIR=$scratch build/fuzz/bin/mirrix_fuzz "-max_total_time=$seconds" -max_len=4096 \
-        -dict=build/fuzz/names.dict -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 -verbosity=0 "-artifact_prefix=build/fuzz/$target-" \
-        "build/fuzz/corpus/$target" || status=1
+        -dict=build/fuzz/names.dict -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 -verbosity=0 \
+        "-artifact_prefix=build/fuzz/$target-" "build/fuzz/corpus/$target" || status=1
     rm -rf "$scratch"
 done
 exit $status
