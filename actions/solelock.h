@@ -12,6 +12,13 @@ namespace Mirrix {
     // that is held does no harm: the system itself keeps others from taking it.
     constexpr int staleMs = 500;
     lock.setStaleLockTime(staleMs);
+    if (lock.tryLock(0))
+        return true;
+    // Qt takes a stale lock away under a lock of its own, which a second kill may have left half-made in turn.
+    QLockFile removal(lock.fileName() + QLatin1String(".rmlock"));
+    removal.setStaleLockTime(staleMs);
+    if (removal.tryLock(patienceMs))
+        removal.unlock();
     return lock.tryLock(patienceMs);
 }
 

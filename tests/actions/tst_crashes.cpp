@@ -1,6 +1,12 @@
 #include "actions/backupstore.h"
 #include "actions/linkreplacement.h"
 #include "actions/operationslog.h"
+#include "app/settings.h"
+#include "core/cache/cacheroot.h"
+#include "core/cache/fingerprintcache.h"
+#include "core/cache/imagefeaturecache.h"
+#include "core/hash/contenthasher.h"
+#include "tests/actions/exportscene.h"
 #include "tests/support/disk.h"
 #include "tests/support/temptree.h"
 
@@ -12,12 +18,71 @@
 #include <memory>
 
 using namespace Mirrix;
+using namespace MirrixCore;
 using namespace MirrixTest;
 using namespace Qt::StringLiterals;
 
 namespace {
 
 const QStringList names = {u"one"_s, u"two"_s};
+
+constexpr qint64 sizeBytes = 5;
+constexpr qint64 modifiedMs = 7;
+
+QByteArray digestOf(char fill)
+{
+    return QByteArray(currentDigestLength(), fill);
+}
+
+ImageFeature featureOf(quint64 hash)
+{
+    return {hash, {hash, ~hash}, true, QByteArray(256, char(hash))};
+}
+
+bool canTrace()
+{
+    QProcess probe;
+    probe.start(u"strace"_s, {u"-qq"_s, u"-o"_s, u"/dev/null"_s, u"true"_s});
+    return probe.waitForFinished() && probe.exitCode() == 0;
+}
+
+/// The writers of the program's own files, each of which has its file already; `isNew` is what the killed process
+/// writes.
+void writeOwn(const QString &name, const QString &root, bool isNew)
+{
+    setCacheRoot(root);
+    if (name == u"settings") {
+        Settings values = readSettings(root);
+        values.keepRule = isNew ? 2 : 1;
+        values.save();
+    } else if (name == u"digests") {
+        storeQuickAndFull(u"/a"_s, sizeBytes, modifiedMs + isNew, digestOf('q'), digestOf(isNew ? 'n' : 'o'));
+    } else if (name == u"picture") {
+        storeImageFeature(u"/a"_s, sizeBytes, modifiedMs + isNew, featureOf(isNew ? 2 : 1));
+    } else {
+        const ExportRecords records = recordsOf({root + u"/keeper"_s, root + (isNew ? u"/src/one"_s : u"/src/two"_s)});
+        static_cast<void>(writeExport(records, {ExportFormat::Csv, root + u"/out"_s, everything}, {}, {}));
+    }
+}
+
+/// Whether the own file is one of the two, or for a cache at least misleads nobody.
+bool isWhole(const QString &name, const QString &root, const QByteArray &before, const QByteArray &after)
+{
+    setCacheRoot(root);
+    if (name == u"settings" || name == u"export") {
+        const QByteArray now = contentOf(root + (name == u"export" ? u"/out"_s : u"/settings.json"_s));
+        return now == before || now == after;
+    }
+    for (const bool isNew : {false, true}) {
+        const Fingerprint print = lookupFingerprint(u"/a"_s, sizeBytes, modifiedMs + isNew);
+        ImageFeature feature;
+        const bool isFound = loadImageFeature(u"/a"_s, sizeBytes, modifiedMs + isNew, feature);
+        if ((!print.full.isEmpty() && print.full != digestOf(isNew ? 'n' : 'o')) ||
+            (!print.quick.isEmpty() && print.quick != digestOf('q')) || (isFound && feature != featureOf(1 + isNew)))
+            return false;
+    }
+    return true;
+}
 
 /// What the killed process does; all of it below `root`, the store at `store`.
 void act(const QString &name, const QString &root, const QString &store)
@@ -29,7 +94,7 @@ void act(const QString &name, const QString &root, const QString &store)
         links.append({path, root + u"/keeper"_s});
     if (name == u"back up")
         static_cast<void>(backupFiles(store, paths));
-    else if (name == u"restore")
+    else if (name.startsWith(u"restore"))
         static_cast<void>(restoreBackups(store, loadBackupIndex(store)));
     else if (name == u"log")
         OperationsLog(root + u"/log"_s).append(u"second"_s, u"new"_s);
@@ -48,11 +113,14 @@ class CrashesTest : public QObject
 private slots:
     void killedAnywhere_data();
     void killedAnywhere();
+    void ownFilesStayWhole_data();
+    void ownFilesStayWhole();
 
 private:
     void prepare(const QString &name, bool isOnOtherVolume);
     void sweep(const QString &call, const QString &action, bool isOnOtherVolume);
     void check(const QString &action) const;
+    [[nodiscard]] static bool runsThrough(const QString &call, int number, const QStringList &arguments);
 
     std::unique_ptr<TempTree> m_tree;
     std::unique_ptr<QTemporaryDir> m_other;
@@ -67,6 +135,7 @@ void CrashesTest::killedAnywhere_data()
     QTest::newRow("back up ") << true;
     QTest::newRow("restore") << false;
     QTest::newRow("restore ") << true;
+    QTest::newRow("restore, killed before") << true;
     QTest::newRow("symbolic link") << false;
     QTest::newRow("hard link, keep") << false;
     QTest::newRow("log") << false;
@@ -76,9 +145,7 @@ void CrashesTest::killedAnywhere_data()
 void CrashesTest::killedAnywhere()
 {
     QFETCH(bool, isOnOtherVolume);
-    QProcess probe;
-    probe.start(u"strace"_s, {u"-qq"_s, u"-o"_s, u"/dev/null"_s, u"true"_s});
-    if (!probe.waitForFinished() || probe.exitCode() != 0)
+    if (!canTrace())
         QSKIP("cannot trace processes");
     if (isOnOtherVolume && !folderOnOtherVolume(QDir::tempPath()))
         QSKIP("no second volume");
@@ -103,27 +170,35 @@ void CrashesTest::prepare(const QString &name, bool isOnOtherVolume)
         m_tree->write(u"src/"_s + file, areCopies ? "the same content" : "content of " + file.toLatin1());
     m_before = treeBelow(m_tree->path(u"src"_s));
     OperationsLog(m_tree->path(u"log"_s)).append({{1, u"first"_s, u"old"_s}});
-    if (name == u"restore")
+    if (name.startsWith(u"restore"))
         act(u"back up"_s, m_tree->path(), m_store);
+    if (name == u"restore, killed before") // when the first copy was in place and its source still there
+        QVERIFY(!runsThrough(u"unlink"_s, 1, {u"--act"_s, name, m_tree->path(), m_store}));
+}
+
+/// Runs this program under a tracer that kills it before its n-th call of a kind; whether it ended by itself.
+bool CrashesTest::runsThrough(const QString &call, int number, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(u"strace"_s, QStringList{u"-f"_s, u"-qq"_s, u"-o"_s, u"/dev/null"_s, u"-e"_s, u"trace="_s + call,
+                                           u"-e"_s, u"inject=%1:signal=SIGKILL:when=%2"_s.arg(call).arg(number),
+                                           QCoreApplication::applicationFilePath()} +
+                                   arguments);
+    return process.waitForFinished() && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
 }
 
 void CrashesTest::sweep(const QString &call, const QString &action, bool isOnOtherVolume)
 {
     for (int when = 1; when < 200; ++when) {
         prepare(action, isOnOtherVolume);
-        QProcess process;
-        process.start(u"strace"_s,
-                      {u"-f"_s, u"-qq"_s, u"-o"_s, u"/dev/null"_s, u"-e"_s, u"trace="_s + call, u"-e"_s,
-                       u"inject=%1:signal=SIGKILL:when=%2"_s.arg(call).arg(when),
-                       QCoreApplication::applicationFilePath(), u"--act"_s, action, m_tree->path(), m_store});
-        QVERIFY(process.waitForFinished());
+        const bool isThrough = runsThrough(call, when, {u"--act"_s, action, m_tree->path(), m_store});
         check(action);
         if (QTest::currentTestFailed()) {
             qWarning("killed at %s %d", qPrintable(call), when);
             return;
         }
-        if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
-            return; // ran through
+        if (isThrough)
+            return;
     }
     QFAIL("never ran through");
 }
@@ -154,12 +229,51 @@ void CrashesTest::check(const QString &action) const
     QCOMPARE(contentOf(m_tree->path(u"keeper"_s)), QByteArray("the same content"));
 }
 
+void CrashesTest::ownFilesStayWhole_data()
+{
+    QTest::addColumn<QStringList>("calls");
+    const QStringList atomically = {u"write"_s, u"fsync"_s, u"rename"_s, u"renameat2"_s, u"unlink"_s, u"fchmod"_s};
+    QTest::newRow("settings") << atomically;
+    QTest::newRow("export") << atomically;
+    QTest::newRow("picture") << atomically;
+    QTest::newRow("digests") << QStringList{u"write"_s, u"ftruncate"_s, u"close"_s};
+}
+
+/// Settings and lists are the old ones or the new ones whenever the process is killed, and so is what caches tell.
+void CrashesTest::ownFilesStayWhole()
+{
+    QFETCH(QStringList, calls);
+    if (!canTrace())
+        QSKIP("cannot trace processes");
+    const QString name = QString::fromLatin1(QTest::currentDataTag());
+    const QString file = name == u"export" ? u"out"_s : u"settings.json"_s;
+    for (const QString &call : std::as_const(calls)) {
+        bool isThrough = false;
+        for (int when = 1; !isThrough; ++when) {
+            const TempTree tree;
+            writeOwn(name, tree.path(), true);
+            const QByteArray after = contentOf(tree.path(file));
+            writeOwn(name, tree.path(), false);
+            const QByteArray before = contentOf(tree.path(file));
+            isThrough = runsThrough(call, when, {u"--write"_s, name, tree.path()});
+            QVERIFY2(isWhole(name, tree.path(), before, after), qPrintable(u"killed at %1 %2"_s.arg(call).arg(when)));
+            writeOwn(name, tree.path(), true); // what the crash left is not in the way
+            QVERIFY(contentOf(tree.path(file)) == after && isWhole(name, tree.path(), after, after));
+            QVERIFY(when < 200);
+        }
+    }
+}
+
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == u"--act") {
         act(arguments.value(2), arguments.value(3), arguments.value(4));
+        return 0;
+    }
+    if (arguments.value(1) == u"--write") {
+        writeOwn(arguments.value(2), arguments.value(3), true);
         return 0;
     }
     CrashesTest test;

@@ -396,7 +396,7 @@ private slots:
         const int seconds = qEnvironmentVariableIntValue("MIRRIX_MONKEY_SECONDS");
         const quint32 seed = seconds > 0 ? QRandomGenerator::global()->generate() : 1;
         qInfo("seed %u", seed);
-        Monkey monkey(seed, 1500, seconds * 1000LL);
+        Monkey monkey(seed, 800, seconds * 1000LL);
         monkey.run();
         QVERIFY2(monkey.problems().isEmpty(), qPrintable(monkey.problems().join(u'\n')));
         QVERIFY(seconds < 60 || monkey.filesGone() > 0); // else it has only played
