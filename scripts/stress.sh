@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
-# The long forms of the tests that ctest runs short: every fault, every kill, races, and ten minutes of each fuzzer.
-# scripts/stress.sh [faults|kills|races|fuzz]...; everything without arguments, which takes some hours.
+# The long forms of the tests that ctest runs short: every fault, every kill, races, ten minutes of the window driven at
+# random under the address sanitizer, and ten minutes of each fuzzer.
+# scripts/stress.sh [faults|kills|races|monkey|fuzz]...; everything without arguments, which takes some hours.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 parts=("$@")
 if [ ${#parts[@]} -eq 0 ]; then
-    parts=(faults kills races fuzz)
+    parts=(faults kills races monkey fuzz)
 fi
 cmake --preset dev >/dev/null
 cmake --build --preset dev --target tst_faults tst_races tst_crashes mirrix-cli
@@ -22,9 +23,15 @@ for part in "${parts[@]}"; do
         faults) MIRRIX_FAULT_STRIDE=1 QTEST_FUNCTION_TIMEOUT=86400000 build/dev/bin/tst_faults || status=1 ;;
         kills) QTEST_FUNCTION_TIMEOUT=86400000 build/dev/bin/tst_crashes || status=1 ;;
         races) MIRRIX_RACE_ROUNDS=5000 QTEST_FUNCTION_TIMEOUT=86400000 build/dev/bin/tst_races || status=1 ;;
+        monkey)
+            cmake --preset asan >/dev/null
+            cmake --build --preset asan --target tst_monkey
+            MIRRIX_MONKEY_SECONDS=600 QT_QPA_PLATFORM=offscreen QTEST_FUNCTION_TIMEOUT=86400000 \
+                build/asan/bin/tst_monkey -maxwarnings 1 || status=1
+            ;;
         fuzz) scripts/fuzz.sh 600 || status=1 ;;
         *)
-            echo "faults, kills, races or fuzz, not \"$part\"" >&2
+            echo "faults, kills, races, monkey or fuzz, not \"$part\"" >&2
             exit 2
             ;;
     esac
