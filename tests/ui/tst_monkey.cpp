@@ -1,6 +1,5 @@
 #include "core/cache/cacheroot.h"
-#include "tests/support/disk.h"
-#include "tests/support/temptree.h"
+#include "tests/ui/filewatch.h"
 #include "ui/dialogs/fileprogressdialog.h"
 #include "ui/dialogs/fileremovaldialog.h"
 #include "ui/locations/locationspage.h"
@@ -14,7 +13,6 @@
 #include <QDesktopServices>
 #include <QDialog>
 #include <QElapsedTimer>
-#include <QImage>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QRandomGenerator>
@@ -27,84 +25,6 @@ using namespace MirrixTest;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The files, and what may become of them: a file below in/ goes only when it was ticked, nothing is changed in place,
-/// no content is lost unless files were to be destroyed, and out/ stays as it was.
-class Watch
-{
-public:
-    Watch()
-    {
-        for (const char *folder : {"data", "backup", "share", "cwd", "answers"})
-            m_tree.makeFolder(QString::fromLatin1(folder));
-    }
-
-    /// Makes all files anew; what earlier ones became elsewhere stays.
-    void restock()
-    {
-        QDir(path(u"in"_s)).removeRecursively();
-        QImage picture(40, 30, QImage::Format_RGB32);
-        for (int i = 0; i < 18; ++i) {
-            const QString name = u"%1/d%2/f%3"_s.arg(i % 6 ? u"in"_s : u"out"_s).arg(i % 4).arg(i);
-            m_tree.write(name + u".txt"_s, patternBytes(i % 2 ? 20 : 100000, quint32(i % 3)));
-            picture.fill(QColor(i % 3 * 80, 120, 200));
-            picture.save(m_tree.path(name + u".png"_s));
-        }
-        look();
-        m_contents.clear();
-        for (auto file = m_before.begin(); file != m_before.end(); ++file) {
-            if (isUsers(file.key()))
-                m_contents.insert(*file);
-        }
-    }
-
-    [[nodiscard]] QString path(const QString &relative) const { return m_tree.path(relative); }
-    [[nodiscard]] bool holds(const QString &path) const { return path.startsWith(m_tree.path() + u'/'); }
-    [[nodiscard]] const QStringList &problems() const { return m_problems; }
-    void complain(const QString &problem) { m_problems.append(problem); }
-    [[nodiscard]] int gone() const { return m_gone; }
-
-    /// Compares with the last call; the files at `ticked` may have gone since.
-    void check(const QSet<QString> &ticked, bool mayDestroy)
-    {
-        const DiskTree before = m_before;
-        look();
-        for (auto file = before.begin(); file != before.end(); ++file) {
-            const QByteArray now = m_before.value(file.key());
-            if (!isUsers(file.key()) || now == *file)
-                continue;
-            ++m_gone;
-            if (!ticked.contains(path(file.key())))
-                complain(u"touched without a tick: "_s + file.key());
-        }
-        QSet<QByteArray> left(m_before.cbegin(), m_before.cend());
-        for (auto content = m_contents.begin(); content != m_contents.end();) {
-            const bool isLost = !left.contains(*content);
-            if (isLost && !mayDestroy)
-                complain(u"lost: "_s + QString::fromUtf8(content->left(20).toHex()));
-            content = isLost ? m_contents.erase(content) : std::next(content);
-        }
-    }
-
-private:
-    static bool isUsers(const QString &file) { return file.startsWith(u"in/"_s) || file.startsWith(u"out/"_s); }
-
-    void look()
-    {
-        m_before.clear();
-        for (const char *folder : {"in", "out", "backup", "share", "cwd", "answers"}) {
-            const DiskTree files = treeBelow(path(QString::fromLatin1(folder)));
-            for (auto file = files.begin(); file != files.end(); ++file)
-                m_before.insert(QString::fromLatin1(folder) + u'/' + file.key(), *file);
-        }
-    }
-
-    TempTree m_tree;
-    DiskTree m_before;
-    QSet<QByteArray> m_contents; ///< with their times, as far as they must be somewhere
-    QStringList m_problems;
-    int m_gone = 0; ///< files that were removed, moved or replaced
-};
 
 const QStringList schemes = {u"file"_s, u"http"_s, u"https"_s, u"mailto"_s};
 
@@ -369,7 +289,7 @@ private:
     QRandomGenerator m_random;
     qint64 m_stepsLeft;
     qint64 m_milliseconds;
-    Watch m_watch;
+    FileWatch m_watch;
     Mirrix::Settings m_settings;
     std::unique_ptr<MirrixUi::Mirrix> m_window;
     QSet<QString> m_ticked;
@@ -396,7 +316,7 @@ private slots:
         const int seconds = qEnvironmentVariableIntValue("MIRRIX_MONKEY_SECONDS");
         const quint32 seed = seconds > 0 ? QRandomGenerator::global()->generate() : 1;
         qInfo("seed %u", seed);
-        Monkey monkey(seed, 800, seconds * 1000LL);
+        Monkey monkey(seed, 400, seconds * 1000LL);
         monkey.run();
         QVERIFY2(monkey.problems().isEmpty(), qPrintable(monkey.problems().join(u'\n')));
         QVERIFY(seconds < 60 || monkey.filesGone() > 0); // else it has only played

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "tests/support/disk.h"
+#include "tests/support/temptree.h"
+
+#include <QColor>
+#include <QDir>
+#include <QImage>
+#include <QSet>
+#include <QStringList>
+
+namespace MirrixTest {
+
+/// A user's files, and what may become of them: a file below in/ goes only when it was ticked, nothing is changed in
+/// place, no content is lost unless files were to be destroyed, and out/ stays as it was.
+class FileWatch
+{
+public:
+    FileWatch()
+    {
+        for (const char *folder : {"data", "backup", "share", "cwd", "answers"})
+            m_tree.makeFolder(QString::fromLatin1(folder));
+    }
+
+    /// Makes all files anew; what earlier ones became elsewhere stays.
+    void restock()
+    {
+        QDir(path(QStringLiteral("in"))).removeRecursively();
+        QImage picture(40, 30, QImage::Format_RGB32);
+        for (int i = 0; i < 18; ++i) {
+            const QString name = QStringLiteral("%1/d%2/f%3")
+                                     .arg(i % 6 ? QStringLiteral("in") : QStringLiteral("out"))
+                                     .arg(i % 4)
+                                     .arg(i);
+            m_tree.write(name + QStringLiteral(".txt"), patternBytes(i % 2 ? 20 : 100000, quint32(i % 3)));
+            picture.fill(QColor(i % 3 * 80, 120, 200));
+            picture.save(m_tree.path(name + QStringLiteral(".png")));
+        }
+        look();
+        m_contents.clear();
+        for (auto file = m_before.begin(); file != m_before.end(); ++file) {
+            if (isUsers(file.key()))
+                m_contents.insert(*file);
+        }
+    }
+
+    [[nodiscard]] QString path(const QString &relative) const { return m_tree.path(relative); }
+    [[nodiscard]] bool holds(const QString &path) const { return path.startsWith(m_tree.path() + u'/'); }
+    [[nodiscard]] const QStringList &problems() const { return m_problems; }
+    void complain(const QString &problem) { m_problems.append(problem); }
+    [[nodiscard]] int gone() const { return m_gone; }
+
+    /// Compares with the last call; the files at `ticked` may have gone since.
+    void check(const QSet<QString> &ticked, bool mayDestroy)
+    {
+        const DiskTree before = m_before;
+        look();
+        for (auto file = before.begin(); file != before.end(); ++file) {
+            const QByteArray now = m_before.value(file.key());
+            if (!isUsers(file.key()) || now == *file)
+                continue;
+            ++m_gone;
+            if (!ticked.contains(path(file.key())))
+                complain(QStringLiteral("touched without a tick: ") + file.key());
+        }
+        QSet<QByteArray> left(m_before.cbegin(), m_before.cend());
+        for (auto content = m_contents.begin(); content != m_contents.end();) {
+            const bool isLost = !left.contains(*content);
+            if (isLost && !mayDestroy)
+                complain(QStringLiteral("lost: ") + QString::fromUtf8(content->left(20).toHex()));
+            content = isLost ? m_contents.erase(content) : std::next(content);
+        }
+    }
+
+private:
+    static bool isUsers(const QString &file)
+    {
+        return file.startsWith(QStringLiteral("in/")) || file.startsWith(QStringLiteral("out/"));
+    }
+
+    void look()
+    {
+        m_before.clear();
+        for (const char *folder : {"in", "out", "backup", "share", "cwd", "answers"}) {
+            const DiskTree files = treeBelow(path(QString::fromLatin1(folder)));
+            for (auto file = files.begin(); file != files.end(); ++file)
+                m_before.insert(QString::fromLatin1(folder) + u'/' + file.key(), *file);
+        }
+    }
+
+    TempTree m_tree;
+    DiskTree m_before;
+    QSet<QByteArray> m_contents; ///< with their times, as far as they must be somewhere
+    QStringList m_problems;
+    int m_gone = 0; ///< files that were removed, moved or replaced
+};
+
+} // namespace MirrixTest
