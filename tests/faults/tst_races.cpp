@@ -195,6 +195,7 @@ void RacesTest::everyContentStays()
 {
     QFETCH(QString, method);
     const int rounds = std::max(3, qEnvironmentVariableIntValue("MIRRIX_RACE_ROUNDS") / 7);
+    int disturbed = 0;
     for (int round = 0; round < rounds; ++round) {
         const quint32 seed = QRandomGenerator::global()->generate();
         const TempTree tree;
@@ -211,6 +212,7 @@ void RacesTest::everyContentStays()
         other.kill();
         other.waitForFinished();
         QVERIFY2(run.status == 0 || run.status == 1, run.errors.constData());
+        disturbed += run.status;
         const QString problem = problemOf(method, lookAt(tree), run.output);
         QVERIFY2(problem.isEmpty(),
                  qPrintable(u"seed %1: %2\n"_s.arg(seed).arg(problem) + QString::fromUtf8(run.output + run.errors)));
