@@ -170,10 +170,26 @@ void CleanCommandTest::failuresAreNamed()
 void CleanCommandTest::interrupted()
 {
     QProcess process;
-    m_program->prepare(process, {u"-f"_s, u"-qq"_s, u"-o"_s, u"/dev/null"_s, u"-e"_s, u"trace=renameat2"_s, u"-e"_s,
-                                 u"inject=renameat2:signal=SIGTERM:when=1"_s, Program::builtExecutable(), u"clean"_s,
-                                 u"--data-dir"_s, m_program->dataFolder(), u"--keep"_s, u"oldest"_s, u"--method"_s,
-                                 u"backup"_s, u"--apply"_s, m_tree->path(u"src"_s)});
+    m_program->prepare(process, {u"-E"_s,
+                                 u"ASAN_OPTIONS=detect_leaks=0"_s,
+                                 u"-f"_s,
+                                 u"-qq"_s,
+                                 u"-o"_s,
+                                 u"/dev/null"_s,
+                                 u"-e"_s,
+                                 u"trace=renameat2"_s,
+                                 u"-e"_s,
+                                 u"inject=renameat2:signal=SIGTERM:when=1"_s,
+                                 Program::builtExecutable(),
+                                 u"clean"_s,
+                                 u"--data-dir"_s,
+                                 m_program->dataFolder(),
+                                 u"--keep"_s,
+                                 u"oldest"_s,
+                                 u"--method"_s,
+                                 u"backup"_s,
+                                 u"--apply"_s,
+                                 m_tree->path(u"src"_s)});
     process.setProgram(u"strace"_s);
     process.start();
     const ProgramRun done = Program::ended(process);
