@@ -26,8 +26,8 @@ for part in "${parts[@]}"; do
         monkey)
             cmake --preset asan >/dev/null
             cmake --build --preset asan --target tst_monkey
-            LSAN_OPTIONS=suppressions=$PWD/cmake/lsan.supp MIRRIX_MONKEY_SECONDS=600 QT_QPA_PLATFORM=offscreen QTEST_FUNCTION_TIMEOUT=86400000 \
-                build/asan/bin/tst_monkey -maxwarnings 1 || status=1
+            LSAN_OPTIONS=suppressions=$PWD/cmake/lsan.supp QT_QPA_PLATFORM=offscreen MIRRIX_MONKEY_SECONDS=600 \
+                QTEST_FUNCTION_TIMEOUT=86400000 build/asan/bin/tst_monkey -maxwarnings 1 || status=1
             ;;
         fuzz) scripts/fuzz.sh 600 || status=1 ;;
         *)
