@@ -1117,11 +1117,11 @@ Titel: %1</translation>
     </message>
     <message>
         <source>勾选时按当前扫描模式扩展名扫描；取消勾选则仅扫描「已包含」列表中的扩展名。</source>
-        <translation>Angekreuzt gelten die Endungen des aktuellen Modus, sonst nur die Liste „Nur“.</translation>
+        <translation>Angekreuzt gelten die Endungen des aktuellen Modus, sonst nur die Liste „Enthalten“.</translation>
     </message>
     <message>
         <source>已排除</source>
-        <translation>Ohne</translation>
+        <translation>Ausgenommen</translation>
     </message>
     <message>
         <source>例如：jpg, png</source>
@@ -1139,7 +1139,7 @@ Titel: %1</translation>
         <source>图片模式下还扫描 arw、dng、rw2、orf、srw 等相机 RAW 文件；
 raw、cr2、nef 始终扫描。仅在「已包含」列表为空时有效。</source>
         <translation>Im Bildmodus auch RAW-Dateien von Kameras wie arw, dng, rw2, orf und srw durchsuchen;
-raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Nur“ nicht benutzt wird.</translation>
+raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Enthalten“ nicht benutzt wird.</translation>
     </message>
     <message>
         <source>文件大小</source>

@@ -1117,11 +1117,11 @@ Titolo: %1</translation>
     </message>
     <message>
         <source>勾选时按当前扫描模式扩展名扫描；取消勾选则仅扫描「已包含」列表中的扩展名。</source>
-        <translation>Se spuntato valgono le estensioni della modalità attuale, altrimenti solo l'elenco “Solo”.</translation>
+        <translation>Se spuntato valgono le estensioni della modalità attuale, altrimenti solo l'elenco “Incluso”.</translation>
     </message>
     <message>
         <source>已排除</source>
-        <translation>Escluse</translation>
+        <translation>Escluso</translation>
     </message>
     <message>
         <source>例如：jpg, png</source>
@@ -1139,7 +1139,7 @@ Titolo: %1</translation>
         <source>图片模式下还扫描 arw、dng、rw2、orf、srw 等相机 RAW 文件；
 raw、cr2、nef 始终扫描。仅在「已包含」列表为空时有效。</source>
         <translation>Tra le immagini scansiona anche file RAW come arw, dng, rw2, orf e srw;
-raw, cr2 e nef vengono sempre scansionati. Solo finché l'elenco “Solo” non è in uso.</translation>
+raw, cr2 e nef vengono sempre scansionati. Solo finché l'elenco “Incluso” non è in uso.</translation>
     </message>
     <message>
         <source>文件大小</source>
@@ -1795,7 +1795,7 @@ Ripeti la scansione.</translation>
     </message>
     <message>
         <source>链接目标：</source>
-        <translation>Destinazione del link:</translation>
+        <translation>Destinazione collegamento:</translation>
     </message>
     <message>
         <source>保留的文件路径（用于创建链接）</source>
@@ -2085,11 +2085,11 @@ La prossima scansione delle immagini sarà più lenta. Continuare?</translation>
     </message>
     <message>
         <source>…… 另有 %1 行，见详细信息</source>
-        <translation>… altre %1 righe, vedi i dettagli</translation>
+        <translation>… righe: altre %1, vedi i dettagli</translation>
     </message>
     <message>
         <source>…… 另有 %1 行未显示</source>
-        <translation>… altre %1 righe non mostrate</translation>
+        <translation>… righe: altre %1 non mostrate</translation>
     </message>
     <message>
         <source>未勾选的文件，未处理: %1</source>
@@ -2211,7 +2211,7 @@ Fai clic su “+ Cartella”, scegli a sinistra, oppure trascina o incolla qui l
         <source>没有列出其余文件。
 要查看它们，请在扫描位置中打开“显示其余文件”，然后重新扫描。</source>
         <translation>Non sono elencati altri file.
-Per vederli, attiva “Mostra altri file” per un percorso ed ripeti la scansione.</translation>
+Per vederli, attiva “Mostra altri file” per un percorso e ripeti la scansione.</translation>
     </message>
     <message>
         <source>筛选只改变列表中显示的内容，勾选与批量操作仍针对全部结果。</source>

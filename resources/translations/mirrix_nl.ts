@@ -1117,11 +1117,11 @@ Titel: %1</translation>
     </message>
     <message>
         <source>勾选时按当前扫描模式扩展名扫描；取消勾选则仅扫描「已包含」列表中的扩展名。</source>
-        <translation>Aangevinkt gelden de extensies van de huidige modus, anders alleen de lijst ‘Alleen’.</translation>
+        <translation>Aangevinkt gelden de extensies van de huidige modus, anders alleen de lijst ‘Inbegrepen’.</translation>
     </message>
     <message>
         <source>已排除</source>
-        <translation>Zonder</translation>
+        <translation>Uitgesloten</translation>
     </message>
     <message>
         <source>例如：jpg, png</source>
@@ -1139,7 +1139,7 @@ Titel: %1</translation>
         <source>图片模式下还扫描 arw、dng、rw2、orf、srw 等相机 RAW 文件；
 raw、cr2、nef 始终扫描。仅在「已包含」列表为空时有效。</source>
         <translation>Bij afbeeldingen ook RAW-bestanden van camera's zoals arw, dng, rw2, orf en srw scannen;
-raw, cr2 en nef worden altijd gescand. Alleen zolang de lijst ‘Alleen’ niet wordt gebruikt.</translation>
+raw, cr2 en nef worden altijd gescand. Alleen zolang de lijst ‘Inbegrepen’ niet wordt gebruikt.</translation>
     </message>
     <message>
         <source>文件大小</source>
