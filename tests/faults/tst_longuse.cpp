@@ -82,7 +82,7 @@ private slots:
               static_cast<long long>(second), static_cast<long long>(after.openFiles),
               static_cast<long long>(after.threads));
         QCOMPARE(after.openFiles, before.openFiles);
-        const qsizetype mostThreads = QThreadPool::globalInstance()->maxThreadCount() + 1;
+        const qsizetype mostThreads = QThreadPool::globalInstance()->maxThreadCount() + 2; // a spare one and our own
         QVERIFY(after.threads <= std::max(before.threads, mostThreads));
         // The heap's own caches come and go; what is left behind by each scan grows in both halves.
         constexpr qint64 bytesOfAScan = 160;
