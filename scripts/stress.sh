@@ -27,7 +27,8 @@ for part in "${parts[@]}"; do
             cmake --preset asan >/dev/null
             cmake --build --preset asan --target tst_monkey
             LSAN_OPTIONS=suppressions=$PWD/cmake/lsan.supp QT_QPA_PLATFORM=offscreen MIRRIX_MONKEY_SECONDS=600 \
-                QTEST_FUNCTION_TIMEOUT=86400000 build/asan/bin/tst_monkey -maxwarnings 1 || status=1
+                QTEST_FUNCTION_TIMEOUT=86400000 build/asan/bin/tst_monkey -maxwarnings 0 |
+                grep -v "This plugin does not support" || status=1
             ;;
         fuzz) scripts/fuzz.sh 600 || status=1 ;;
         *)
