@@ -24,6 +24,7 @@ private slots:
     void restoreChosen();
     void failuresAreNamed();
     void interrupted();
+    void unreadableIndexStays();
     void mistakes_data();
     void mistakes();
 
@@ -200,6 +201,31 @@ void CleanCommandTest::interrupted()
     QCOMPARE(source().size(), 3);
     QCOMPARE(run({u"restore"_s}).output.count("\n"), 1);
     QCOMPARE(logged(3), QStringList{u"backup_batch: count=1"_s});
+}
+
+/// What an index that cannot be read now lists would be lost to its owners, were it written anew.
+void CleanCommandTest::unreadableIndexStays()
+{
+    QCOMPARE(clean(u"backup"_s, {u"--apply"_s}).status, 0);
+    m_tree->write(u"src/late"_s, "CONTENT");
+    m_tree->write(u"src/later"_s, "CONTENT");
+    const QString index = m_program->dataFolder() + u"/Backup/backup_index.json"_s;
+    const QByteArray before = contentOf(index);
+    const DiskTree source = this->source();
+    QProcess process;
+    m_program->prepare(process, {u"-f"_s, u"-qq"_s, u"-o"_s, u"/dev/null"_s, u"-P"_s, index, u"-e"_s,
+                                 u"inject=openat:error=EIO"_s, Program::builtExecutable(), u"clean"_s, u"--data-dir"_s,
+                                 m_program->dataFolder(), u"--keep"_s, u"oldest"_s, u"--method"_s, u"backup"_s,
+                                 u"--apply"_s, m_tree->path(u"src"_s)});
+    process.setProgram(u"strace"_s);
+    process.start();
+    const ProgramRun done = Program::ended(process);
+    if (process.error() == QProcess::FailedToStart)
+        QSKIP("cannot trace processes");
+    QCOMPARE(done.status, 1);
+    QCOMPARE(this->source(), source);
+    QVERIFY(!before.isEmpty());
+    QCOMPARE(contentOf(index), before);
 }
 
 void CleanCommandTest::mistakes_data()
