@@ -33,15 +33,15 @@
     </message>
     <message>
         <source>图片感知哈希</source>
-        <translation>Wahrnehmungs-Hash der Bilder</translation>
+        <translation>Perzeptueller Bild-Hash</translation>
     </message>
     <message>
         <source>[%1] %2  已枚举 %3  已处理 %4/%5</source>
-        <translation>[%1] %2  Gefunden %3  Bearbeitet %4/%5</translation>
+        <translation>[%1] %2  Gefunden: %3  Bearbeitet: %4/%5</translation>
     </message>
     <message>
         <source>文件 %1 · 重复组 %2 · 文件夹组 %3 · 其余 %4 · 可回收约 %5 · 耗时 %6 秒</source>
-        <translation>Dateien %1 · Dateigruppen %2 · Ordnergruppen %3 · Übrige %4 · Gewinn ~%5 · %6 s</translation>
+        <translation>Dateien: %1 · Duplikatgruppen: %2 · Ordnergruppen: %3 · Übrige: %4 · Freizugeben: ~%5 · %6 s</translation>
     </message>
     <message>
         <source>文件(&amp;F)</source>
@@ -93,11 +93,11 @@
     </message>
     <message>
         <source>选择一个路径开始查重</source>
-        <translation>Wählen Sie einen Ordner</translation>
+        <translation>Ordner wählen, um zu beginnen</translation>
     </message>
     <message>
         <source>选好后点击左侧「开始扫描」</source>
-        <translation>Klicken Sie dann links auf „Suche starten“</translation>
+        <translation>Danach links auf „Suche starten“ klicken</translation>
     </message>
     <message>
         <source>配置匹配规则</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>请先勾选启用至少一个扫描位置。</source>
-        <translation>Schalten Sie mindestens einen Suchort ein.</translation>
+        <translation>Mindestens einen Suchort einschalten.</translation>
     </message>
     <message>
         <source>扫描进行中：已锁定规则与位置页，请勿修改扫描参数。</source>
@@ -177,7 +177,7 @@
     </message>
     <message>
         <source>程序仍在托盘运行。可通过托盘菜单一键完整退出。</source>
-        <translation>Läuft im Infobereich weiter. Ganz beenden lässt es sich über das Menü des Symbols.</translation>
+        <translation>Mirrix läuft im Infobereich weiter. Über das Menü des Symbols lässt es sich ganz beenden.</translation>
     </message>
     <message>
         <source>显示主窗口</source>
@@ -209,11 +209,11 @@
     </message>
     <message>
         <source>预览清理</source>
-        <translation>Vorschau</translation>
+        <translation>Vorschau und Aufräumen</translation>
     </message>
     <message>
         <source>停止</source>
-        <translation>Anhalten</translation>
+        <translation>Stoppen</translation>
     </message>
     <message>
         <source>扫描过程中发生未知错误</source>
@@ -261,11 +261,11 @@
     </message>
     <message>
         <source>要保留的文件已更改，未处理: %1</source>
-        <translation>Die zu behaltende Datei hat sich geändert, nicht angerührt: %1</translation>
+        <translation>Die zu behaltende Datei hat sich geändert, nicht bearbeitet: %1</translation>
     </message>
     <message>
         <source>与要保留的文件可能是同一个文件，未处理: %1</source>
-        <translation>Vielleicht dieselbe Datei wie die zu behaltende, nicht angerührt: %1</translation>
+        <translation>Vielleicht dieselbe Datei wie die zu behaltende, nicht bearbeitet: %1</translation>
     </message>
     <message>
         <source>无法创建目标目录: %1</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>链接路径已存在: %1</source>
-        <translation>Am Ort der Verknüpfung liegt schon etwas: %1</translation>
+        <translation>Pfad der Verknüpfung ist schon vorhanden: %1</translation>
     </message>
     <message>
         <source>没有创建符号链接的权限（请启用开发人员模式或以管理员身份运行）: %1</source>
@@ -317,15 +317,15 @@
     </message>
     <message>
         <source>无法放入回收站，已保留: %1</source>
-        <translation>Kein Papierkorb kann diese Datei aufnehmen, behalten: %1</translation>
+        <translation>Kein Papierkorb kann diese Datei aufnehmen; behalten: %1</translation>
     </message>
     <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
-        <translation>Papierkorb hat Dateien nicht angenommen (Code %1, %2 Dateien)</translation>
+        <translation>Verschieben in den Papierkorb fehlgeschlagen (Code %1, Dateien: %2)</translation>
     </message>
     <message>
         <source>未移入回收站，仍在原处: %1</source>
-        <translation>Nicht im Papierkorb, liegt noch am Ort: %1</translation>
+        <translation>Nicht in den Papierkorb verschoben, noch am alten Ort: %1</translation>
     </message>
     <message>
         <source>保留最新文件</source>
@@ -337,7 +337,7 @@
     </message>
     <message>
         <source>保留最上层目录</source>
-        <translation>Kürzesten Pfad behalten</translation>
+        <translation>Oberste Ordnerebene behalten</translation>
     </message>
     <message>
         <source>保留最深路径</source>
@@ -378,12 +378,12 @@
     <message>
         <source>勾选分区后加入扫描列表（不会立即开始扫描）。
 系统目录仍会默认排除。建议慎选系统盘整盘扫描。</source>
-        <translation>Kreuzen Sie an, was in die Liste der Suchorte kommt (die Suche beginnt noch nicht).
-Systemordner bleiben ausgeschlossen. Überlegen Sie gut, ehe Sie das ganze Systemlaufwerk durchsuchen.</translation>
+        <translation>Laufwerke ankreuzen, um sie zu den Suchorten hinzuzufügen (die Suche beginnt noch nicht).
+Systemordner bleiben ausgeschlossen. Das ganze Systemlaufwerk nur mit Bedacht durchsuchen.</translation>
     </message>
     <message>
         <source>加入扫描列表</source>
-        <translation>Zu den Suchorten</translation>
+        <translation>Zu Suchorten hinzufügen</translation>
     </message>
     <message>
         <source>未勾选任何磁盘。</source>
@@ -396,7 +396,7 @@ Systemordner bleiben ausgeschlossen. Überlegen Sie gut, ehe Sie das ganze Syste
     <message>
         <source>您选择了系统盘。整盘扫描耗时较长，系统目录仍会排除。
 是否加入扫描列表？</source>
-        <translation>Sie haben ein Systemlaufwerk gewählt. Es ganz zu durchsuchen dauert länger; Systemordner bleiben ausgeschlossen.
+        <translation>Es ist ein Systemlaufwerk gewählt. Es ganz zu durchsuchen dauert länger; Systemordner bleiben ausgeschlossen.
 Zu den Suchorten hinzufügen?</translation>
     </message>
     <message>
@@ -423,7 +423,7 @@ Zu den Suchorten hinzufügen?</translation>
     </message>
     <message>
         <source>+ 排除</source>
-        <translation>+ Ausschluss</translation>
+        <translation>+ Ausschließen</translation>
     </message>
     <message>
         <source>移除</source>
@@ -439,12 +439,12 @@ Zu den Suchorten hinzufügen?</translation>
     </message>
     <message>
         <source>可操作文件夹</source>
-        <translation>Ordner durchsuchen</translation>
+        <translation>Ordnerauswahl</translation>
     </message>
     <message>
         <source>浏览文件夹，用右侧的 → 加入扫描位置；
 也可以从资源管理器把文件夹拖入扫描列表。</source>
-        <translation>Ordner suchen und mit → rechts zu den Suchorten hinzufügen;
+        <translation>Ordner wählen und mit → rechts zu den Suchorten hinzufügen;
 oder Ordner aus dem Explorer in die Liste ziehen.</translation>
     </message>
     <message>
@@ -489,7 +489,7 @@ oder Ordner aus dem Explorer in die Liste ziehen.</translation>
     </message>
     <message>
         <source>锁 否</source>
-        <translation>Offen</translation>
+        <translation>Ungeschützt</translation>
     </message>
     <message>
         <source>📂 是</source>
@@ -579,7 +579,7 @@ Dieser Ordner ist zurzeit nicht zu finden.</translation>
     </message>
     <message>
         <source>扫描进行中，批量操作已暂停。</source>
-        <translation>Suche läuft; Stapelaktionen ruhen.</translation>
+        <translation>Suche läuft; Stapelaktionen sind so lange gesperrt.</translation>
     </message>
     <message>
         <source>「重复文件夹」为只读视图；删除/导出请切换到「重复文件」Tab。</source>
@@ -635,7 +635,7 @@ Dieser Ordner ist zurzeit nicht zu finden.</translation>
     </message>
     <message>
         <source>文件已不存在或无法访问</source>
-        <translation>Die Datei gibt es nicht mehr, oder sie ist nicht erreichbar</translation>
+        <translation>Die Datei ist nicht mehr vorhanden oder nicht erreichbar</translation>
     </message>
     <message>
         <source>图片过大，无法预览</source>
@@ -663,7 +663,7 @@ Dieser Ordner ist zurzeit nicht zu finden.</translation>
     </message>
     <message>
         <source>分组 #%1  (%2 个文件, 可回收 %3)</source>
-        <translation>Gruppe %1  (Dateien: %2, Gewinn %3)</translation>
+        <translation>Gruppe %1  (Dateien: %2, freizugeben: %3)</translation>
     </message>
     <message>
         <source>本组所有文件均已勾选，处理后将不保留任何副本。</source>
@@ -701,7 +701,7 @@ Aufgenommen: %1</translation>
         <source>
 艺术家: %1</source>
         <translation>
-Interpret: %1</translation>
+Künstler: %1</translation>
     </message>
     <message>
         <source>
@@ -719,7 +719,7 @@ Titel: %1</translation>
     </message>
     <message>
         <source>音频模式</source>
-        <translation>Ton</translation>
+        <translation>Audio</translation>
     </message>
     <message>
         <source>视频模式</source>
@@ -763,7 +763,7 @@ Titel: %1</translation>
     </message>
     <message>
         <source>仅按标签匹配</source>
-        <translation>Nur nach Angaben vergleichen</translation>
+        <translation>Nur nach Tags vergleichen</translation>
     </message>
     <message>
         <source>开头采样哈希</source>
@@ -783,11 +783,11 @@ Titel: %1</translation>
     </message>
     <message>
         <source>忽略</source>
-        <translation>Nicht beachten</translation>
+        <translation>Ignorieren</translation>
     </message>
     <message>
         <source>不限</source>
-        <translation>Keine Grenze</translation>
+        <translation>Unbegrenzt</translation>
     </message>
     <message>
         <source>、</source>
@@ -819,11 +819,11 @@ Titel: %1</translation>
     </message>
     <message>
         <source>• 匹配：忽略内容（名称/大小/日期规则）</source>
-        <translation>• Vergleich: Inhalt egal (nach Name, Größe, Datum)</translation>
+        <translation>• Vergleich: Inhalt ignorieren (nach Name, Größe, Datum)</translation>
     </message>
     <message>
         <source>• 音频比对：%1</source>
-        <translation>• Tonvergleich: %1</translation>
+        <translation>• Audiovergleich: %1</translation>
     </message>
     <message>
         <source>• 视频比对：%1</source>
@@ -875,7 +875,7 @@ Titel: %1</translation>
     </message>
     <message>
         <source>扫描在本地执行，文件不会上传到网络。</source>
-        <translation>Gesucht wird auf diesem Rechner; Dateien werden nicht hochgeladen.</translation>
+        <translation>Die Suche läuft lokal; Dateien werden nicht hochgeladen.</translation>
     </message>
     <message>
         <source>拍摄时间</source>
@@ -923,7 +923,7 @@ Titel: %1</translation>
     </message>
     <message>
         <source>艺术家</source>
-        <translation>Interpret</translation>
+        <translation>Künstler</translation>
     </message>
     <message>
         <source>标题</source>
@@ -975,7 +975,7 @@ Titel: %1</translation>
     </message>
     <message>
         <source>全选重复项</source>
-        <translation>Alle Duplikate</translation>
+        <translation>Alle Duplikate auswählen</translation>
     </message>
     <message>
         <source>反选</source>
@@ -991,7 +991,7 @@ Titel: %1</translation>
     </message>
     <message>
         <source>删除所选</source>
-        <translation>Auswahl löschen</translation>
+        <translation>Ausgewählte löschen</translation>
     </message>
     <message>
         <source>导出…</source>
@@ -999,7 +999,7 @@ Titel: %1</translation>
     </message>
     <message>
         <source>删除文件前先将其移动到备份文件夹</source>
-        <translation>Verschiebt Dateien in den Sicherungsordner, statt sie nur zu löschen</translation>
+        <translation>Verschiebt Dateien vor dem Löschen in den Sicherungsordner</translation>
     </message>
     <message>
         <source>文件预览</source>
@@ -1089,11 +1089,11 @@ Titel: %1</translation>
     </message>
     <message>
         <source>音频文件匹配配置</source>
-        <translation>Tonvergleich</translation>
+        <translation>Audiovergleich</translation>
     </message>
     <message>
         <source>音频指纹基于采样，并非 Chromaprint 级别。</source>
-        <translation>Der Ton-Fingerabdruck beruht auf Stichproben und ist gröber als Chromaprint.</translation>
+        <translation>Der Audio-Fingerabdruck beruht auf Stichproben und ist gröber als Chromaprint.</translation>
     </message>
     <message>
         <source> 毫秒</source>
@@ -1101,7 +1101,7 @@ Titel: %1</translation>
     </message>
     <message>
         <source>音频文件标签</source>
-        <translation>Angaben in Tondateien</translation>
+        <translation>Audio-Tags</translation>
     </message>
     <message>
         <source>文件类型</source>
@@ -1121,7 +1121,7 @@ Titel: %1</translation>
     </message>
     <message>
         <source>已排除</source>
-        <translation>Ausgenommen</translation>
+        <translation>Ausgeschlossen</translation>
     </message>
     <message>
         <source>例如：jpg, png</source>
@@ -1179,7 +1179,7 @@ raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Enthalten“ 
     </message>
     <message>
         <source>更多判断重复的选项</source>
-        <translation>Weitere Merkmale</translation>
+        <translation>Weitere Duplikat-Kriterien</translation>
     </message>
     <message>
         <source>内容匹配</source>
@@ -1195,17 +1195,17 @@ raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Enthalten“ 
     </message>
     <message>
         <source>忽略内容</source>
-        <translation>Inhalt egal</translation>
+        <translation>Inhalt ignorieren</translation>
     </message>
     <message>
         <source>以下模式互斥：
 • 相同内容 = 逐字节一致（默认）
 • 相似内容 = 字节近似匹配
 • 忽略内容 = 仅按元数据规则</source>
-        <translation>Es gilt immer nur eines:
-• Gleicher Inhalt = Byte für Byte (Vorgabe)
+        <translation>Die Modi schließen einander aus:
+• Gleicher Inhalt = Byte für Byte (Standard)
 • Ähnlicher Inhalt = ungefähr gleiche Bytes
-• Inhalt egal = nur nach Merkmalen</translation>
+• Inhalt ignorieren = nur nach Metadaten</translation>
     </message>
     <message>
         <source>采样一致的最低比例</source>
@@ -1213,7 +1213,7 @@ raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Enthalten“ 
     </message>
     <message>
         <source>不读文件内容，仅用下方「更多判断重复的选项」分组（名称/大小/日期等）。</source>
-        <translation>Liest keine Inhalte; gruppiert nach den Merkmalen darunter.</translation>
+        <translation>Liest keine Inhalte; gruppiert nach den Kriterien darunter.</translation>
     </message>
     <message>
         <source>文件名</source>
@@ -1233,7 +1233,7 @@ raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Enthalten“ 
     </message>
     <message>
         <source>忽略文件名中「副本」字样</source>
-        <translation>„Kopie“ in Dateinamen übergehen</translation>
+        <translation>„Kopie“ in Dateinamen ignorieren</translation>
     </message>
     <message>
         <source>相同文件大小</source>
@@ -1253,7 +1253,7 @@ raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Enthalten“ 
     </message>
     <message>
         <source>仅匹配日期</source>
-        <translation>Nur Tag</translation>
+        <translation>Nur Datum</translation>
     </message>
     <message>
         <source>相同修改日期</source>
@@ -1289,7 +1289,7 @@ raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Enthalten“ 
     </message>
     <message>
         <source>忽略在同一文件夹的重复组别</source>
-        <translation>Duplikate im selben Ordner übergehen</translation>
+        <translation>Duplikate im selben Ordner ignorieren</translation>
     </message>
     <message>
         <source>文本匹配选项</source>
@@ -1297,7 +1297,7 @@ raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Enthalten“ 
     </message>
     <message>
         <source>大小写敏感</source>
-        <translation>Groß-/Kleinschreibung</translation>
+        <translation>Groß-/Kleinschreibung beachten</translation>
     </message>
     <message>
         <source>相似文本 - 容差</source>
@@ -1313,7 +1313,7 @@ raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Enthalten“ 
     </message>
     <message>
         <source>匹配RAW图像时使用内嵌JPG图像（较快）</source>
-        <translation>Eingebettetes JPEG in RAW-Dateien (schneller)</translation>
+        <translation>Eingebettetes JPEG in RAW-Dateien nutzen (schneller)</translation>
     </message>
     <message>
         <source>性能</source>
@@ -1325,7 +1325,7 @@ raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Enthalten“ 
     </message>
     <message>
         <source>图片标签</source>
-        <translation>Angaben in Bildern</translation>
+        <translation>Bild-Tags</translation>
     </message>
     <message>
         <source>匹配精度</source>
@@ -1401,7 +1401,7 @@ raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Enthalten“ 
     </message>
     <message>
         <source>仅按标签匹配时，请至少将一个标签设为「必须匹配」</source>
-        <translation>Um nur nach Angaben zu vergleichen, mindestens eine auf „Muss gleich sein“ stellen</translation>
+        <translation>Um nur nach Tags zu vergleichen, mindestens einen auf „Muss gleich sein“ stellen</translation>
     </message>
     <message>
         <source>时长</source>
@@ -1413,7 +1413,7 @@ raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Enthalten“ 
     </message>
     <message>
         <source>忽略指向同一文件的硬链接</source>
-        <translation>Feste Verknüpfungen auf dieselbe Datei übergehen</translation>
+        <translation>Feste Verknüpfungen auf dieselbe Datei ignorieren</translation>
     </message>
     <message>
         <source>硬链接只是同一份数据的另一个名称，移除它不会释放空间。</source>
@@ -1421,7 +1421,7 @@ raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Enthalten“ 
     </message>
     <message>
         <source>标签</source>
-        <translation>Angaben</translation>
+        <translation>Tags</translation>
     </message>
     <message>
         <source>匹配</source>
@@ -1429,7 +1429,7 @@ raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Enthalten“ 
     </message>
     <message>
         <source>勾选=启用标签匹配；取消=忽略本组标签，仅用其它条件分组</source>
-        <translation>Angekreuzt = Angaben werden verglichen; sonst bleiben die Angaben dieser Gruppe unbeachtet</translation>
+        <translation>Angekreuzt = Tags werden verglichen; sonst bleiben die Tags dieser Gruppe unbeachtet</translation>
     </message>
     <message>
         <source>+ 添加</source>
@@ -1449,7 +1449,7 @@ raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Enthalten“ 
     </message>
     <message>
         <source>视频文件标签</source>
-        <translation>Angaben in Videos</translation>
+        <translation>Video-Tags</translation>
     </message>
     <message>
         <source>已复制 %1 个文件</source>
@@ -1529,7 +1529,7 @@ Teilweise fehlgeschlagen:
     </message>
     <message>
         <source>已停止，其余文件未处理</source>
-        <translation>Angehalten; die übrigen Dateien wurden nicht bearbeitet</translation>
+        <translation>Gestoppt; die übrigen Dateien wurden nicht bearbeitet</translation>
     </message>
     <message>
         <source>请先勾选要处理的文件。</source>
@@ -1539,7 +1539,7 @@ Teilweise fehlgeschlagen:
         <source>将把 %1 个文件移动到备份目录：
 %2
 是否继续？</source>
-        <translation>In den Sicherungsordner verschieben (Dateien: %1)?
+        <translation>In den Sicherungsordner zu verschiebende Dateien: %1
 %2
 Fortfahren?</translation>
     </message>
@@ -1589,7 +1589,7 @@ Bitte neu suchen.</translation>
     </message>
     <message>
         <source>即将永久删除 %1 个文件，此操作不可撤销。是否继续？</source>
-        <translation>Endgültig löschen (Dateien: %1)? Das lässt sich nicht rückgängig machen.</translation>
+        <translation>Endgültig zu löschende Dateien: %1. Dies lässt sich nicht rückgängig machen. Fortfahren?</translation>
     </message>
     <message>
         <source>正在移除文件… (%1/%2)</source>
@@ -1605,11 +1605,11 @@ Bitte neu suchen.</translation>
     </message>
     <message>
         <source>正在读取备份索引…</source>
-        <translation>Sicherungsverzeichnis wird gelesen…</translation>
+        <translation>Sicherungsindex wird gelesen…</translation>
     </message>
     <message>
         <source>备份索引为空。</source>
-        <translation>Das Sicherungsverzeichnis ist leer.</translation>
+        <translation>Der Sicherungsindex ist leer.</translation>
     </message>
     <message>
         <source>确认恢复</source>
@@ -1639,7 +1639,7 @@ Bitte neu suchen.</translation>
     </message>
     <message>
         <source>快速、安全的重复文件查找与清理工具，支持常规内容、图片相似、音频指纹与视频缩略图模式。</source>
-        <translation>Findet doppelte Dateien schnell und räumt sie sicher auf. Vergleicht allgemeine Inhalte, ähnliche Bilder, Ton nach Fingerabdruck und Videos nach Vorschaubild.</translation>
+        <translation>Findet doppelte Dateien schnell und räumt sie sicher auf. Vergleicht allgemeine Inhalte, ähnliche Bilder, Audio nach Fingerabdruck und Videos nach Vorschaubild.</translation>
     </message>
     <message>
         <source>便携模式（数据位于程序旁的 \Data）</source>
@@ -1659,7 +1659,7 @@ Bitte neu suchen.</translation>
     </message>
     <message>
         <source>开源致谢</source>
-        <translation>Dank an quelloffene Software</translation>
+        <translation>Dank an Open-Source-Projekte</translation>
     </message>
     <message>
         <source>库</source>
@@ -1743,7 +1743,7 @@ Bitte neu suchen.</translation>
     </message>
     <message>
         <source>正在停止…</source>
-        <translation>Wird angehalten…</translation>
+        <translation>Wird gestoppt…</translation>
     </message>
     <message>
         <source>正在处理</source>
@@ -1751,7 +1751,7 @@ Bitte neu suchen.</translation>
     </message>
     <message>
         <source>完成当前文件后停止</source>
-        <translation>Hält nach der aktuellen Datei an</translation>
+        <translation>Stoppt nach der aktuellen Datei</translation>
     </message>
     <message>
         <source>进度</source>
@@ -1977,7 +1977,7 @@ Die nächste Bildsuche dauert länger. Fortfahren?</translation>
     </message>
     <message>
         <source>关闭后点击「开始扫描」将立即执行；也可在确认对话框中勾选「不再显示此确认」。</source>
-        <translation>Ausgeschaltet beginnt die Suche sofort; dasselbe bewirkt „Nicht mehr anzeigen“ in der Nachfrage.</translation>
+        <translation>Wenn ausgeschaltet, beginnt die Suche sofort; dasselbe bewirkt „Nicht mehr anzeigen“ in der Nachfrage.</translation>
     </message>
     <message>
         <source>内容指纹算法</source>
@@ -1985,7 +1985,7 @@ Die nächste Bildsuche dauert länger. Fortfahren?</translation>
     </message>
     <message>
         <source>MD5（默认，沿用现有指纹缓存）</source>
-        <translation>MD5 (Vorgabe, behält gemerkte Prüfsummen)</translation>
+        <translation>MD5 (Standard, behält vorhandene Prüfsummen)</translation>
     </message>
     <message>
         <source>BLAKE3（更快、更强；切换后重建缓存）</source>
@@ -2005,7 +2005,7 @@ Die nächste Bildsuche dauert länger. Fortfahren?</translation>
     </message>
     <message>
         <source>清除已缓存的感知哈希与直方图，下次扫描会重新计算</source>
-        <translation>Löscht gemerkte Hashes und Histogramme; die nächste Suche berechnet sie neu</translation>
+        <translation>Löscht zwischengespeicherte Hashes und Histogramme; die nächste Suche berechnet sie neu</translation>
     </message>
     <message>
         <source>主题</source>
@@ -2037,7 +2037,7 @@ Die nächste Bildsuche dauert länger. Fortfahren?</translation>
     </message>
     <message>
         <source>恢复所选</source>
-        <translation>Auswahl wiederherstellen</translation>
+        <translation>Ausgewählte wiederherstellen</translation>
     </message>
     <message>
         <source>正在复制文件… (%1/%2)</source>
@@ -2089,7 +2089,7 @@ Die nächste Bildsuche dauert länger. Fortfahren?</translation>
     </message>
     <message>
         <source>…… 另有 %1 行未显示</source>
-        <translation>… %1 weitere Zeilen nicht gezeigt</translation>
+        <translation>… %1 weitere Zeilen nicht angezeigt</translation>
     </message>
     <message>
         <source>未勾选的文件，未处理: %1</source>
@@ -2109,14 +2109,14 @@ Die nächste Bildsuche dauert länger. Fortfahren?</translation>
     </message>
     <message>
         <source>共 %1 个文件 @ %2.%3 秒</source>
-        <translation>Dateien: %1, %2.%3 s</translation>
+        <translation>Dateien: %1 @ %2,%3 s</translation>
     </message>
     <message>
         <source>路径: %1
 大小: %2 字节
 修改: %3</source>
         <translation>Pfad: %1
-Größe: %2 Bytes
+Größe: %2 Byte
 Geändert: %3</translation>
     </message>
     <message>
