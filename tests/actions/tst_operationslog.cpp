@@ -39,6 +39,7 @@ private slots:
     void recordsInOrder();
     void plainContent();
     void anotherToolReadsIt();
+    void continuesOthersFiles();
     void unusableFiles_data();
     void unusableFiles();
     void unwritable();
@@ -106,6 +107,19 @@ void OperationsLogTest::anotherToolReadsIt()
     if (!tool.waitForFinished() && tool.error() == QProcess::FailedToStart)
         QSKIP("no openssl program");
     QCOMPARE(tool.readAllStandardOutput(), QByteArray(R"([{"t":5,"a":"export","d":"/out"}])"));
+}
+
+void OperationsLogTest::continuesOthersFiles()
+{
+    const QByteArray record = R"({ "a":"]", "t":1, "d":"d" })";
+    for (const QByteArray &content : {QByteArray("[]"), QByteArray(" [ ]\n"), "\n[\n" + record + "\n]\n"}) {
+        m_tree->write(u"new/folder/ops.log.enc"_s, encryptAesCbc(machineKey(), content));
+        QList<LogEntry> expected = OperationsLog(path()).readAll();
+        QCOMPARE(expected.size(), content.count('{'));
+        expected.append({2, u"b"_s, QString()});
+        QVERIFY(OperationsLog(path()).append({{2, u"b"_s, QString()}}));
+        QVERIFY2(OperationsLog(path()).readAll() == expected, content.constData());
+    }
 }
 
 void OperationsLogTest::unusableFiles_data()

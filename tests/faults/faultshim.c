@@ -1,14 +1,16 @@
 /* Preloaded into a program under test, makes one of its file-system calls fail: the MIRRIX_FAULT_AT-th call, counted
    from 1, that concerns something below one of the folders MIRRIX_FAULT_FOLDERS (with colons between them) fails with
    the error number MIRRIX_FAULT_ERRNO; error 0 stands for a read or write of half the length. With MIRRIX_FAULT_STICKY
-   all later calls fail too, as on a drive that has gone. The name of the call is written to MIRRIX_FAULT_REPORT, which
-   is not made when the program ended before. */
+   all later calls fail too, as on a drive that has gone. With MIRRIX_FAULT_CUT the power fails at that call: what was
+   written into files there and not flushed is gone, as file systems have it that keep names in order but not contents.
+   The name of the call is written to MIRRIX_FAULT_REPORT, which is not made when the program ended before. */
 
 #include <dirent.h>
 #include <dlfcn.h>
 #include <errno.h>
 #include <fcntl.h>
 #include <limits.h>
+#include <pthread.h>
 #include <stdarg.h>
 #include <stdatomic.h>
 #include <stdio.h>
@@ -27,7 +29,18 @@ static const char *folders;
 static long failAt;
 static int failure;
 static int isSticky;
+static int isCut;
 static atomic_long calls;
+
+/* The files with content that a power failure would take: an own descriptor of each. */
+static struct
+{
+    dev_t device;
+    ino_t number;
+    int file;
+} unflushed[1024];
+static size_t unflushedCount;
+static pthread_mutex_t unflushedLock = PTHREAD_MUTEX_INITIALIZER;
 
 __attribute__((constructor)) static void readPlan(void)
 {
@@ -37,6 +50,7 @@ __attribute__((constructor)) static void readPlan(void)
     failAt = at ? atol(at) : 0;
     failure = code ? atoi(code) : EIO;
     isSticky = getenv("MIRRIX_FAULT_STICKY") != NULL;
+    isCut = getenv("MIRRIX_FAULT_CUT") != NULL;
 }
 
 static int isBelow(const char *path)
@@ -80,6 +94,39 @@ static void report(const char *name)
     fclose(file);
 }
 
+/* Enters a file into the table, or takes it out. */
+static void noteContent(int file, int isFlushed)
+{
+    NEXT(fstat64);
+    struct stat64 info;
+    if (!isCut || next(file, &info) != 0)
+        return;
+    pthread_mutex_lock(&unflushedLock);
+    size_t at = 0;
+    while (at < unflushedCount && (unflushed[at].device != info.st_dev || unflushed[at].number != info.st_ino))
+        ++at;
+    if (isFlushed && at < unflushedCount) {
+        unflushed[at] = unflushed[--unflushedCount];
+    } else if (!isFlushed && at == unflushedCount) {
+        if (at == sizeof unflushed / sizeof unflushed[0])
+            abort();
+        unflushed[at].device = info.st_dev;
+        unflushed[at].number = info.st_ino;
+        unflushed[at].file = fcntl(file, F_DUPFD_CLOEXEC, 0);
+        ++unflushedCount;
+    }
+    pthread_mutex_unlock(&unflushedLock);
+}
+
+static void cutPower(void)
+{
+    NEXT(ftruncate64);
+    pthread_mutex_lock(&unflushedLock);
+    for (size_t at = 0; at < unflushedCount; ++at)
+        next(unflushed[at].file, 0);
+    _exit(137);
+}
+
 /* Counts a call; whether it is the one to fail. */
 static int isDue(const char *name)
 {
@@ -88,6 +135,8 @@ static int isDue(const char *name)
         return 0;
     if (number == failAt)
         report(name);
+    if (isCut)
+        cutPower();
     return 1;
 }
 
@@ -122,7 +171,7 @@ static int fails(const char *name)
     }
 
 /* Halves the length instead of failing when the error number is 0. */
-#define WRAP_TRANSFER(name, parameters, arguments)                                                                     \
+#define WRAP_TRANSFER(name, parameters, arguments, isWrite)                                                            \
     ssize_t name parameters                                                                                            \
     {                                                                                                                  \
         NEXT(name);                                                                                                    \
@@ -133,7 +182,21 @@ static int fails(const char *name)
             }                                                                                                          \
             length = length > 1 ? length / 2 : length;                                                                 \
         }                                                                                                              \
+        if ((isWrite) && isOpenBelow(file))                                                                            \
+            noteContent(file, 0);                                                                                      \
         return next arguments;                                                                                         \
+    }
+
+#define WRAP_FLUSH(name)                                                                                               \
+    int name(int file)                                                                                                 \
+    {                                                                                                                  \
+        NEXT(name);                                                                                                    \
+        if (isOpenBelow(file) && fails(#name))                                                                         \
+            return -1;                                                                                                 \
+        const int result = next(file);                                                                                 \
+        if (result == 0)                                                                                               \
+            noteContent(file, 1);                                                                                      \
+        return result;                                                                                                 \
     }
 
 #define WRAP_READDIR(type, name)                                                                                       \
@@ -150,11 +213,11 @@ WRAP_OPEN(open64, (const char *path, int flags, ...), (path, flags, mode), isBel
 WRAP_OPEN(openat, (int folder, const char *path, int flags, ...), (folder, path, flags, mode), isAtBelow(folder, path))
 WRAP_OPEN(openat64, (int folder, const char *path, int flags, ...), (folder, path, flags, mode),
           isAtBelow(folder, path))
-WRAP_TRANSFER(read, (int file, void *buffer, size_t length), (file, buffer, length))
-WRAP_TRANSFER(write, (int file, const void *buffer, size_t length), (file, buffer, length))
-WRAP_TRANSFER(pread, (int file, void *buffer, size_t length, off_t offset), (file, buffer, length, offset))
-WRAP_TRANSFER(pread64, (int file, void *buffer, size_t length, off64_t offset), (file, buffer, length, offset))
-WRAP_TRANSFER(pwrite, (int file, const void *buffer, size_t length, off_t offset), (file, buffer, length, offset))
+WRAP_TRANSFER(read, (int file, void *buffer, size_t length), (file, buffer, length), 0)
+WRAP_TRANSFER(write, (int file, const void *buffer, size_t length), (file, buffer, length), 1)
+WRAP_TRANSFER(pread, (int file, void *buffer, size_t length, off_t offset), (file, buffer, length, offset), 0)
+WRAP_TRANSFER(pread64, (int file, void *buffer, size_t length, off64_t offset), (file, buffer, length, offset), 0)
+WRAP_TRANSFER(pwrite, (int file, const void *buffer, size_t length, off_t offset), (file, buffer, length, offset), 1)
 WRAP_READDIR(dirent, readdir)
 WRAP_READDIR(dirent64, readdir64)
 WRAP(int, rename, (const char *from, const char *to), (from, to), isBelow(from) || isBelow(to))
@@ -169,8 +232,8 @@ WRAP(int, linkat, (int folder, const char *from, int toFolder, const char *to, i
      (folder, from, toFolder, to, flags), isAtBelow(toFolder, to))
 WRAP(int, symlink, (const char *target, const char *path), (target, path), isBelow(path))
 WRAP(int, mkdir, (const char *path, mode_t mode), (path, mode), isBelow(path))
-WRAP(int, fsync, (int file), (file), isOpenBelow(file))
-WRAP(int, fdatasync, (int file), (file), isOpenBelow(file))
+WRAP_FLUSH(fsync)
+WRAP_FLUSH(fdatasync)
 WRAP(int, ftruncate, (int file, off_t length), (file, length), isOpenBelow(file))
 WRAP(int, ftruncate64, (int file, off64_t length), (file, length), isOpenBelow(file))
 WRAP(int, stat, (const char *path, struct stat *info), (path, info), isBelow(path))

@@ -196,7 +196,10 @@ bool Scene::isInBin(const QString &victim) const
         if (isNoted && isAsBefore(file, victim))
             return true;
     }
-    return false;
+    const QFileInfoList notes = QDir(path(u"share/Trash/info"_s)).entryInfoList(QDir::Files);
+    return m_mayLoseNotes && std::any_of(notes.begin(), notes.end(), [&](const QFileInfo &note) {
+               return note.size() == 0 && isAsBefore(path(u"share/Trash/files/"_s) + note.completeBaseName(), victim);
+           });
 }
 
 /// The scene's notes and files in the bin of its home and in that of its volume, where a file goes that could not be

@@ -28,6 +28,10 @@ public:
     /// Everything that belongs to the scene.
     [[nodiscard]] QStringList folders() const { return {m_tree.path(), m_target}; }
 
+    /// From now on a file in the bin whose note is empty counts as recycled: the notes are not flushed one by one, so a
+    /// power failure may take what they say.
+    void acceptEmptyNotes() { m_mayLoseNotes = true; }
+
     /// Command line of the flow.
     [[nodiscard]] QStringList arguments() const;
 
@@ -71,6 +75,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_other;
     QString m_target;
     DiskTree m_before;
+    bool m_mayLoseNotes = false;
 };
 
 } // namespace MirrixTest

@@ -20,14 +20,20 @@ namespace {
 struct Fault
 {
     QString name;
-    int code;      ///< 0: a short read or write
-    bool isSticky; ///< everything fails from then on
+    int code;           ///< 0: a short read or write
+    bool isSticky;      ///< everything fails from then on
+    bool isCut = false; ///< the power fails
+
+    /// Whether the program could still tidy up.
+    [[nodiscard]] bool isPassing() const { return !isSticky && !isCut; }
 };
 
 const QList<Fault> faults = {
-    {u"ENOSPC"_s, ENOSPC, false}, {u"EACCES"_s, EACCES, false}, {u"EIO"_s, EIO, false},
-    {u"EINTR"_s, EINTR, false},   {u"EXDEV"_s, EXDEV, false},   {u"ENOENT"_s, ENOENT, false},
-    {u"short"_s, 0, false},       {u"drive gone"_s, EIO, true}, {u"disk full"_s, ENOSPC, true},
+    {u"ENOSPC"_s, ENOSPC, false},   {u"EACCES"_s, EACCES, false},
+    {u"EIO"_s, EIO, false},         {u"EINTR"_s, EINTR, false},
+    {u"EXDEV"_s, EXDEV, false},     {u"ENOENT"_s, ENOENT, false},
+    {u"short"_s, 0, false},         {u"drive gone"_s, EIO, true},
+    {u"disk full"_s, ENOSPC, true}, {u"power cut"_s, EIO, false, true},
 };
 
 struct Run
@@ -84,6 +90,8 @@ Run FaultsTest::run(const Scene &scene, const QString &action, const Fault &faul
     environment.insert(u"MIRRIX_FAULT_REPORT"_s, report);
     if (fault.isSticky)
         environment.insert(u"MIRRIX_FAULT_STICKY"_s, u"1"_s);
+    if (fault.isCut)
+        environment.insert(u"MIRRIX_FAULT_CUT"_s, u"1"_s);
     process.setProcessEnvironment(environment);
     if (action.isEmpty())
         process.start(Program::builtExecutable(), scene.arguments());
@@ -103,7 +111,9 @@ void FaultsTest::sweep(const QString &method, bool isOnOtherVolume, const QStrin
     for (const Fault &fault : faults) {
         start = start % stride + 1;
         for (int number = start;; number += stride) {
-            const Scene scene(method, isOnOtherVolume);
+            Scene scene(method, isOnOtherVolume);
+            if (fault.isCut)
+                scene.acceptEmptyNotes();
             const Run result = run(scene, action, fault, number);
             ++runs;
             QString problem = result.program.status < 0 ? u"crashed or hung"_s : check(scene, result, fault);
@@ -137,7 +147,7 @@ void FaultsTest::cleaning()
     sweep(method, isOnOtherVolume, {}, [](const Scene &scene, const Run &run, const Fault &fault) {
         // A file that is not there any more is no failure of a scan.
         const QString problem =
-            scene.problem(run.program.status, run.program.output, fault.code == ENOENT, fault.isSticky);
+            scene.problem(run.program.status, run.program.output, fault.code == ENOENT, !fault.isPassing());
         return problem.isEmpty() ? scene.problemAfterRecovery() : problem;
     });
 }
@@ -161,7 +171,7 @@ void FaultsTest::scanning()
         const QJsonArray groups = groupsIn(contentOf(scene.path(u"report"_s)));
         if (groups.size() != 2 || groups[0][u"files"_s].toArray().size() + groups[1][u"files"_s].toArray().size() != 5)
             return u"the next scan is misled"_s;
-        return scene.problem(run.program.status, run.program.output, true, fault.isSticky);
+        return scene.problem(run.program.status, run.program.output, true, !fault.isPassing());
     });
 }
 
@@ -189,12 +199,12 @@ void FaultsTest::ownFiles()
         now.replace(scene.path({}).toUtf8(), "ROOT");
         if (now != after && (now != before || run.program.status == 0))
             return u"status %1, holds %2 bytes"_s.arg(run.program.status).arg(now.size());
-        const bool isFlush = run.failed == "fsync" && (fault.code == EIO || fault.code == ENOSPC);
+        const bool isFlush = run.failed == "fsync" && !fault.isCut && (fault.code == EIO || fault.code == ENOSPC);
         if (isFlush && run.program.status == 0)
             return u"told to be on the disk"_s;
         const qsizetype most = 2 + (action == u"export copies" ? 1 : 0);
         const qsizetype count = treeBelow(scene.path(u"data"_s)).size() + treeBelow(scene.path(u"target"_s)).size();
-        return count > most + 1 && !fault.isSticky ? u"left behind"_s : QString();
+        return count > most + 1 && fault.isPassing() ? u"left behind"_s : QString();
     });
 }
 
