@@ -3,12 +3,12 @@
 //
 // Runs without a display with QT_QPA_PLATFORM=offscreen.
 
+#include "bench/watchdog.h"
 #include "ui/results/resultspage.h"
 #include "ui/results/resultstree.h"
 
 #include <QApplication>
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QTabWidget>
@@ -47,31 +47,6 @@ void fill(ResultSet &results, int groups)
     results.marks.reset(results.groups);
     std::printf("%d groups, %lld files, as many remaining\n", groups, static_cast<long long>(number));
 }
-
-/// Runs each step from the event loop, lets it settle, and keeps the longest time between two turns of the loop.
-class Watchdog
-{
-public:
-    void run(const char *name, const std::function<void()> &step)
-    {
-        constexpr int settleMs = 2500;
-        QEventLoop loop;
-        QTimer tick;
-        QElapsedTimer turn;
-        qint64 longestUs = 0;
-        QObject::connect(&tick, &QTimer::timeout, &loop, [&] {
-            longestUs = std::max(longestUs, turn.nsecsElapsed() / 1000);
-            turn.restart();
-        });
-        tick.start(0);
-        turn.start();
-        QTimer::singleShot(20, &loop, step);
-        QTimer::singleShot(settleMs, &loop, &QEventLoop::quit);
-        loop.exec();
-        std::printf("%-28s longest block %7.1f ms\n", name, static_cast<double>(longestUs) / 1000);
-        std::fflush(stdout);
-    }
-};
 
 /// Twenty jumps and twenty small steps back, each in its own turn of the loop.
 void scroll(QScrollBar *bar, int step = 1)

@@ -5,6 +5,7 @@
 #   install-deps.sh --sdk            also what builds the libraries for Windows (packaging/windows/build-sdk.sh)
 #   install-deps.sh --packages       also what makes the Windows packages
 #   install-deps.sh --screenshots    also what takes pictures of the window
+#   install-deps.sh --tsan           also what builds Qt with the thread sanitizer (scripts/build-qt-tsan.sh)
 #   install-deps.sh --e2e            also what the tests of the Windows packages need
 set -euo pipefail
 
@@ -20,6 +21,7 @@ for option in "$@"; do
         packages+=(g++-mingw-w64-x86-64-posix wine wine64 xvfb xauth libz-mingw-w64-dev libz-mingw-w64 xz-utils)
         ;;
     --sdk) packages+=(dpkg-dev autoconf automake libtool gettext autopoint nasm libutfcpp-dev) ;;
+    --tsan) packages+=(dpkg-dev libfontconfig-dev libfreetype-dev libicu-dev libjpeg-dev libpng-dev zlib1g-dev) ;;
     --packages) packages+=(nsis qt6-translations-l10n) ;;
     --screenshots) packages+=(xvfb xauth fonts-noto-cjk fonts-noto-color-emoji fonts-dejavu-core) ;;
     --e2e) packages+=(xvfb xdotool imagemagick tesseract-ocr tesseract-ocr-eng fonts-noto-cjk fonts-dejavu-core) ;;

@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# The long forms of the tests that ctest runs short: every fault, every kill, races, ten minutes of the window driven at
-# random under the address sanitizer, and ten minutes of each fuzzer.
-# scripts/stress.sh [faults|kills|races|monkey|fuzz]...; everything without arguments, which takes some hours.
+# The long forms of the tests that ctest runs short: every fault, every kill, races, all tests under the sanitizers, ten
+# minutes of the window driven at random under the address sanitizer, and ten minutes of each fuzzer.
+# scripts/stress.sh [faults|kills|races|asan|tsan|monkey|fuzz]...; everything without arguments, which takes some hours.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 parts=("$@")
 if [ ${#parts[@]} -eq 0 ]; then
-    parts=(faults kills races monkey fuzz)
+    parts=(faults kills races asan tsan monkey fuzz)
 fi
 cmake --preset dev >/dev/null
 cmake --build --preset dev --target tst_faults tst_races tst_crashes mirrix-cli
@@ -23,6 +23,14 @@ for part in "${parts[@]}"; do
         faults) MIRRIX_FAULT_STRIDE=1 QTEST_FUNCTION_TIMEOUT=86400000 build/dev/bin/tst_faults || status=1 ;;
         kills) QTEST_FUNCTION_TIMEOUT=86400000 build/dev/bin/tst_crashes || status=1 ;;
         races) MIRRIX_RACE_ROUNDS=5000 QTEST_FUNCTION_TIMEOUT=86400000 build/dev/bin/tst_races || status=1 ;;
+        asan | tsan)
+            if [ "$part" = tsan ] && [ ! -d .deps/qt-tsan ]; then
+                scripts/build-qt-tsan.sh
+            fi
+            cmake --preset "$part" >/dev/null
+            cmake --build --preset "$part"
+            ctest --preset "$part" -j2 || status=1
+            ;;
         monkey)
             cmake --preset asan >/dev/null
             cmake --build --preset asan --target tst_monkey
@@ -32,7 +40,7 @@ for part in "${parts[@]}"; do
             ;;
         fuzz) scripts/fuzz.sh 600 || status=1 ;;
         *)
-            echo "faults, kills, races, monkey or fuzz, not \"$part\"" >&2
+            echo "faults, kills, races, asan, tsan, monkey or fuzz, not \"$part\"" >&2
             exit 2
             ;;
     esac

@@ -35,6 +35,24 @@ int currentDigestLength()
     return contentHashAlgorithm() == ContentHashAlgorithm::Blake3 ? BLAKE3_OUT_LEN : 16;
 }
 
+namespace {
+
+/// The library finds out what the processor can do at its first use, and guards nothing meanwhile; so that comes before
+/// any thread of ours uses it.
+void findProcessorFeatures()
+{
+    static const bool isDone = [] {
+        blake3_hasher hasher;
+        uint8_t digest[BLAKE3_OUT_LEN];
+        blake3_hasher_init(&hasher);
+        blake3_hasher_finalize(&hasher, digest, sizeof digest);
+        return true;
+    }();
+    Q_UNUSED(isDone)
+}
+
+} // namespace
+
 struct ContentHasher::Blake3State
 {
     blake3_hasher hasher;
@@ -42,10 +60,12 @@ struct ContentHasher::Blake3State
 
 ContentHasher::ContentHasher(ContentHashAlgorithm algorithm)
 {
-    if (algorithm == ContentHashAlgorithm::Blake3)
+    if (algorithm == ContentHashAlgorithm::Blake3) {
+        findProcessorFeatures();
         m_blake3.reset(new Blake3State); // not value-initialised: 2 KB that blake3_hasher_init need not have cleared
-    else
+    } else {
         m_md5 = std::make_unique<QCryptographicHash>(QCryptographicHash::Md5);
+    }
     reset();
 }
 

@@ -11,6 +11,8 @@
 #include <QSet>
 #include <QTest>
 
+#include <atomic>
+
 using namespace MirrixCore;
 using namespace MirrixTest;
 using namespace Qt::StringLiterals;
@@ -169,9 +171,13 @@ void SampledContentTest::stopsWhenCancelled()
         tree.write(QString::number(i), patternBytes(10000));
     for (const QString &phase : {Phase::SampleHash, Phase::PrefixHash}) {
         QString last;
-        const auto note = [&](const ScanProgress &report) { last = report.phase; };
+        std::atomic<bool> isReached = false; // reports come one by one, but the question from all threads
+        const auto note = [&](const ScanProgress &report) {
+            last = report.phase;
+            isReached = last == phase;
+        };
         const ScanResult result =
-            DuplicateScanner::scan(mediaOptions(tree, SearchMode::Audio, 1), note, [&] { return last == phase; });
+            DuplicateScanner::scan(mediaOptions(tree, SearchMode::Audio, 1), note, [&] { return isReached.load(); });
         QCOMPARE(last, phase);
         QCOMPARE(result.groups.size(), 0);
         QCOMPARE(result.candidates, 3);

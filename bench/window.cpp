@@ -1,0 +1,108 @@
+// A whole job in the window over real files: bench_window FOLDER. Scans the folder without and with remembered digests,
+// ticks by rule, inverts, exports in every form of one file, moves all surplus copies into a backup folder, opens the
+// list of what can be put back, puts it all back, and prints how long the interface was blocked at most in each step.
+// Everything else it writes lies in a temporary folder, which must be on the same volume for moving to be renaming.
+//
+// Runs without a display with QT_QPA_PLATFORM=offscreen.
+
+#include "bench/watchdog.h"
+#include "core/cache/cacheroot.h"
+#include "ui/mainmenu.h"
+#include "ui/mirrix.h"
+#include "ui/prompts.h"
+#include "ui/theme.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QListView>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Says yes to everything.
+class Consent : public Mirrix::Prompts
+{
+public:
+    explicit Consent(const QString &folder)
+        : m_folder(folder)
+    {}
+
+    int exportFormat = 0; ///< the number of the next export's form
+
+    void inform(QWidget *, const QString &, const QString &) override {}
+    void warn(QWidget *, const QString &, const QString &text) override { complain(text); }
+    void fail(QWidget *, const QString &, const QString &text) override { complain(text); }
+    bool ask(QWidget *, const QString &, const QString &) override { return true; }
+    Mirrix::Confirmation confirm(QWidget *, const Mirrix::ConfirmationRequest &) override { return {true, false}; }
+    QStringList chooseFiles(QWidget *, const QString &, const QString &) override { return {}; }
+    QString chooseFolder(QWidget *, const QString &, const QString &) override { return {}; }
+    QString chooseSaveFile(QWidget *, const QString &, const QString &, const QString &) override { return {}; }
+
+    bool run(QDialog &dialog) override
+    {
+        if (auto *format = dialog.findChild<QAbstractButton *>(u"ExportFormat%1"_s.arg(exportFormat))) {
+            format->click();
+            dialog.findChild<QLineEdit *>(u"OutputPathEdit"_s)->setText(m_folder + u"/export%1"_s.arg(exportFormat));
+        } else if (auto *list = dialog.findChild<QListView *>(u"RestoreList"_s)) {
+            dialog.show();
+            list->selectAll();
+        }
+        return true;
+    }
+
+private:
+    static void complain(const QString &text) { std::printf("  %s\n", qPrintable(text.left(300))); }
+
+    QString m_folder;
+};
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    if (argc != 2 || !QFileInfo(QFile::decodeName(argv[1])).isDir()) {
+        std::fprintf(stderr, "usage: bench_window FOLDER\n");
+        return 2;
+    }
+    Mirrix::ensureFusionStyle();
+    const QTemporaryDir own;
+    Mirrix::Settings settings = Mirrix::defaultSettings(own.path());
+    settings.trayEnabled = false;
+    settings.backupRoot = own.filePath(u"backup"_s);
+    MirrixCore::setCacheRoot(settings.directory);
+    Consent prompts(own.path());
+    MirrixUi::Mirrix window(settings, prompts);
+    window.resize(1200, 800);
+    window.show();
+    window.addLocation(QFileInfo(QFile::decodeName(argv[1])).absoluteFilePath());
+
+    const auto press = [&](const char16_t *name) {
+        return [&window, name] { window.findChild<QAbstractButton *>(QString::fromUtf16(name))->click(); };
+    };
+    const auto isScanned = [&] { return !window.isScanning(); };
+    Watchdog watchdog;
+    watchdog.run(
+        "scan", [&] { window.startScan(); }, isScanned);
+    watchdog.run(
+        "scan again", [&] { window.startScan(); }, isScanned);
+    watchdog.run("tick by rule", press(u"AutoSelectButton"));
+    watchdog.run("invert", press(u"InvertButton"));
+    watchdog.run("invert back", press(u"InvertButton"));
+    for (const int format : {0, 1, 3}) {
+        prompts.exportFormat = format;
+        watchdog.run(format == 0   ? "export, table"
+                     : format == 1 ? "export, report"
+                                   : "export, script",
+                     press(u"ExportButton"));
+    }
+    watchdog.run("move to backup", press(u"MoveToBackupButton"));
+    watchdog.run("put back", [&] { emit window.findChild<Mirrix::MainMenu *>()->restoreRequested(); });
+    watchdog.run("clear", press(u"ClearResultsButton"));
+    window.quitCompletely();
+    return 0;
+}
