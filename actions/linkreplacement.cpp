@@ -52,7 +52,8 @@ public:
         // A program that had the file open may have written into it since.
         if (pathState(entry.backup).isSameFileAs(before) && removeFile(entry.backup) == FileFault::None)
             return {};
-        static_cast<void>(removeFile(file.path)); // our link
+        if (leadsTo(file.path, file.target)) // ours, not what another program has put there
+            static_cast<void>(removeFile(file.path));
         return putBack(file.path, entry, text(QT_TRANSLATE_NOOP("Mirrix", "无法删除: %1"), file.path));
     }
 

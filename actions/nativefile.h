@@ -35,6 +35,10 @@ struct PathState
 
 [[nodiscard]] PathState pathState(const QString &path);
 
+/// Whether the file system there may give a file another number while nothing happens to it, so that another number is
+/// no proof of another file.
+[[nodiscard]] bool mayNumberAnew(const QString &path);
+
 enum class FileFault
 {
     None,

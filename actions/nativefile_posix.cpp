@@ -2,10 +2,13 @@
 
 #include "core/platform/nativepath.h"
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/vfs.h>
 #include <unistd.h>
 
 namespace Mirrix {
@@ -34,7 +37,19 @@ FileFault faultUnless(int result)
     return result == 0 ? FileFault::None : faultOf(errno);
 }
 
-/// For file systems that cannot rename without replacing: an empty file of our own claims the name and is replaced.
+/// For file systems that cannot rename without replacing but know hard links, such as network drives. A crash in
+/// between leaves the file under both names.
+FileFault linkAndUnlink(const QByteArray &from, const QByteArray &to)
+{
+    if (::link(from.constData(), to.constData()) != 0)
+        return faultOf(errno);
+    if (unlink(from.constData()) == 0)
+        return FileFault::None;
+    unlink(to.constData());
+    return FileFault::Failed;
+}
+
+/// For those that know neither: an empty file of our own claims the name and is replaced.
 FileFault claimAndRename(const QByteArray &from, const QByteArray &to)
 {
     const int claim = open(to.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
@@ -70,15 +85,26 @@ PathState pathState(const QString &path)
     return state;
 }
 
+bool mayNumberAnew(const QString &path)
+{
+    struct statfs info = {};
+    if (statfs(pathBytes(path).constData(), &info) != 0)
+        return false;
+    // FAT, exFAT and what user programs serve make their numbers up while they run.
+    constexpr std::array<quint32, 3> inventing = {0x4D44, 0x2011BAB0, 0x65735546};
+    return std::find(inventing.begin(), inventing.end(), static_cast<quint32>(info.f_type)) != inventing.end();
+}
+
 FileFault renameExclusively(const QString &from, const QString &to)
 {
     const QByteArray source = pathBytes(from);
     const QByteArray target = pathBytes(to);
     if (renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) == 0)
         return FileFault::None;
-    if (errno == EINVAL || errno == ENOSYS)
-        return claimAndRename(source, target);
-    return faultOf(errno);
+    if (errno != EINVAL && errno != ENOSYS)
+        return faultOf(errno);
+    const FileFault linked = linkAndUnlink(source, target);
+    return linked == FileFault::Failed ? claimAndRename(source, target) : linked;
 }
 
 FileFault removeFile(const QString &path)

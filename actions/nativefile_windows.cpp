@@ -2,6 +2,7 @@
 
 #include "core/platform/nativepath.h"
 #include "core/platform/win32.h"
+#include "core/walk/windowsattributes.h"
 
 #include <QDir>
 
@@ -13,9 +14,7 @@ using MirrixCore::epochMsFrom;
 using MirrixCore::joined;
 using MirrixCore::UniqueHandle;
 
-// Names that older SDK headers lack.
-constexpr DWORD contentElsewhere = FILE_ATTRIBUTE_OFFLINE | 0x00400000 | 0x00040000; // recall on data access, on open
-constexpr DWORD allowUnprivileged = 0x2;
+constexpr DWORD allowUnprivileged = 0x2; // a name that older SDK headers lack
 
 std::wstring wide(const QString &path)
 {
@@ -65,7 +64,7 @@ PathState::Kind kindOf(HANDLE file, DWORD attributes)
         return PathState::Kind::Link;
     if (attributes & FILE_ATTRIBUTE_DIRECTORY)
         return PathState::Kind::Folder;
-    return attributes & contentElsewhere ? PathState::Kind::Other : PathState::Kind::File;
+    return MirrixCore::isPlaceholder(attributes) ? PathState::Kind::Other : PathState::Kind::File;
 }
 
 } // namespace
@@ -91,6 +90,11 @@ PathState pathState(const QString &path)
     state.identity = {info.dwVolumeSerialNumber, joined(info.nFileIndexHigh, info.nFileIndexLow), info.nNumberOfLinks,
                       true};
     return state;
+}
+
+bool mayNumberAnew(const QString &)
+{
+    return false;
 }
 
 FileFault renameExclusively(const QString &from, const QString &to)

@@ -44,17 +44,25 @@ void printPlan(const QList<Surplus> &surplus, const CleanPlan &plan)
     static_cast<void>(output.finish());
 }
 
+/// Whether what is taken away is gone for good.
+bool isFinal(const CleanPlan &plan)
+{
+    return plan.method.act == CleanAct::Link ||
+           (plan.method.act == CleanAct::Remove && plan.method.number == RemovalMethod::Delete);
+}
+
 /// The looks at the disk just before each act, and the progress line.
-BatchControl controlFor(const QList<Surplus> &surplus, ProgressLine &line)
+BatchControl controlFor(const QList<Surplus> &surplus, const CleanPlan &plan, ProgressLine &line)
 {
     QHash<QString, qsizetype> places;
     places.reserve(surplus.size());
     for (qsizetype i = 0; i < surplus.size(); ++i)
         places.insert(surplus[i].file.path, i);
     BatchControl control;
-    control.guard = [places, &surplus](const QString &path) {
+    control.guard = [places, &surplus,
+                     problem = isFinal(plan) ? finalSurplusProblem : surplusProblem](const QString &path) {
         const Surplus &one = surplus[places.value(path)];
-        return surplusProblem(one.file, one.keeper);
+        return problem(one.file, one.keeper);
     };
     control.progress = [&line, &surplus](qsizetype done, qsizetype total) {
         line.show({total, done, total, surplus[done].file.path, QStringLiteral("cleaning")});
@@ -66,7 +74,7 @@ BatchControl controlFor(const QList<Surplus> &surplus, ProgressLine &line)
 BatchResult act(const QList<Surplus> &surplus, const CleanPlan &plan)
 {
     ProgressLine line;
-    const BatchControl control = controlFor(surplus, line);
+    const BatchControl control = controlFor(surplus, plan, line);
     QStringList paths;
     QList<LinkReplacement> links;
     for (const Surplus &one : surplus) {

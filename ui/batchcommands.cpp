@@ -136,9 +136,9 @@ BatchResult BatchCommands::run(const QString &label, const Batch &batch)
     return result;
 }
 
-BatchResult BatchCommands::runOn(const CheckedFiles &files, const QString &label, const Batch &batch)
+BatchResult BatchCommands::runOn(const CheckedFiles &files, const QString &label, const Batch &batch, bool isFinal)
 {
-    return run(label, [&](const BatchControl &control) { return batch({control.progress, files.guard()}); });
+    return run(label, [&](const BatchControl &control) { return batch({control.progress, files.guard(isFinal)}); });
 }
 
 void BatchCommands::backUpChecked()
@@ -199,9 +199,11 @@ void BatchCommands::removeDirectly(const CheckedFiles &files, const RemovalChoic
         !m_prompts.ask(m_window, Text::tr("永久删除确认"),
                        Text::tr("即将永久删除 %1 个文件，此操作不可撤销。是否继续？").arg(files.count())))
         return;
-    const BatchResult result = runOn(files, Text::tr("正在移除文件… (%1/%2)"), [&](const BatchControl &control) {
+    const auto remove = [&](const BatchControl &control) {
         return removeFiles(choice.method, files.paths(), choice.targetFolder, choice.linkTarget, control);
-    });
+    };
+    const BatchResult result =
+        runOn(files, Text::tr("正在移除文件… (%1/%2)"), remove, choice.method == RemovalMethod::Delete);
     m_log.append(QStringLiteral("remove_batch"),
                  QStringLiteral("method=%1 count=%2").arg(static_cast<int>(choice.method)).arg(result.count));
     QString rest = failureText(result);
@@ -248,13 +250,14 @@ void BatchCommands::restore(const QString &folder, const QList<BackupEntry> &cho
     RestoreResult result;
     static_cast<void>(run(Text::tr("正在恢复文件… (%1/%2)"), [&](const BatchControl &control) {
         result = restoreBackups(folder, chosen, control);
+        // Here, too, since a record for each of very many files takes a second.
+        QList<LogEntry> records;
+        for (const BackupEntry &entry : std::as_const(result.restored))
+            records.append(logEntryNow(QStringLiteral("restore"), backupLine(entry)));
+        if (!records.isEmpty())
+            m_log.append(records);
         return static_cast<const BatchResult &>(result);
     }));
-    QList<LogEntry> records;
-    for (const BackupEntry &entry : std::as_const(result.restored))
-        records.append(logEntryNow(QStringLiteral("restore"), backupLine(entry)));
-    if (!records.isEmpty())
-        m_log.append(records);
     const QString count = Text::tr("已恢复 %1 个文件。").arg(result.count);
     if (!result.errors.isEmpty())
         m_prompts.warn(m_window, Text::tr("失败"),

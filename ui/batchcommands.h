@@ -79,7 +79,8 @@ private:
 
     bool changeMarks(const char *status, const MarkChange &change);
     [[nodiscard]] BatchResult run(const QString &label, const Batch &batch);
-    [[nodiscard]] BatchResult runOn(const CheckedFiles &files, const QString &label, const Batch &batch);
+    [[nodiscard]] BatchResult runOn(const CheckedFiles &files, const QString &label, const Batch &batch,
+                                    bool isFinal = false);
 
     void backUpAndRemove(const CheckedFiles &files, const RemovalChoice &choice);
     void removeDirectly(const CheckedFiles &files, const RemovalChoice &choice);

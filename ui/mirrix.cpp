@@ -238,6 +238,8 @@ void Mirrix::startScan()
     showLocked();
     m_log.append(QStringLiteral("scan_start"), options.roots.join(QLatin1Char('|')));
     m_scannedMode = options.searchMode;
+    m_results.isEqualContent = options.searchMode == static_cast<int>(MirrixCore::SearchMode::Files) &&
+                               options.contentMatch == static_cast<int>(MirrixCore::ContentMatch::Exact);
     applyContentHashAlgorithm(m_settings); // it may have been changed during the scan before
     m_scanThread->start(options);
 }

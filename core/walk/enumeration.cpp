@@ -120,7 +120,7 @@ private:
 
     void walkFolder(const QString &folder)
     {
-        push(folder);
+        push(folder, true);
         FolderItem item;
         while (!m_stack.empty()) {
             if (isCancelled(m_cancelled)) {
@@ -147,11 +147,11 @@ private:
     void enter(const QString &path, const FolderItem &item)
     {
         if (!m_rules.excludes(path, item.isHidden) && (!item.isFolderLink || mayFollow(path)))
-            push(path);
+            push(path, item.isFolderLink);
     }
 
     /// Opens a folder for reading unless an overlapping root has been walked through it before.
-    void push(const QString &path)
+    void push(const QString &path, bool isLinkWanted)
     {
         if (m_options.roots.size() > 1) {
             const QString key = pathCaseKey(path);
@@ -160,7 +160,7 @@ private:
             m_visited.insert(key);
         }
         const bool isFlat = !m_flatFolders.isEmpty() && m_flatFolders.contains(path.toLower());
-        m_stack.push_back({path, FolderReader(path), !isFlat, {}, false});
+        m_stack.push_back({path, FolderReader(path, isLinkWanted), !isFlat, {}, false});
     }
 
     /// Whether a folder link leads anywhere but back to a folder that is being walked. Noted as unread when that cannot

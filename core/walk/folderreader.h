@@ -34,8 +34,9 @@ struct FolderItem
 class FolderReader
 {
 public:
-    /// Opens `folder`, an absolute clean path. A link given here is followed.
-    explicit FolderReader(const QString &folder);
+    /// Opens `folder`, an absolute clean path. A link is followed only when wanted; where the system cannot tell at the
+    /// opening (Windows), it always is.
+    explicit FolderReader(const QString &folder, bool isLinkWanted = true);
     ~FolderReader();
     FolderReader(FolderReader &&) noexcept;
     FolderReader &operator=(FolderReader &&) noexcept;

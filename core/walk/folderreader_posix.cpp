@@ -85,10 +85,11 @@ bool isDots(const char *name)
 
 } // namespace
 
-FolderReader::FolderReader(const QString &folder)
+FolderReader::FolderReader(const QString &folder, bool isLinkWanted)
     : m_state(std::make_unique<State>())
 {
-    const int descriptor = open(pathBytes(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK);
+    const int flags = O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK | (isLinkWanted ? 0 : O_NOFOLLOW);
+    const int descriptor = open(pathBytes(folder).constData(), flags);
     if (descriptor < 0) {
         m_state->error = systemErrorText(errno);
     } else if (isKernelFileSystem(descriptor)) {
@@ -96,6 +97,10 @@ FolderReader::FolderReader(const QString &folder)
         close(descriptor);
     } else {
         m_state->stream = fdopendir(descriptor);
+        if (!m_state->stream) {
+            m_state->error = systemErrorText(errno);
+            close(descriptor);
+        }
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/platform/nativepath.h"
 #include "core/platform/win32.h"
+#include "core/walk/windowsattributes.h"
 
 namespace MirrixCore {
 
@@ -28,10 +29,6 @@ struct FolderReader::State
 
 namespace {
 
-// Names for attributes that older SDK headers lack. Any of the three on a file means that opening it fetches it.
-constexpr DWORD recallOnDataAccess = 0x00400000;
-constexpr DWORD recallOnOpen = 0x00040000;
-
 bool isDots(const wchar_t *name)
 {
     return name[0] == L'.' && (name[1] == L'\0' || (name[1] == L'.' && name[2] == L'\0'));
@@ -39,28 +36,17 @@ bool isDots(const wchar_t *name)
 
 void fillItem(const WIN32_FIND_DATAW &data, FolderItem &item)
 {
-    const DWORD attributes = data.dwFileAttributes;
-    const bool isLink = attributes & FILE_ATTRIBUTE_REPARSE_POINT;
     item = FolderItem();
+    setKind(item, data.dwFileAttributes);
     item.name = textFromWide(data.cFileName);
-    item.isHidden = attributes & FILE_ATTRIBUTE_HIDDEN;
-    item.isPlaceholder = attributes & (FILE_ATTRIBUTE_OFFLINE | recallOnDataAccess | recallOnOpen);
     item.sizeBytes = static_cast<qint64>(joined(data.nFileSizeHigh, data.nFileSizeLow));
     item.modifiedMs = epochMsFrom(data.ftLastWriteTime);
     item.createdMs = epochMsFrom(data.ftCreationTime);
-    if (attributes & FILE_ATTRIBUTE_DIRECTORY) {
-        item.kind = FolderItem::Kind::Folder;
-        item.isFolderLink = isLink;
-    } else if (isLink && !item.isPlaceholder) {
-        item.kind = FolderItem::Kind::Other;
-    } else {
-        item.kind = FolderItem::Kind::File;
-    }
 }
 
 } // namespace
 
-FolderReader::FolderReader(const QString &folder)
+FolderReader::FolderReader(const QString &folder, bool)
     : m_state(std::make_unique<State>())
 {
     std::wstring pattern = longPath(folder);

@@ -24,6 +24,9 @@ MirrixCore::FileEntry entryOf(const QString &path)
     entry.path = path;
     entry.size = status.sizeBytes;
     entry.modifiedMs = status.modifiedMs;
+    entry.volumeSerial = status.identity.volume;
+    entry.fileIndex = status.identity.index;
+    entry.hasFileId = status.identity.isKnown;
     return entry;
 }
 
@@ -46,6 +49,10 @@ private slots:
     void leavesAlone();
     void guardSeesChanges_data();
     void guardSeesChanges();
+
+    void guardSeesOtherFiles_data();
+    void guardSeesOtherFiles();
+    void finalGuardComparesContents();
 
 private:
     static void kinds()
@@ -184,6 +191,61 @@ void LinkReplacementTest::guardSeesChanges()
     if (isRefused)
         QCOMPARE(result.errors, QStringList{u"文件在扫描后已更改，已保留: "_s + m_copy});
     QCOMPARE(source() == before, isRefused);
+}
+
+void LinkReplacementTest::guardSeesOtherFiles_data()
+{
+    QTest::addColumn<QString>("how");
+    for (const char *how : {"moved over it", "folder swapped for a link", "symbolic link", "hard link to the keeper"})
+        QTest::newRow(how) << QString::fromLatin1(how);
+}
+
+/// Other files of the same size and time in the place of the scanned one.
+void LinkReplacementTest::guardSeesOtherFiles()
+{
+    QFETCH(QString, how);
+    const QString victim = m_tree->write(u"src/sub/victim"_s, "same");
+    const QString other = m_tree->write(u"src/other/victim"_s, "SAME");
+    for (const QString &path : {u"src/sub/victim"_s, u"src/other/victim"_s, u"src/keeper"_s})
+        m_tree->setModified(path, 1234567890123);
+    const MirrixCore::FileEntry scanned = entryOf(victim);
+    const MirrixCore::FileEntry keeper = entryOf(m_keeper);
+    QVERIFY(scanned.hasFileId);
+    QVERIFY(surplusProblem(scanned, keeper).isEmpty());
+    const QString aside = m_tree->path(u"src/aside"_s);
+    bool isMade = false;
+    if (how == u"moved over it") {
+        isMade = QFile::rename(victim, aside) && QFile::rename(other, victim);
+    } else if (how == u"folder swapped for a link") {
+        isMade = QFile::rename(m_tree->path(u"src/sub"_s), aside) && m_tree->symbolicLink(u"src/other"_s, u"src/sub"_s);
+    } else {
+        isMade = QFile::rename(victim, aside) &&
+                 (how == u"symbolic link" ? m_tree->symbolicLink(u"src/keeper"_s, u"src/sub/victim"_s)
+                                          : createHardLink(victim, m_keeper));
+    }
+    if (!isMade)
+        QSKIP("cannot be made here");
+    const DiskTree before = source();
+    BatchControl control;
+    control.guard = guardAgainstChanges({scanned});
+    QVERIFY(!changeProblem(scanned).isEmpty());
+    QVERIFY(!surplusProblem(scanned, keeper).isEmpty());
+    QVERIFY(!surplusProblem(keeper, scanned).isEmpty());
+    QCOMPARE(removeFiles(RemovalMethod::Delete, {victim}, {}, {}, control).count, 0);
+    QCOMPARE(source(), before);
+}
+
+/// A file that was written and given its old time again looks as it did to the scan.
+void LinkReplacementTest::finalGuardComparesContents()
+{
+    m_tree->setModified(u"src/keeper"_s, 1234567890123);
+    const MirrixCore::FileEntry copy = entryOf(m_copy);
+    const MirrixCore::FileEntry keeper = entryOf(m_keeper);
+    QCOMPARE(finalSurplusProblem(copy, keeper), QString());
+    m_tree->write(u"src/copy"_s, "sAme");
+    m_tree->setModified(u"src/copy"_s, copy.modifiedMs);
+    QCOMPARE(finalSurplusProblem(copy, keeper), u"文件在扫描后已更改，已保留: "_s + m_copy);
+    QVERIFY(!finalSurplusProblem(keeper, copy).isEmpty());
 }
 
 QTEST_GUILESS_MAIN(LinkReplacementTest)

@@ -25,6 +25,10 @@ private slots:
     void failuresAreNamed();
     void interrupted();
     void unreadableIndexStays();
+    void rememberedDigestsDestroyNothing_data();
+    void rememberedDigestsDestroyNothing();
+    void twoPathsToOneFolder_data();
+    void twoPathsToOneFolder();
     void mistakes_data();
     void mistakes();
 
@@ -226,6 +230,73 @@ void CleanCommandTest::unreadableIndexStays()
     QCOMPARE(this->source(), source);
     QVERIFY(!before.isEmpty());
     QCOMPARE(contentOf(index), before);
+}
+
+void CleanCommandTest::rememberedDigestsDestroyNothing_data()
+{
+    QTest::addColumn<QString>("written");
+    for (const char *method : {"delete", "symlink", "hardlink"}) {
+        QTest::addRow("%s, surplus", method) << u"src/a"_s;
+        QTest::addRow("%s, keeper", method) << u"src/b"_s;
+    }
+}
+
+/// A file that was written and given its old time and size again has the remembered digest of its old content.
+void CleanCommandTest::rememberedDigestsDestroyNothing()
+{
+    QFETCH(QString, written);
+    const QString method = QString::fromLatin1(QTest::currentDataTag()).section(u',', 0, 0);
+    if (method == u"symlink"_s && !m_tree->symbolicLink(u"src/b"_s, u"probe"_s))
+        QSKIP("no symbolic links");
+    QCOMPARE(clean(method).status, 0); // remembers
+    const qint64 modifiedMs = QFileInfo(m_tree->path(written)).lastModified().toMSecsSinceEpoch();
+    m_tree->write(written, "CoNtEnT");
+    m_tree->setModified(written, modifiedMs);
+    const DiskTree before = source();
+    const bool isKeeper = written == u"src/b"_s;
+    const ProgramRun done = clean(method, {u"--apply"_s});
+    QCOMPARE(done.output, QByteArray(isKeeper ? "0" : "1") + " of 2 files done (" + method.toLatin1() + ")\n");
+    QCOMPARE(done.status, 1);
+    DiskTree expected = before;
+    if (!isKeeper && method == u"delete"_s)
+        expected.remove(u"deep/日本"_s);
+    else if (!isKeeper)
+        expected[u"deep/日本"_s] = (method == u"symlink"_s ? "link to " : "") + before[u"b"_s];
+    QCOMPARE(source(), expected);
+}
+
+void CleanCommandTest::twoPathsToOneFolder_data()
+{
+    QTest::addColumn<bool>("isCollapsed");
+    for (const char *method : {"delete", "backup", "move", "hardlink"}) {
+        QTest::addRow("%s, collapsed", method) << true;
+        QTest::addRow("%s, each path", method) << false;
+    }
+}
+
+/// However many paths lead to a file, one copy of it stays.
+void CleanCommandTest::twoPathsToOneFolder()
+{
+    QFETCH(bool, isCollapsed);
+    if (!m_tree->symbolicLink(u"src"_s, u"again"_s))
+        QSKIP("no symbolic links");
+    const DiskTree before = source();
+    const QString method = QString::fromLatin1(QTest::currentDataTag()).section(u',', 0, 0);
+    QStringList more = {u"--apply"_s, m_tree->path(u"again"_s)};
+    if (method == u"backup"_s || method == u"move"_s)
+        more += {u"--target"_s, m_tree->path(u"away"_s)};
+    if (!isCollapsed)
+        more += {u"--set"_s, u"collapseHardLinks=false"_s};
+    const ProgramRun done = clean(method, more);
+    QVERIFY(done.status == 0 || !isCollapsed);
+    DiskTree after = source();
+    QCOMPARE(after[u"other"_s], before[u"other"_s]);
+    const auto isContent = [](const QByteArray &state) { return state.startsWith("content @"); };
+    QVERIFY(std::any_of(after.begin(), after.end(), isContent));
+    const DiskTree away = treeBelow(m_tree->path(u"away"_s));
+    const qsizetype kept =
+        std::count_if(after.begin(), after.end(), isContent) + std::count_if(away.begin(), away.end(), isContent);
+    QCOMPARE(kept, method == u"delete"_s ? 1 : 3);
 }
 
 void CleanCommandTest::mistakes_data()

@@ -2,6 +2,7 @@
 
 #include "core/platform/nativepath.h"
 #include "core/walk/filestatus.h"
+#include "core/walk/windowsattributes.h"
 #include "tests/support/probes.h"
 #include "tests/support/temptree.h"
 
@@ -63,6 +64,9 @@ private slots:
     void readsLongPaths();
     void tellsHardLinks();
     void givesNoLinkAsFileOrFolder();
+    void followsWantedLinksOnly();
+    void kindsByAttributes_data();
+    void kindsByAttributes();
     void givesNoPipeAsFile();
     void tellsWhatIsHidden();
     void failsOnWhatIsNoFolder_data();
@@ -303,6 +307,52 @@ void FolderReaderTest::comparesNoUnknownIdentities()
     QVERIFY(!known.isOtherThan({7, 43, 1, false}));
     QVERIFY(!known.isOtherThan({7, 0, 1, true}));
     QVERIFY(!(FileIdentity{7, 0, 1, true}).isOtherThan(known));
+}
+
+/// A folder that became a link after its parent told of it leads elsewhere.
+void FolderReaderTest::followsWantedLinksOnly()
+{
+    if (!namesAreBytes)
+        QSKIP("not told at the opening");
+    const TempTree tree;
+    tree.write(u"folder/file"_s, "x");
+    QVERIFY(tree.symbolicLink(u"folder"_s, u"link"_s));
+    FolderItem item;
+    QVERIFY(FolderReader(tree.path(u"link"_s)).next(item));
+    FolderReader unwanted(tree.path(u"link"_s), false);
+    QVERIFY(!unwanted.next(item));
+    QVERIFY(!unwanted.errorText().isEmpty());
+    QVERIFY(FolderReader(tree.path(u"folder"_s), false).next(item));
+}
+
+void FolderReaderTest::kindsByAttributes_data()
+{
+    QTest::addColumn<quint32>("attributes");
+    QTest::addColumn<FolderItem::Kind>("kind");
+    QTest::addColumn<bool>("isPlaceholder");
+    QTest::addColumn<bool>("isFolderLink");
+    using enum FolderItem::Kind;
+    QTest::newRow("plain") << 0x80u << File << false << false;
+    QTest::newRow("archive, hidden") << 0x22u << File << false << false;
+    QTest::newRow("recalled on access, as a drive shows it") << 0x400020u << File << true << false;
+    QTest::newRow("recalled on access") << 0x400420u << File << true << false;
+    QTest::newRow("recalled on opening") << 0x40020u << File << true << false;
+    QTest::newRow("offline") << 0x1020u << File << true << false;
+    QTest::newRow("pinned, but here") << 0x80020u << File << false << false;
+    QTest::newRow("symbolic link") << 0x420u << Other << false << false;
+    QTest::newRow("folder") << 0x10u << Folder << false << false;
+    QTest::newRow("junction") << 0x410u << Folder << false << true;
+}
+
+void FolderReaderTest::kindsByAttributes()
+{
+    QFETCH(quint32, attributes);
+    FolderItem item;
+    setKind(item, attributes);
+    QTEST(item.kind, "kind");
+    QTEST(item.isPlaceholder, "isPlaceholder");
+    QTEST(item.isFolderLink, "isFolderLink");
+    QCOMPARE(item.isHidden, attributes == 0x22);
 }
 
 QTEST_GUILESS_MAIN(FolderReaderTest)

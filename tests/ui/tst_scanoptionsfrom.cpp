@@ -92,7 +92,8 @@ void TestScanOptionsFrom::defaults()
     QFETCH(QStringList, included);
     QFETCH(QByteArray, others);
     QJsonObject expected = QJsonDocument::fromJson(others).object();
-    for (const QString &on : {u"collapseHardLinks"_qs, u"skipHidden"_qs, u"skipSystemFolders"_qs})
+    for (const QString &on :
+         {u"collapseHardLinks"_qs, u"readFileIdentity"_qs, u"skipHidden"_qs, u"skipSystemFolders"_qs})
         expected.insert(on, true);
     if (!included.isEmpty())
         expected.insert(u"includeExtensions"_qs, QJsonArray::fromStringList(included));

@@ -49,7 +49,7 @@ qsizetype groupOf(const QString &path, const QList<DuplicateGroup> &groups)
 } // namespace
 
 CheckedFiles::CheckedFiles(const ResultSet &results)
-    : m_state(std::make_shared<const Snapshot>(Snapshot{results.groups, results.marks}))
+    : m_state(std::make_shared<const Snapshot>(Snapshot{results.groups, results.marks, results.isEqualContent}))
 {}
 
 qsizetype CheckedFiles::count() const
@@ -79,21 +79,22 @@ QStringList CheckedFiles::paths() const
     return paths;
 }
 
-PathGuard CheckedFiles::guard() const
+PathGuard CheckedFiles::guard(bool isFinal) const
 {
     QHash<QString, std::pair<qsizetype, qsizetype>> places;
     places.reserve(count());
     forEach([&](qsizetype group, qsizetype file) {
         places.insert(m_state->groups[group].files[file].path, {group, file});
     });
-    return [state = m_state, places = std::move(places)](const QString &path) {
+    const auto problemOf = isFinal && m_state->isEqualContent ? finalSurplusProblem : surplusProblem;
+    return [state = m_state, problemOf, places = std::move(places)](const QString &path) {
         const auto place = places.constFind(path);
         if (place == places.cend())
             return Text::tr("未勾选的文件，未处理: %1").arg(path);
         const QList<FileEntry> &files = state->groups[place->first].files;
         const FileEntry &file = files[place->second];
         const qsizetype kept = keptIn(state->marks, place->first, files.size());
-        const QString problem = kept < 0 ? changeProblem(file) : surplusProblem(file, files[kept]);
+        const QString problem = kept < 0 ? changeProblem(file) : problemOf(file, files[kept]);
         if (!problem.isEmpty() && pathState(path).kind == PathState::Kind::Missing)
             return Text::tr("文件不存在: %1").arg(path);
         return problem;

@@ -24,8 +24,9 @@ public:
     [[nodiscard]] QStringList paths() const;
 
     /// Refuses what has changed since the scan: the file itself, or the first unticked one of its group, or when both
-    /// may be one file. Costs two looks at the disk a file.
-    [[nodiscard]] PathGuard guard() const;
+    /// may be one file. Costs two looks at the disk a file, or when the files are to be gone for good and groups are to
+    /// hold the same bytes, the reading of both.
+    [[nodiscard]] PathGuard guard(bool isFinal = false) const;
 
     /// How links are to take the place of the files: links to `target` or, when that is empty, to the first unticked
     /// file of the group. A file without such a one, or whose `target` belongs to another group, gets no link but a
@@ -37,6 +38,7 @@ private:
     {
         QList<MirrixCore::DuplicateGroup> groups;
         SelectionMarks marks;
+        bool isEqualContent;
     };
 
     /// Calls `visit(group, file)` for the indices of each ticked file.
