@@ -166,6 +166,17 @@ const QList<Field> &table()
 
 #undef MIRRIX_SETTING
 
+/// A drive that stumbled once, or a hand that slipped, must not cost all preferences.
+bool setAside(const QString &directory)
+{
+    const QString aside = directory + QStringLiteral("/settings.damaged%1.json");
+    int number = 1;
+    while (QFile::exists(aside.arg(number)))
+        ++number;
+    QFile file(settingsFilePath(directory));
+    return file.rename(aside.arg(number)) || !file.exists();
+}
+
 const QString languageKey = QStringLiteral("uiLanguage");
 
 } // namespace
@@ -173,11 +184,13 @@ const QString languageKey = QStringLiteral("uiLanguage");
 void Settings::load()
 {
     QFile file(settingsFilePath(directory));
+    isFileUnread = file.exists();
     if (!file.open(QIODevice::ReadOnly))
         return;
     const QJsonDocument document = QJsonDocument::fromJson(file.readAll());
     if (!document.isObject())
         return;
+    isFileUnread = false;
     const Settings defaults = defaultSettings(directory);
     unknown = document.object();
     languageWasStored = unknown.contains(languageKey);
@@ -186,8 +199,11 @@ void Settings::load()
     uiLanguage = uiLanguage.isEmpty() ? systemLanguageCode() : normalizedLanguageCode(uiLanguage);
 }
 
-bool Settings::save() const
+bool Settings::save()
 {
+    if (isFileUnread && !setAside(directory))
+        return false;
+    isFileUnread = false;
     QJsonObject json = unknown;
     for (const Field &entry : table())
         json.insert(entry.key, entry.write(*this));

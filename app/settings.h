@@ -37,8 +37,9 @@ struct Settings
     QString uiLanguage;             ///< a code of languagecodes.h
     bool languageWasStored = false; ///< whether the file named a language; not stored
 
-    QString directory;   ///< the data directory the settings belong to; not stored
-    QJsonObject unknown; ///< members of the file that this version does not know; written back
+    QString directory;         ///< the data directory the settings belong to; not stored
+    QJsonObject unknown;       ///< members of the file that this version does not know; written back
+    bool isFileUnread = false; ///< there is a file whose members are not in here; not stored
 
     bool operator==(const Settings &) const = default;
 
@@ -46,9 +47,10 @@ struct Settings
     /// changes nothing; a member of the wrong type gives that member's default. Numbers are not range-tested.
     void load();
 
-    /// Writes all stored members into the file in `directory`, atomically. False when that failed; the file is then
-    /// as it was.
-    bool save() const;
+    /// Writes all stored members into the file in `directory`, atomically. A file that load could not read is set aside
+    /// first, as "settings.damaged1.json" or with the next free number. False when that or the writing failed; the file
+    /// is then as it was.
+    bool save();
 };
 
 /// The defaults for a data directory.

@@ -1,5 +1,6 @@
 #include "app/languagecodes.h"
 #include "app/settings.h"
+#include "tests/support/disk.h"
 #include "tests/support/temptree.h"
 
 #include <QCoreApplication>
@@ -47,6 +48,7 @@ private slots:
     void unknownMembersStay();
     void loadingChangesNothingOnDisk();
     void saveFails();
+    void damagedFilesAreSetAside();
     void unwritableFolderKeepsTheOldFile();
     void hashingFollows();
     void theInstance();
@@ -82,7 +84,7 @@ private:
 
 void SettingsTest::defaults()
 {
-    const Settings settings = readSettings(m_tree->path());
+    Settings settings = readSettings(m_tree->path());
     QVERIFY(settings == defaultSettings(m_tree->path()));
     QVERIFY(!settings.portable);
     QVERIFY(!settings.languageWasStored);
@@ -148,7 +150,10 @@ void SettingsTest::unusableFiles_data()
 void SettingsTest::unusableFiles()
 {
     QFETCH(QByteArray, text);
-    QVERIFY(loaded(text) == defaultSettings(m_tree->path()));
+    Settings settings = loaded(text);
+    QVERIFY(settings.isFileUnread);
+    settings.isFileUnread = false;
+    QVERIFY(settings == defaultSettings(m_tree->path()));
 }
 
 void SettingsTest::values_data()
@@ -253,6 +258,28 @@ void SettingsTest::saveFails()
     QVERIFY(!defaultSettings(m_tree->path(u"file"_s)).save());
     m_tree->makeFolder(u"taken/settings.json"_s);
     QVERIFY(!defaultSettings(m_tree->path(u"taken"_s)).save());
+}
+
+void SettingsTest::damagedFilesAreSetAside()
+{
+    Settings written = defaultSettings(m_tree->path());
+    written.excludeDirs = {u"/mine"_s};
+    QVERIFY(written.save());
+    const QByteArray whole = savedText();
+    for (qsizetype length = 0; length < whole.size() - 2; ++length) { // without its last brace it is no object
+        const Settings cut = loaded(whole.first(length));
+        QVERIFY2(cut.isFileUnread && cut.excludeDirs.isEmpty(), qPrintable(QString::number(length)));
+    }
+    int number = 0;
+    for (const QByteArray &damaged :
+         {whole.first(whole.size() / 2), QByteArray(whole.size(), '\0'), QByteArray("[1]")}) {
+        Settings settings = loaded(damaged);
+        settings.keepRule = 3;
+        QVERIFY(settings.save() && settings.save());
+        QCOMPARE(contentOf(m_tree->path(u"settings.damaged%1.json"_s.arg(++number))), damaged);
+        QCOMPARE(readSettings(m_tree->path()).keepRule, 3);
+    }
+    QCOMPARE(treeBelow(m_tree->path()).size(), 4);
 }
 
 void SettingsTest::unwritableFolderKeepsTheOldFile()
