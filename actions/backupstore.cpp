@@ -125,9 +125,10 @@ QString backupLine(const BackupEntry &entry)
 
 QString backupName(const QString &path, qint64 atMs)
 {
+    constexpr qsizetype mostBytes = 255 - 27; // what file systems allow, and what stands before the name
     return QStringLiteral("%1__%2__%3")
         .arg(QDateTime::fromMSecsSinceEpoch(atMs).toString(QStringLiteral("yyyyMMdd_HHmmss")),
-             QUuid::createUuid().toString(QUuid::Id128).left(8), fileNameOf(path));
+             QUuid::createUuid().toString(QUuid::Id128).left(8), shortenedName(fileNameOf(path), mostBytes));
 }
 
 QList<BackupEntry> plannedBackups(const QString &folder, const QStringList &paths)

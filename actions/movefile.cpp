@@ -114,6 +114,19 @@ QString folderOf(const QString &path)
     return slash < 0 ? QString() : slashed.left(slash == 0 ? 1 : slash);
 }
 
+QString shortenedName(const QString &name, qsizetype mostBytes)
+{
+    if (name.toUtf8().size() <= mostBytes)
+        return name;
+    constexpr qsizetype longestSuffix = 16;
+    const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
+    const QString suffix = dot > 0 && name.size() - dot <= longestSuffix ? name.mid(dot) : QString();
+    QString stem = name.chopped(suffix.size());
+    while (!stem.isEmpty() && (stem + suffix).toUtf8().size() > mostBytes)
+        stem.chop(stem.size() > 1 && stem.back().isLowSurrogate() && stem[stem.size() - 2].isHighSurrogate() ? 2 : 1);
+    return stem + suffix;
+}
+
 QString joinedPath(const QString &folder, const QString &name)
 {
     return folder.endsWith(QLatin1Char('/')) ? folder + name : folder + QLatin1Char('/') + name;

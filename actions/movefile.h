@@ -27,6 +27,9 @@ namespace Mirrix {
 [[nodiscard]] QString fileNameOf(const QString &path);
 [[nodiscard]] QString folderOf(const QString &path);
 
+/// `name`, or where it takes more than `mostBytes` bytes of UTF-8 as much of it as fits, the last suffix kept.
+[[nodiscard]] QString shortenedName(const QString &name, qsizetype mostBytes);
+
 /// `name` inside `folder`.
 [[nodiscard]] QString joinedPath(const QString &folder, const QString &name);
 

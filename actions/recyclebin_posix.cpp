@@ -82,10 +82,8 @@ FileFault writeNote(const QString &notePath, const QByteArray &note)
 QString nameInTrash(const QString &path, int attempt)
 {
     constexpr qsizetype mostBytes = 220; // of 255
-    QByteArray name = pathBytes(fileNameOf(path)).left(mostBytes);
-    if (attempt > 0)
-        name += '.' + QByteArray::number(QRandomGenerator::system()->generate(), 16);
-    return MirrixCore::pathFromBytes(name);
+    const QString name = shortenedName(fileNameOf(path), mostBytes);
+    return attempt > 0 ? name + QLatin1Char('.') + QString::number(QRandomGenerator::system()->generate(), 16) : name;
 }
 
 /// Renames into the trash or leaves the file where it is; nothing is copied or deleted.

@@ -27,6 +27,8 @@ private slots:
     void init() { m_tree = std::make_unique<TempTree>(); }
     void thereAndBack();
     void namesOfBytes();
+    void longAndOddNames();
+    void timesOfOtherCenturies();
     void whatCannotBeBackedUpStays();
     void nothingMovesWithoutIndex_data();
     void nothingMovesWithoutIndex();
@@ -93,6 +95,49 @@ void BackupStoreTest::thereAndBack()
     QCOMPARE(source(), before);
     QCOMPARE(contentOf(indexPath()), QByteArray("[]"));
     QCOMPARE(treeBelow(store()).keys(), QStringList{u"backup_index.json"_s});
+}
+
+void BackupStoreTest::longAndOddNames()
+{
+    const QString longest(u"日"_s.repeated(83) + u".jpeg"_s); // 254 bytes
+    QStringList names = {longest,
+                         QString(250, u'n') + u".jpeg"_s,
+                         u"."_s + QString(254, u'd'),
+                         u"caf\u00e9"_s,
+                         u"cafe\u0301"_s, // its twin, composed otherwise
+                         u"photo\u202egpj.exe"_s,
+                         u"dot."_s,
+                         u"blank "_s};
+    if (namesAreBytes)
+        names.append(u"line\nbreak\\and:more"_s);
+    const QStringList paths = fill(names);
+    const DiskTree before = source();
+    QCOMPARE(before.size(), names.size());
+    const BatchResult result = backupFiles(store(), paths);
+    QCOMPARE(result.errors, QStringList());
+    QVERIFY(source().isEmpty());
+    const QStringList stored = treeBelow(store()).keys();
+    QCOMPARE(stored.filter(u".jpeg"_s).size(), 2); // a cut name keeps its suffix
+    QCOMPARE(restoreBackups(store(), restorableEntries(store())).errors, QStringList());
+    QCOMPARE(source(), before);
+}
+
+void BackupStoreTest::timesOfOtherCenturies()
+{
+    const QStringList paths = fill({u"a"_s, u"b"_s, u"c"_s});
+    using Time = std::filesystem::file_time_type;
+    const Time now = Time::clock::now();
+    const qint64 ages[] = {66, 56, -165}; // about 1960, the epoch and 2191
+    for (int i = 0; i < 3; ++i)
+        std::filesystem::last_write_time(exactNative(paths[i]), now - std::chrono::hours(ages[i] * 24 * 365));
+    const DiskTree before = source();
+    const auto other = folderOnOtherVolume(m_tree->path());
+    for (const QString &folder : {store(), other ? other->path() : store()}) {
+        QCOMPARE(backupFiles(folder, paths).errors, QStringList());
+        QVERIFY(source().isEmpty());
+        QCOMPARE(restoreBackups(folder, restorableEntries(folder)).errors, QStringList());
+        QCOMPARE(source(), before);
+    }
 }
 
 void BackupStoreTest::namesOfBytes()

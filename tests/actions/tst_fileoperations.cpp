@@ -76,7 +76,10 @@ private slots:
     void fullDisk();
     void guardAndCancel();
     void recyclesInBatches();
+    void recyclesMixedBatch();
     void recyclingTellsWhatTheDiskTells();
+    void windowsBinTakes_data();
+    void windowsBinTakes();
     void realRecycling();
 
 private:
@@ -182,6 +185,7 @@ void FileOperationsTest::acrossVolumes()
         const QString name = QString::number(size);
         const QString path = m_tree->write(name, patternBytes(size));
         m_tree->setModified(name, modifiedMs);
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup);
         DiskTree expected = treeBelow(m_tree->path());
         QVERIFY(copyToFolder(path, other->path()));
         QCOMPARE(treeBelow(other->path()), expected);
@@ -263,6 +267,83 @@ void FileOperationsTest::recyclesInBatches()
     QCOMPARE(again.errors.size(), 401);
     QCOMPARE(again.errors[7], u"文件不存在: "_s + paths[7]);
     QCOMPARE(calls.size(), 2);
+}
+
+/// Whatever stands among 400 paths, only the plain files that nobody refuses are handed to the bin, and each path gets
+/// its own account.
+void FileOperationsTest::recyclesMixedBatch()
+{
+    QStringList plain;
+    for (int i = 0; i < 390; ++i)
+        plain.append(m_tree->write(QStringLiteral("plain/%1").arg(i, 3, 10, QLatin1Char('0')), "x"));
+    const QString locked = m_tree->write(u"locked"_s, "x");
+    const QString readOnly = m_tree->write(u"read-only"_s, "x");
+    QFile::setPermissions(readOnly, QFile::ReadOwner);
+    const QString refused = m_tree->write(u"refused"_s, "x");
+    const QString tooLong = m_tree->write((QString(100, u'a') + u'/').repeated(3) + u"b"_s, "x");
+    const QString folder = m_tree->path(u"folder"_s);
+    m_tree->write(u"folder/inside"_s, "x");
+    const QString link = m_tree->path(u"link"_s);
+    const bool hasLink = m_tree->symbolicLink(u"folder/inside"_s, u"link"_s);
+    const QString missing = m_tree->path(u"missing"_s);
+    QStringList paths = {missing, folder, refused, tooLong, locked, readOnly, plain[5]};
+    if (hasLink)
+        paths.append(link);
+    paths += plain;
+    QStringList handed;
+    const RecycleBin bin = {400, [](const QString &path) { return path.size() < 260; },
+                            [&](const QStringList &batch) {
+                                handed += batch;
+                                for (const QString &path : batch) {
+                                    if (path != locked && path != readOnly)
+                                        QFile::remove(path);
+                                }
+                                return RecycleBin::Answer{32, true};
+                            }};
+    BatchControl control;
+    control.guard = [&](const QString &path) { return path == refused ? u"changed"_s : QString(); };
+    const BatchResult result = recycleInto(bin, paths, control);
+    QStringList wanted = {locked, readOnly, plain[5]};
+    for (const QString &path : std::as_const(plain)) {
+        if (path != plain[5])
+            wanted.append(path);
+    }
+    QCOMPARE(handed, wanted);
+    QCOMPARE(result.count, 390);
+    QStringList errors = {u"文件不存在: "_s + missing, u"无法放入回收站，已保留: "_s + folder, u"changed"_s,
+                          u"无法放入回收站，已保留: "_s + tooLong};
+    if (hasLink)
+        errors.append(u"无法放入回收站，已保留: "_s + link);
+    errors += {u"批量移入回收站失败 (code 32, 392 个文件)"_s, u"未移入回收站，仍在原处: "_s + locked,
+               u"未移入回收站，仍在原处: "_s + readOnly};
+    QCOMPARE(result.errors, errors);
+    QCOMPARE(contentOf(m_tree->path(u"folder/inside"_s)), QByteArray("x"));
+}
+
+void FileOperationsTest::windowsBinTakes_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isTaken");
+    QTest::newRow("plain") << u"a.txt"_s << true;
+    QTest::newRow("page without its folder") << u"lone.htm"_s << true;
+    QTest::newRow("page with its folder") << u"page.htm"_s << false;
+    QTest::newRow("dot at the end") << u"a.txt."_s << false;
+    QTest::newRow("blank at the end") << u"a.txt "_s << false;
+    QTest::newRow("dot at the end of a folder") << u"dot./a.txt"_s << false;
+    QTest::newRow("long") << (QString(100, u'a') + u'/').repeated(3) + u"b.txt"_s << false;
+}
+
+/// The shell takes other files, or more than it was told, or deletes for good, when it is handed these.
+void FileOperationsTest::windowsBinTakes()
+{
+    if (namesAreBytes)
+        QSKIP("what the shell of Windows does");
+    QFETCH(QString, name);
+    QFETCH(bool, isTaken);
+    if (!systemRecycleBin().canTake(m_tree->write(u"probe.txt"_s, "x")))
+        QSKIP("no bin here");
+    m_tree->write(u"page_files/style.css"_s, "x");
+    QCOMPARE(systemRecycleBin().canTake(m_tree->write(name, "x")), isTaken);
 }
 
 void FileOperationsTest::recyclingTellsWhatTheDiskTells()

@@ -334,7 +334,7 @@ void ExactTest::dropsWhatFailsMeanwhile_data()
     QTest::addColumn<QString>("phase"); ///< at whose end the file changes
     QTest::addColumn<QString>("change");
     QTest::addColumn<qint64>("size");
-    for (const char *change : {"deleted", "folder", "grown", "pipe"}) {
+    for (const char *change : {"deleted", "folder", "grown", "cut", "pipe"}) {
         const QString text = QString::fromLatin1(change);
         QTest::addRow("small, before quick hash: %s", change) << Phase::Enumerating << text << smallBytes;
         QTest::addRow("large, before quick hash: %s", change) << Phase::Enumerating << text << largeBytes;
@@ -351,33 +351,38 @@ void ExactTest::dropsWhatFailsMeanwhile()
     const TempTree cache;
     const TempTree tree;
     setCacheRoot(cache.path());
-    for (const QString &folder : {u"a"_s, u"b"_s, u"c"_s})
+    const QStringList folders = {u"a"_s, u"b"_s, u"c"_s, u"d"_s};
+    for (const QString &folder : folders)
         tree.write(folder + u"/file"_s, patternBytes(size));
     const QString victim = tree.path(u"b/file"_s);
-    bool isDone = false;
-    const auto act = [&] {
+    const QString second = tree.path(u"d/file"_s); // two that cannot be read are not equal for it
+    const auto spoil = [&](const QString &path) {
+        const qint64 extra = path == victim ? 1 : 2; // or they would be equal again
         if (change.startsWith(u"grown"_s)) {
-            QFile file(victim);
-            const qint64 more = change == u"grown"_s ? 1 : largeBytes;
-            isDone = file.open(QIODevice::Append) && file.write(patternBytes(more)) == more;
-        } else {
-            isDone = QFile::remove(victim) && (change != u"folder"_s || QDir().mkpath(victim)) &&
-                     (change != u"pipe"_s || makePipe(victim));
+            QFile file(path);
+            const qint64 more = extra + (change == u"grown"_s ? 0 : largeBytes);
+            return file.open(QIODevice::Append) && file.write(patternBytes(more)) == more;
         }
+        if (change == u"cut"_s)
+            return QFile::resize(path, size / 2 + extra);
+        return QFile::remove(path) && (change != u"folder"_s || QDir().mkpath(path)) &&
+               (change != u"pipe"_s || makePipe(path));
     };
-    const ScanOptions options = optionsFor(tree, {u"a"_s, u"b"_s, u"c"_s});
+    bool isDone = false;
+    const auto act = [&] { isDone = spoil(victim) && spoil(second); };
+    const ScanOptions options = optionsFor(tree, folders);
     const ScanResult result = DuplicateScanner::scan(options, atEndOf(phase, act), {});
     if (!isDone && change == u"pipe"_s)
         QSKIP("no named pipes here");
     QVERIFY(isDone);
     QCOMPARE(groupsOf(result, tree), QList<QStringList>({{u"a/file"_s, u"c/file"_s}}));
-    QCOMPARE(result.candidates, 3);
+    QCOMPARE(result.candidates, 4);
     // Nothing that was read after the change may be remembered for the state that the walk saw.
     QVERIFY(!cacheEntryOf(victim).contains(u"full"_s));
     QVERIFY(phase == Phase::QuickHash || !cacheEntryOf(victim).contains(u"quick"_s));
-    if (!change.startsWith(u"grown"_s)) {
-        QCOMPARE(result.unread.size(), 1);
-        QCOMPARE(result.unread[0].path, victim);
+    if (!change.startsWith(u"grown"_s) && change != u"cut"_s) {
+        QCOMPARE(result.unread.size(), 2);
+        QCOMPARE(QStringList({result.unread[0].path, result.unread[1].path}), QStringList({victim, second}));
         QVERIFY(!result.unread[0].reason.isEmpty());
     }
 }

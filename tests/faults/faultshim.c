@@ -3,7 +3,8 @@
    the error number MIRRIX_FAULT_ERRNO; error 0 stands for a read or write of half the length. With MIRRIX_FAULT_STICKY
    all later calls fail too, as on a drive that has gone. With MIRRIX_FAULT_CUT the power fails at that call: what was
    written into files there and not flushed is gone, as file systems have it that keep names in order but not contents.
-   The name of the call is written to MIRRIX_FAULT_REPORT, which is not made when the program ended before. */
+   With MIRRIX_FAULT_PLAIN_RENAME the file systems cannot rename without replacing, with the value "2" hard links
+   neither. The name of the call is written to MIRRIX_FAULT_REPORT, which is not made when the program ended before. */
 
 #include <dirent.h>
 #include <dlfcn.h>
@@ -30,6 +31,7 @@ static long failAt;
 static int failure;
 static int isSticky;
 static int isCut;
+static int plainness;
 static atomic_long calls;
 
 /* The files with content that a power failure would take: an own descriptor of each. */
@@ -50,6 +52,8 @@ __attribute__((constructor)) static void readPlan(void)
     failAt = at ? atol(at) : 0;
     failure = code ? atoi(code) : EIO;
     isSticky = getenv("MIRRIX_FAULT_STICKY") != NULL;
+    const char *plain = getenv("MIRRIX_FAULT_PLAIN_RENAME");
+    plainness = plain ? atoi(plain) : 0;
     isCut = getenv("MIRRIX_FAULT_CUT") != NULL;
 }
 
@@ -148,14 +152,22 @@ static int fails(const char *name)
     return 1;
 }
 
-#define WRAP(result, name, parameters, arguments, isHit)                                                               \
+/* isUnable: the file systems there do not know the call and say so with the error number. */
+#define WRAP_UNKNOWN(result, name, parameters, arguments, isHit, isUnable, number)                                     \
     result name parameters                                                                                             \
     {                                                                                                                  \
         NEXT(name);                                                                                                    \
-        if ((isHit) && fails(#name))                                                                                   \
+        const int isOurs = isHit;                                                                                      \
+        if (isOurs && fails(#name))                                                                                    \
             return -1;                                                                                                 \
+        if (isOurs && (isUnable)) {                                                                                    \
+            errno = number;                                                                                            \
+            return -1;                                                                                                 \
+        }                                                                                                              \
         return next arguments;                                                                                         \
     }
+
+#define WRAP(result, name, parameters, arguments, isHit) WRAP_UNKNOWN(result, name, parameters, arguments, isHit, 0, 0)
 
 #define WRAP_OPEN(name, parameters, arguments, isHit)                                                                  \
     int name parameters                                                                                                \
@@ -221,13 +233,14 @@ WRAP_TRANSFER(pwrite, (int file, const void *buffer, size_t length, off_t offset
 WRAP_READDIR(dirent, readdir)
 WRAP_READDIR(dirent64, readdir64)
 WRAP(int, rename, (const char *from, const char *to), (from, to), isBelow(from) || isBelow(to))
-WRAP(int, renameat2, (int folder, const char *from, int toFolder, const char *to, unsigned flags),
-     (folder, from, toFolder, to, flags), isAtBelow(folder, from) || isAtBelow(toFolder, to))
+WRAP_UNKNOWN(int, renameat2, (int folder, const char *from, int toFolder, const char *to, unsigned flags),
+             (folder, from, toFolder, to, flags), isAtBelow(folder, from) || isAtBelow(toFolder, to), plainness > 0,
+             EINVAL)
 WRAP(int, unlink, (const char *path), (path), isBelow(path))
 WRAP(int, unlinkat, (int folder, const char *path, int flags), (folder, path, flags), isAtBelow(folder, path))
 WRAP(int, remove, (const char *path), (path), isBelow(path))
 WRAP(int, rmdir, (const char *path), (path), isBelow(path))
-WRAP(int, link, (const char *from, const char *to), (from, to), isBelow(to))
+WRAP_UNKNOWN(int, link, (const char *from, const char *to), (from, to), isBelow(to), plainness > 1, EPERM)
 WRAP(int, linkat, (int folder, const char *from, int toFolder, const char *to, int flags),
      (folder, from, toFolder, to, flags), isAtBelow(toFolder, to))
 WRAP(int, symlink, (const char *target, const char *path), (target, path), isBelow(path))
@@ -252,6 +265,12 @@ WRAP(int, futimens, (int file, const struct timespec times[2]), (file, times), i
 WRAP(int, utimensat, (int folder, const char *path, const struct timespec times[2], int flags),
      (folder, path, times, flags), isAtBelow(folder, path))
 WRAP(int, fchmod, (int file, mode_t mode), (file, mode), isOpenBelow(file))
+
+DIR *fdopendir(int file)
+{
+    NEXT(fdopendir);
+    return isOpenBelow(file) && fails("fdopendir") ? NULL : next(file);
+}
 
 /* The file is closed all the same, as the system does it. */
 int close(int file)

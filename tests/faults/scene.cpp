@@ -191,8 +191,12 @@ bool Scene::isHandled(const QString &victim) const
 
 bool Scene::isInBin(const QString &victim) const
 {
-    for (const auto &[note, file] : binned()) {
-        const bool isNoted = contentOf(note).contains(QUrl::toPercentEncoding(path(victim), "/") + '\n');
+    const auto line = [](const QString &noted) { return "\nPath=" + QUrl::toPercentEncoding(noted, "/") + '\n'; };
+    const QDir top(QStorageInfo(m_tree.path()).rootPath());
+    for (const auto &[note, file] : binned()) { // the bin of a volume knows no paths beyond it
+        const QByteArray text = contentOf(note);
+        const bool isNoted =
+            text.contains(line(path(victim))) || text.contains(line(top.relativeFilePath(path(victim))));
         if (isNoted && isAsBefore(file, victim))
             return true;
     }

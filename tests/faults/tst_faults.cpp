@@ -7,6 +7,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QScopeGuard>
 #include <QTest>
 
 #include <cerrno>
@@ -74,6 +75,8 @@ private:
     void sweep(const QString &method, bool isOnOtherVolume, const QString &action,
                const std::function<QString(const Scene &, const Run &, const Fault &)> &check);
     [[nodiscard]] Run run(const Scene &scene, const QString &action, const Fault &fault, int number) const;
+
+    int m_plainness = 0; ///< 1: nothing can be renamed without replacing, 2: nor linked
 };
 
 Run FaultsTest::run(const Scene &scene, const QString &action, const Fault &fault, int number) const
@@ -90,6 +93,8 @@ Run FaultsTest::run(const Scene &scene, const QString &action, const Fault &faul
     environment.insert(u"MIRRIX_FAULT_REPORT"_s, report);
     if (fault.isSticky)
         environment.insert(u"MIRRIX_FAULT_STICKY"_s, u"1"_s);
+    if (m_plainness > 0)
+        environment.insert(u"MIRRIX_FAULT_PLAIN_RENAME"_s, QString::number(m_plainness));
     if (fault.isCut)
         environment.insert(u"MIRRIX_FAULT_CUT"_s, u"1"_s);
     process.setProcessEnvironment(environment);
@@ -132,10 +137,15 @@ void FaultsTest::sweep(const QString &method, bool isOnOtherVolume, const QStrin
 void FaultsTest::cleaning_data()
 {
     QTest::addColumn<bool>("isOnOtherVolume");
+    QTest::addColumn<int>("plainness");
     for (const char *method : {"recycle", "delete", "move", "symlink", "hardlink", "backup", "restore"})
-        QTest::newRow(method) << false;
-    for (const char *method : {"move ", "backup ", "restore "})
-        QTest::newRow(method) << true;
+        QTest::newRow(method) << false << 0;
+    for (const char *method : {"move", "backup", "restore"})
+        QTest::addRow("%s to another volume", method) << true << 0;
+    for (const char *method : {"recycle", "move", "symlink", "backup", "restore"})
+        QTest::addRow("%s by links", method) << false << 1;
+    for (const char *method : {"recycle", "backup"})
+        QTest::addRow("%s by claims", method) << false << 2;
 }
 
 void FaultsTest::cleaning()
@@ -143,7 +153,10 @@ void FaultsTest::cleaning()
     QFETCH(bool, isOnOtherVolume);
     if (isOnOtherVolume && !folderOnOtherVolume(QDir::tempPath()))
         QSKIP("no second volume");
-    const QString method = QString::fromLatin1(QTest::currentDataTag()).trimmed();
+    QFETCH(int, plainness);
+    m_plainness = plainness;
+    const auto reset = qScopeGuard([this] { m_plainness = 0; });
+    const QString method = QString::fromLatin1(QTest::currentDataTag()).section(u' ', 0, 0);
     sweep(method, isOnOtherVolume, {}, [](const Scene &scene, const Run &run, const Fault &fault) {
         // A file that is not there any more is no failure of a scan.
         const QString problem =

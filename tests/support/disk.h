@@ -22,7 +22,8 @@ namespace MirrixTest {
 
 // What really is on the disk, read by other means than the code under test.
 
-/// Files below a folder by their path in it, with content and modification time; links with what they lead to.
+/// Files below a folder by their path in it, with content, modification time and permissions; links with what they lead
+/// to.
 using DiskTree = QMap<QString, QByteArray>;
 
 [[nodiscard]] inline std::filesystem::path exactNative(const QString &path)
@@ -52,8 +53,10 @@ using DiskTree = QMap<QString, QByteArray>;
         const std::filesystem::path native = exactNative(path);
         std::error_code error;
         const auto time = std::filesystem::last_write_time(native, error).time_since_epoch().count();
+        const auto permissions = std::filesystem::status(native, error).permissions();
         tree.insert(path.mid(folder.size() + 1), (std::filesystem::is_symlink(native) ? "link to " : "") +
-                                                     contentAt(native) + " @" + QByteArray::number(qint64(time)));
+                                                     contentAt(native) + " @" + QByteArray::number(qint64(time)) + ' ' +
+                                                     QByteArray::number(static_cast<int>(permissions), 8));
     }
     return tree;
 }
