@@ -9,7 +9,8 @@
 namespace Mirrix {
 
 // What a scan found may no longer be so when it is acted on. Each answer costs one look at the file's record on the
-// disk, and none at its content where nothing else is said. Texts are translated; empty means that nothing speaks against acting. Thread-safe.
+// disk, and none at its content where nothing else is said. Texts are translated; empty means that nothing speaks
+// against acting. Thread-safe.
 
 /// Whether `file` still is a plain file of the size and modification time that the scan saw, and the same one where the
 /// scan noted which it was: a folder on the way may have become a link to another.
