@@ -1,6 +1,7 @@
 #include "actions/operationslog.h"
 
 #include "actions/aescbc.h"
+#include "actions/logrecords.h"
 #include "actions/solelock.h"
 #include "app/storedfile.h"
 
@@ -9,53 +10,13 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QSysInfo>
 
 #include <optional>
-#include <utility>
 
 namespace Mirrix {
 
 namespace {
-
-/// A JSON string, quotes included. Qt's writer keeps lone surrogates of file names, which toUtf8 would lose.
-QByteArray jsonText(const QString &text)
-{
-    const QByteArray array = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
-    return array.sliced(1, array.size() - 2);
-}
-
-/// The array `json`, or a new one where that is none, with `records` at its end. What it holds stays as it is: building
-/// it anew takes four times as long. The members stand in the layout's order; QJsonObject would sort them.
-QByteArray appended(QByteArray json, const QList<LogEntry> &records)
-{
-    if (QJsonDocument::fromJson(json).isArray()) {
-        json.truncate(json.lastIndexOf(']'));
-        json = std::move(json).trimmed();
-    } else {
-        json = "[";
-    }
-    for (const LogEntry &record : records) {
-        if (!json.endsWith('['))
-            json += ',';
-        json += "{\"t\":" + QByteArray::number(record.timeMs) + ",\"a\":" + jsonText(record.action) +
-                ",\"d\":" + jsonText(record.detail) + '}';
-    }
-    return json + ']';
-}
-
-QList<LogEntry> recordsOf(const QByteArray &json)
-{
-    QList<LogEntry> records;
-    const QJsonArray items = QJsonDocument::fromJson(json).array();
-    for (const QJsonValue &item : items)
-        records.append({item[QLatin1String("t")].toInteger(), item[QLatin1String("a")].toString(),
-                        item[QLatin1String("d")].toString()});
-    return records;
-}
 
 /// The file's bytes; none when it does not exist. Nothing when it exists and cannot be read.
 std::optional<QByteArray> storedBytes(const QString &path)
@@ -89,13 +50,13 @@ bool OperationsLog::append(const QList<LogEntry> &records)
     if (!stored)
         return false;
     const QByteArray key = operationsLogKey();
-    const QByteArray encrypted = encryptAesCbc(key, appended(decryptAesCbc(key, *stored), records));
+    const QByteArray encrypted = encryptAesCbc(key, withLogRecords(decryptAesCbc(key, *stored), records));
     return !encrypted.isEmpty() && replaceFile(m_filePath, encrypted);
 }
 
 QList<LogEntry> OperationsLog::readAll() const
 {
-    return recordsOf(decryptAesCbc(operationsLogKey(), storedBytes(m_filePath).value_or(QByteArray())));
+    return logRecordsOf(decryptAesCbc(operationsLogKey(), storedBytes(m_filePath).value_or(QByteArray())));
 }
 
 LogEntry logEntryNow(const QString &action, const QString &detail)

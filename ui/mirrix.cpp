@@ -10,6 +10,7 @@
 #include "ui/locations/locationspage.h"
 #include "ui/logic/asidethreads.h"
 #include "ui/logic/locationsjson.h"
+#include "ui/logic/resulttexts.h"
 #include "ui/logic/rulenames.h"
 #include "ui/logic/rulessettings.h"
 #include "ui/logic/scanoptionsfrom.h"
@@ -328,7 +329,9 @@ void Mirrix::onScanFinished(MirrixCore::ScanResult result)
     m_resultsPage->showResults();
     m_display->setPercent(100);
     m_display->showSummary([this] { return resultSummary(m_results); });
-    m_display->showStatus([] { return Text::tr("扫描完成 · 图片哈希后端: %1").arg(imageHashName()); });
+    m_display->showStatus([unread = UnreadNote(result.unread)] {
+        return Text::tr("扫描完成 · 图片哈希后端: %1").arg(imageHashName()) + unread.text();
+    });
     constexpr int shownMs = 5000;
     m_display->showInBar([this] { return idleText(); }, shownMs);
     m_log.append(QStringLiteral("scan_done"), QStringLiteral("groups=%1 wasted=%2 candidates=%3")

@@ -164,6 +164,10 @@
         <translation>Suche beendet · Bild-Hash: %1</translation>
     </message>
     <message>
+        <source>未能读取 %1 项：%2</source>
+        <translation>Nicht lesbar (%1): %2</translation>
+    </message>
+    <message>
         <source>扫描失败</source>
         <translation>Suche fehlgeschlagen</translation>
     </message>

@@ -164,6 +164,10 @@
         <translation>Scan complete · Image hash backend: %1</translation>
     </message>
     <message>
+        <source>未能读取 %1 项：%2</source>
+        <translation>Could not be read (%1): %2</translation>
+    </message>
+    <message>
         <source>扫描失败</source>
         <translation>Scan failed</translation>
     </message>

@@ -164,6 +164,10 @@
         <translation>Análisis completado · Motor de hash de imágenes: %1</translation>
     </message>
     <message>
+        <source>未能读取 %1 项：%2</source>
+        <translation>No se pudieron leer (%1): %2</translation>
+    </message>
+    <message>
         <source>扫描失败</source>
         <translation>Error en el análisis</translation>
     </message>

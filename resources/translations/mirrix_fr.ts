@@ -164,6 +164,10 @@
         <translation>Analyse terminée · Moteur de hachage d’images : %1</translation>
     </message>
     <message>
+        <source>未能读取 %1 项：%2</source>
+        <translation>Illisibles (%1) : %2</translation>
+    </message>
+    <message>
         <source>扫描失败</source>
         <translation>Échec de l’analyse</translation>
     </message>

@@ -164,6 +164,10 @@
         <translation>Scansione completata · Hash immagini: %1</translation>
     </message>
     <message>
+        <source>未能读取 %1 项：%2</source>
+        <translation>Non leggibili (%1): %2</translation>
+    </message>
+    <message>
         <source>扫描失败</source>
         <translation>Scansione non riuscita</translation>
     </message>

@@ -164,6 +164,10 @@
         <translation>スキャン完了 · 画像ハッシュ エンジン: %1</translation>
     </message>
     <message>
+        <source>未能读取 %1 项：%2</source>
+        <translation>読み取れなかった項目 (%1): %2</translation>
+    </message>
+    <message>
         <source>扫描失败</source>
         <translation>スキャンに失敗しました</translation>
     </message>

@@ -164,6 +164,10 @@
         <translation>스캔 완료 · 이미지 해시 엔진: %1</translation>
     </message>
     <message>
+        <source>未能读取 %1 项：%2</source>
+        <translation>읽지 못한 항목(%1): %2</translation>
+    </message>
+    <message>
         <source>扫描失败</source>
         <translation>스캔 실패</translation>
     </message>

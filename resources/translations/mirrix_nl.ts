@@ -164,6 +164,10 @@
         <translation>Scan voltooid · Beeldhash: %1</translation>
     </message>
     <message>
+        <source>未能读取 %1 项：%2</source>
+        <translation>Niet leesbaar (%1): %2</translation>
+    </message>
+    <message>
         <source>扫描失败</source>
         <translation>Scan mislukt</translation>
     </message>

@@ -164,6 +164,10 @@
         <translation>Verificação concluída · Mecanismo de hash de imagens: %1</translation>
     </message>
     <message>
+        <source>未能读取 %1 项：%2</source>
+        <translation>Não foi possível ler (%1): %2</translation>
+    </message>
+    <message>
         <source>扫描失败</source>
         <translation>Falha na verificação</translation>
     </message>

@@ -164,6 +164,10 @@
         <translation>掃描完成 · 圖片雜湊後端: %1</translation>
     </message>
     <message>
+        <source>未能读取 %1 项：%2</source>
+        <translation>未能讀取 %1 項：%2</translation>
+    </message>
+    <message>
         <source>扫描失败</source>
         <translation>掃描失敗</translation>
     </message>

@@ -39,7 +39,8 @@ private slots:
     void recordsInOrder();
     void plainContent();
     void anotherToolReadsIt();
-    void continuesOthersFiles();
+    void continuesWhatIsAnArray_data();
+    void continuesWhatIsAnArray();
     void unusableFiles_data();
     void unusableFiles();
     void unwritable();
@@ -109,17 +110,38 @@ void OperationsLogTest::anotherToolReadsIt()
     QCOMPARE(tool.readAllStandardOutput(), QByteArray(R"([{"t":5,"a":"export","d":"/out"}])"));
 }
 
-void OperationsLogTest::continuesOthersFiles()
+void OperationsLogTest::continuesWhatIsAnArray_data()
 {
-    const QByteArray record = R"({ "a":"]", "t":1, "d":"d" })";
-    for (const QByteArray &content : {QByteArray("[]"), QByteArray(" [ ]\n"), "\n[\n" + record + "\n]\n"}) {
-        m_tree->write(u"new/folder/ops.log.enc"_s, encryptAesCbc(machineKey(), content));
-        QList<LogEntry> expected = OperationsLog(path()).readAll();
-        QCOMPARE(expected.size(), content.count('{'));
-        expected.append({2, u"b"_s, QString()});
-        QVERIFY(OperationsLog(path()).append({{2, u"b"_s, QString()}}));
-        QVERIFY2(OperationsLog(path()).readAll() == expected, content.constData());
-    }
+    QTest::addColumn<QByteArray>("content");
+    const QByteArray own = R"({"t":1,"a":"x","d":"C:\\a\u001f\"]"})";
+    const QByteArray other = R"({ "a":"]", "t":1, "d":"d" })";
+    QTest::newRow("empty") << QByteArray("[]");
+    QTest::newRow("one") << "[" + own + "]";
+    QTest::newRow("two") << "[" + own + "," + own + "]";
+    QTest::newRow("negative time") << QByteArray(R"([{"t":-1,"a":"","d":""}])");
+    QTest::newRow("empty, blanks") << QByteArray(" [ ]\n");
+    QTest::newRow("another's form") << "\n[\n" + other + "\n]\n";
+    QTest::newRow("missing members") << QByteArray("[{},1]");
+    // What the parser refuses, in the own form but for one thing.
+    for (const char *wrong : {"[,]", "[{\"t\":1,\"a\":\"\",\"d\":\"\"},]", "[{\"t\":,\"a\":\"\",\"d\":\"\"}]",
+                              "[{\"t\":01,\"a\":\"\",\"d\":\"\"}]", "[{\"t\":1,\"a\":\"\n\",\"d\":\"\"}]",
+                              "[{\"t\":1,\"a\":\"\\x\",\"d\":\"\"}]", "[{\"t\":1,\"a\":\"\\u12g4\",\"d\":\"\"}]",
+                              "[{\"t\":1,\"a\":\"\xFF\",\"d\":\"\"}]", "[{\"t\":1,\"a\":\"\\\",\"d\":\"\"}]",
+                              "[{\"t\":1,\"a\":\"\",\"d\":\"\"}]]", "[{\"t\":1,\"a\":\"\",\"d\":\"\"}{}]"})
+        QTest::newRow(wrong) << QByteArray(wrong);
+}
+
+/// Whatever reads as records is kept, and whatever does not gives way: nothing is added to a text that stays
+/// unreadable.
+void OperationsLogTest::continuesWhatIsAnArray()
+{
+    QFETCH(QByteArray, content);
+    m_tree->write(u"new/folder/ops.log.enc"_s, encryptAesCbc(machineKey(), content));
+    QList<LogEntry> expected = OperationsLog(path()).readAll();
+    expected.append({2, u"b"_s, QString()});
+    QVERIFY(OperationsLog(path()).append({{2, u"b"_s, QString()}}));
+    QCOMPARE(OperationsLog(path()).readAll().size(), expected.size());
+    QVERIFY(OperationsLog(path()).readAll() == expected);
 }
 
 void OperationsLogTest::unusableFiles_data()

@@ -192,6 +192,25 @@ private slots:
         QVERIFY(stored.skipScanConfirm);
     }
 
+    /// A scan of less than was chosen must not look like one of all.
+    void namesWhatWasNotRead()
+    {
+        Stage stage;
+        const QString gone = stage.tree.makeFolder(u"gone"_qs);
+        stage.window->addLocation(stage.tree.path(u"in"_qs));
+        stage.window->addLocation(gone);
+        QVERIFY(QDir().rmdir(gone));
+        stage.accept();
+        stage.start();
+        QVERIFY(stage.waitForEnd());
+        const auto *status = stage.find<QLabel>(u"StatusLabel"_qs);
+        const QString note = u" · 未能读取 1 项："_qs + QDir::toNativeSeparators(gone);
+        QVERIFY2(status->toolTip().endsWith(note), qUtf8Printable(status->toolTip()));
+        actionOf(stage.window->menuBar(), u"English"_qs)->trigger();
+        QTRY_VERIFY(status->toolTip().contains(u"Could not be read (1): "));
+        actionOf(stage.window->menuBar(), u"简体中文"_qs)->trigger();
+    }
+
     void stopsAndStartsAgain()
     {
         Stage stage;

@@ -7,6 +7,8 @@
 #include <QDateTime>
 #include <QDir>
 
+#include <algorithm>
+
 namespace Mirrix {
 
 using MirrixCore::FileEntry;
@@ -33,6 +35,24 @@ QString minuteText(qint64 ms)
 QString shownPath(const QString &path)
 {
     return QDir::toNativeSeparators(path);
+}
+
+UnreadNote::UnreadNote(const QList<MirrixCore::UnreadPath> &unread)
+    : m_count(unread.size())
+{
+    constexpr qsizetype most = 10;
+    for (const MirrixCore::UnreadPath &one : unread.first(std::min(most, m_count)))
+        m_first.append(shownPath(one.path));
+}
+
+QString UnreadNote::text() const
+{
+    if (m_count == 0)
+        return {};
+    QString paths = m_first.join(Text::tr("、"));
+    if (m_count > m_first.size())
+        paths += QStringLiteral(" …");
+    return QStringLiteral(" · ") + Text::tr("未能读取 %1 项：%2").arg(QString::number(m_count), paths);
 }
 
 QString previewText(const FileEntry &file)

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "core/scan/fileentry.h"
+#include "core/scan/scanresult.h"
 
 #include <QString>
+#include <QStringList>
 
 namespace Mirrix {
 
@@ -11,6 +12,21 @@ namespace Mirrix {
 
 /// A path with the separators of this system.
 [[nodiscard]] QString shownPath(const QString &path);
+
+/// The paths that a scan could not read, as the end of its status: how many, and the first of them. Keeps no more than
+/// those.
+class UnreadNote
+{
+public:
+    explicit UnreadNote(const QList<MirrixCore::UnreadPath> &unread);
+
+    /// In the current language; empty when everything was read.
+    [[nodiscard]] QString text() const;
+
+private:
+    qsizetype m_count;
+    QStringList m_first;
+};
 
 /// What the preview says of a file: path, size, time, suffix, then the media members that are known.
 [[nodiscard]] QString previewText(const MirrixCore::FileEntry &file);
