@@ -5,12 +5,12 @@ set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 readonly here bin=$here/../build/release/bin
 work=${TMPDIR:-/tmp}/mirrix-bench
-parts="exact memory pictures rules hashing window"
+parts="exact memory growth log pictures rules hashing window"
 
 usage() {
     cat <<'TEXT'
 usage: run.sh [OPTIONS]
-  --parts LIST   of exact, memory, pictures, rules, hashing, window (all)
+  --parts LIST   of exact, memory, growth, log, pictures, rules, hashing, window (all)
   --work DIR     files, outputs and results (${TMPDIR:-/tmp}/mirrix-bench), 24 GB for all parts
 The release preset must be built. All parts take about an hour; nothing else should run meanwhile.
 TEXT
@@ -39,9 +39,14 @@ run_part() {
                 "$here/profile-pictures" $turned "$work"/pictures/pictures/00[0-4] || true
             done
             ;;
+        growth) "$here/scale" --work "$work/growth" ;;
+        log) "$bin/bench_log" ;;
         rules) "$bin/bench_match" ;;
         hashing) "$here/hashing.sh" --work "$work/hashing" ;;
-        window) QT_QPA_PLATFORM=offscreen "$bin/bench_results" ;;
+        window)
+            "$here/make-corpus" million "$work/window" || return
+            QT_QPA_PLATFORM=offscreen "$bin/bench_results" && QT_QPA_PLATFORM=offscreen "$bin/bench_window" "$work/window"
+            ;;
         *) echo "run.sh: unknown part $1" >&2; return 2 ;;
     esac
 }

@@ -110,20 +110,24 @@ void BackupStoreTest::longAndOddNames()
                          u"blank "_s};
     if (namesAreBytes)
         names.append(u"line\nbreak\\and:more"_s);
-    const QStringList paths = fill(names);
+    QStringList paths;
+    for (const QString &name : std::as_const(names))
+        paths.append(m_tree->writeExactly(u"src/"_s + name, "content of " + name.toUtf8()));
     const DiskTree before = source();
     QCOMPARE(before.size(), names.size());
     const BatchResult result = backupFiles(store(), paths);
-    QCOMPARE(result.errors, QStringList());
+    QCOMPARE(result.errors.join(u'\n'), QString());
     QVERIFY(source().isEmpty());
     const QStringList stored = treeBelow(store()).keys();
     QCOMPARE(stored.filter(u".jpeg"_s).size(), 2); // a cut name keeps its suffix
-    QCOMPARE(restoreBackups(store(), restorableEntries(store())).errors, QStringList());
+    QCOMPARE(restoreBackups(store(), restorableEntries(store())).errors.join(u'\n'), QString());
     QCOMPARE(source(), before);
 }
 
 void BackupStoreTest::timesOfOtherCenturies()
 {
+    if (!namesAreBytes)
+        QSKIP("the means of this test cannot set such times here");
     const QStringList paths = fill({u"a"_s, u"b"_s, u"c"_s});
     using Time = std::filesystem::file_time_type;
     const Time now = Time::clock::now();
