@@ -4,6 +4,7 @@
 #include <openssl/evp.h>
 #include <openssl/rand.h>
 
+#include <algorithm>
 #include <limits>
 #include <memory>
 
@@ -13,20 +14,22 @@ namespace {
 
 using CipherContext = std::unique_ptr<EVP_CIPHER_CTX, decltype(&EVP_CIPHER_CTX_free)>;
 
-const uchar *bytesOf(const QByteArray &bytes)
+const uchar *bytesOf(QByteArrayView bytes)
 {
-    return reinterpret_cast<const uchar *>(bytes.constData());
+    return reinterpret_cast<const uchar *>(bytes.data());
 }
 
-/// Both directions; `isEncrypting` as the library wants it. Empty on failure.
-QByteArray run(const QByteArray &key, const QByteArray &vector, const QByteArray &input, bool isEncrypting)
+/// Both directions; the output stands behind `prefix`. Empty on failure.
+QByteArray run(QByteArrayView key, QByteArrayView vector, QByteArrayView input, QByteArrayView prefix,
+               bool isEncrypting)
 {
     // The library counts in int and keeps no account of overflow.
     if (key.size() != aesKeyBytes || input.size() > std::numeric_limits<int>::max() - aesBlockBytes)
         return {};
     const CipherContext context(EVP_CIPHER_CTX_new(), &EVP_CIPHER_CTX_free);
-    QByteArray output(input.size() + aesBlockBytes, Qt::Uninitialized);
-    auto *out = reinterpret_cast<uchar *>(output.data());
+    QByteArray output(prefix.size() + input.size() + aesBlockBytes, Qt::Uninitialized);
+    std::copy(prefix.begin(), prefix.end(), output.begin());
+    auto *out = reinterpret_cast<uchar *>(output.data()) + prefix.size();
     int done = 0;
     int rest = 0;
     if (!context ||
@@ -36,7 +39,7 @@ QByteArray run(const QByteArray &key, const QByteArray &vector, const QByteArray
         EVP_CipherFinal_ex(context.get(), out + done, &rest) != 1) {
         return {};
     }
-    output.truncate(done + rest);
+    output.truncate(prefix.size() + done + rest);
     return output;
 }
 
@@ -47,15 +50,15 @@ QByteArray encryptAesCbc(const QByteArray &key, const QByteArray &plain)
     QByteArray vector(aesBlockBytes, Qt::Uninitialized);
     if (RAND_bytes(reinterpret_cast<uchar *>(vector.data()), aesBlockBytes) != 1)
         return {};
-    const QByteArray cipher = run(key, vector, plain, true);
-    return cipher.isEmpty() ? QByteArray() : vector + cipher;
+    return run(key, vector, plain, vector, true);
 }
 
 QByteArray decryptAesCbc(const QByteArray &key, const QByteArray &encrypted)
 {
     if (encrypted.size() < aesBlockBytes)
         return {};
-    return run(key, encrypted.first(aesBlockBytes), encrypted.sliced(aesBlockBytes), false);
+    const QByteArrayView bytes(encrypted);
+    return run(key, bytes.first(aesBlockBytes), bytes.sliced(aesBlockBytes), {}, false);
 }
 
 QString cipherLibraryVersion()

@@ -57,9 +57,9 @@ make_files() {
 run() {
     local set=$1 tool=$2 begin end
     shift 2
-    cat "$files/$set"/* >/dev/null
+    find "$files/$set" -type f -exec cat {} + >/dev/null
     begin=$EPOCHREALTIME
-    find "$files/$set" -type f -print0 | xargs -0 -n 100000 "$@" >"$work/digests" || die "$* failed"
+    find "$files/$set" -type f -print0 | xargs -0 -n 100000 -s 2000000 "$@" >"$work/digests" || die "$* failed"
     end=$EPOCHREALTIME
     sort -k 2 "$work/digests" >"$results/$set-${tool// /-}.txt"
     printf '%s\t%s\t%s\n' "$set" "$tool" "$(awk -v b="$begin" -v e="$end" 'BEGIN { print e - b }')" >>"$raw"

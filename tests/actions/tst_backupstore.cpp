@@ -36,7 +36,9 @@ private slots:
     void cancelling();
     void nothingIsOverwritten();
     void goneEntries();
+    void damagedIndexIsKept_data();
     void damagedIndexIsKept();
+    void indexCutAnywhere();
     void hostileEntries_data();
     void hostileEntries();
 
@@ -252,14 +254,37 @@ void BackupStoreTest::goneEntries()
     QCOMPARE(after[2].original, paths[2]);
 }
 
+void BackupStoreTest::damagedIndexIsKept_data()
+{
+    QTest::addColumn<QByteArray>("damaged");
+    QTest::newRow("cut") << QByteArray(R"([{"original": "/a", "backup)");
+    QTest::newRow("zeros") << QByteArray(200, '\0');
+    QTest::newRow("of another version") << QByteArray(R"({"version": 2, "entries": []})");
+    QTest::newRow("nested too deeply") << QByteArray(100'000, '[') + QByteArray(100'000, ']');
+}
+
 void BackupStoreTest::damagedIndexIsKept()
 {
-    const QByteArray damaged = R"([{"original": "/a", "backup)";
+    QFETCH(const QByteArray, damaged);
     m_tree->write(u"store/deep/backup_index.json"_s, damaged);
     QVERIFY(loadBackupIndex(store()).isEmpty());
     QCOMPARE(backupFiles(store(), fill({u"1"_s})).count, 1);
     QCOMPARE(loadBackupIndex(store()).size(), 1);
     QCOMPARE(contentOf(store() + u"/backup_index.damaged1.json"_s), damaged);
+}
+
+/// No part of an index tells of other files than the whole.
+void BackupStoreTest::indexCutAnywhere()
+{
+    QCOMPARE(backupFiles(store(), fill({u"one"_s, u"two"_s})).count, 2);
+    const QByteArray whole = contentOf(indexPath());
+    QCOMPARE(loadBackupIndex(store()).size(), 2);
+    for (qsizetype length = 0; length < whole.size(); ++length) {
+        m_tree->write(u"store/deep/backup_index.json"_s, whole.first(length));
+        QVERIFY2(loadBackupIndex(store()).isEmpty(), qPrintable(QString::number(length)));
+        m_tree->write(u"store/deep/backup_index.json"_s, whole.first(length) + QByteArray(whole.size() - length, '\0'));
+        QVERIFY2(loadBackupIndex(store()).isEmpty(), qPrintable(QString::number(length)));
+    }
 }
 
 void BackupStoreTest::hostileEntries_data()
@@ -274,6 +299,7 @@ void BackupStoreTest::hostileEntries_data()
     QTest::newRow("a zero in the old path") << u"src/new"_s + QChar(0) + u'x' << u"store/deep/file"_s;
     QTest::newRow("a folder") << u"src/new"_s << u"store/deep/sub"_s;
     QTest::newRow("onto a file") << u"src/victim"_s << u"store/deep/file"_s;
+    QTest::newRow("a link in the store") << u"src/new"_s << u"store/deep/link"_s;
     QTest::newRow("onto the index") << u"store/deep/backup_index.json"_s << u"store/deep/file"_s;
     QTest::newRow("below a file") << u"src/victim/new"_s << u"store/deep/file"_s;
     QTest::newRow("relative") << QString() << u"store/deep/file"_s;
@@ -286,6 +312,8 @@ void BackupStoreTest::hostileEntries()
     for (const QString &name :
          {u"src/victim"_s, u"src/.mirrix-1.aside"_s, u"store/deep/file"_s, u"store/deep/sub/file"_s})
         m_tree->write(name, name.toUtf8());
+    if (backup.endsWith(u"link"_s) && !m_tree->symbolicLink(u"src/victim"_s, backup))
+        QSKIP("no symbolic links");
     const QString to = original.isEmpty() ? u"new"_s : m_tree->path() + u'/' + original;
     QVERIFY(saveBackupIndex(store(), {{to, m_tree->path() + u'/' + backup, 1, 1}}));
     const DiskTree before = treeBelow(m_tree->path());

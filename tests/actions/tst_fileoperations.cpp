@@ -71,6 +71,9 @@ private slots:
     void matrix_data();
     void matrix();
     void neverReplaces();
+    void twinsInOneFolder();
+    void heldOpenByOthers_data();
+    void heldOpenByOthers();
     void acrossVolumes();
     void fullDisk_data();
     void fullDisk();
@@ -174,6 +177,48 @@ void FileOperationsTest::neverReplaces()
         QCOMPARE(contentOf(to), QByteArray("other"));
     }
     QCOMPARE(treeBelow(m_tree->path()).size(), 2);
+}
+
+/// Names that differ in case or composition alone are two or one, as the file system has it; no content is lost.
+void FileOperationsTest::twinsInOneFolder()
+{
+    const QList<QStringList> twins = {{u"Name.txt"_s, u"name.TXT"_s}, {u"caf\u00e9"_s, u"cafe\u0301"_s}};
+    for (const QStringList &names : twins) {
+        const QString first = m_tree->write(u"one/"_s + names[0], "first");
+        const QString second = m_tree->write(u"two/"_s + names[1], "second");
+        QVERIFY(moveToFolder(first, m_tree->path(u"target"_s)));
+        const bool areTwo = moveToFolder(second, m_tree->path(u"target"_s));
+        QCOMPARE(contentOf(m_tree->path(u"target/"_s + names[0])), QByteArray("first"));
+        QCOMPARE(contentOf(areTwo ? m_tree->path(u"target/"_s + names[1]) : second), QByteArray("second"));
+        QCOMPARE(QFile::exists(second), !areTwo);
+    }
+}
+
+void FileOperationsTest::heldOpenByOthers_data()
+{
+    QTest::addColumn<Act>("act");
+    for (const Act act : {Act::Delete, Act::Move})
+        QTest::newRow(actNames[static_cast<int>(act)]) << act;
+}
+
+/// A program that has a file open on Windows keeps others from taking it away.
+void FileOperationsTest::heldOpenByOthers()
+{
+    if (namesAreBytes)
+        QSKIP("others do not mind here");
+    QFETCH(Act, act);
+    const QString path = m_tree->write(u"held"_s, "content");
+    QFile holder(path);
+    QVERIFY(holder.open(QIODevice::ReadOnly));
+    const auto method = act == Act::Move ? RemovalMethod::Move : RemovalMethod::Delete;
+    const BatchResult refused = removeFiles(method, {path}, m_tree->path(u"target"_s), {});
+    QCOMPARE(refused.count, 0);
+    QCOMPARE(refused.errors.size(), 1);
+    QCOMPARE(contentOf(path), QByteArray("content"));
+    QVERIFY(treeBelow(m_tree->path(u"target"_s)).isEmpty());
+    holder.close();
+    QCOMPARE(removeFiles(method, {path}, m_tree->path(u"target"_s), {}).count, 1);
+    QVERIFY(!QFile::exists(path));
 }
 
 void FileOperationsTest::acrossVolumes()

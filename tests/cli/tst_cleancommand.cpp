@@ -25,6 +25,7 @@ private slots:
     void failuresAreNamed();
     void interrupted();
     void unreadableIndexStays();
+    void twoAtOnce();
     void rememberedDigestsDestroyNothing_data();
     void rememberedDigestsDestroyNothing();
     void twoPathsToOneFolder_data();
@@ -230,6 +231,37 @@ void CleanCommandTest::unreadableIndexStays()
     QCOMPARE(this->source(), source);
     QVERIFY(!before.isEmpty());
     QCOMPARE(contentOf(index), before);
+}
+
+/// Two programs share the backup folder, the caches and the log.
+void CleanCommandTest::twoAtOnce()
+{
+    constexpr int pairs = 60;
+    for (int side = 0; side < 2; ++side) {
+        for (int i = 0; i < pairs; ++i) {
+            for (const QString &folder : {u"keep"_s, u"copy"_s})
+                m_tree->write(u"side%1/%2/%3"_s.arg(side).arg(folder).arg(i), "content " + QByteArray::number(i));
+        }
+    }
+    const DiskTree before = treeBelow(m_tree->path());
+    QProcess processes[2];
+    for (int side = 0; side < 2; ++side) {
+        m_program->prepare(processes[side],
+                           {u"clean"_s, u"--data-dir"_s, m_program->dataFolder(), u"--keep"_s, u"shallowest"_s,
+                            u"--method"_s, u"backup"_s, u"--apply"_s, m_tree->path(u"side%1"_s.arg(side))});
+    }
+    for (QProcess &process : processes)
+        process.start();
+    for (QProcess &process : processes) {
+        const ProgramRun done = Program::ended(process);
+        QCOMPARE(done.errors, QByteArray());
+        QCOMPARE(done.output,
+                 QByteArray::number(pairs) + " of " + QByteArray::number(pairs) + " files done (backup)\n");
+    }
+    QCOMPARE(run({u"restore"_s, u"--list"_s}).output.count('\n'), 2 * pairs);
+    QCOMPARE(logged().filter(u"backup_batch: count=60"_s).size(), 2);
+    QCOMPARE(run({u"restore"_s, u"--all"_s}).status, 0);
+    QCOMPARE(treeBelow(m_tree->path()), before);
 }
 
 void CleanCommandTest::rememberedDigestsDestroyNothing_data()

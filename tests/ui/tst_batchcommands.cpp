@@ -1,3 +1,4 @@
+#include "tests/support/disk.h"
 #include "tests/ui/cleaningscene.h"
 #include "ui/dialogs/fileprogressdialog.h"
 #include "ui/dialogs/restoredialog.h"
@@ -23,6 +24,7 @@ private slots:
     void backupAsksFirst();
     void stoppingLeavesNothingHalfDone();
     void restoring();
+    void everyCopyThereAndBack();
 };
 
 void TestBatchCommands::marksByCommand_data()
@@ -172,6 +174,23 @@ void TestBatchCommands::restoring()
     QCOMPARE(scene.prompts.asked.last(), text("失败|原路径已存在文件，已取消恢复: ") + scene.path("a"));
     QCOMPARE(scene.content(scene.path("a")), QByteArray("new"));
     QCOMPARE(Mirrix::loadBackupIndex(scene.backup()).size(), 1);
+}
+
+void TestBatchCommands::everyCopyThereAndBack()
+{
+    Scene scene;
+    scene.addGroup({QStringLiteral("a*"), QStringLiteral("b*"), QStringLiteral("deep/a*")}, "the only content");
+    const auto before = MirrixTest::treeBelow(scene.tree.path());
+    scene.prompts.answers = {true};
+    scene.commands.moveCheckedToBackup();
+    QVERIFY(!scene.has("a") && !scene.has("b") && !scene.has("deep/a"));
+    scene.prompts.onRun = [](QDialog &dialog) { dialog.findChild<QListView *>()->selectAll(); };
+    scene.prompts.answers = {true, true};
+    scene.commands.restoreBackup();
+    QCOMPARE(scene.prompts.asked.last(), text("完成|已恢复 3 个文件。"));
+    auto after = MirrixTest::treeBelow(scene.tree.path());
+    after.removeIf([&](const auto &file) { return !before.contains(file.key()); }); // the store's own
+    QCOMPARE(after, before);
 }
 
 QTEST_MAIN(TestBatchCommands)

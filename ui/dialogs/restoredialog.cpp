@@ -69,9 +69,11 @@ void RestoreDialog::buildLayout()
 QList<qsizetype> RestoreDialog::chosen() const
 {
     QList<qsizetype> rows;
-    const QModelIndexList selected = m_list->selectionModel()->selectedIndexes();
-    for (const QModelIndex &index : selected)
-        rows.append(m_rows->mapToSource(index).row());
+    const QItemSelection ranges = m_list->selectionModel()->selection(); // far fewer than rows
+    for (const QItemSelectionRange &range : ranges) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.append(m_rows->mapToSource(m_rows->index(row, 0)).row());
+    }
     std::sort(rows.begin(), rows.end());
     return rows;
 }
