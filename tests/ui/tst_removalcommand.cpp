@@ -23,6 +23,8 @@ private slots:
     void removalByMethod_data();
     void removalByMethod();
     void deletingForGoodAsksAgain();
+    void whatIsNotEqualStays_data();
+    void whatIsNotEqualStays();
     void linksAfterBackup_data();
     void linksAfterBackup();
 };
@@ -48,6 +50,35 @@ void TestRemovalCommand::changedFilesStay()
                                   text("要保留的文件已更改，未处理: ") + scene.path("f")};
     QVERIFY2(account.contains(refusals.join(QLatin1Char('\n'))), qPrintable(account));
     QCOMPARE(scene.logged(), QStringList(QStringLiteral("remove_batch method=1 count=1")));
+}
+
+void TestRemovalCommand::whatIsNotEqualStays_data()
+{
+    QTest::addColumn<Mirrix::RemovalMethod>("method");
+    QTest::addColumn<bool>("isEqualContent");
+    QTest::addColumn<bool>("isGone");
+    using Mirrix::RemovalMethod;
+    QTest::newRow("deleted as equal") << RemovalMethod::Delete << true << false;
+    QTest::newRow("deleted as alike") << RemovalMethod::Delete << false << true;
+    QTest::newRow("moved as equal") << RemovalMethod::Move << true << true;
+}
+
+/// Files of one size in a group: where the scan was for equal contents, they are compared before one is destroyed.
+void TestRemovalCommand::whatIsNotEqualStays()
+{
+    QFETCH(Mirrix::RemovalMethod, method);
+    QFETCH(bool, isEqualContent);
+    QFETCH(bool, isGone);
+    Scene scene;
+    scene.results.isEqualContent = isEqualContent;
+    scene.addGroup({QStringLiteral("a*"), QStringLiteral("b")}, "one");
+    scene.tree.write(QStringLiteral("a"), "two");
+    scene.tree.setModified(QStringLiteral("a"), scene.results.groups[0].files[0].modifiedMs);
+    scene.prompts.answers = {true, true};
+    scene.choose(method, false, scene.path("moved"));
+    scene.commands.removeChecked();
+    QCOMPARE(scene.has("a"), !isGone);
+    QVERIFY(scene.has("b"));
 }
 
 void TestRemovalCommand::removalByMethod_data()
