@@ -127,7 +127,8 @@ class Job:
             self.desktop.click(entry)
         else:
             self.desktop.key("Up", "Return")  # the last entry of the menu
-        assert self.process.wait(LONGEST_WAIT) == 0
+        status = self.process.wait(LONGEST_WAIT)
+        assert status == 0, f"ended with status {status}"
 
     def check_settings_and_log(self):
         settings = json.loads((self.data / "settings.json").read_text(encoding="utf-8"))
