@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/scan/fileplace.h"
+
 #include <QMap>
 #include <QMetaType>
 #include <QString>
@@ -36,6 +38,8 @@ struct FileEntry
     double latitude = 0;  ///< degrees, north positive; valid with hasGps
     double longitude = 0; ///< degrees, east positive; valid with hasGps
     bool hasGps = false;
+
+    FilePlace place = FilePlace::Ordinary; ///< whether the file lies where copies are put away
 
     QMap<QString, QString> tags; ///< further tag values by name; empty unless a rule or the preview asks for them
 

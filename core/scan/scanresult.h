@@ -15,6 +15,8 @@ struct DuplicateGroup
     QString key; ///< what the members share: hex digest, "empty", "SIM:90%", a rule key, ...
     QList<FileEntry> files;
     qint64 wastedBytes = 0; ///< bytes freed by removing all members but one
+    /// The members are to hold the same bytes: their whole contents were compared by digest.
+    bool isEqualContent = false;
 
     bool operator==(const DuplicateGroup &) const = default;
 };
