@@ -16,6 +16,7 @@ struct RecycleBin
     {
         int code = 0; ///< 0 = done
         bool isAborted = false;
+        QStringList placed = {}; ///< where each file is now, in the order of the paths; empty where that is unknown
     };
 
     qsizetype batchSize = 1; ///< most files in one call of `send`

@@ -1,5 +1,6 @@
 #include "actions/recyclebin.h"
 
+#include "actions/files/trashfolders.h"
 #include "actions/movefile.h"
 #include "core/platform/nativepath.h"
 
@@ -7,7 +8,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QRandomGenerator>
-#include <QStandardPaths>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -23,30 +23,6 @@ using MirrixCore::pathBytes;
 // The freedesktop.org trash: "files" holds what was thrown away, "info" a note on each. QFile::moveToTrash tries for
 // ever where a note cannot be written: on a full disk, or for a name near the longest.
 
-struct Trash
-{
-    QString folder;
-    QString top; ///< the volume's topmost folder, to which the paths in notes are relative; empty for the home's trash
-};
-
-QString homeTrash()
-{
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QLatin1String("/Trash");
-}
-
-quint32 volumeOf(const QString &path)
-{
-    return MirrixCore::fileStatus(path).identity.volume;
-}
-
-Trash volumeTrash(const QString &path)
-{
-    QString top = folderOf(path);
-    for (QString parent = folderOf(top); parent != top && volumeOf(parent) == volumeOf(top); parent = folderOf(top))
-        top = parent;
-    return {joinedPath(top, QStringLiteral(".Trash-%1").arg(geteuid())), top};
-}
-
 /// Others may write into a volume's topmost folder, so what stands there already must be ours.
 bool makePrivateFolder(const QString &path)
 {
@@ -56,7 +32,7 @@ bool makePrivateFolder(const QString &path)
            (lstat(bytes.constData(), &info) == 0 && S_ISDIR(info.st_mode) && info.st_uid == geteuid());
 }
 
-QByteArray noteOn(const QString &path, const Trash &trash)
+QByteArray noteOn(const QString &path, const BinFolder &trash)
 {
     const QByteArray whole = pathBytes(path);
     const qsizetype skipped = trash.top.isEmpty() ? 0 : pathBytes(joinedPath(trash.top, {})).size();
@@ -86,8 +62,8 @@ QString nameInTrash(const QString &path, int attempt)
     return attempt > 0 ? name + QLatin1Char('.') + QString::number(QRandomGenerator::system()->generate(), 16) : name;
 }
 
-/// Renames into the trash or leaves the file where it is; nothing is copied or deleted.
-FileFault throwInto(const Trash &trash, const QString &path)
+/// Renames into the trash or leaves the file where it is; nothing is copied or deleted. `placed`: where it is then.
+FileFault throwInto(const BinFolder &trash, const QString &path, QString &placed)
 {
     const QString files = trash.folder + QLatin1String("/files/");
     const QString notes = trash.folder + QLatin1String("/info/");
@@ -103,7 +79,9 @@ FileFault throwInto(const Trash &trash, const QString &path)
         if (fault != FileFault::None)
             continue;
         fault = renameExclusively(path, files + name);
-        if (fault != FileFault::None)
+        if (fault == FileFault::None)
+            placed = files + name;
+        else
             static_cast<void>(removeFile(notePath));
     }
     return fault;
@@ -112,7 +90,7 @@ FileFault throwInto(const Trash &trash, const QString &path)
 /// A home without a usable trash belongs to no desktop: nobody would look for the file elsewhere either.
 bool canTake(const QString &)
 {
-    const QString trash = homeTrash();
+    const QString trash = homeTrash().folder;
     return QDir().mkpath(trash) && QFileInfo(trash).isWritable();
 }
 
@@ -121,9 +99,11 @@ RecycleBin::Answer moveToTrash(const QStringList &paths)
     RecycleBin::Answer answer;
     for (const QString &path : paths) {
         const QString absolute = MirrixCore::absolutePath(path);
-        FileFault fault = throwInto({homeTrash(), {}}, absolute);
+        QString placed;
+        FileFault fault = throwInto(homeTrash(), absolute, placed);
         if (fault == FileFault::OtherVolume)
-            fault = throwInto(volumeTrash(absolute), absolute);
+            fault = throwInto(volumeTrash(absolute), absolute, placed);
+        answer.placed.append(placed);
         if (fault != FileFault::None)
             answer.code = static_cast<int>(fault);
     }
