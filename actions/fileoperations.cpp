@@ -6,6 +6,8 @@
 #include "core/platform/nativepath.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
 
 namespace Mirrix {
 
@@ -66,6 +68,25 @@ bool link(const QString &linkPath, const QString &targetPath, FileFault (*make)(
     return fail(error, text(failure, linkPath));
 }
 
+/// The target as seen from the link, which then survives when both move together or the volume gets another name; only
+/// where both lie on one volume. Links on the way make the text lead elsewhere, so those are resolved first.
+FileFault makeShortestSymbolicLink(const QString &target, const QString &linkPath)
+{
+    const QString linkFolder = QFileInfo(folderOf(MirrixCore::absolutePath(linkPath))).canonicalFilePath();
+    const QString targetFolder = QFileInfo(folderOf(target)).canonicalFilePath();
+    const bool isOneVolume =
+        !linkFolder.isEmpty() && !targetFolder.isEmpty() &&
+        MirrixCore::fileStatus(linkFolder).identity.volume == MirrixCore::fileStatus(targetFolder).identity.volume;
+    const QString relative = QDir(linkFolder).relativeFilePath(joinedPath(targetFolder, fileNameOf(target)));
+    if (!isOneVolume || QDir::isAbsolutePath(relative))
+        return makeSymbolicLink(target, linkPath);
+    const FileFault fault = makeSymbolicLink(relative, linkPath);
+    if (fault != FileFault::None || leadsTo(linkPath, target))
+        return fault;
+    static_cast<void>(removeFile(linkPath));
+    return makeSymbolicLink(target, linkPath);
+}
+
 bool deleteFile(const QString &path, QString *error)
 {
     if (pathState(path).kind == PathState::Kind::File && removeFile(path) == FileFault::None)
@@ -120,7 +141,8 @@ bool createHardLink(const QString &linkPath, const QString &targetPath, QString 
 
 bool createSymbolicLink(const QString &linkPath, const QString &targetPath, QString *error)
 {
-    return link(linkPath, targetPath, makeSymbolicLink, QT_TRANSLATE_NOOP("Mirrix", "无法创建符号链接: %1"), error);
+    return link(linkPath, targetPath, makeShortestSymbolicLink, QT_TRANSLATE_NOOP("Mirrix", "无法创建符号链接: %1"),
+                error);
 }
 
 BatchResult removeFiles(RemovalMethod method, const QStringList &paths, const QString &targetFolder,

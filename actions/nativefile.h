@@ -26,7 +26,11 @@ struct PathState
     qint64 sizeBytes = 0;
     qint64 modifiedMs = 0;      ///< milliseconds since the Unix epoch
     qint64 modifiedExact = 0;   ///< the same time in the system's own finest unit
+    qint64 changedExact = 0;    ///< last change of content or attributes, in the same unit; 0 = unknown
     bool isUndeletable = false; ///< marked read-only where that forbids deleting (Windows)
+    quint32 mode = 0;           ///< permission bits, 07777 at most; 0 on Windows
+    quint32 owner = 0;          ///< user and group numbers; 0 on Windows
+    quint32 group = 0;
     MirrixCore::FileIdentity identity;
 
     /// Whether both are plain files of one size, time and (where known) identity.
@@ -55,7 +59,7 @@ enum class FileFault
 /// Deletes a file or link, not a folder.
 [[nodiscard]] FileFault removeFile(const QString &path);
 
-/// Makes `link` a symbolic link to the absolute path `target`, which need not exist.
+/// Makes `link` a symbolic link to `target`, absolute or as seen from the link's folder, which need not exist.
 [[nodiscard]] FileFault makeSymbolicLink(const QString &target, const QString &link);
 
 /// Makes `link` a further name of the file `target`.
@@ -64,6 +68,9 @@ enum class FileFault
 /// Copies the plain file `from` with times and attributes to the free path `to` and waits until it is on the disk.
 /// Leaves nothing behind on failure.
 [[nodiscard]] FileFault copyToNewFile(const QString &from, const QString &to);
+
+/// Makes an empty file at the free path `path`.
+[[nodiscard]] FileFault makeEmptyFile(const QString &path);
 
 /// Makes one folder. Occupied when something, perhaps a folder, stands there.
 [[nodiscard]] FileFault makeFolder(const QString &path);

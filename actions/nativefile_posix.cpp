@@ -1,5 +1,6 @@
 #include "actions/nativefile.h"
 
+#include "actions/pathstate_posix.h"
 #include "core/platform/nativepath.h"
 
 #include <algorithm>
@@ -7,7 +8,6 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <sys/vfs.h>
 #include <unistd.h>
 
@@ -74,15 +74,7 @@ PathState pathState(const QString &path)
             state.kind = PathState::Kind::Missing;
         return state;
     }
-    state.kind = S_ISREG(info.st_mode)   ? PathState::Kind::File
-                 : S_ISLNK(info.st_mode) ? PathState::Kind::Link
-                 : S_ISDIR(info.st_mode) ? PathState::Kind::Folder
-                                         : PathState::Kind::Other;
-    state.sizeBytes = info.st_size;
-    state.modifiedMs = qint64(info.st_mtim.tv_sec) * 1000 + info.st_mtim.tv_nsec / 1000000;
-    state.modifiedExact = qint64(info.st_mtim.tv_sec) * 1000000000 + info.st_mtim.tv_nsec;
-    state.identity = {static_cast<quint32>(info.st_dev), info.st_ino, static_cast<quint32>(info.st_nlink), true};
-    return state;
+    return pathStateFrom(info);
 }
 
 bool mayNumberAnew(const QString &path)
@@ -120,6 +112,12 @@ FileFault makeSymbolicLink(const QString &target, const QString &link)
 FileFault makeHardLink(const QString &target, const QString &link)
 {
     return faultUnless(::link(pathBytes(target).constData(), pathBytes(link).constData()));
+}
+
+FileFault makeEmptyFile(const QString &path)
+{
+    const int file = open(pathBytes(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    return file < 0 ? faultOf(errno) : faultUnless(close(file));
 }
 
 FileFault makeFolder(const QString &path)

@@ -1,7 +1,7 @@
 #include "actions/nativefile.h"
 
+#include "actions/pathstate_windows.h"
 #include "core/platform/nativepath.h"
-#include "core/platform/win32.h"
 #include "core/walk/windowsattributes.h"
 
 #include <QDir>
@@ -69,26 +69,36 @@ PathState::Kind kindOf(HANDLE file, DWORD attributes)
 
 } // namespace
 
-PathState pathState(const QString &path)
+PathState pathStateOf(HANDLE file)
 {
     PathState state;
-    const UniqueHandle file(CreateFileW(wide(path).c_str(), FILE_READ_ATTRIBUTES,
-                                        FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
-                                        FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
     BY_HANDLE_FILE_INFORMATION info = {};
-    if (!file || !GetFileInformationByHandle(file.get(), &info)) {
-        if (faultOf(GetLastError()) == FileFault::Missing)
-            state.kind = PathState::Kind::Missing;
+    if (!GetFileInformationByHandle(file, &info))
         return state;
-    }
-    state.kind = kindOf(file.get(), info.dwFileAttributes);
+    state.kind = kindOf(file, info.dwFileAttributes);
     state.sizeBytes = static_cast<qint64>(joined(info.nFileSizeHigh, info.nFileSizeLow));
     state.modifiedMs = epochMsFrom(info.ftLastWriteTime);
     state.modifiedExact =
         static_cast<qint64>(joined(info.ftLastWriteTime.dwHighDateTime, info.ftLastWriteTime.dwLowDateTime));
+    FILE_BASIC_INFO basic = {};
+    if (GetFileInformationByHandleEx(file, FileBasicInfo, &basic, sizeof basic))
+        state.changedExact = basic.ChangeTime.QuadPart;
     state.isUndeletable = info.dwFileAttributes & FILE_ATTRIBUTE_READONLY;
     state.identity = {info.dwVolumeSerialNumber, joined(info.nFileIndexHigh, info.nFileIndexLow), info.nNumberOfLinks,
                       true};
+    return state;
+}
+
+PathState pathState(const QString &path)
+{
+    const UniqueHandle file(CreateFileW(wide(path).c_str(), FILE_READ_ATTRIBUTES,
+                                        FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                                        FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+    if (file)
+        return pathStateOf(file.get());
+    PathState state;
+    if (faultOf(GetLastError()) == FileFault::Missing)
+        state.kind = PathState::Kind::Missing;
     return state;
 }
 
@@ -116,8 +126,9 @@ FileFault removeFile(const QString &path)
 FileFault makeSymbolicLink(const QString &target, const QString &link)
 {
     // Other programs show the target as it is written, so the long form only where it is needed.
-    const QString plain = QDir::toNativeSeparators(MirrixCore::absolutePath(target));
-    const std::wstring native = plain.size() < MAX_PATH ? plain.toStdWString() : wide(target);
+    const bool isRelative = QDir::isRelativePath(target);
+    const QString plain = QDir::toNativeSeparators(isRelative ? target : MirrixCore::absolutePath(target));
+    const std::wstring native = isRelative || plain.size() < MAX_PATH ? plain.toStdWString() : wide(target);
     const std::wstring path = wide(link);
     if (CreateSymbolicLinkW(path.c_str(), native.c_str(), allowUnprivileged))
         return FileFault::None;
@@ -131,6 +142,13 @@ FileFault makeHardLink(const QString &target, const QString &link)
 {
     return CreateHardLinkW(wide(link).c_str(), wide(target).c_str(), nullptr) ? FileFault::None
                                                                               : faultOf(GetLastError());
+}
+
+FileFault makeEmptyFile(const QString &path)
+{
+    const UniqueHandle file(
+        CreateFileW(wide(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
+    return file ? FileFault::None : faultOf(GetLastError());
 }
 
 FileFault makeFolder(const QString &path)

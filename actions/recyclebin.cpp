@@ -1,8 +1,12 @@
 #include "actions/recyclebin.h"
 
+#include "actions/files/binlookup.h"
 #include "actions/nativefile.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
+
+#include <optional>
 
 namespace Mirrix {
 
@@ -34,9 +38,7 @@ void sendBatch(const RecycleBin &bin, const QStringList &batch, BatchResult &res
     const RecycleBin::Answer answer = bin.send(batch);
     const bool isSaidDone = answer.code == 0 && !answer.isAborted;
     if (!isSaidDone)
-        result.errors.append(QCoreApplication::translate("Mirrix", "批量移入回收站失败 (code %1, %2 个文件)")
-                                 .arg(answer.code)
-                                 .arg(batch.size()));
+        result.errors.append(binFailureText(answer.code, batch.size()));
     for (const QString &path : batch) {
         if (hasLeft(path, isSaidDone))
             ++result.count;
@@ -46,6 +48,18 @@ void sendBatch(const RecycleBin &bin, const QStringList &batch, BatchResult &res
 }
 
 } // namespace
+
+bool putBackRecycled(const QString &path, const QString &placed)
+{
+    const std::optional<BinEntry> entry =
+        placed.isEmpty() ? findInBin(path, 0, 0, QDateTime::currentMSecsSinceEpoch()) : binEntryAt(placed);
+    return entry && putBackFromBin(*entry) == FileFault::None;
+}
+
+QString binFailureText(int code, qsizetype fileCount)
+{
+    return QCoreApplication::translate("Mirrix", "批量移入回收站失败 (code %1, %2 个文件)").arg(code).arg(fileCount);
+}
 
 BatchResult recycleInto(const RecycleBin &bin, const QStringList &paths, const BatchControl &control)
 {

@@ -26,10 +26,19 @@ struct RecycleBin
 
     /// Sends existing files. The disk, not the answer, tells what became of each.
     std::function<Answer(const QStringList &paths)> send;
+
+    /// Puts a file back that was just sent, from `placed` where that is known. False when it stays in the bin.
+    std::function<bool(const QString &path, const QString &placed)> putBack;
 };
+
+/// Looks up a file that was just sent to the system's bin and puts it back at its free path.
+[[nodiscard]] bool putBackRecycled(const QString &path, const QString &placed);
 
 /// The one of this system. `send` blocks until the files are gone.
 [[nodiscard]] RecycleBin systemRecycleBin();
+
+/// The message for a call of `send` that failed.
+[[nodiscard]] QString binFailureText(int code, qsizetype fileCount);
 
 /// Sends files to a bin in batches. Progress and guard are asked before each batch, for all its files. Counted is what
 /// has left its place; what stays is named.

@@ -114,7 +114,7 @@ RecycleBin::Answer moveToTrash(const QStringList &paths)
 
 RecycleBin systemRecycleBin()
 {
-    return {1, canTake, moveToTrash};
+    return {1, canTake, moveToTrash, putBackRecycled};
 }
 
 } // namespace Mirrix

@@ -145,7 +145,7 @@ RecycleBin::Answer send(const QStringList &paths)
 RecycleBin systemRecycleBin()
 {
     const auto volumes = std::make_shared<Volumes>();
-    return {filesPerCall, [volumes](const QString &path) { return canTake(path, *volumes); }, send};
+    return {filesPerCall, [volumes](const QString &path) { return canTake(path, *volumes); }, send, putBackRecycled};
 }
 
 } // namespace Mirrix

@@ -158,6 +158,7 @@ const QList<Field> &table()
         MIRRIX_SETTING(closeToTray),
         MIRRIX_SETTING(scanDoneBeep),
         MIRRIX_SETTING(skipScanConfirm),
+        MIRRIX_SETTING(compareWholeContents),
         MIRRIX_SETTING(window),
         MIRRIX_SETTING(uiLanguage),
     };

@@ -33,6 +33,7 @@ struct Settings
     bool closeToTray = true;
     bool scanDoneBeep = false;
     bool skipScanConfirm = false;
+    bool compareWholeContents = false; ///< before recycling, moving and backing up, too
     QJsonObject window;             ///< where the main window was, as ui/windowmemory.h tells it
     QString uiLanguage;             ///< a code of languagecodes.h
     bool languageWasStored = false; ///< whether the file named a language; not stored

@@ -3,6 +3,7 @@
 //
 // Runs without a display with QT_QPA_PLATFORM=offscreen.
 
+#include "actions/cleaning/cleaningplan.h"
 #include "bench/watchdog.h"
 #include "ui/results/resultspage.h"
 #include "ui/results/resultstree.h"
@@ -87,7 +88,7 @@ int main(int argc, char **argv)
     watchdog.run("collapse all", [&] { tree->collapseEverything(); });
     watchdog.run("mark all but one a group", [&] {
         for (qsizetype group = 0; group < results.groups.size(); ++group)
-            results.marks.markAllBut(group, 0);
+            results.marks.markOnly(group, Mirrix::chooseFirstInGroup(results.groups[group].files).surplus);
         page.marksReplaced();
     });
     watchdog.run("invert", [&] {

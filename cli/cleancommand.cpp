@@ -1,9 +1,8 @@
 #include "cli/cleancommand.h"
 
-#include "actions/backupstore.h"
-#include "actions/changeguard.h"
-#include "actions/linkreplacement.h"
+#include "actions/cleaning/cleaningrun.h"
 #include "actions/operationslog.h"
+#include "actions/records/logevents.h"
 #include "app/sizetext.h"
 #include "cli/cleanplan.h"
 #include "cli/output.h"
@@ -11,7 +10,7 @@
 #include "cli/scancommand.h"
 #include "cli/terminal.h"
 
-#include <QHash>
+#include <utility>
 
 namespace MirrixCli {
 
@@ -22,95 +21,44 @@ using MirrixCore::ScanResult;
 
 const QString applyOption = QStringLiteral("apply");
 
-void printPlan(const QList<Surplus> &surplus, const CleanPlan &plan)
+QString verbOf(CleaningMethod method)
 {
-    const bool isTerminal = isOutputTerminal();
+    if (isLinking(method))
+        return QStringLiteral("link");
+    return method == CleaningMethod::Backup ? QStringLiteral("back up") : methodName(method);
+}
+
+/// "frees 3 MB", "12 MB held in the backup folder", ...
+QString spaceText(const Space &space)
+{
+    QStringList parts = {QStringLiteral("frees %1").arg(sizeText(space.freedBytes))};
+    if (space.heldInBackupBytes > 0)
+        parts.append(QStringLiteral("%1 held in the backup folder").arg(sizeText(space.heldInBackupBytes)));
+    if (space.heldInBinBytes > 0)
+        parts.append(QStringLiteral("%1 held in the recycle bin").arg(sizeText(space.heldInBinBytes)));
+    return parts.join(QStringLiteral(", "));
+}
+
+/// False when the list could not be written.
+bool printPlan(const CleaningPlan &plan)
+{
+    QString kept;
     qint64 bytes = 0;
-    QString keeper;
     Output output;
     if (!output.open({}))
-        return;
-    for (const Surplus &one : surplus) {
-        if (one.keeper.path != keeper)
-            output.write("keep " + shownPath(one.keeper.path, isTerminal) + '\n');
-        keeper = one.keeper.path;
-        output.write("  " + plan.method.verb.toUtf8() + ' ' + shownPath(one.file.path, isTerminal) + '\n');
-        bytes += one.file.size;
+        return false;
+    for (const CleaningItem &item : plan.items) {
+        if (item.kept.path != kept)
+            output.write("keep " + shownPath(item.kept.path, true) + '\n');
+        kept = item.kept.path;
+        output.write("  " + verbOf(plan.method).toUtf8() + ' ' + shownPath(item.file.path, true) + '\n');
+        bytes += item.file.sizeBytes;
     }
-    output.write(QStringLiteral("%1 files, %2; nothing was done (--apply does it)\n")
-                     .arg(surplus.size())
-                     .arg(sizeText(bytes))
+    output.write(QStringLiteral("%1 files, %2 (%3); nothing was done (--apply does it)\n")
+                     .arg(plan.items.size())
+                     .arg(sizeText(bytes), spaceText(estimatedSpace(plan)))
                      .toUtf8());
-    static_cast<void>(output.finish());
-}
-
-/// Whether what is taken away is gone for good.
-bool isFinal(const CleanPlan &plan)
-{
-    return plan.method.act == CleanAct::Link ||
-           (plan.method.act == CleanAct::Remove && plan.method.number == RemovalMethod::Delete);
-}
-
-/// The looks at the disk just before each act, and the progress line.
-BatchControl controlFor(const QList<Surplus> &surplus, const CleanPlan &plan, ProgressLine &line)
-{
-    QHash<QString, qsizetype> places;
-    places.reserve(surplus.size());
-    for (qsizetype i = 0; i < surplus.size(); ++i)
-        places.insert(surplus[i].file.path, i);
-    BatchControl control;
-    control.guard = [places, &surplus,
-                     problem = isFinal(plan) ? finalSurplusProblem : surplusProblem](const QString &path) {
-        const Surplus &one = surplus[places.value(path)];
-        return problem(one.file, one.keeper);
-    };
-    control.progress = [&line, &surplus](qsizetype done, qsizetype total) {
-        line.show({total, done, total, surplus[done].file.path, QStringLiteral("cleaning")});
-        return !isInterrupted();
-    };
-    return control;
-}
-
-BatchResult act(const QList<Surplus> &surplus, const CleanPlan &plan)
-{
-    ProgressLine line;
-    const BatchControl control = controlFor(surplus, plan, line);
-    QStringList paths;
-    QList<LinkReplacement> links;
-    for (const Surplus &one : surplus) {
-        paths.append(one.file.path);
-        links.append({one.file.path, one.keeper.path});
-    }
-    switch (plan.method.act) {
-    case CleanAct::Backup:
-        return backupFiles(plan.target, paths, control);
-    case CleanAct::Link:
-        return replaceByLinks(plan.target, links,
-                              plan.method.number == RemovalMethod::HardLink ? LinkKind::Hard : LinkKind::Symbolic,
-                              Originals::Discard, control);
-    case CleanAct::Remove:
-        break;
-    }
-    return removeFiles(plan.method.number, paths, plan.target, {}, control);
-}
-
-void logScan(OperationsLog &log, const CleanPlan &plan, const ScanResult &result, qsizetype marked)
-{
-    log.append({logEntryNow(QStringLiteral("scan_done"), QStringLiteral("groups=%1 wasted=%2 candidates=%3")
-                                                             .arg(result.groups.size())
-                                                             .arg(result.wastedBytes)
-                                                             .arg(result.candidates)),
-                logEntryNow(QStringLiteral("auto_keep"),
-                            QStringLiteral("rule=%1 count=%2").arg(static_cast<int>(plan.rule)).arg(marked))});
-}
-
-void logActs(OperationsLog &log, const CleanPlan &plan, qsizetype count)
-{
-    if (plan.method.act == CleanAct::Backup)
-        log.append(QStringLiteral("backup_batch"), QStringLiteral("count=%1").arg(count));
-    else
-        log.append(QStringLiteral("remove_batch"),
-                   QStringLiteral("method=%1 count=%2").arg(static_cast<int>(plan.method.number)).arg(count));
+    return output.finish();
 }
 
 ExitStatus cancelled()
@@ -119,15 +67,23 @@ ExitStatus cancelled()
     return ExitStatus::Cancelled;
 }
 
-/// Acts, tells and logs. `isComplete`: whether the scan read everything.
-ExitStatus apply(const QList<Surplus> &surplus, const CleanPlan &plan, OperationsLog &log, bool isComplete)
+/// Carries the plan out. `isComplete`: whether the scan read everything.
+ExitStatus apply(const CleaningPlan &plan, OperationsLog &log, bool isComplete)
 {
-    const BatchResult result = surplus.isEmpty() ? BatchResult() : act(surplus, plan);
-    if (!surplus.isEmpty())
-        logActs(log, plan, result.count);
-    for (const QString &error : result.errors)
+    CleaningResult result;
+    if (!plan.items.isEmpty()) {
+        ProgressLine line;
+        result = runCleaning(plan, {log}, [&](qsizetype done, qsizetype total) {
+            line.show({total, done, total, plan.items[done].file.path, QStringLiteral("cleaning")});
+            return !isInterrupted();
+        });
+    }
+    for (const QString &error : std::as_const(result.errors))
         printError(error);
-    printText(QStringLiteral("%1 of %2 files done (%3)\n").arg(result.count).arg(surplus.size()).arg(plan.method.name));
+    printText(QStringLiteral("%1 of %2 files done (%3); %4\n")
+                  .arg(result.count)
+                  .arg(plan.items.size())
+                  .arg(methodName(plan.method), spaceText(result.space)));
     if (result.isCancelled)
         return cancelled();
     return result.errors.isEmpty() && isComplete ? ExitStatus::Done : ExitStatus::SomeFailed;
@@ -143,23 +99,27 @@ void addCleanOptions(QCommandLineParser &parser)
 
 ExitStatus runClean(const QCommandLineParser &parser)
 {
-    const CleanPlan plan = planOf(parser);
+    CleanRequest request = cleanRequestOf(parser);
     const bool isApplied = parser.isSet(applyOption);
     OperationsLog log(operationsLogPath(dataDirectoryOf(parser)));
     prepareScan(parser);
-    if (isApplied)
-        log.append(QStringLiteral("scan_start"),
-                   QStringLiteral("mode=content roots=%1").arg(plan.options.roots.join(QStringLiteral("; "))));
-    const ScanResult result = scanAndReportUnread(plan.options);
+    if (isApplied && !log.append({scanStartedEvent(request.options)})) {
+        printError(QStringLiteral("cannot write the log %1; nothing was done").arg(log.filePath()));
+        return ExitStatus::SomeFailed;
+    }
+    const ScanResult result = scanAndReportUnread(request.options);
     if (isInterrupted())
         return cancelled();
-    const QList<Surplus> surplus = surplusOf(result, plan.rule);
-    if (!isApplied) {
-        printPlan(surplus, plan);
-        return result.unread.isEmpty() ? ExitStatus::Done : ExitStatus::SomeFailed;
-    }
-    logScan(log, plan, result, surplus.size());
-    return apply(surplus, plan, log, result.unread.isEmpty());
+    CleaningPlan &plan = request.plan;
+    plan.items = surplusByRule(result.groups, request.rule);
+    const bool isComplete = result.unread.isEmpty();
+    if (!isApplied)
+        return printPlan(plan) && isComplete ? ExitStatus::Done : ExitStatus::SomeFailed;
+    const bool isLogged = log.append({scanDoneEvent(result.groups.size(), result.wastedBytes, result.candidates),
+                                      markedByRuleEvent(request.rule, plan.items.size())});
+    if (!isLogged)
+        printError(QStringLiteral("cannot write the log %1").arg(log.filePath()));
+    return apply(plan, log, isComplete && isLogged);
 }
 
 } // namespace MirrixCli

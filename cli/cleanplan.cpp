@@ -1,8 +1,11 @@
 #include "cli/cleanplan.h"
 
 #include "actions/backupstore.h"
+#include "actions/cleaning/targetfolder.h"
 #include "app/settings.h"
 #include "cli/scancommand.h"
+#include "core/platform/nativepath.h"
+#include "core/walk/pathrules.h"
 
 #include <array>
 
@@ -12,27 +15,16 @@ namespace {
 
 using namespace Mirrix;
 using MirrixCore::ContentMatch;
-using MirrixCore::DuplicateGroup;
 using MirrixCore::ScanOptions;
-using MirrixCore::ScanResult;
 using MirrixCore::SearchMode;
 
 const QString keepOption = QStringLiteral("keep");
 const QString methodOption = QStringLiteral("method");
 const QString targetOption = QStringLiteral("target");
+const QString compareOption = QStringLiteral("compare-contents");
 
-const std::array<CleanMethod, 6> &methods()
-{
-    static const std::array<CleanMethod, 6> table = {{
-        {QStringLiteral("recycle"), CleanAct::Remove, RemovalMethod::Recycle, QStringLiteral("recycle")},
-        {QStringLiteral("delete"), CleanAct::Remove, RemovalMethod::Delete, QStringLiteral("delete")},
-        {QStringLiteral("move"), CleanAct::Remove, RemovalMethod::Move, QStringLiteral("move")},
-        {QStringLiteral("symlink"), CleanAct::Link, RemovalMethod::SymbolicLink, QStringLiteral("link")},
-        {QStringLiteral("hardlink"), CleanAct::Link, RemovalMethod::HardLink, QStringLiteral("link")},
-        {QStringLiteral("backup"), CleanAct::Backup, RemovalMethod::Recycle, QStringLiteral("back up")},
-    }};
-    return table;
-}
+constexpr std::array methods = {CleaningMethod::Recycle,      CleaningMethod::Delete,   CleaningMethod::Move,
+                                CleaningMethod::SymbolicLink, CleaningMethod::HardLink, CleaningMethod::Backup};
 
 const QStringList ruleNames = {QStringLiteral("newest"), QStringLiteral("oldest"), QStringLiteral("shallowest"),
                                QStringLiteral("deepest")};
@@ -41,30 +33,50 @@ KeepRule ruleOf(const QString &name)
 {
     const qsizetype index = ruleNames.indexOf(name);
     if (index < 0)
-        throw UsageError{QStringLiteral("--keep needs %1, not \"%2\"").arg(ruleNames.join(QStringLiteral(", ")), name)};
+        throw UsageError{
+            name.isEmpty()
+                ? QStringLiteral("--keep is missing; it takes %1").arg(ruleNames.join(QStringLiteral(", ")))
+                : QStringLiteral("--keep takes %1, not \"%2\"").arg(ruleNames.join(QStringLiteral(", ")), name)};
     return static_cast<KeepRule>(index);
 }
 
-CleanMethod methodOf(const QString &name)
+CleaningMethod methodOf(const QString &name)
 {
     QStringList names;
-    for (const CleanMethod &method : methods()) {
-        if (method.name == name)
+    for (const CleaningMethod method : methods) {
+        if (methodName(method) == name)
             return method;
-        names.append(method.name);
+        names.append(methodName(method));
     }
-    throw UsageError{QStringLiteral("--method needs %1, not \"%2\"").arg(names.join(QStringLiteral(", ")), name)};
+    throw UsageError{name.isEmpty()
+                         ? QStringLiteral("--method is missing; it takes %1").arg(names.join(QStringLiteral(", ")))
+                         : QStringLiteral("--method takes %1, not \"%2\"").arg(names.join(QStringLiteral(", ")), name)};
 }
 
-QString targetOf(const QCommandLineParser &parser, const CleanMethod &method)
+void readFolders(const QCommandLineParser &parser, CleaningPlan &plan)
 {
     const QString given = parser.value(targetOption);
-    const bool takesTarget = method.act != CleanAct::Remove || method.number == RemovalMethod::Move;
-    if (!takesTarget && parser.isSet(targetOption))
-        throw UsageError{QStringLiteral("--target does not go with --method %1").arg(method.name)};
-    if (method.number == RemovalMethod::Move && given.isEmpty())
+    const bool takesTarget = plan.method != CleaningMethod::Recycle && plan.method != CleaningMethod::Delete;
+    if (parser.isSet(targetOption) && !takesTarget)
+        throw UsageError{QStringLiteral("--target does not go with --method %1").arg(methodName(plan.method))};
+    if (plan.method == CleaningMethod::Move && given.isEmpty())
         throw UsageError{QStringLiteral("--method move needs --target DIR")};
-    return backupFolderPath(given.isEmpty() ? readSettings(dataDirectoryOf(parser)).backupRoot : given);
+    const bool isMoveTarget = plan.method == CleaningMethod::Move;
+    if (isMoveTarget)
+        plan.targetFolder = backupFolderPath(given);
+    plan.backupFolder =
+        backupFolderPath(given.isEmpty() || isMoveTarget ? readSettings(dataDirectoryOf(parser)).backupRoot : given);
+}
+
+/// A root inside the folder that takes the files would be left out of the scan, and nothing would be done without a
+/// word.
+void refuseRootsInside(const QString &folder, const ScanOptions &options)
+{
+    TargetFolder target(folder);
+    for (const QString &root : options.roots) {
+        if (target.isAtOrAbove(MirrixCore::cleanedPath(MirrixCore::absolutePath(root))))
+            throw UsageError{QStringLiteral("the target %1 is the scanned folder %2 or holds it").arg(folder, root)};
+    }
 }
 
 /// Only equal contents are proof enough to act without a person looking.
@@ -92,35 +104,31 @@ void addPlanOptions(QCommandLineParser &parser)
         {targetOption,
          QStringLiteral("Where move puts the files; else the backup folder (default: as in the settings)."),
          QStringLiteral("DIR")},
+        {compareOption,
+         QStringLiteral("Compare whole contents before every removal, not only before those that destroy a file.")},
     });
     addSelectionOptions(parser);
 }
 
-CleanPlan planOf(const QCommandLineParser &parser)
+CleanRequest cleanRequestOf(const QCommandLineParser &parser)
 {
-    CleanPlan plan;
-    plan.rule = ruleOf(parser.value(keepOption));
-    plan.method = methodOf(parser.value(methodOption));
-    plan.target = targetOf(parser, plan.method);
-    plan.options.collapseHardLinks = true;
-    readSelection(parser, plan.options);
-    refuseLooseMatching(plan.options);
+    CleanRequest request;
+    request.rule = ruleOf(parser.value(keepOption));
+    request.plan.method = methodOf(parser.value(methodOption));
+    readFolders(parser, request.plan);
+    request.plan.comparesWholeContents =
+        parser.isSet(compareOption) || readSettings(dataDirectoryOf(parser)).compareWholeContents;
+    request.options.collapseHardLinks = true;
+    readSelection(parser, request.options);
+    refuseLooseMatching(request.options);
     // What was put away is neither surplus nor a reason to put away the last copy in use.
-    plan.options.excludeFolders.append(plan.target);
-    return plan;
-}
-
-QList<Surplus> surplusOf(const ScanResult &result, KeepRule rule)
-{
-    QList<Surplus> surplus;
-    for (const DuplicateGroup &group : result.groups) {
-        const qsizetype keeper = chooseKeeper(group.files, rule);
-        for (qsizetype i = 0; i < group.files.size(); ++i) {
-            if (i != keeper)
-                surplus.append({group.files[i], group.files[keeper]});
-        }
+    request.options.excludeFolders.append(request.plan.backupFolder);
+    const QString taking = takingFolder(request.plan);
+    if (!taking.isEmpty()) {
+        refuseRootsInside(taking, request.options);
+        request.options.excludeFolders.append(taking);
     }
-    return surplus;
+    return request;
 }
 
 } // namespace MirrixCli

@@ -3,6 +3,7 @@
 #include "actions/backupstore.h"
 #include "actions/movefile.h"
 #include "actions/operationslog.h"
+#include "actions/records/logevents.h"
 #include "app/settings.h"
 #include "cli/output.h"
 #include "cli/progressline.h"
@@ -77,7 +78,7 @@ void logRestored(const QString &dataDirectory, const Entries &restored)
 {
     QList<LogEntry> records;
     for (const BackupEntry &entry : restored)
-        records.append(logEntryNow(QStringLiteral("restore"), backupLine(entry)));
+        records.append(restoredEvent(entry));
     if (!records.isEmpty())
         OperationsLog(operationsLogPath(dataDirectory)).append(records);
 }

@@ -2,14 +2,14 @@
 
 #include "actions/backupstore.h"
 #include "actions/fileoperations.h"
-#include "actions/linkreplacement.h"
 #include "actions/operationslog.h"
+#include "actions/records/logevents.h"
 #include "app/settings.h"
 #include "app/text.h"
 #include "ui/dialogs/fileprogressdialog.h"
 #include "ui/dialogs/fileremovaldialog.h"
 #include "ui/dialogs/restoredialog.h"
-#include "ui/logic/checkedfiles.h"
+#include "ui/logic/bytetext.h"
 #include "ui/prompts.h"
 
 #include <QDir>
@@ -28,17 +28,40 @@ QString failureText(const BatchResult &result)
     return result.errors.isEmpty() ? QString() : Text::tr("\n部分失败：\n") + result.errors.join(QLatin1Char('\n'));
 }
 
-BatchResult backUpOrLink(const CheckedFiles &files, const QString &folder, const RemovalChoice &choice,
-                         const BatchControl &control)
+/// What the closing box says besides the count.
+QString spaceNote(const Space &space)
 {
-    if (choice.method != RemovalMethod::SymbolicLink && choice.method != RemovalMethod::HardLink)
-        return backupFiles(folder, files.paths(), control);
-    QStringList refusals;
-    const QList<LinkReplacement> links = files.links(choice.linkTarget, refusals);
-    const LinkKind kind = choice.method == RemovalMethod::HardLink ? LinkKind::Hard : LinkKind::Symbolic;
-    BatchResult result = replaceByLinks(folder, links, kind, Originals::KeepInBackup, control);
-    result.errors = refusals + result.errors;
-    return result;
+    QStringList parts;
+    if (space.freedBytes > 0)
+        parts.append(Text::tr("已释放 %1").arg(formatSize(space.freedBytes)));
+    if (space.heldInBackupBytes > 0)
+        parts.append(Text::tr("备份文件夹中保留 %1").arg(formatSize(space.heldInBackupBytes)));
+    if (space.heldInBinBytes > 0)
+        parts.append(Text::tr("回收站中保留 %1").arg(formatSize(space.heldInBinBytes)));
+    return parts.join(QLatin1Char('\n'));
+}
+
+/// Said where files are given up for copies that are not known to be equal.
+QString comparisonNote(const CheckedFiles &files)
+{
+    return files.areContentsEqual() ? QString() : Text::tr("部分组不是按内容匹配的，处理前不会比较这些文件的内容。");
+}
+
+CleaningMethod cleaningMethod(const RemovalChoice &choice)
+{
+    switch (choice.method) {
+    case RemovalMethod::SymbolicLink:
+        return CleaningMethod::BackupAndSymbolicLink;
+    case RemovalMethod::HardLink:
+        return CleaningMethod::BackupAndHardLink;
+    case RemovalMethod::Recycle:
+        return choice.backsUpFirst ? CleaningMethod::Backup : CleaningMethod::Recycle;
+    case RemovalMethod::Delete:
+        return choice.backsUpFirst ? CleaningMethod::Backup : CleaningMethod::Delete;
+    case RemovalMethod::Move:
+        return choice.backsUpFirst ? CleaningMethod::Backup : CleaningMethod::Move;
+    }
+    return CleaningMethod::Backup;
 }
 
 } // namespace
@@ -57,14 +80,12 @@ void BatchCommands::applyKeepRule(KeepRule rule)
 {
     const auto mark = [rule](SelectionMarks &marks, const QList<DuplicateGroup> &groups) {
         for (qsizetype group = 0; group < groups.size(); ++group)
-            marks.markAllBut(group, chooseKeeper(groups[group].files, rule));
+            marks.markOnly(group, chooseInGroup(groups[group].files, rule).surplus);
     };
     perform([&] {
         if (!changeMarks(QT_TRANSLATE_NOOP("Mirrix", "已按规则自动勾选待处理文件"), mark))
             return;
-        const qsizetype count = m_results.marks.markedInAll();
-        m_log.append(QStringLiteral("auto_keep"),
-                     QStringLiteral("rule=%1 count=%2").arg(static_cast<int>(rule)).arg(count));
+        m_log.append({markedByRuleEvent(rule, m_results.marks.markedInAll())});
     });
 }
 
@@ -72,7 +93,7 @@ void BatchCommands::selectAllDuplicates()
 {
     const auto mark = [](SelectionMarks &marks, const QList<DuplicateGroup> &groups) {
         for (qsizetype group = 0; group < groups.size(); ++group)
-            marks.markAllBut(group, 0);
+            marks.markOnly(group, chooseFirstInGroup(groups[group].files).surplus);
     };
     perform([&] { changeMarks(QT_TRANSLATE_NOOP("Mirrix", "已勾选各组重复项（默认保留每组第一个）"), mark); });
 }
@@ -136,82 +157,137 @@ BatchResult BatchCommands::run(const QString &label, const Batch &batch)
     return result;
 }
 
-BatchResult BatchCommands::runOn(const CheckedFiles &files, const QString &label, const Batch &batch, bool isFinal)
+CleaningPlan BatchCommands::planFor(CleaningMethod method) const
 {
-    return run(label, [&](const BatchControl &control) { return batch({control.progress, files.guard(isFinal)}); });
+    CleaningPlan plan;
+    plan.method = method;
+    plan.backupFolder = backupFolderPath(m_backupFolder);
+    plan.comparesWholeContents = m_settings.compareWholeContents;
+    return plan;
+}
+
+CleaningResult BatchCommands::clean(const QString &label, CleaningPlan plan, const ItemMaker &makeItems)
+{
+    CleaningResult result;
+    static_cast<void>(run(label, [&](const BatchControl &control) {
+        QStringList refusals;
+        plan.items = makeItems(refusals);
+        result = runCleaning(plan, {m_log}, control.progress);
+        result.errors = refusals + result.errors;
+        return static_cast<const BatchResult &>(result);
+    }));
+    return result;
+}
+
+std::optional<CheckedFiles> BatchCommands::filesToClean(const QString &noneText)
+{
+    CheckedFiles files(m_results);
+    const qsizetype emptied = files.groupsWithoutKept();
+    if (emptied > 0) {
+        enum : qsizetype
+        {
+            Untick,
+            GoOn
+        };
+        const qsizetype answer =
+            m_prompts.choose(m_window, {Text::tr("没有保留的副本"),
+                                        Text::tr("有 %1 组将不会留下任何副本。").arg(emptied),
+                                        {Text::tr("每组取消勾选一个"), Text::tr("全部处理"), Text::tr("取消")},
+                                        Untick});
+        if (answer != Untick && answer != GoOn)
+            return {};
+        if (answer == Untick) {
+            untickOneInEach(m_results.marks, m_results.groups, static_cast<KeepRule>(m_settings.keepRule));
+            emit marksReplaced();
+            files = CheckedFiles(m_results);
+        }
+    }
+    if (files.count() > 0)
+        return files;
+    m_prompts.inform(m_window, Text::tr("提示"), noneText);
+    return {};
 }
 
 void BatchCommands::backUpChecked()
 {
-    const CheckedFiles files(m_results);
-    const QString folder = m_backupFolder;
-    if (files.count() == 0) {
-        m_prompts.inform(m_window, Text::tr("提示"), Text::tr("请先勾选要处理的文件。"));
+    const std::optional<CheckedFiles> files = filesToClean(Text::tr("请先勾选要处理的文件。"));
+    if (!files)
         return;
-    }
     const QString question = Text::tr("将把 %1 个文件移动到备份目录：\n%2\n是否继续？")
-                                 .arg(QString::number(files.count()), QDir::toNativeSeparators(folder));
-    if (!m_prompts.ask(m_window, Text::tr("确认备份移动"), question))
+                                 .arg(QString::number(files->count()), QDir::toNativeSeparators(m_backupFolder));
+    if (!m_prompts.ask(m_window, Text::tr("确认备份移动"), question, comparisonNote(*files)))
         return;
-    const BatchResult result = runOn(files, Text::tr("正在备份移动文件… (%1/%2)"), [&](const BatchControl &control) {
-        return backupFiles(folder, files.paths(), control);
-    });
-    m_log.append(QStringLiteral("backup_batch"), QStringLiteral("count=%1").arg(result.count));
+    const CleaningResult result = clean(Text::tr("正在备份移动文件… (%1/%2)"), planFor(CleaningMethod::Backup),
+                                        [&](QStringList &) { return files->items(); });
     m_prompts.inform(m_window, Text::tr("完成"),
                      Text::tr("已备份移动 %1 个文件。%2\n请重新扫描以刷新结果。")
-                         .arg(QString::number(result.count), failureText(result)));
+                         .arg(QString::number(result.count), failureText(result)),
+                     spaceNote(result.space));
 }
 
 void BatchCommands::removeByChoice()
 {
-    const CheckedFiles files(m_results);
-    if (files.count() == 0) {
-        m_prompts.inform(m_window, Text::tr("提示"), Text::tr("请先勾选要删除的文件。"));
+    const std::optional<CheckedFiles> files = filesToClean(Text::tr("请先勾选要删除的文件。"));
+    if (!files)
         return;
-    }
-    FileRemovalDialog dialog(files.count(), initialRemovalChoice(m_settings), m_prompts, m_window);
+    FileRemovalDialog dialog(files->count(), initialRemovalChoice(m_settings), m_prompts, m_window);
+    dialog.setNote(comparisonNote(*files));
     if (!m_prompts.run(dialog))
         return;
     const RemovalChoice choice = dialog.choice();
     if (choice.backsUpFirst)
-        backUpAndRemove(files, choice);
+        backUpAndRemove(*files, choice);
     else
-        removeDirectly(files, choice);
+        removeDirectly(*files, choice);
 }
 
 void BatchCommands::backUpAndRemove(const CheckedFiles &files, const RemovalChoice &choice)
 {
-    const QString folder = m_backupFolder;
-    const BatchResult result = runOn(files, Text::tr("正在备份并移除文件… (%1/%2)"), [&](const BatchControl &control) {
-        return backUpOrLink(files, folder, choice, control);
+    CleaningPlan plan = planFor(cleaningMethod(choice));
+    plan.isBackupBeforeRemoval = true;
+    const CleaningResult result = clean(Text::tr("正在备份并移除文件… (%1/%2)"), plan, [&](QStringList &refusals) {
+        return isLinking(plan.method) ? files.linkItems(choice.linkTarget, refusals) : files.items();
     });
-    m_log.append(QStringLiteral("auto_backup_delete_batch"), QStringLiteral("count=%1").arg(result.count));
     if (!result.errors.isEmpty())
         m_prompts.warn(m_window, Text::tr("备份警告"),
                        Text::tr("部分文件备份失败：\n%1").arg(result.errors.join(QLatin1Char('\n'))));
     m_prompts.inform(m_window, Text::tr("完成"),
-                     Text::tr("已备份并移除 %1 个文件。请重新扫描以刷新结果。").arg(result.count));
+                     Text::tr("已备份并移除 %1 个文件。请重新扫描以刷新结果。").arg(result.count),
+                     spaceNote(result.space));
 }
 
 void BatchCommands::removeDirectly(const CheckedFiles &files, const RemovalChoice &choice)
 {
     if (choice.method == RemovalMethod::Delete &&
         !m_prompts.ask(m_window, Text::tr("永久删除确认"),
-                       Text::tr("即将永久删除 %1 个文件，此操作不可撤销。是否继续？").arg(files.count())))
+                       Text::tr("即将永久删除 %1 个文件，此操作不可撤销。是否继续？").arg(files.count()),
+                       comparisonNote(files)))
         return;
-    const auto remove = [&](const BatchControl &control) {
-        return removeFiles(choice.method, files.paths(), choice.targetFolder, choice.linkTarget, control);
-    };
-    const BatchResult result =
-        runOn(files, Text::tr("正在移除文件… (%1/%2)"), remove, choice.method == RemovalMethod::Delete);
-    m_log.append(QStringLiteral("remove_batch"),
-                 QStringLiteral("method=%1 count=%2").arg(static_cast<int>(choice.method)).arg(result.count));
+    const QString label = Text::tr("正在移除文件… (%1/%2)");
+    CleaningResult result;
+    if (choice.method == RemovalMethod::SymbolicLink || choice.method == RemovalMethod::HardLink) {
+        static_cast<BatchResult &>(result) = linkAtFreePaths(files, choice);
+    } else {
+        CleaningPlan plan = planFor(cleaningMethod(choice));
+        plan.targetFolder = backupFolderPath(choice.targetFolder);
+        result = clean(label, plan, [&](QStringList &) { return files.items(); });
+    }
     QString rest = failureText(result);
     if (!rest.isEmpty())
         rest += QLatin1Char('\n');
     rest += Text::tr("请重新扫描以刷新结果。");
     m_prompts.inform(m_window, Text::tr("完成"),
-                     Text::tr("已处理 %1 个文件。%2").arg(QString::number(result.count), rest));
+                     Text::tr("已处理 %1 个文件。%2").arg(QString::number(result.count), rest),
+                     spaceNote(result.space));
+}
+
+BatchResult BatchCommands::linkAtFreePaths(const CheckedFiles &files, const RemovalChoice &choice)
+{
+    const BatchResult result = run(Text::tr("正在移除文件… (%1/%2)"), [&](const BatchControl &control) {
+        return removeFiles(choice.method, files.paths(), choice.targetFolder, choice.linkTarget, control);
+    });
+    m_log.append({removalEvent(static_cast<int>(choice.method), result.count)});
+    return result;
 }
 
 void BatchCommands::restoreByChoice()
@@ -253,7 +329,7 @@ void BatchCommands::restore(const QString &folder, const QList<BackupEntry> &cho
         // Here, too, since a record for each of very many files takes a second.
         QList<LogEntry> records;
         for (const BackupEntry &entry : std::as_const(result.restored))
-            records.append(logEntryNow(QStringLiteral("restore"), backupLine(entry)));
+            records.append(restoredEvent(entry));
         if (!records.isEmpty())
             m_log.append(records);
         return static_cast<const BatchResult &>(result);

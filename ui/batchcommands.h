@@ -1,18 +1,18 @@
 #pragma once
 
 #include "actions/batch.h"
-#include "actions/keeprule.h"
-#include "ui/logic/resultset.h"
+#include "actions/cleaning/cleaningrun.h"
+#include "ui/logic/checkedfiles.h"
 
 #include <QObject>
 
 #include <functional>
+#include <optional>
 
 class QWidget;
 
 namespace Mirrix {
 
-class CheckedFiles;
 class OperationsLog;
 class Prompts;
 struct BackupEntry;
@@ -79,11 +79,19 @@ private:
 
     bool changeMarks(const char *status, const MarkChange &change);
     [[nodiscard]] BatchResult run(const QString &label, const Batch &batch);
-    [[nodiscard]] BatchResult runOn(const CheckedFiles &files, const QString &label, const Batch &batch,
-                                    bool isFinal = false);
+
+    /// Carries out `plan`, whose items `makeItems` makes off the interface thread. It may add refusals.
+    using ItemMaker = std::function<QList<CleaningItem>(QStringList &refusals)>;
+    [[nodiscard]] CleaningResult clean(const QString &label, CleaningPlan plan, const ItemMaker &makeItems);
+    [[nodiscard]] CleaningPlan planFor(CleaningMethod method) const;
+
+    /// The ticked files once the user has said what is to happen to groups of which no copy would stay. Nothing when
+    /// there are none, which the user is told with `noneText`, or when the user gives up.
+    [[nodiscard]] std::optional<CheckedFiles> filesToClean(const QString &noneText);
 
     void backUpAndRemove(const CheckedFiles &files, const RemovalChoice &choice);
     void removeDirectly(const CheckedFiles &files, const RemovalChoice &choice);
+    [[nodiscard]] BatchResult linkAtFreePaths(const CheckedFiles &files, const RemovalChoice &choice);
     void restore(const QString &folder, const QList<BackupEntry> &chosen);
 
     ResultSet &m_results;

@@ -1,6 +1,7 @@
 #include "ui/exportcommand.h"
 
 #include "actions/operationslog.h"
+#include "actions/records/logevents.h"
 #include "app/text.h"
 #include "core/platform/nativepath.h"
 #include "ui/dialogs/exportdialog.h"
@@ -47,7 +48,7 @@ void tellOutcome(QWidget *parent, const ExportRequest &request, const ExportOutc
             prompts.fail(parent, Text::tr("错误"), Text::tr("导出失败。") + QLatin1Char('\n') + outcome.message);
         return;
     }
-    log.append(isCopy ? QStringLiteral("export_copy") : QStringLiteral("export"), path);
+    log.append({exportedEvent(path, isCopy)});
     if (!outcome.errors.isEmpty())
         prompts.warn(parent, Text::tr("导出警告"),
                      Text::tr("部分文件未能导出：\n%1").arg(outcome.errors.join(QLatin1Char('\n'))));

@@ -1,5 +1,6 @@
 #include "ui/mirrix.h"
 
+#include "actions/records/logevents.h"
 #include "app/text.h"
 #include "app/translations.h"
 #include "core/scan/metatypes.h"
@@ -92,7 +93,7 @@ Mirrix::Mirrix(Settings &settings, Prompts &prompts, QWidget *parent)
     goToStep(0);
     m_display->showInBar(
         [this] { return Text::tr("%1 · 本地运行 · 零广告 · 图片哈希: %2").arg(modeText(), imageHashName()); });
-    m_log.append(QStringLiteral("app_start"), QStringLiteral("Mirrix started"));
+    m_log.append({programStartedEvent()});
 }
 
 Mirrix::~Mirrix()
@@ -237,10 +238,8 @@ void Mirrix::startScan()
     setScanning(true);
     goToStep(resultsStep);
     showLocked();
-    m_log.append(QStringLiteral("scan_start"), options.roots.join(QLatin1Char('|')));
+    m_log.append({scanStartedEvent(options)});
     m_scannedMode = options.searchMode;
-    m_results.isEqualContent = options.searchMode == static_cast<int>(MirrixCore::SearchMode::Files) &&
-                               options.contentMatch == static_cast<int>(MirrixCore::ContentMatch::Exact);
     applyContentHashAlgorithm(m_settings); // it may have been changed during the scan before
     m_scanThread->start(options);
 }
@@ -334,10 +333,7 @@ void Mirrix::onScanFinished(MirrixCore::ScanResult result)
     });
     constexpr int shownMs = 5000;
     m_display->showInBar([this] { return idleText(); }, shownMs);
-    m_log.append(QStringLiteral("scan_done"), QStringLiteral("groups=%1 wasted=%2 candidates=%3")
-                                                  .arg(m_results.groups.size())
-                                                  .arg(m_results.wastedBytes)
-                                                  .arg(m_results.candidates));
+    m_log.append({scanDoneEvent(m_results.groups.size(), m_results.wastedBytes, m_results.candidates)});
     if (m_settings.scanDoneBeep)
         QApplication::beep();
 }
@@ -416,7 +412,7 @@ void Mirrix::quitCompletely()
     storeLocations(m_locations->state(), m_settings);
     m_settings.window = windowMemory(*this, m_settings.window);
     m_settings.save();
-    m_log.append(QStringLiteral("app_quit"), QStringLiteral("user quit"));
+    m_log.append({programQuitEvent()});
     if (m_tray)
         m_tray->hide();
     QCoreApplication::quit();

@@ -12,21 +12,22 @@ namespace Mirrix {
 namespace {
 
 /// Texts name files, which may look like markup and may be many.
-int showBox(QMessageBox &box, const QString &text)
+int showBox(QMessageBox &box, const QString &text, const QString &note = {})
 {
     const BoxText fitted = boxText(text);
     box.setTextFormat(Qt::PlainText);
     box.setText(fitted.shown);
+    box.setInformativeText(note);
     box.setDetailedText(fitted.details);
     return box.exec();
 }
 
 } // namespace
 
-void DialogPrompts::inform(QWidget *parent, const QString &title, const QString &text)
+void DialogPrompts::inform(QWidget *parent, const QString &title, const QString &text, const QString &note)
 {
     QMessageBox box(QMessageBox::Information, title, {}, QMessageBox::Ok, parent);
-    showBox(box, text);
+    showBox(box, text, note);
 }
 
 void DialogPrompts::warn(QWidget *parent, const QString &title, const QString &text)
@@ -41,11 +42,25 @@ void DialogPrompts::fail(QWidget *parent, const QString &title, const QString &t
     showBox(box, text);
 }
 
-bool DialogPrompts::ask(QWidget *parent, const QString &title, const QString &text)
+bool DialogPrompts::ask(QWidget *parent, const QString &title, const QString &text, const QString &note)
 {
     QMessageBox box(QMessageBox::Question, title, {}, QMessageBox::Yes | QMessageBox::No, parent);
     box.setDefaultButton(QMessageBox::No);
-    return showBox(box, text) == QMessageBox::Yes;
+    return showBox(box, text, note) == QMessageBox::Yes;
+}
+
+qsizetype DialogPrompts::choose(QWidget *parent, const ChoiceRequest &request)
+{
+    QMessageBox box(QMessageBox::Question, request.title, {}, QMessageBox::NoButton, parent);
+    QList<QAbstractButton *> buttons;
+    for (const QString &label : request.buttons) {
+        const bool isLast = buttons.size() == request.buttons.size() - 1;
+        buttons.append(box.addButton(label, isLast ? QMessageBox::RejectRole : QMessageBox::AcceptRole));
+    }
+    box.setDefaultButton(qobject_cast<QPushButton *>(buttons.value(request.defaultIndex)));
+    box.setEscapeButton(buttons.constLast());
+    showBox(box, request.text);
+    return buttons.indexOf(box.clickedButton());
 }
 
 Confirmation DialogPrompts::confirm(QWidget *parent, const ConfirmationRequest &request)

@@ -25,6 +25,15 @@ struct ConfirmationRequest
     QString checkLabel;
 };
 
+/// A question with named buttons.
+struct ChoiceRequest
+{
+    QString title;
+    QString text;
+    QStringList buttons; ///< the last one is what Esc does
+    qsizetype defaultIndex = 0;
+};
+
 /// Every question the program asks and every chooser it opens goes through here, so that tests can answer them.
 /// Interface thread only; each call returns when the user has answered.
 class Prompts
@@ -32,12 +41,17 @@ class Prompts
 public:
     virtual ~Prompts() = default;
 
-    virtual void inform(QWidget *parent, const QString &title, const QString &text) = 0;
+    /// `note` is set apart below the text.
+    virtual void inform(QWidget *parent, const QString &title, const QString &text, const QString &note = {}) = 0;
     virtual void warn(QWidget *parent, const QString &title, const QString &text) = 0;
     virtual void fail(QWidget *parent, const QString &title, const QString &text) = 0;
 
     /// Asks with Yes and No, No being the default. True for Yes alone.
-    [[nodiscard]] virtual bool ask(QWidget *parent, const QString &title, const QString &text) = 0;
+    [[nodiscard]] virtual bool ask(QWidget *parent, const QString &title, const QString &text,
+                                   const QString &note = {}) = 0;
+
+    /// The index of the button that was pressed.
+    [[nodiscard]] virtual qsizetype choose(QWidget *parent, const ChoiceRequest &request) = 0;
 
     [[nodiscard]] virtual Confirmation confirm(QWidget *parent, const ConfirmationRequest &request) = 0;
 
@@ -60,10 +74,11 @@ public:
 class DialogPrompts : public Prompts
 {
 public:
-    void inform(QWidget *parent, const QString &title, const QString &text) override;
+    void inform(QWidget *parent, const QString &title, const QString &text, const QString &note = {}) override;
     void warn(QWidget *parent, const QString &title, const QString &text) override;
     void fail(QWidget *parent, const QString &title, const QString &text) override;
-    bool ask(QWidget *parent, const QString &title, const QString &text) override;
+    bool ask(QWidget *parent, const QString &title, const QString &text, const QString &note = {}) override;
+    qsizetype choose(QWidget *parent, const ChoiceRequest &request) override;
     Confirmation confirm(QWidget *parent, const ConfirmationRequest &request) override;
     QStringList chooseFiles(QWidget *parent, const QString &title, const QString &start) override;
     QString chooseFolder(QWidget *parent, const QString &title, const QString &start) override;

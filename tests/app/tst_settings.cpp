@@ -73,7 +73,8 @@ private:
             "excludeExts": [], "minFileBytes": 0, "maxFileBytes": 0, "keepRule": 0, "skipHidden": true, "skipSystemDirs": true,
             "similarThreshold": 10, "largeFileMinBytes": 104857600, "trayEnabled": true,
             "autoBackupBeforeDelete": true, "appTheme": "light", "contentHashAlgorithm": "md5", "closeToTray": true,
-            "scanDoneBeep": false, "skipScanConfirm": false, "window": {}})");
+            "scanDoneBeep": false, "skipScanConfirm": false,
+            "compareWholeContents": false, "window": {}})");
         expected.insert(u"backupRoot"_s, m_tree->path(u"Backup"_s));
         expected.insert(u"uiLanguage"_s, systemLanguageCode());
         return expected;

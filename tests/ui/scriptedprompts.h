@@ -15,21 +15,36 @@ class ScriptedPrompts : public Mirrix::Prompts
 public:
     QStringList asked; ///< "title|text" of every box, in order
 
-    QList<bool> answers; ///< for ask and run, in order
+    QStringList notes; ///< what stood below the texts of inform and ask, in order
+
+    QList<qsizetype> choices; ///< for choose, in order
+    QList<bool> answers;      ///< for ask and run, in order
     QList<Mirrix::Confirmation> confirmations;
     QList<QStringList> chosenFiles;       ///< for chooseFiles, in order
     QStringList folders;                  ///< for chooseFolder, in order
     QStringList files;                    ///< for chooseSaveFile, in order
     std::function<void(QDialog &)> onRun; ///< what the user does in a dialog before answering it
 
-    void inform(QWidget *, const QString &title, const QString &text) override { note(title, text); }
+    void inform(QWidget *, const QString &title, const QString &text, const QString &below) override
+    {
+        note(title, text);
+        notes.append(below);
+    }
     void warn(QWidget *, const QString &title, const QString &text) override { note(title, text); }
     void fail(QWidget *, const QString &title, const QString &text) override { note(title, text); }
 
-    bool ask(QWidget *, const QString &title, const QString &text) override
+    bool ask(QWidget *, const QString &title, const QString &text, const QString &below) override
     {
         note(title, text);
+        notes.append(below);
         return !answers.isEmpty() && answers.takeFirst();
+    }
+
+    /// Without a script the last button, which changes nothing.
+    qsizetype choose(QWidget *, const Mirrix::ChoiceRequest &request) override
+    {
+        note(request.title, request.text);
+        return choices.isEmpty() ? request.buttons.size() - 1 : choices.takeFirst();
     }
 
     Mirrix::Confirmation confirm(QWidget *, const Mirrix::ConfirmationRequest &request) override

@@ -54,6 +54,7 @@ FileRemovalDialog::FileRemovalDialog(qsizetype fileCount, const RemovalChoice &i
     , m_prompts(prompts)
     , m_fileCount(fileCount)
     , m_question(new QLabel)
+    , m_note(new QLabel)
     , m_methods(new QButtonGroup(this))
     , m_backUp(new QCheckBox)
 {
@@ -62,12 +63,16 @@ FileRemovalDialog::FileRemovalDialog(qsizetype fileCount, const RemovalChoice &i
     setMinimumWidth(leastWidth);
     m_question->setObjectName(QStringLiteral("RemovalQuestion"));
     m_question->setWordWrap(true);
+    m_note->setObjectName(QStringLiteral("RemovalNote"));
+    m_note->setWordWrap(true);
+    m_note->hide();
     m_backUp->setObjectName(QStringLiteral("BackUpFirstBox"));
     m_backUp->setChecked(initial.backsUpFirst);
 
     auto *column = new QVBoxLayout(this);
     column->setSpacing(12);
     column->addWidget(m_question);
+    column->addWidget(m_note);
     column->addWidget(buildMethods(initial.method));
     column->addLayout(buildInputs(initial));
     column->addWidget(m_backUp);
@@ -133,6 +138,12 @@ void FileRemovalDialog::browse()
     const QString chosen = m_prompts.chooseFolder(this, Text::tr("选择目标文件夹"), m_folder->text());
     if (!chosen.isEmpty())
         m_folder->setText(chosen);
+}
+
+void FileRemovalDialog::setNote(const QString &note)
+{
+    m_note->setText(note);
+    m_note->setVisible(!note.isEmpty());
 }
 
 void FileRemovalDialog::changeEvent(QEvent *event)

@@ -42,6 +42,9 @@ public:
 
     [[nodiscard]] RemovalChoice choice() const;
 
+    /// A line below the question; none when empty. Translated.
+    void setNote(const QString &note);
+
 protected:
     void changeEvent(QEvent *event) override;
 
@@ -54,6 +57,7 @@ private:
     Prompts &m_prompts;
     qsizetype m_fileCount;
     QLabel *m_question;
+    QLabel *m_note;
     QGroupBox *m_methodBox = nullptr;
     QButtonGroup *m_methods;
     QLabel *m_folderLabel = nullptr;

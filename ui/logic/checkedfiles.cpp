@@ -1,12 +1,10 @@
 #include "ui/logic/checkedfiles.h"
 
-#include "actions/changeguard.h"
-#include "actions/nativefile.h"
 #include "app/text.h"
 #include "core/platform/nativepath.h"
 #include "core/walk/pathrules.h"
 
-#include <QHash>
+#include <algorithm>
 
 namespace Mirrix {
 
@@ -15,15 +13,27 @@ namespace {
 using MirrixCore::DuplicateGroup;
 using MirrixCore::FileEntry;
 
-/// Index of the first unticked file of a group; -1 when all are ticked.
-qsizetype keptIn(const SelectionMarks &marks, qsizetype group, qsizetype fileCount)
+/// Index of the first unticked file of a group, one that may be kept before all others; -1 when all are ticked.
+qsizetype keptFile(const SelectionMarks &marks, qsizetype group, const QList<FileEntry> &files)
 {
-    if (marks.markedIn(group) == fileCount)
-        return -1;
-    qsizetype file = 0;
-    while (marks.isMarked(group, file))
-        ++file;
-    return file;
+    qsizetype first = -1;
+    if (marks.markedIn(group) == files.size())
+        return first;
+    for (qsizetype file = 0; file < files.size(); ++file) {
+        if (marks.isMarked(group, file))
+            continue;
+        if (MirrixCore::mayBeKept(files[file].place))
+            return file;
+        first = first < 0 ? file : first;
+    }
+    return first;
+}
+
+/// Whether a copy stays that nobody empties away.
+bool keepsCopy(const SelectionMarks &marks, qsizetype group, const QList<FileEntry> &files)
+{
+    const qsizetype kept = keptFile(marks, group, files);
+    return kept >= 0 && MirrixCore::mayBeKept(files[kept].place);
 }
 
 QString comparable(const QString &path)
@@ -49,7 +59,7 @@ qsizetype groupOf(const QString &path, const QList<DuplicateGroup> &groups)
 } // namespace
 
 CheckedFiles::CheckedFiles(const ResultSet &results)
-    : m_state(std::make_shared<const Snapshot>(Snapshot{results.groups, results.marks, results.isEqualContent}))
+    : m_state(std::make_shared<const Snapshot>(Snapshot{results.groups, results.marks}))
 {}
 
 qsizetype CheckedFiles::count() const
@@ -57,72 +67,96 @@ qsizetype CheckedFiles::count() const
     return m_state->marks.markedInAll();
 }
 
+qsizetype CheckedFiles::keptIn(qsizetype group) const
+{
+    return keptFile(m_state->marks, group, m_state->groups[group].files);
+}
+
+template <typename Visit>
+void CheckedFiles::forEachGroup(Visit visit) const
+{
+    for (qsizetype group = 0; group < m_state->marks.groupCount(); ++group) {
+        if (m_state->marks.markedIn(group) > 0)
+            visit(group);
+    }
+}
+
 template <typename Visit>
 void CheckedFiles::forEach(Visit visit) const
 {
-    const SelectionMarks &marks = m_state->marks;
-    for (qsizetype group = 0; group < marks.groupCount(); ++group) {
-        if (marks.markedIn(group) == 0)
-            continue;
+    forEachGroup([&](qsizetype group) {
+        const qsizetype kept = keptIn(group);
         for (qsizetype file = 0; file < m_state->groups[group].files.size(); ++file) {
-            if (marks.isMarked(group, file))
-                visit(group, file);
+            if (m_state->marks.isMarked(group, file))
+                visit(group, file, kept);
         }
-    }
+    });
 }
 
 QStringList CheckedFiles::paths() const
 {
     QStringList paths;
     paths.reserve(count());
-    forEach([&](qsizetype group, qsizetype file) { paths.append(m_state->groups[group].files[file].path); });
+    forEach([&](qsizetype group, qsizetype file, qsizetype) { paths.append(m_state->groups[group].files[file].path); });
     return paths;
 }
 
-PathGuard CheckedFiles::guard(bool isFinal) const
+QList<CleaningItem> CheckedFiles::items() const
 {
-    QHash<QString, std::pair<qsizetype, qsizetype>> places;
-    places.reserve(count());
-    forEach([&](qsizetype group, qsizetype file) {
-        places.insert(m_state->groups[group].files[file].path, {group, file});
+    QList<CleaningItem> items;
+    items.reserve(count());
+    forEach([&](qsizetype group, qsizetype file, qsizetype kept) {
+        items.append(cleaningItem(m_state->groups[group], file, kept));
     });
-    const auto problemOf = isFinal && m_state->isEqualContent ? finalSurplusProblem : surplusProblem;
-    return [state = m_state, problemOf, places = std::move(places)](const QString &path) {
-        const auto place = places.constFind(path);
-        if (place == places.cend())
-            return Text::tr("未勾选的文件，未处理: %1").arg(path);
-        const QList<FileEntry> &files = state->groups[place->first].files;
-        const FileEntry &file = files[place->second];
-        const qsizetype kept = keptIn(state->marks, place->first, files.size());
-        const QString problem = kept < 0 ? changeProblem(file) : problemOf(file, files[kept]);
-        if (!problem.isEmpty() && pathState(path).kind == PathState::Kind::Missing)
-            return Text::tr("文件不存在: %1").arg(path);
-        return problem;
-    };
+    return items;
 }
 
-QList<LinkReplacement> CheckedFiles::links(const QString &target, QStringList &refusals) const
+QList<CleaningItem> CheckedFiles::linkItems(const QString &target, QStringList &refusals) const
 {
-    QList<LinkReplacement> links;
+    QList<CleaningItem> items;
     const qsizetype targetGroup = groupOf(target, m_state->groups);
-    forEach([&](qsizetype group, qsizetype file) {
-        const QList<FileEntry> &files = m_state->groups[group].files;
-        const qsizetype kept = keptIn(m_state->marks, group, files.size());
+    forEach([&](qsizetype group, qsizetype file, qsizetype kept) {
+        CleaningItem item = cleaningItem(m_state->groups[group], file, kept);
+        item.linkTarget = target;
         if (targetGroup >= 0 && targetGroup != group)
-            refusals.append(Text::tr("链接目标属于另一组，未处理: %1").arg(files[file].path));
-        else if (!target.isEmpty())
-            links.append({files[file].path, target});
-        else if (kept >= 0)
-            links.append({files[file].path, files[kept].path});
+            refusals.append(Text::tr("链接目标属于另一组，未处理: %1").arg(item.file.path));
+        else if (target.isEmpty() && !item.hasKept())
+            refusals.append(Text::tr("没有可链接的保留文件，未处理: %1").arg(item.file.path));
         else
-            refusals.append(Text::tr("没有可链接的保留文件，未处理: %1").arg(files[file].path));
+            items.append(item);
     });
-    return links;
+    return items;
+}
+
+qsizetype CheckedFiles::groupsWithoutKept() const
+{
+    qsizetype count = 0;
+    forEachGroup(
+        [&](qsizetype group) { count += keepsCopy(m_state->marks, group, m_state->groups[group].files) ? 0 : 1; });
+    return count;
+}
+
+bool CheckedFiles::areContentsEqual() const
+{
+    bool areEqual = true;
+    forEachGroup([&](qsizetype group) { areEqual = areEqual && m_state->groups[group].isEqualContent; });
+    return areEqual;
 }
 
 QStringList checkedPaths(const ResultSet &results)
 {
     return CheckedFiles(results).paths();
+}
+
+void untickOneInEach(SelectionMarks &marks, const QList<DuplicateGroup> &groups, KeepRule rule)
+{
+    for (qsizetype group = 0; group < groups.size(); ++group) {
+        const QList<FileEntry> &files = groups[group].files;
+        if (marks.markedIn(group) == 0 || keepsCopy(marks, group, files))
+            continue;
+        const qsizetype kept = chooseInGroup(files, rule).kept;
+        marks.setMarked(group, std::max<qsizetype>(kept, 0), false);
+    }
 }
 
 } // namespace Mirrix

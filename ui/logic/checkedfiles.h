@@ -1,7 +1,6 @@
 #pragma once
 
-#include "actions/batch.h"
-#include "actions/linkreplacement.h"
+#include "actions/cleaning/cleaningplan.h"
 #include "ui/logic/resultset.h"
 
 #include <QList>
@@ -23,32 +22,45 @@ public:
     /// Their paths in the order of groups and files.
     [[nodiscard]] QStringList paths() const;
 
-    /// Refuses what has changed since the scan: the file itself, or the first unticked one of its group, or when both
-    /// may be one file. Costs two looks at the disk a file, or when the files are to be gone for good and groups are to
-    /// hold the same bytes, the reading of both.
-    [[nodiscard]] PathGuard guard(bool isFinal = false) const;
+    /// The same with what a run needs to know. For each, the first unticked file of its group is the copy that stays,
+    /// one that may be kept before those in bins and backups.
+    [[nodiscard]] QList<CleaningItem> items() const;
 
-    /// How links are to take the place of the files: links to `target` or, when that is empty, to the first unticked
-    /// file of the group. A file without such a one, or whose `target` belongs to another group, gets no link but a
-    /// message in `refusals`.
-    [[nodiscard]] QList<LinkReplacement> links(const QString &target, QStringList &refusals) const;
+    /// The same where links are to take the place of the files: links to `target` or, when that is empty, to the copy
+    /// that stays. A file without one, or whose `target` belongs to another group, gets no link but a message in
+    /// `refusals`.
+    [[nodiscard]] QList<CleaningItem> linkItems(const QString &target, QStringList &refusals) const;
+
+    /// How many groups have ticked files and no copy that would stay outside bins and backups.
+    [[nodiscard]] qsizetype groupsWithoutKept() const;
+
+    /// Whether each group with ticked files is one of equal contents.
+    [[nodiscard]] bool areContentsEqual() const;
 
 private:
     struct Snapshot
     {
         QList<MirrixCore::DuplicateGroup> groups;
         SelectionMarks marks;
-        bool isEqualContent;
     };
 
-    /// Calls `visit(group, file)` for the indices of each ticked file.
+    /// Calls `visit(group)` for each group with ticked files.
+    template <typename Visit>
+    void forEachGroup(Visit visit) const;
+
+    /// Calls `visit(group, file, kept)` with the indices of each ticked file.
     template <typename Visit>
     void forEach(Visit visit) const;
+
+    [[nodiscard]] qsizetype keptIn(qsizetype group) const;
 
     std::shared_ptr<const Snapshot> m_state;
 };
 
 /// The paths of the ticked files in the order of groups and files: what batches and exports work on.
 [[nodiscard]] QStringList checkedPaths(const ResultSet &results);
+
+/// Unticks one file, the one that `rule` keeps, of each group of which no copy would stay.
+void untickOneInEach(SelectionMarks &marks, const QList<MirrixCore::DuplicateGroup> &groups, KeepRule rule);
 
 } // namespace Mirrix

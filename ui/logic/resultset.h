@@ -17,7 +17,6 @@ struct ResultSet
     qint64 wastedBytes = 0;
     qint64 elapsedMs = 0;
     qint64 candidates = 0;
-    bool isEqualContent = false; ///< the files of a group are to hold the same bytes
     SelectionMarks marks;
 };
 

@@ -1,5 +1,6 @@
 #include "ui/logic/resultsmodel.h"
 
+#include "actions/cleaning/cleaningplan.h"
 #include "app/text.h"
 #include "ui/logic/bytetext.h"
 #include "ui/logic/resulttexts.h"
@@ -68,7 +69,7 @@ ResultsModel::ResultsModel(ResultSet &results, const SuffixIcons &icons, QObject
 
 void ResultsModel::markDuplicatesOf(qsizetype group)
 {
-    m_results.marks.markAllBut(group, 0);
+    m_results.marks.markOnly(group, chooseFirstInGroup(m_results.groups[group].files).surplus);
     const QModelIndex top = itemIndex(group);
     emit dataChanged(top, top.siblingAtColumn(ColumnCount - 1), {Qt::DisplayRole, MarkedCountRole});
     if (const int files = rowCount(top); files > 0)

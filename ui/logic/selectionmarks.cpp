@@ -31,17 +31,15 @@ void SelectionMarks::setMarked(qsizetype group, qsizetype file, bool marked)
     m_total += change;
 }
 
-void SelectionMarks::markAllBut(qsizetype group, qsizetype kept)
+void SelectionMarks::markOnly(qsizetype group, const QList<qsizetype> &files)
 {
     const auto number = size_t(group);
-    const qsizetype size = sizeOf(number);
-    const bool keepsOne = kept >= 0 && kept < size;
-    std::fill_n(m_marks.begin() + qsizetype(m_starts[number]), size, quint8(1));
-    if (keepsOne)
-        m_marks[m_starts[number] + size_t(kept)] = 0;
-    const qsizetype marked = keepsOne ? size - 1 : size;
-    m_total += marked - m_counts[number];
-    m_counts[number] = marked;
+    const auto start = m_marks.begin() + qsizetype(m_starts[number]);
+    std::fill_n(start, sizeOf(number), quint8(0));
+    for (const qsizetype file : files)
+        start[file] = 1;
+    m_total += files.size() - m_counts[number];
+    m_counts[number] = files.size();
 }
 
 void SelectionMarks::invert()

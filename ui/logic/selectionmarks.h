@@ -25,8 +25,8 @@ public:
     }
     void setMarked(qsizetype group, qsizetype file, bool marked);
 
-    /// Marks all files of a group but one; with `kept` -1, all.
-    void markAllBut(qsizetype group, qsizetype kept);
+    /// Marks these files of a group and no other.
+    void markOnly(qsizetype group, const QList<qsizetype> &files);
 
     /// Turns every mark over.
     void invert();

@@ -1,0 +1,125 @@
+#include "actions/cleaning/cleaningplan.h"
+
+#include <QRegularExpression>
+
+#include <array>
+#include <utility>
+
+namespace Mirrix {
+
+using MirrixCore::DuplicateGroup;
+using MirrixCore::FileEntry;
+
+namespace {
+
+/// `choose` is handed the files that may be kept and answers with an index into them.
+template <typename Choose>
+GroupChoice choice(const QList<FileEntry> &files, Choose choose)
+{
+    QList<qsizetype> places;
+    for (qsizetype i = 0; i < files.size(); ++i) {
+        if (MirrixCore::mayBeKept(files[i].place))
+            places.append(i);
+    }
+    GroupChoice result;
+    if (places.isEmpty())
+        return result;
+    if (places.size() == files.size()) {
+        result.kept = places.takeAt(choose(files));
+    } else {
+        QList<FileEntry> candidates;
+        for (const qsizetype place : std::as_const(places))
+            candidates.append(files[place]);
+        result.kept = places.takeAt(choose(candidates));
+    }
+    result.surplus = places;
+    return result;
+}
+
+/// The digest that the key of a group of equal contents begins with; rules may have added more behind a bar.
+QString digestIn(const DuplicateGroup &group)
+{
+    constexpr qsizetype md5Length = 32;
+    constexpr qsizetype blake3Length = 64;
+    const QString hex = group.key.section(QLatin1Char('|'), 0, 0);
+    static const QRegularExpression digits(QStringLiteral("^[0-9a-f]+$"));
+    if (!group.isEqualContent || !digits.match(hex).hasMatch())
+        return {};
+    return hex.size() == md5Length      ? QLatin1String("md5:") + hex
+           : hex.size() == blake3Length ? QLatin1String("blake3:") + hex
+                                        : QString();
+}
+
+} // namespace
+
+QString methodName(CleaningMethod method)
+{
+    static const std::array<QString, 8> names = {
+        QStringLiteral("recycle"),        QStringLiteral("delete"),          QStringLiteral("move"),
+        QStringLiteral("symlink"),        QStringLiteral("hardlink"),        QStringLiteral("backup"),
+        QStringLiteral("backup+symlink"), QStringLiteral("backup+hardlink"),
+    };
+    return names[static_cast<size_t>(method)];
+}
+
+bool isDestroying(CleaningMethod method)
+{
+    return method == CleaningMethod::Delete || method == CleaningMethod::SymbolicLink ||
+           method == CleaningMethod::HardLink;
+}
+
+bool isLinking(CleaningMethod method)
+{
+    return method == CleaningMethod::SymbolicLink || method == CleaningMethod::HardLink ||
+           method == CleaningMethod::BackupAndSymbolicLink || method == CleaningMethod::BackupAndHardLink;
+}
+
+bool isBackingUp(CleaningMethod method)
+{
+    return method == CleaningMethod::Backup || method == CleaningMethod::BackupAndSymbolicLink ||
+           method == CleaningMethod::BackupAndHardLink;
+}
+
+ScannedFile scannedFile(const FileEntry &file)
+{
+    return {file.path, file.size, file.modifiedMs, {file.volumeSerial, file.fileIndex, file.linkCount, file.hasFileId}};
+}
+
+CleaningItem cleaningItem(const DuplicateGroup &group, qsizetype file, qsizetype kept)
+{
+    return {scannedFile(group.files[file]),
+            kept < 0 ? ScannedFile() : scannedFile(group.files[kept]),
+            {},
+            digestIn(group),
+            group.isEqualContent};
+}
+
+QString takingFolder(const CleaningPlan &plan)
+{
+    if (plan.method == CleaningMethod::Move)
+        return plan.targetFolder;
+    return isBackingUp(plan.method) ? plan.backupFolder : QString();
+}
+
+GroupChoice chooseInGroup(const QList<FileEntry> &files, KeepRule rule)
+{
+    return choice(files, [rule](const QList<FileEntry> &candidates) { return chooseKeeper(candidates, rule); });
+}
+
+GroupChoice chooseFirstInGroup(const QList<FileEntry> &files)
+{
+    return choice(files, [](const QList<FileEntry> &) { return qsizetype(0); });
+}
+
+QList<CleaningItem> surplusByRule(const QList<DuplicateGroup> &groups, KeepRule rule)
+{
+    QList<CleaningItem> items;
+    for (const DuplicateGroup &group : groups) {
+        const GroupChoice choice = chooseInGroup(group.files, rule);
+        for (const qsizetype file : choice.surplus)
+            items.append(cleaningItem(group, file, choice.kept));
+    }
+    return items;
+}
+
+} // namespace Mirrix

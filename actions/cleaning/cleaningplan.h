@@ -1,0 +1,94 @@
+#pragma once
+
+#include "actions/keeprule.h"
+#include "core/scan/scanresult.h"
+#include "core/walk/filestatus.h"
+
+#include <QList>
+#include <QString>
+
+namespace Mirrix {
+
+/// The ways in which a surplus copy is given up.
+enum class CleaningMethod
+{
+    Recycle,
+    Delete,
+    Move,
+    SymbolicLink, ///< a link to the kept copy takes its place
+    HardLink,
+    Backup,                ///< moved into the backup folder
+    BackupAndSymbolicLink, ///< the same, then a link takes its place
+    BackupAndHardLink
+};
+
+/// The name of a method in journals and on the command line: "recycle", "backup+symlink", ...
+[[nodiscard]] QString methodName(CleaningMethod method);
+
+/// Whether the surplus copy is gone for good afterwards, so that equal content has to be proved first.
+[[nodiscard]] bool isDestroying(CleaningMethod method);
+
+/// Whether a link takes the place of the surplus copy.
+[[nodiscard]] bool isLinking(CleaningMethod method);
+
+/// Whether the surplus copy goes into the backup folder.
+[[nodiscard]] bool isBackingUp(CleaningMethod method);
+
+/// What the scan saw of a file, as far as it matters for giving it up.
+struct ScannedFile
+{
+    QString path;
+    qint64 sizeBytes = 0;
+    qint64 modifiedMs = 0;             ///< milliseconds since the Unix epoch
+    MirrixCore::FileIdentity identity; ///< unknown where the scan did not read it
+};
+
+[[nodiscard]] ScannedFile scannedFile(const MirrixCore::FileEntry &file);
+
+/// One surplus copy and the copy that stays for it.
+struct CleaningItem
+{
+    ScannedFile file;
+    ScannedFile kept;            ///< with an empty path: the user wants no copy to stay
+    QString linkTarget;          ///< where a link is to lead, other than to the kept copy; usually empty
+    QString digest;              ///< of the content as the scan knew it, "md5:HEX" or "blake3:HEX"; empty = unknown
+    bool isEqualContent = false; ///< both are to hold the same bytes, which is looked at before anything is done
+
+    [[nodiscard]] bool hasKept() const { return !kept.path.isEmpty(); }
+};
+
+/// The item for a file of a group; `kept` is its index or -1.
+[[nodiscard]] CleaningItem cleaningItem(const MirrixCore::DuplicateGroup &group, qsizetype file, qsizetype kept);
+
+/// What a run is to do. A plain value: nothing has been done yet.
+struct CleaningPlan
+{
+    CleaningMethod method = CleaningMethod::Recycle;
+    QString targetFolder;               ///< of Move
+    QString backupFolder;               ///< absolute; also lists what is set aside while it is worked on
+    bool comparesWholeContents = false; ///< before moving, too, not only before destroying
+    bool isBackupBeforeRemoval = false; ///< backed up because the user asked for that in the removal dialog
+    QList<CleaningItem> items;
+};
+
+/// The folder into which a plan moves files; empty when it moves none.
+[[nodiscard]] QString takingFolder(const CleaningPlan &plan);
+
+/// Which file of a group stays by a rule, and which ones go. Files that lie where copies are put away neither stay nor
+/// go by a rule.
+struct GroupChoice
+{
+    qsizetype kept = -1; ///< -1: no file of the group may be kept
+    QList<qsizetype> surplus;
+};
+
+/// Pure; thread-safe, as all of this header.
+[[nodiscard]] GroupChoice chooseInGroup(const QList<MirrixCore::FileEntry> &files, KeepRule rule);
+
+/// The same, keeping the first file that may be kept.
+[[nodiscard]] GroupChoice chooseFirstInGroup(const QList<MirrixCore::FileEntry> &files);
+
+/// The surplus files of all groups by a rule, in the groups' order.
+[[nodiscard]] QList<CleaningItem> surplusByRule(const QList<MirrixCore::DuplicateGroup> &groups, KeepRule rule);
+
+} // namespace Mirrix

@@ -1,0 +1,115 @@
+#include "actions/cleaning/cleaningrun.h"
+
+#include "actions/cleaning/cleaningrecord.h"
+#include "actions/cleaning/folderaliases.h"
+#include "actions/cleaning/itemchecks.h"
+#include "actions/cleaning/recycling.h"
+#include "actions/cleaning/targetfolder.h"
+#include "actions/cleaning/transfer.h"
+#include "actions/movefile.h"
+#include "actions/nativefile.h"
+
+#include <QCoreApplication>
+
+namespace Mirrix {
+
+namespace {
+
+/// A run under way.
+class Run
+{
+public:
+    Run(const CleaningPlan &plan, const CleaningServices &services, const BatchProgress &progress)
+        : m_plan(plan)
+        , m_services(services)
+        , m_progress(progress)
+        , m_record(plan, services.log)
+        , m_target(takingFolder(plan))
+        , m_account(plan.method, takingFolder(plan))
+    {}
+
+    CleaningResult run()
+    {
+        m_result.errors = m_record.begin();
+        if (!m_result.errors.isEmpty())
+            return m_result;
+        const qsizetype step = m_plan.method == CleaningMethod::Recycle ? m_services.bin.batchSize : 1;
+        for (qsizetype i = 0; i < m_plan.items.size(); i += step) {
+            m_result.isCancelled = !mayGoOn(i);
+            if (m_result.isCancelled)
+                break;
+            handle(i, m_plan.items.mid(i, step));
+        }
+        m_result.space = m_account.total();
+        m_result.errors += m_record.end(m_result.count);
+        return m_result;
+    }
+
+private:
+    [[nodiscard]] bool mayGoOn(qsizetype done) const { return !m_progress || m_progress(done, m_plan.items.size()); }
+
+    void handle(qsizetype first, const QList<CleaningItem> &items)
+    {
+        QList<PathState> before;
+        for (const CleaningItem &item : items)
+            before.append(pathState(item.file.path));
+        const StopQuery isStopped = [this, first] { return !mayGoOn(first); };
+        const QList<CleaningOutcome> outcomes = m_plan.method == CleaningMethod::Recycle
+                                                    ? recycleBatch(items, isStopped)
+                                                    : QList{clean(items.constFirst(), first, isStopped)};
+        for (qsizetype i = 0; i < items.size(); ++i)
+            note(first + i, before[i], outcomes[i]);
+    }
+
+    [[nodiscard]] QList<CleaningOutcome> recycleBatch(const QList<CleaningItem> &items, const StopQuery &isStopped)
+    {
+        const auto isAlias = [this](const CleaningItem &item) { return m_aliases.isSameFile(item); };
+        return recycle(m_services.bin, items, {m_plan.comparesWholeContents, isStopped, isAlias}, m_result.errors);
+    }
+
+    [[nodiscard]] CleaningOutcome clean(const CleaningItem &item, qsizetype index, const StopQuery &isStopped)
+    {
+        if (m_target.holds(item.file.path))
+            return {QCoreApplication::translate("Mirrix", "目标文件夹包含该文件，未处理: %1").arg(item.file.path), {}};
+        if (isDestroying(m_plan.method))
+            return discard(item, m_plan.method, m_record.placeOf(index), m_durable, isStopped);
+        if (m_aliases.isSameFile(item))
+            return {sameFileText(item.file.path), {}};
+        if (m_plan.method != CleaningMethod::Move)
+            return transfer(item, m_plan.method, m_record.placeOf(index), m_plan.comparesWholeContents, isStopped);
+        if (!makeFolders(m_plan.targetFolder))
+            return {QCoreApplication::translate("Mirrix", "无法创建目标目录: %1").arg(m_plan.targetFolder), {}};
+        return transfer(item, m_plan.method, joinedPath(m_plan.targetFolder, fileNameOf(item.file.path)),
+                        m_plan.comparesWholeContents, isStopped);
+    }
+
+    void note(qsizetype index, const PathState &before, const CleaningOutcome &outcome)
+    {
+        m_record.note(index, outcome);
+        if (!outcome.problem.isEmpty()) {
+            m_result.errors.append(outcome.problem);
+            return;
+        }
+        ++m_result.count;
+        m_account.add(before.sizeBytes, before.identity);
+    }
+
+    const CleaningPlan &m_plan;
+    const CleaningServices &m_services;
+    const BatchProgress &m_progress;
+    CleaningRecord m_record;
+    TargetFolder m_target;
+    FolderAliases m_aliases;
+    SpaceAccount m_account;
+    DurableFiles m_durable;
+    CleaningResult m_result;
+};
+
+} // namespace
+
+CleaningResult runCleaning(const CleaningPlan &plan, const CleaningServices &services, const BatchProgress &progress)
+{
+    return Run(plan, services, progress).run();
+}
+
+} // namespace Mirrix

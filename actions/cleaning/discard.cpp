@@ -1,0 +1,139 @@
+#include "actions/cleaning/discard.h"
+
+#include "actions/cleaning/itemchecks.h"
+#include "actions/fileoperations.h"
+#include "actions/movefile.h"
+
+#include <QCoreApplication>
+
+namespace Mirrix {
+
+namespace {
+
+QString text(const char *source, const QString &path)
+{
+    return QCoreApplication::translate("Mirrix", source).arg(path);
+}
+
+QString undeletableText(const CleaningItem &item)
+{
+    return text(QT_TRANSLATE_NOOP("Mirrix", "无法删除: %1"), item.file.path);
+}
+
+/// One surplus file that stands aside, and what is done with it.
+class Discard
+{
+public:
+    Discard(const CleaningItem &item, CleaningMethod method, const QString &asidePath)
+        : m_item(item)
+        , m_method(method)
+        , m_asidePath(asidePath)
+    {}
+
+    /// What speaks against removing the file; everything up to the flush.
+    [[nodiscard]] QString proofProblem(DurableFiles &durable, const StopQuery &isStopped)
+    {
+        QString problem = keptProblem(m_item, m_asidePath);
+        if (!problem.isEmpty())
+            return problem;
+        if (!m_surplus.open(m_asidePath, HeldFile::Purpose::Remove))
+            return m_surplus.isInUse() ? inUseText(m_item.file.path) : undeletableText(m_item);
+        if (!m_item.hasKept())
+            return {};
+        if (!m_kept.open(m_item.kept.path, HeldFile::Purpose::Keep))
+            return m_kept.isInUse() ? inUseText(m_item.kept.path) : keptProblem(m_item, m_asidePath);
+        problem = comparisonProblem(isStopped);
+        if (problem.isEmpty() && !durable.ensure(m_kept, m_item.kept.path))
+            problem = text(QT_TRANSLATE_NOOP("Mirrix", "无法确保要保留的文件已写入磁盘，未处理: %1"), m_item.file.path);
+        return problem.isEmpty() ? changeProblem() : problem;
+    }
+
+    /// Removes the file, after the link stands where there is to be one.
+    [[nodiscard]] QString act()
+    {
+        if (isLinking(m_method)) {
+            QString problem = linkProblem();
+            if (!problem.isEmpty())
+                return problem;
+        }
+        if (m_surplus.remove(m_asidePath) || pathState(m_asidePath).kind == PathState::Kind::Missing)
+            return {};
+        if (isLinking(m_method) && leadsTo(m_item.file.path, linkTarget())) // ours, not another program's
+            static_cast<void>(removeFile(m_item.file.path));
+        return undeletableText(m_item);
+    }
+
+    [[nodiscard]] CleaningOutcome putBack(const QString &problem)
+    {
+        m_surplus.close();
+        m_kept.close();
+        if (renameExclusively(m_asidePath, m_item.file.path) == FileFault::None)
+            return {problem, {}};
+        const QString where = text(QT_TRANSLATE_NOOP("Mirrix", "原文件未能放回，可从备份中恢复: %1"), m_item.file.path);
+        return {problem + QLatin1Char('\n') + where, m_asidePath};
+    }
+
+private:
+    [[nodiscard]] QString comparisonProblem(const StopQuery &isStopped)
+    {
+        if (!m_item.isEqualContent)
+            return {};
+        const Comparison comparison = compareContents(m_surplus, m_kept, isStopped);
+        if (comparison == Comparison::Stopped)
+            return stoppedText(m_item.file.path);
+        return comparison == Comparison::Equal ? QString() : differsText(m_item.file.path);
+    }
+
+    /// Whether both still are what was compared, at their places.
+    [[nodiscard]] QString changeProblem() const
+    {
+        if (!m_surplus.isUnchanged())
+            return changedText(m_item.file.path);
+        if (!m_kept.isUnchanged() || !m_kept.isAt(m_item.kept.path))
+            return text(QT_TRANSLATE_NOOP("Mirrix", "要保留的文件已更改，未处理: %1"), m_item.file.path);
+        return {};
+    }
+
+    [[nodiscard]] QString linkProblem() const
+    {
+        QString problem;
+        const bool isMade = m_method == CleaningMethod::HardLink
+                                ? createHardLink(m_item.file.path, linkTarget(), &problem)
+                                : createSymbolicLink(m_item.file.path, linkTarget(), &problem);
+        // Between the last look at the kept file and the making of the link another may have taken its place.
+        if (isMade && m_kept.isAt(m_item.kept.path))
+            return {};
+        if (isMade)
+            static_cast<void>(removeFile(m_item.file.path));
+        return isMade ? text(QT_TRANSLATE_NOOP("Mirrix", "要保留的文件已更改，未处理: %1"), m_item.file.path) : problem;
+    }
+
+    [[nodiscard]] QString linkTarget() const { return m_item.kept.path; }
+
+    const CleaningItem &m_item;
+    CleaningMethod m_method;
+    QString m_asidePath;
+    HeldFile m_surplus;
+    HeldFile m_kept;
+};
+
+} // namespace
+
+CleaningOutcome discard(const CleaningItem &item, CleaningMethod method, const QString &asidePath,
+                        DurableFiles &durable, const StopQuery &isStopped)
+{
+    QString problem = itemProblem(item);
+    if (problem.isEmpty() && isLinking(method))
+        problem = accessProblem(item.file.path, item.kept.path);
+    if (!problem.isEmpty())
+        return {problem, {}};
+    if (pathState(item.file.path).isUndeletable || renameExclusively(item.file.path, asidePath) != FileFault::None)
+        return {undeletableText(item), {}};
+    Discard step(item, method, asidePath);
+    problem = step.proofProblem(durable, isStopped);
+    if (problem.isEmpty())
+        problem = step.act();
+    return problem.isEmpty() ? CleaningOutcome() : step.putBack(problem);
+}
+
+} // namespace Mirrix

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "actions/cleaning/cleaningplan.h"
+#include "actions/cleaning/durablefiles.h"
+#include "actions/heldfile.h"
+
+#include <QString>
+
+namespace Mirrix {
+
+/// What working on one file came to.
+struct CleaningOutcome
+{
+    QString problem; ///< why nothing was done, translated; empty when the file was dealt with
+    QString now;     ///< where the file is, when that is neither its old place nor nowhere
+};
+
+/// Destroys the surplus file of `item`, or puts a link in its place, once it is proved that the kept file is another
+/// file with the same bytes, on the disk: the surplus file is set aside under `asidePath` in its own folder; the kept
+/// one must still be there; both are held open and compared; nobody may have written into either meanwhile; the kept
+/// file is flushed; only then the surplus file is removed. Whatever fails puts it back. Where that fails, too, `now` is
+/// `asidePath`. Two programs with contrary wishes can not remove both files: each has to find its kept file in place
+/// after it has set its own aside. In a group that is not one of equal contents the comparison is left out, and without
+/// a kept file everything about it. Blocks for as long as reading both files takes; `isStopped` ends that.
+[[nodiscard]] CleaningOutcome discard(const CleaningItem &item, CleaningMethod method, const QString &asidePath,
+                                      DurableFiles &durable, const StopQuery &isStopped);
+
+} // namespace Mirrix

@@ -1,0 +1,66 @@
+#include "actions/cleaning/recycling.h"
+
+#include "actions/cleaning/itemchecks.h"
+#include "actions/nativefile.h"
+
+#include <QCoreApplication>
+
+namespace Mirrix {
+
+namespace {
+
+QString text(const char *source, const QString &path)
+{
+    return QCoreApplication::translate("Mirrix", source).arg(path);
+}
+
+QString obstacle(const RecycleBin &bin, const CleaningItem &item, const RecyclingChecks &checks)
+{
+    QString problem = itemProblem(item);
+    if (problem.isEmpty() && checks.isAlias(item))
+        problem = sameFileText(item.file.path);
+    if (problem.isEmpty() && !bin.canTake(item.file.path))
+        problem = text(QT_TRANSLATE_NOOP("Mirrix", "无法放入回收站，已保留: %1"), item.file.path);
+    return problem.isEmpty() ? contentProblem(item, checks.comparesWholeContents, checks.isStopped) : problem;
+}
+
+/// What has become of a file that was handed to the bin.
+CleaningOutcome outcomeOf(const RecycleBin &bin, const CleaningItem &item, const QString &placed)
+{
+    if (pathState(item.file.path).kind != PathState::Kind::Missing)
+        return {text(QT_TRANSLATE_NOOP("Mirrix", "未移入回收站，仍在原处: %1"), item.file.path), {}};
+    const QString problem = keptProblem(item, placed);
+    if (problem.isEmpty())
+        return {{}, placed};
+    if (bin.putBack && bin.putBack(item.file.path, placed))
+        return {problem, {}};
+    const QString where = text(QT_TRANSLATE_NOOP("Mirrix", "文件仍在回收站中，可从那里恢复: %1"), item.file.path);
+    return {problem + QLatin1Char('\n') + where, placed};
+}
+
+} // namespace
+
+QList<CleaningOutcome> recycle(const RecycleBin &bin, const QList<CleaningItem> &items, const RecyclingChecks &checks,
+                               QStringList &batchErrors)
+{
+    QList<CleaningOutcome> outcomes(items.size());
+    QStringList batch;
+    QList<qsizetype> sent;
+    for (qsizetype i = 0; i < items.size(); ++i) {
+        outcomes[i].problem = obstacle(bin, items[i], checks);
+        if (!outcomes[i].problem.isEmpty())
+            continue;
+        batch.append(items[i].file.path);
+        sent.append(i);
+    }
+    if (batch.isEmpty())
+        return outcomes;
+    const RecycleBin::Answer answer = bin.send(batch);
+    if (answer.code != 0 || answer.isAborted)
+        batchErrors.append(binFailureText(answer.code, batch.size()));
+    for (qsizetype i = 0; i < sent.size(); ++i)
+        outcomes[sent[i]] = outcomeOf(bin, items[sent[i]], answer.placed.value(i));
+    return outcomes;
+}
+
+} // namespace Mirrix

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "actions/cleaning/discard.h"
+#include "actions/recyclebin.h"
+
+#include <QList>
+#include <QStringList>
+
+#include <functional>
+
+namespace Mirrix {
+
+/// What is looked at before a file is handed to the bin.
+struct RecyclingChecks
+{
+    bool comparesWholeContents = false;
+    StopQuery isStopped;
+    std::function<bool(const CleaningItem &)> isAlias; ///< whether surplus and kept file are one
+};
+
+/// Sends the surplus files of `items`, at most as many as one call of the bin takes, to the bin. Before, each is
+/// compared with its kept file, in samples or in all bytes; afterwards the kept file must still be there, else the
+/// surplus file comes back. The outcomes are in the order of the items; `batchErrors` gets what the bin says of the
+/// whole batch. The disk, not the bin's answer, tells what was done. Blocks.
+[[nodiscard]] QList<CleaningOutcome> recycle(const RecycleBin &bin, const QList<CleaningItem> &items,
+                                             const RecyclingChecks &checks, QStringList &batchErrors);
+
+} // namespace Mirrix

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+namespace Mirrix {
+
+/// Whether the same people may do the same with both files: owner, group, permission bits and access lists agree, as
+/// far as the system has them. What cannot be read counts as different. Follows links. Thread-safe.
+[[nodiscard]] bool haveSameAccess(const QString &one, const QString &other);
+
+} // namespace Mirrix

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "actions/cleaning/cleaningplan.h"
+#include "actions/operationslog.h"
+#include "core/scan/scanoptions.h"
+#include "core/scan/scanresult.h"
+
+#include <QString>
+
+namespace Mirrix {
+
+struct BackupEntry;
+
+// The records of the operations log, each with the current time. The names and the form of the details are read by
+// other programs.
+
+[[nodiscard]] LogEntry programStartedEvent();
+[[nodiscard]] LogEntry programQuitEvent();
+[[nodiscard]] LogEntry scanStartedEvent(const MirrixCore::ScanOptions &options);
+[[nodiscard]] LogEntry scanDoneEvent(qsizetype groupCount, qint64 wastedBytes, qint64 candidates);
+
+/// `count` files were marked by a rule.
+[[nodiscard]] LogEntry markedByRuleEvent(KeepRule rule, qsizetype count);
+
+/// A plan was carried out on `count` files.
+[[nodiscard]] LogEntry cleaningEvent(const CleaningPlan &plan, qsizetype count);
+
+/// Removal by a method, number as in the removal dialog.
+[[nodiscard]] LogEntry removalEvent(int method, qsizetype count);
+
+[[nodiscard]] LogEntry restoredEvent(const BackupEntry &entry);
+
+/// A list was written to, or copies were made in, `path`.
+[[nodiscard]] LogEntry exportedEvent(const QString &path, bool isCopy);
+
+} // namespace Mirrix

@@ -1,0 +1,420 @@
+#include "actions/backupstore.h"
+#include "actions/cleaning/cleaningrun.h"
+#include "actions/operationslog.h"
+#include "core/walk/filestatus.h"
+#include "tests/support/disk.h"
+#include "tests/support/probes.h"
+#include "tests/support/temptree.h"
+
+#include <QScopeGuard>
+#include <QTest>
+
+#include <memory>
+#include <set>
+#include <thread>
+
+using namespace Mirrix;
+using namespace MirrixTest;
+using namespace Qt::StringLiterals;
+using MirrixCore::FileEntry;
+using MirrixCore::FilePlace;
+
+namespace {
+
+const QList<CleaningMethod> allMethods = {CleaningMethod::Recycle,
+                                          CleaningMethod::Delete,
+                                          CleaningMethod::Move,
+                                          CleaningMethod::SymbolicLink,
+                                          CleaningMethod::HardLink,
+                                          CleaningMethod::Backup,
+                                          CleaningMethod::BackupAndSymbolicLink,
+                                          CleaningMethod::BackupAndHardLink};
+
+ScannedFile scanned(const QString &path)
+{
+    const MirrixCore::FileStatus status = MirrixCore::fileStatus(path);
+    return {path, status.sizeBytes, status.modifiedMs, status.identity};
+}
+
+/// A bin that keeps what it is sent in a folder of the tree.
+RecycleBin folderBin(const QString &folder)
+{
+    RecycleBin bin;
+    bin.canTake = [](const QString &) { return true; };
+    bin.send = [folder](const QStringList &paths) {
+        RecycleBin::Answer answer;
+        for (const QString &path : paths) {
+            answer.placed.append(folder + u'/' + QFileInfo(path).fileName());
+            QDir().mkpath(folder);
+            answer.code += QFile::rename(path, answer.placed.constLast()) ? 0 : 1;
+        }
+        return answer;
+    };
+    bin.putBack = [](const QString &path, const QString &placed) { return QFile::rename(placed, path); };
+    return bin;
+}
+
+std::set<QByteArray> contentsBelow(const QString &folder)
+{
+    std::set<QByteArray> contents;
+    QDirIterator it(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (it.hasNext())
+        contents.insert(contentOf(it.next()));
+    return contents;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(CleaningMethod)
+
+class CleaningTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void byMethod_data() { methods(); }
+    void byMethod();
+    void anotherProgramMeanwhile_data();
+    void anotherProgramMeanwhile();
+    void leavesAlone_data();
+    void leavesAlone();
+    void aliasOfOneFile_data() { methods(); }
+    void aliasOfOneFile();
+    void contraryPrograms_data() { methods(); }
+    void contraryPrograms();
+    void nothingUnrecorded_data() { methods(); }
+    void nothingUnrecorded();
+    void space();
+    void putAwayCopiesAreNotKept();
+
+private:
+    static void methods()
+    {
+        QTest::addColumn<CleaningMethod>("method");
+        for (const CleaningMethod method : allMethods)
+            QTest::newRow(qPrintable(methodName(method))) << method;
+    }
+    [[nodiscard]] QString path(const char *name) const { return m_tree->path(QLatin1String(name)); }
+    [[nodiscard]] bool canLink(CleaningMethod method) const
+    {
+        const bool isSymbolic =
+            method == CleaningMethod::SymbolicLink || method == CleaningMethod::BackupAndSymbolicLink;
+        return !isSymbolic || m_tree->symbolicLink(u"src/kept"_s, u"probe"_s);
+    }
+    [[nodiscard]] CleaningPlan plan(CleaningMethod method) const
+    {
+        CleaningPlan plan;
+        plan.method = method;
+        plan.targetFolder = path("target");
+        plan.backupFolder = path("store");
+        plan.comparesWholeContents = m_comparesWholeContents;
+        plan.items = {{scanned(path("src/copy")), scanned(path("src/kept")), {}, {}, true}};
+        return plan;
+    }
+    [[nodiscard]] CleaningResult run(const CleaningPlan &plan, const BatchProgress &progress = {}) const
+    {
+        OperationsLog log(path("data/log"));
+        return runCleaning(plan, {log, folderBin(path("bin"))}, progress);
+    }
+
+    std::unique_ptr<TempTree> m_tree;
+    bool m_comparesWholeContents = true;
+};
+
+void CleaningTest::init()
+{
+    m_tree = std::make_unique<TempTree>();
+    m_tree->write(u"src/kept"_s, "same");
+    m_tree->write(u"src/copy"_s, "same");
+    m_tree->setModified(u"src/copy"_s, 1234567890123);
+    m_comparesWholeContents = true;
+}
+
+void CleaningTest::byMethod()
+{
+    QFETCH(CleaningMethod, method);
+    if (!canLink(method))
+        QSKIP("no symbolic links");
+    const DiskTree before = treeBelow(path("src"));
+    DiskTree expected = before;
+    const QByteArray copy = expected.take(u"copy"_s);
+    const bool isSymbolic = methodName(method).endsWith(u"symlink"_s);
+    if (isLinking(method))
+        expected[u"copy"_s] = (isSymbolic ? "link to " : "") + expected[u"kept"_s];
+    const CleaningResult result = run(plan(method));
+    QCOMPARE(result.errors, QStringList());
+    QCOMPARE(result.count, 1);
+    QCOMPARE(treeBelow(path("src")), expected);
+    if (method == CleaningMethod::SymbolicLink && namesAreBytes)
+        QCOMPARE(QString::fromStdString(std::filesystem::read_symlink(exactNative(path("src/copy"))).string()),
+                 u"kept"_s);
+    QCOMPARE(treeBelow(path("bin")).value(u"copy"_s), method == CleaningMethod::Recycle ? copy : QByteArray());
+    QCOMPARE(treeBelow(path("target")).value(u"copy"_s), method == CleaningMethod::Move ? copy : QByteArray());
+    const QList<BackupEntry> kept = restorableEntries(path("store"));
+    QCOMPARE(kept.size(), isBackingUp(method) ? 1 : 0);
+    if (!kept.isEmpty()) {
+        QFile::remove(path("src/copy"));
+        QVERIFY(restoreBackup(path("store"), kept.constFirst()));
+        QCOMPARE(treeBelow(path("src")), before);
+    }
+}
+
+void CleaningTest::anotherProgramMeanwhile_data()
+{
+    QTest::addColumn<CleaningMethod>("method");
+    QTest::addColumn<QString>("event");
+    for (const CleaningMethod method : allMethods) {
+        for (const char *event : {"kept removed", "kept replaced", "kept written", "kept open", "surplus written",
+                                  "surplus open", "stopped"})
+            QTest::addRow("%s, %s", qPrintable(methodName(method)), event) << method << QString::fromLatin1(event);
+    }
+}
+
+/// While the contents are compared, another program acts. Whatever it has written, and what was there, must still be
+/// somewhere, and what is told must be so.
+void CleaningTest::anotherProgramMeanwhile()
+{
+    QFETCH(CleaningMethod, method);
+    QFETCH(QString, event);
+    if (!canLink(method))
+        QSKIP("no symbolic links");
+    const QByteArray content = patternBytes(8 << 20);
+    for (const char *name : {"src/kept", "src/copy"})
+        m_tree->write(QLatin1String(name), content);
+    std::set<QByteArray> contents = {content};
+    QByteArray edited = content;
+    edited[0] = 'e';
+    QProcess editor; // on Linux it has to wait until the file is let go
+    const auto write = [&](const QString &file) {
+        if (QFile device(file); !namesAreBytes && device.open(QIODevice::ReadWrite) && device.putChar('e'))
+            contents.insert(edited);
+        if (!namesAreBytes)
+            return;
+        editor.start(u"sh"_s, {u"-c"_s, u"echo; printf e | dd of=\"$0\" conv=notrunc,nocreat"_s, file});
+        QVERIFY(editor.waitForReadyRead());
+    };
+    QFile early(event == u"kept open" ? path("src/kept") : path("src/copy"));
+    QVERIFY(!event.endsWith(u"open"_s) || early.open(QIODevice::ReadWrite));
+    int asked = 0;
+    const CleaningResult result = run(plan(method), [&](qsizetype, qsizetype) {
+        if (++asked != 2)
+            return true;
+        const QStringList aside = QDir(path("src")).entryList({u".mirrix-*"_s}, QDir::Files | QDir::Hidden);
+        const QString surplus = aside.isEmpty() ? path("src/copy") : path("src/") + aside.constFirst();
+        if (event == u"kept removed" || event == u"kept replaced")
+            static_cast<void>(QFile::remove(path("src/kept")));
+        if (event == u"kept replaced" && !QFile::exists(path("src/kept")))
+            m_tree->write(u"src/kept"_s, "new");
+        if (event.endsWith(u"written"_s))
+            write(event.startsWith(u"kept"_s) ? path("src/kept") : surplus);
+        if (early.isOpen() && early.putChar('e') && early.flush())
+            contents.insert(edited);
+        return event != u"stopped";
+    });
+    if (editor.state() != QProcess::NotRunning)
+        QVERIFY(editor.waitForFinished());
+    if (event.endsWith(u"written"_s) && namesAreBytes && editor.exitCode() == 0)
+        contents.insert(edited);
+    if (event == u"kept written" && result.count == 1 && contents.size() > 1)
+        contents.erase(content); // written when everything was over
+    QVERIFY(asked >= 2 || early.isOpen());
+    const std::set<QByteArray> found = contentsBelow(m_tree->path());
+    for (const QByteArray &each : contents)
+        QVERIFY2(found.count(each) > 0, qPrintable(u"lost; said: "_s + result.errors.join(u'\n')));
+    const bool isAtHome = contentOf(path("src/copy")).size() == content.size();
+    QVERIFY(result.count == 1 || (isAtHome && !result.errors.isEmpty()));
+    QCOMPARE(QDir(path("src")).entryList({u".mirrix-*"_s}, QDir::Files | QDir::Hidden), QStringList());
+    QCOMPARE(restorableEntries(path("store")).size(), isBackingUp(method) ? result.count : 0);
+}
+
+void CleaningTest::leavesAlone_data()
+{
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<QString>("message"); // %1: the surplus file
+    const QString same = u"与要保留的文件可能是同一个文件，未处理: %1"_s;
+    const QString changed = u"文件在扫描后已更改，已保留: %1"_s;
+    const QString keptChanged = u"要保留的文件已更改，未处理: %1"_s;
+    QTest::newRow("surplus gone") << u"rm copy"_s << u"文件不存在: %1"_s;
+    QTest::newRow("surplus longer") << u"longer copy"_s << changed;
+    QTest::newRow("surplus now a link") << u"link copy"_s << changed;
+    QTest::newRow("kept gone") << u"rm kept"_s << keptChanged;
+    QTest::newRow("kept longer") << u"longer kept"_s << keptChanged;
+    QTest::newRow("one file by two names") << u"hardlink"_s << same;
+    QTest::newRow("same size and time, other content") << u"sneak copy"_s << u"内容与要保留的文件不同，已保留: %1"_s;
+    QTest::newRow("kept of same size and time, other content")
+        << u"sneak kept"_s << u"内容与要保留的文件不同，已保留: %1"_s;
+}
+
+/// By every method, whatever the setting on whole contents.
+void CleaningTest::leavesAlone()
+{
+    QFETCH(QString, change);
+    QFETCH(QString, message);
+    const QString verb = change.section(u' ', 0, 0);
+    const QString name = u"src/"_s + change.section(u' ', 1);
+    if (verb == u"hardlink" && !(QFile::remove(path("src/copy")) && m_tree->hardLink(u"src/kept"_s, u"src/copy"_s)))
+        QSKIP("no hard links");
+    const CleaningPlan made = plan(CleaningMethod::Delete);
+    if (verb == u"rm" || verb == u"link")
+        QVERIFY(QFile::remove(m_tree->path(name)));
+    if (verb == u"link" && !m_tree->symbolicLink(u"src/kept"_s, name))
+        QSKIP("no symbolic links");
+    if (verb == u"longer")
+        m_tree->write(name, "longer");
+    if (verb == u"sneak") {
+        const qint64 modifiedMs = MirrixCore::fileStatus(m_tree->path(name)).modifiedMs;
+        m_tree->write(name, "diff");
+        m_tree->setModified(name, modifiedMs);
+    }
+    const DiskTree before = treeBelow(path("src"));
+    for (const CleaningMethod method : allMethods) {
+        for (const bool isWhole : {false, true}) {
+            CleaningPlan tried = made;
+            tried.method = method;
+            tried.comparesWholeContents = isWhole;
+            const CleaningResult result = run(tried);
+            QCOMPARE(treeBelow(path("src")), before);
+            QCOMPARE(result.count, 0);
+            QVERIFY(restorableEntries(path("store")).isEmpty());
+            const bool isLinkToNothing = isLinking(method) && result.errors.constFirst().contains(u"链接目标"_s);
+            QVERIFY2(isLinkToNothing || result.errors == QStringList(message.arg(path("src/copy"))),
+                     qPrintable(result.errors.join(u'\n')));
+        }
+    }
+}
+
+/// A folder and an overlay of it show one file under two device numbers.
+void CleaningTest::aliasOfOneFile()
+{
+    QFETCH(CleaningMethod, method);
+    const QString root = qEnvironmentVariable("MIRRIX_ALIASES");
+    if (root.isEmpty()) {
+        const QString script =
+            u"mkdir -p lower upper work merged; echo only >upper/file; mount -t overlay overlay -o "
+            "lowerdir=lower,upperdir=upper,workdir=work merged || exit 77; MIRRIX_ALIASES=\"$PWD\" exec \"$0\" \"$1\""_s;
+        QProcess process;
+        process.setWorkingDirectory(m_tree->path());
+        process.start(u"unshare"_s, {u"-m"_s, u"sh"_s, u"-c"_s, script, QCoreApplication::applicationFilePath(),
+                                     u"aliasOfOneFile:"_s + methodName(method)});
+        process.waitForFinished();
+        if (process.error() == QProcess::FailedToStart || process.exitCode() == 77)
+            QSKIP("cannot mount an overlay");
+        QVERIFY2(process.exitCode() == 0, process.readAll().constData());
+        return;
+    }
+    CleaningPlan aliased = plan(method);
+    aliased.items = {{scanned(root + u"/upper/file"_s), scanned(root + u"/merged/file"_s), {}, {}, true}};
+    QVERIFY(aliased.items[0].file.identity.isOtherThan(aliased.items[0].kept.identity));
+    for (const bool isTurned : {false, true}) {
+        if (isTurned)
+            std::swap(aliased.items[0].file, aliased.items[0].kept);
+        const CleaningResult result = run(aliased);
+        QCOMPARE(result.count, 0);
+        QCOMPARE(contentOf(root + u"/upper/file"_s), QByteArray("only\n"));
+        QCOMPARE(contentOf(root + u"/merged/file"_s), QByteArray("only\n"));
+        QCOMPARE(QDir(root + u"/upper"_s).entryList(QDir::Files | QDir::Hidden), QStringList(u"file"_s));
+    }
+}
+
+/// Each of two programs takes the other's kept file for surplus.
+void CleaningTest::contraryPrograms()
+{
+    QFETCH(CleaningMethod, method);
+    if (!canLink(method))
+        QSKIP("no symbolic links");
+    constexpr int rounds = 25; // for each of eight methods
+    const QByteArray content = patternBytes(200000);
+    for (int round = 0; round < rounds; ++round) {
+        const QString folder = u"round%1/"_s.arg(round);
+        const ScannedFile one = scanned(m_tree->write(folder + u"one"_s, content));
+        const ScannedFile other = scanned(m_tree->write(folder + u"other"_s, content));
+        std::array<CleaningResult, 2> results;
+        const auto clean = [&](size_t number) {
+            CleaningPlan mine = plan(method);
+            mine.backupFolder += QString::number(number);
+            mine.targetFolder += QString::number(number) + QString::number(round);
+            mine.items = {{number ? one : other, number ? other : one, {}, {}, true}};
+            OperationsLog log(m_tree->path(u"data/log%1"_s.arg(number)));
+            results[number] = runCleaning(mine, {log, folderBin(m_tree->path(u"bin%1%2"_s.arg(number).arg(round)))});
+        };
+        std::thread second(clean, 1);
+        clean(0);
+        second.join();
+        const auto isThere = [&](const ScannedFile &file) {
+            const std::filesystem::path native = exactNative(file.path);
+            return std::filesystem::is_regular_file(std::filesystem::symlink_status(native)) &&
+                   contentOf(file.path) == content;
+        };
+        const int left = isThere(one) + isThere(other);
+        QVERIFY2(left >= 1, qPrintable((results[0].errors + results[1].errors).join(u'\n')));
+        QVERIFY(results[0].count + results[1].count <= 1);
+        if (methodName(method) != u"hardlink"_s && methodName(method) != u"backup+hardlink"_s)
+            QCOMPARE(left, 2 - results[0].count - results[1].count);
+    }
+}
+
+void CleaningTest::nothingUnrecorded()
+{
+    QFETCH(CleaningMethod, method);
+    const DiskTree before = treeBelow(path("src"));
+    m_tree->makeFolder(u"data/log/in the way"_s);
+    CleaningResult result = run(plan(method));
+    QCOMPARE(result.count, 0);
+    QVERIFY(!result.errors.isEmpty());
+    QCOMPARE(treeBelow(path("src")), before);
+    QVERIFY(QDir(path("data")).removeRecursively());
+    m_tree->write(u"store"_s, "a file in the way");
+    result = run(plan(method));
+    if (isBackingUp(method) || isDestroying(method)) {
+        QCOMPARE(result.count, 0);
+        QVERIFY(!result.errors.isEmpty());
+        QCOMPARE(treeBelow(path("src")), before);
+    }
+}
+
+/// A file with a name outside the run frees nothing; what is moved within a volume frees nothing.
+void CleaningTest::space()
+{
+    m_tree->write(u"src/linked"_s, "same");
+    if (!m_tree->hardLink(u"src/linked"_s, u"src/outside"_s) || !m_tree->hardLink(u"src/copy"_s, u"src/copy2"_s))
+        QSKIP("no hard links");
+    const ScannedFile kept = scanned(path("src/kept"));
+    const auto item = [&](const char *name) { return CleaningItem{scanned(path(name)), kept, {}, {}, true}; };
+    CleaningPlan each = plan(CleaningMethod::Delete);
+    each.items = {item("src/linked"), item("src/copy"), item("src/copy2")};
+    QCOMPARE(estimatedSpace(each), (Space{4, 0, 0}));
+    each.method = CleaningMethod::Backup;
+    QCOMPARE(estimatedSpace(each), (Space{0, 4, 0}));
+    each.method = CleaningMethod::Move;
+    QCOMPARE(estimatedSpace(each), Space());
+    each.method = CleaningMethod::Recycle;
+    QCOMPARE(estimatedSpace(each), (Space{0, 0, 4}));
+    each.method = CleaningMethod::Delete;
+    QCOMPARE(run(each).space, (Space{4, 0, 0}));
+}
+
+void CleaningTest::putAwayCopiesAreNotKept()
+{
+    MirrixCore::DuplicateGroup group;
+    for (const FilePlace place : {FilePlace::RecycleBin, FilePlace::Ordinary, FilePlace::BackupFolder,
+                                  FilePlace::Ordinary, FilePlace::Snapshot}) {
+        FileEntry file;
+        file.path = u"/x/%1"_s.arg(group.files.size());
+        file.modifiedMs = 1000 - group.files.size();
+        file.place = place;
+        group.files.append(file);
+    }
+    const GroupChoice newest = chooseInGroup(group.files, KeepRule::Newest);
+    QCOMPARE(newest.kept, 1);
+    QCOMPARE(newest.surplus, QList<qsizetype>{3});
+    QCOMPARE(chooseInGroup(group.files, KeepRule::Oldest).kept, 3);
+    group.files.removeAt(3);
+    QVERIFY(chooseInGroup(group.files, KeepRule::Oldest).surplus.isEmpty());
+    group.files.removeAt(1);
+    QCOMPARE(chooseInGroup(group.files, KeepRule::Oldest).kept, -1);
+    QVERIFY(surplusByRule({group}, KeepRule::Newest).isEmpty());
+}
+
+QTEST_GUILESS_MAIN(CleaningTest)
+#include "tst_cleaning.moc"
