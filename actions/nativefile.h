@@ -26,7 +26,11 @@ struct PathState
     qint64 sizeBytes = 0;
     qint64 modifiedMs = 0;      ///< milliseconds since the Unix epoch
     qint64 modifiedExact = 0;   ///< the same time in the system's own finest unit
+    qint64 changedExact = 0;    ///< last change of content or attributes, in the same unit; 0 = unknown
     bool isUndeletable = false; ///< marked read-only where that forbids deleting (Windows)
+    quint32 mode = 0;           ///< permission bits, 07777 at most; 0 on Windows
+    quint32 owner = 0;          ///< user and group numbers; 0 on Windows
+    quint32 group = 0;
     MirrixCore::FileIdentity identity;
 
     /// Whether both are plain files of one size, time and (where known) identity.

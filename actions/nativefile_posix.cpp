@@ -37,6 +37,11 @@ FileFault faultUnless(int result)
     return result == 0 ? FileFault::None : faultOf(errno);
 }
 
+qint64 nanosecondsOf(const timespec &time)
+{
+    return qint64(time.tv_sec) * 1000000000 + time.tv_nsec;
+}
+
 /// For file systems that cannot rename without replacing but know hard links, such as network drives. A crash in
 /// between leaves the file under both names.
 FileFault linkAndUnlink(const QByteArray &from, const QByteArray &to)
@@ -80,7 +85,11 @@ PathState pathState(const QString &path)
                                          : PathState::Kind::Other;
     state.sizeBytes = info.st_size;
     state.modifiedMs = qint64(info.st_mtim.tv_sec) * 1000 + info.st_mtim.tv_nsec / 1000000;
-    state.modifiedExact = qint64(info.st_mtim.tv_sec) * 1000000000 + info.st_mtim.tv_nsec;
+    state.modifiedExact = nanosecondsOf(info.st_mtim);
+    state.changedExact = nanosecondsOf(info.st_ctim);
+    state.mode = info.st_mode & 07777;
+    state.owner = info.st_uid;
+    state.group = info.st_gid;
     state.identity = {static_cast<quint32>(info.st_dev), info.st_ino, static_cast<quint32>(info.st_nlink), true};
     return state;
 }

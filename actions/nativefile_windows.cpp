@@ -86,6 +86,9 @@ PathState pathState(const QString &path)
     state.modifiedMs = epochMsFrom(info.ftLastWriteTime);
     state.modifiedExact =
         static_cast<qint64>(joined(info.ftLastWriteTime.dwHighDateTime, info.ftLastWriteTime.dwLowDateTime));
+    FILE_BASIC_INFO basic = {};
+    if (GetFileInformationByHandleEx(file.get(), FileBasicInfo, &basic, sizeof basic))
+        state.changedExact = basic.ChangeTime.QuadPart;
     state.isUndeletable = info.dwFileAttributes & FILE_ATTRIBUTE_READONLY;
     state.identity = {info.dwVolumeSerialNumber, joined(info.nFileIndexHigh, info.nFileIndexLow), info.nNumberOfLinks,
                       true};
