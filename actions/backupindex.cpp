@@ -3,6 +3,8 @@
 #include "actions/movefile.h"
 #include "actions/solelock.h"
 #include "app/storedfile.h"
+#include "core/platform/nativepath.h"
+#include "core/walk/pathrules.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -20,6 +22,7 @@ const QString originalKey = QStringLiteral("original");
 const QString backupKey = QStringLiteral("backup");
 const QString sizeKey = QStringLiteral("size");
 const QString timeKey = QStringLiteral("at");
+const QString digestKey = QStringLiteral("digest");
 
 QString indexPath(const QString &folder)
 {
@@ -37,21 +40,59 @@ std::optional<QByteArray> indexText(const QString &folder)
     return file.error() == QFileDevice::NoError ? std::optional(text) : std::nullopt;
 }
 
+BackupEntry entryFrom(QJsonObject item)
+{
+    BackupEntry entry{item[originalKey].toString(), item[backupKey].toString(), item[sizeKey].toInteger(),
+                      item[timeKey].toInteger(), item[digestKey].toString()};
+    for (const QString &key : {originalKey, backupKey, sizeKey, timeKey, digestKey})
+        item.remove(key);
+    entry.others = item;
+    return entry;
+}
+
+QJsonObject itemFrom(const BackupEntry &entry)
+{
+    QJsonObject item = entry.others;
+    item[originalKey] = entry.original;
+    item[backupKey] = entry.backup;
+    item[sizeKey] = entry.sizeBytes;
+    item[timeKey] = entry.atMs;
+    if (!entry.digest.isEmpty())
+        item[digestKey] = entry.digest;
+    return item;
+}
+
 QList<BackupEntry> entriesIn(const QByteArray &text)
 {
     QList<BackupEntry> entries;
     const QJsonArray items = QJsonDocument::fromJson(text).array();
     for (const QJsonValue &item : items)
-        entries.append({item[originalKey].toString(), item[backupKey].toString(), item[sizeKey].toInteger(),
-                        item[timeKey].toInteger()});
+        entries.append(entryFrom(item.toObject()));
     return entries;
 }
 
-/// Whether the file has gone for certain. A folder that is away may be on a drive that comes back.
-bool isGone(const BackupEntry &entry)
+bool isMissing(const QString &path)
 {
-    return pathState(entry.backup).kind == PathState::Kind::Missing &&
-           pathState(folderOf(entry.backup)).kind == PathState::Kind::Folder;
+    return pathState(path).kind == PathState::Kind::Missing;
+}
+
+/// Whether the file is at its old path and nowhere else: a crash came before it was moved or after it was restored.
+bool isAtHome(const BackupEntry &located)
+{
+    if (!isMissing(located.backup))
+        return false;
+    const PathState original = pathState(located.original);
+    return original.kind == PathState::Kind::File && original.sizeBytes == located.sizeBytes;
+}
+
+/// The entries of an index as locatedEntries gives them.
+QList<BackupEntry> locatedIn(const QString &folder, const QByteArray &text)
+{
+    QList<BackupEntry> entries = entriesIn(text);
+    for (BackupEntry &entry : entries)
+        entry = locatedEntry(folder, entry);
+    entries.removeIf(isAtHome);
+    return entries;
 }
 
 /// An index that holds no list would be overwritten as if it were empty; what it says may still be of use to somebody.
@@ -71,27 +112,48 @@ QList<BackupEntry> loadBackupIndex(const QString &folder)
     return entriesIn(indexText(folder).value_or(QByteArray()));
 }
 
-QList<BackupEntry> restorableEntries(const QString &folder, bool *isRead)
+QList<BackupEntry> locatedEntries(const QString &folder, bool *isRead)
 {
     const std::optional<QByteArray> text = indexText(folder);
     if (isRead)
         *isRead = text.has_value();
-    QList<BackupEntry> entries = entriesIn(text.value_or(QByteArray()));
-    entries.removeIf([](const BackupEntry &entry) {
-        const PathState::Kind kind = pathState(entry.backup).kind;
-        return kind != PathState::Kind::File && kind != PathState::Kind::Unknown;
-    });
+    return locatedIn(folder, text.value_or(QByteArray()));
+}
+
+BackupEntry locatedEntry(const QString &folder, const BackupEntry &entry)
+{
+    BackupEntry located = entry;
+    const QString name = fileNameOf(entry.backup);
+    const QString besideIndex = joinedPath(MirrixCore::cleanedPath(MirrixCore::absolutePath(folder)), name);
+    const bool wasBesideOriginal = isAsideName(name) && folderOf(entry.backup) == folderOf(entry.original);
+    if (!wasBesideOriginal || (isMissing(entry.backup) && !isMissing(besideIndex)))
+        located.backup = besideIndex;
+    return located;
+}
+
+bool hasBackupFile(const BackupEntry &located)
+{
+    const PathState::Kind kind = pathState(located.backup).kind;
+    return kind == PathState::Kind::File || kind == PathState::Kind::Unknown;
+}
+
+QList<BackupEntry> restorableEntries(const QString &folder, bool *isRead)
+{
+    QList<BackupEntry> entries = locatedEntries(folder, isRead);
+    entries.removeIf([](const BackupEntry &entry) { return !hasBackupFile(entry); });
     return entries;
+}
+
+bool isAsideName(const QString &name)
+{
+    return name.startsWith(QLatin1String(".mirrix-")) && name.endsWith(QLatin1String(".aside"));
 }
 
 bool saveBackupIndex(const QString &folder, const QList<BackupEntry> &entries)
 {
     QJsonArray items;
     for (const BackupEntry &entry : entries)
-        items.append(QJsonObject{{originalKey, entry.original},
-                                 {backupKey, entry.backup},
-                                 {sizeKey, entry.sizeBytes},
-                                 {timeKey, entry.atMs}});
+        items.append(itemFrom(entry));
     return makeFolders(folder) && replaceFile(indexPath(folder), QJsonDocument(items).toJson(QJsonDocument::Compact));
 }
 
@@ -118,10 +180,10 @@ bool BackupIndexSession::remove(const QList<BackupEntry> &restored)
 {
     if (!takeOver())
         return false;
-    QSet<QString> paths;
+    QSet<QString> names; // not paths: where a file was found cannot be told any more
     for (const BackupEntry &entry : restored)
-        paths.insert(entry.backup);
-    m_earlier.removeIf([&paths](const BackupEntry &entry) { return paths.contains(entry.backup); });
+        names.insert(fileNameOf(entry.backup));
+    m_earlier.removeIf([&names](const BackupEntry &entry) { return names.contains(fileNameOf(entry.backup)); });
     return saveBackupIndex(m_folder, m_earlier);
 }
 
@@ -133,8 +195,7 @@ bool BackupIndexSession::takeOver()
         return false;
     if (!text->isEmpty() && !QJsonDocument::fromJson(*text).isArray() && !setDamagedAside(m_folder))
         return false;
-    m_earlier = entriesIn(*text);
-    m_earlier.removeIf(isGone);
+    m_earlier = locatedIn(m_folder, *text);
     return true;
 }
 

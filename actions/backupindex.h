@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QJsonObject>
 #include <QList>
 #include <QLockFile>
 #include <QString>
@@ -12,26 +13,44 @@ namespace Mirrix {
 struct BackupEntry
 {
     QString original; ///< absolute path it had
-    QString backup;   ///< absolute path it has now
+    QString backup;   ///< absolute path it was given; only its name counts once the folder may have moved
     qint64 sizeBytes = 0;
-    qint64 atMs = 0; ///< time of its batch, milliseconds since the Unix epoch
+    qint64 atMs = 0;         ///< time of its batch, milliseconds since the Unix epoch
+    QString digest = {};     ///< of its content, as backupDigest makes it; empty = unknown
+    QJsonObject others = {}; ///< what else the index says of it, which stays when the index is written
 
     bool operator==(const BackupEntry &) const = default;
 };
 
-/// The entries of the index file in a backup folder, in their order; none when it is missing or unusable. Thread-safe.
+/// The entries of the index file in a backup folder, in their order and as they are written there; none when it is
+/// missing or unusable. Thread-safe.
 [[nodiscard]] QList<BackupEntry> loadBackupIndex(const QString &folder);
 
-/// Those whose backup file is still there, as far as the system says, which can be restored. Looks at each file.
-/// `isRead` becomes false when there is an index that cannot be read.
+/// The same with `backup` as the path where the file is now or, if it is missing, should be: beside the index, wherever
+/// the folder was when it was written. A file set aside beside its old path is looked for there first. Entries of a
+/// crashed batch whose file never left its old path are left out. `isRead` becomes false when there is an index that
+/// cannot be read.
+[[nodiscard]] QList<BackupEntry> locatedEntries(const QString &folder, bool *isRead = nullptr);
+
+/// The same for one entry of the index in `folder`. Applied again it changes nothing.
+[[nodiscard]] BackupEntry locatedEntry(const QString &folder, const BackupEntry &entry);
+
+/// Whether the file of a located entry is there, as far as the system says. Looks at the file.
+[[nodiscard]] bool hasBackupFile(const BackupEntry &located);
+
+/// Those of locatedEntries whose backup file is there, which can be restored.
 [[nodiscard]] QList<BackupEntry> restorableEntries(const QString &folder, bool *isRead = nullptr);
+
+/// Whether a file of this name was set aside by this program.
+[[nodiscard]] bool isAsideName(const QString &name);
 
 /// Replaces the index atomically, making the folder as needed. False, with the old index in place, when that failed.
 bool saveBackupIndex(const QString &folder, const QList<BackupEntry> &entries);
 
 /// Sole access to a backup folder for the length of a batch, and its index, kept so that no file in it is ever
 /// unlisted: all entries of the batch are written before the first file moves, and those that came to nothing are taken
-/// out at the end. Two writes, whatever the length. Entries whose file has gone are dropped on the way.
+/// out at the end. Two writes, whatever the length. An entry whose file is missing stays, unless its old path still
+/// holds a file of its size: then a crash kept it from being moved, or from being taken out once it was restored.
 class BackupIndexSession
 {
 public:
@@ -45,7 +64,7 @@ public:
     /// Writes what was there and `kept`. False leaves what was announced, which lists too much but nothing wrong.
     bool conclude(const QList<BackupEntry> &kept);
 
-    /// Takes the entries with these backup paths out.
+    /// Takes the entries with these names of backups out.
     bool remove(const QList<BackupEntry> &restored);
 
 private:

@@ -1,12 +1,12 @@
 #include "actions/backupstore.h"
 
+#include "actions/backupcheck.h"
 #include "actions/movefile.h"
 #include "core/platform/nativepath.h"
 #include "core/walk/pathrules.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QDir>
 #include <QUuid>
 
 namespace Mirrix {
@@ -23,48 +23,34 @@ bool isSameFolder(const QString &one, const QString &other)
     return MirrixCore::fileStatus(one).identity.isSameAs(MirrixCore::fileStatus(other).identity);
 }
 
-bool isAsideName(const QString &name)
+QString text(const char *source, const QString &path)
 {
-    return name.startsWith(QLatin1String(".mirrix-")) && name.endsWith(QLatin1String(".aside"));
+    return QCoreApplication::translate("Mirrix", source).arg(path);
 }
 
-/// Whether the entry can be one of ours: from the flat backup folder, or a file set aside beside its old path, to a
-/// path that says plainly where it leads.
-bool isTrustworthy(const BackupEntry &entry, const QString &folder)
+/// Empty when the file is back.
+QString restoreOne(const BackupEntry &entry, bool &isLeft)
 {
-    const QString original = MirrixCore::cleanedPath(entry.original);
-    // The system's calls would end a path at a zero.
-    if (original.contains(QChar::Null) || entry.backup.contains(QChar::Null) || original != entry.original ||
-        !QDir::isAbsolutePath(original) || fileNameOf(original).isEmpty())
-        return false;
-    const QString place = folderOf(entry.backup);
-    if (isAsideName(fileNameOf(entry.backup)))
-        return place == folderOf(original) || isSameFolder(place, folder);
-    return !place.isEmpty() && isSameFolder(place, folder);
-}
-
-bool restoreOne(const QString &folder, const BackupEntry &entry, QString *error)
-{
-    const auto failed = [&entry, error](const char *source) {
-        *error = QCoreApplication::translate("Mirrix", source).arg(entry.original);
-        return false;
-    };
-    if (!isTrustworthy(entry, folder) || !makeFolders(folderOf(entry.original)))
-        return failed(QT_TRANSLATE_NOOP("Mirrix", "恢复失败: %1"));
+    const BackupState state = backupState(entry);
+    if (state == BackupState::Damaged)
+        return text(QT_TRANSLATE_NOOP("Mirrix", "备份文件已损坏，未恢复: %1"), entry.original);
+    if (state != BackupState::Intact || !makeFolders(folderOf(entry.original)))
+        return text(QT_TRANSLATE_NOOP("Mirrix", "恢复失败: %1"), entry.original);
     const bool isTaken = pathState(entry.original).kind != PathState::Kind::Missing;
-    const FileFault fault = isTaken ? FileFault::Occupied : moveFile(entry.backup, entry.original);
+    const FileFault fault = isTaken ? FileFault::Occupied : restoreFile(entry.backup, entry.original, isLeft);
     if (fault == FileFault::Occupied)
-        return failed(QT_TRANSLATE_NOOP("Mirrix", "原路径已存在文件，已取消恢复: %1"));
-    return fault == FileFault::None || failed(QT_TRANSLATE_NOOP("Mirrix", "恢复失败: %1"));
+        return text(QT_TRANSLATE_NOOP("Mirrix", "原路径已存在文件，已取消恢复: %1"), entry.original);
+    return fault == FileFault::None ? QString() : text(QT_TRANSLATE_NOOP("Mirrix", "恢复失败: %1"), entry.original);
 }
 
 } // namespace
 
-BatchResult backupFiles(const QString &folder, const QStringList &paths, const BatchControl &control)
+BatchResult backupFiles(const QString &folder, const QStringList &paths, const BatchControl &control,
+                        const QStringList &digests)
 {
     BatchResult result;
     BackupIndexSession session(backupFolderPath(folder));
-    const QList<BackupEntry> planned = plannedBackups(folder, paths);
+    const QList<BackupEntry> planned = plannedBackups(folder, paths, digests);
     if (!session.announce(planned)) {
         for (const QString &path : paths)
             result.errors.append(backupFailureText(path));
@@ -80,7 +66,7 @@ BatchResult backupFiles(const QString &folder, const QStringList &paths, const B
         if (problem.isEmpty() && (isInside || moveFile(paths[i], planned[i].backup) != FileFault::None))
             problem = backupFailureText(paths[i]);
         if (problem.isEmpty())
-            kept.append(planned[i]);
+            kept.append(storedEntry(planned[i]));
         else
             result.errors.append(problem);
     }
@@ -94,19 +80,27 @@ RestoreResult restoreBackups(const QString &folder, const QList<BackupEntry> &en
     RestoreResult result;
     const QString absolute = backupFolderPath(folder);
     BackupIndexSession session(absolute);
+    QList<BackupEntry> gone;
     for (qsizetype i = 0; i < entries.size(); ++i) {
         result.isCancelled = !control.mayGoOn(i, entries.size());
         if (result.isCancelled)
             break;
-        QString error;
-        if (restoreOne(absolute, entries[i], &error))
-            result.restored.append(entries[i]);
+        const BackupEntry entry = locatedEntry(absolute, entries[i]);
+        bool isLeft = false;
+        const QString problem = restoreOne(entry, isLeft);
+        if (!problem.isEmpty()) {
+            result.errors.append(problem);
+            continue;
+        }
+        result.restored.append(entry);
+        if (isLeft)
+            result.notes.append(text(QT_TRANSLATE_NOOP("Mirrix", "已恢复，但备份无法删除: %1"), entry.backup));
         else
-            result.errors.append(error);
+            gone.append(entry);
     }
     result.count = result.restored.size();
-    if (result.count > 0)
-        session.remove(result.restored);
+    if (!gone.isEmpty() && !session.remove(gone))
+        result.notes.append(text(QT_TRANSLATE_NOOP("Mirrix", "备份索引无法写入: %1"), absolute));
     return result;
 }
 
@@ -131,7 +125,7 @@ QString backupName(const QString &path, qint64 atMs)
              QUuid::createUuid().toString(QUuid::Id128).left(8), shortenedName(fileNameOf(path), mostBytes));
 }
 
-QList<BackupEntry> plannedBackups(const QString &folder, const QStringList &paths)
+QList<BackupEntry> plannedBackups(const QString &folder, const QStringList &paths, const QStringList &digests)
 {
     const qint64 atMs = QDateTime::currentMSecsSinceEpoch();
     const QString absolute = backupFolderPath(folder);
@@ -139,8 +133,20 @@ QList<BackupEntry> plannedBackups(const QString &folder, const QStringList &path
     planned.reserve(paths.size());
     for (const QString &path : paths)
         planned.append({MirrixCore::cleanedPath(MirrixCore::absolutePath(path)),
-                        joinedPath(absolute, backupName(path, atMs)), pathState(path).sizeBytes, atMs});
+                        joinedPath(absolute, backupName(path, atMs)), pathState(path).sizeBytes, atMs,
+                        digests.value(planned.size())});
     return planned;
+}
+
+BackupEntry storedEntry(const BackupEntry &planned)
+{
+    const PathState file = pathState(planned.backup);
+    if (file.kind != PathState::Kind::File || file.sizeBytes == planned.sizeBytes)
+        return planned;
+    BackupEntry stored = planned;
+    stored.sizeBytes = file.sizeBytes;
+    stored.digest.clear();
+    return stored;
 }
 
 QString backupFolderPath(const QString &folder)
@@ -150,7 +156,7 @@ QString backupFolderPath(const QString &folder)
 
 QString backupFailureText(const QString &path)
 {
-    return QCoreApplication::translate("Mirrix", "无法移动到备份目录: %1").arg(path);
+    return text(QT_TRANSLATE_NOOP("Mirrix", "无法移动到备份目录: %1"), path);
 }
 
 } // namespace Mirrix

@@ -14,18 +14,22 @@ namespace Mirrix {
 // Several programs may use one folder, one batch after the other.
 
 /// Moves files into the backup folder, which is made as needed, under the names of backupName, and lists them in its
-/// index. Folders, links and files that lie in the backup folder already are left alone and reported.
-[[nodiscard]] BatchResult backupFiles(const QString &folder, const QStringList &paths,
-                                      const BatchControl &control = {});
+/// index. Folders, links and files that lie in the backup folder already are left alone and reported. `digests` are for
+/// the index, as of plannedBackups.
+[[nodiscard]] BatchResult backupFiles(const QString &folder, const QStringList &paths, const BatchControl &control = {},
+                                      const QStringList &digests = {});
 
-/// What became of a restore.
+/// What a restore came to.
 struct RestoreResult : BatchResult
 {
-    QList<BackupEntry> restored;
+    QList<BackupEntry> restored; ///< located, in the order of the entries
+    QStringList notes;           ///< what could not be tidied up after files that are back, translated
 };
 
-/// Puts files back where they came from; what stands there is never overwritten. Entries are not trusted: a backup path
-/// that neither this folder nor a link replacement made is refused.
+/// Puts files back where they came from; what stands there is never overwritten. Entries are not trusted: they lead to
+/// files beside the index or set aside beside their old path, whatever else they say. A file whose size or digest is
+/// not that of its entry is refused and stays. A file is restored, with a note, even when its backup cannot be removed,
+/// as on a read-only volume; the entry stays then.
 [[nodiscard]] RestoreResult restoreBackups(const QString &folder, const QList<BackupEntry> &entries,
                                            const BatchControl &control = {});
 
@@ -38,8 +42,14 @@ bool restoreBackup(const QString &folder, const BackupEntry &entry, QString *err
 /// The name of a file in the backup folder: local time of its batch, eight random hex digits, its own name.
 [[nodiscard]] QString backupName(const QString &path, qint64 atMs);
 
-/// The entries that a batch on `paths` would make, in their order, sizes included.
-[[nodiscard]] QList<BackupEntry> plannedBackups(const QString &folder, const QStringList &paths);
+/// The entries that a batch on `paths` would make, in their order, sizes included. `digests` holds one for each path,
+/// as backupDigest makes them, empty where unknown; or none at all.
+[[nodiscard]] QList<BackupEntry> plannedBackups(const QString &folder, const QStringList &paths,
+                                                const QStringList &digests = {});
+
+/// A planned entry after its file was moved: with the size that the file has now, and without the digest when that is
+/// another than planned.
+[[nodiscard]] BackupEntry storedEntry(const BackupEntry &planned);
 
 /// Absolute clean form of a backup folder's path.
 [[nodiscard]] QString backupFolderPath(const QString &folder);

@@ -24,6 +24,15 @@ bool openWhole(FileReader &reader, const QString &path)
     return true;
 }
 
+/// Removes a file whose copy is on the disk, unless it was written into meanwhile. False when it is still there.
+bool removeCopied(const QString &path, const PathState &before)
+{
+    if (pathState(path).isSameFileAs(before) && removeFile(path) == FileFault::None)
+        return true;
+    // Another took it away, or a network drive did as told and says otherwise: then the copy is all there is.
+    return pathState(path).kind == PathState::Kind::Missing;
+}
+
 } // namespace
 
 bool PathState::isSameFileAs(const PathState &other) const
@@ -42,17 +51,27 @@ FileFault moveFile(const QString &from, const QString &to)
     const FileFault renamed = renameExclusively(from, to);
     if (renamed != FileFault::OtherVolume)
         return renamed;
+    if (before.isUndeletable)
+        return FileFault::Failed;
     const FileFault copied = copyFile(from, to);
-    if (copied != FileFault::None)
+    if (copied != FileFault::None || removeCopied(from, before))
         return copied;
-    // What was written into the source meanwhile is not in the copy.
-    if (pathState(from).isSameFileAs(before) && removeFile(from) == FileFault::None)
-        return FileFault::None;
-    // Another took it away, or a network drive did as told and says otherwise: then the copy is all there is.
-    if (pathState(from).kind == PathState::Kind::Missing)
-        return FileFault::None;
-    static_cast<void>(removeFile(to));
+    static_cast<void>(removeOwnCopy(to));
     return FileFault::Failed;
+}
+
+FileFault restoreFile(const QString &from, const QString &to, bool &isLeft)
+{
+    isLeft = false;
+    const PathState before = pathState(from);
+    if (before.kind != PathState::Kind::File)
+        return before.kind == PathState::Kind::Missing ? FileFault::Missing : FileFault::Failed;
+    const FileFault renamed = renameExclusively(from, to);
+    if (renamed != FileFault::OtherVolume && renamed != FileFault::Failed)
+        return renamed;
+    const FileFault copied = copyFile(from, to);
+    isLeft = copied == FileFault::None && !removeCopied(from, before);
+    return copied;
 }
 
 FileFault copyFile(const QString &from, const QString &to)
@@ -64,7 +83,7 @@ FileFault copyFile(const QString &from, const QString &to)
     fault = haveSameContent(from, passing) ? renameExclusively(passing, to) : FileFault::Failed;
     if (fault == FileFault::None && flushFolder(folderOf(to)))
         return FileFault::None;
-    static_cast<void>(removeFile(fault == FileFault::None ? to : passing));
+    static_cast<void>(removeOwnCopy(fault == FileFault::None ? to : passing));
     return fault == FileFault::None ? FileFault::Failed : fault;
 }
 

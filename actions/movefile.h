@@ -11,8 +11,13 @@ namespace Mirrix {
 
 /// Moves the plain file `from` to the free path `to`, to another volume too: then it is copied under a passing name,
 /// written through, compared and renamed into place before the source is removed. On failure the source is as it was
-/// and nothing stands at `to`.
+/// and nothing stands at `to`. A source that is marked read-only where that forbids deleting is only renamed.
 [[nodiscard]] FileFault moveFile(const QString &from, const QString &to);
+
+/// Puts the backup `from` back at the free path `to`. Unlike moveFile it copies whatever keeps the file from being
+/// renamed, and keeps the copy when `from` cannot be removed, as on a read-only volume: that is success, told by
+/// `isLeft`.
+[[nodiscard]] FileFault restoreFile(const QString &from, const QString &to, bool &isLeft);
 
 /// Copies with times and attributes; `to` appears whole or not at all.
 [[nodiscard]] FileFault copyFile(const QString &from, const QString &to);

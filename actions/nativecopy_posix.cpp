@@ -4,9 +4,11 @@
 
 #include <QByteArrayList>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
+#include <limits>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
@@ -56,18 +58,54 @@ bool writeWhole(int file, const char *bytes, size_t length)
     return true;
 }
 
-bool copyContent(int from, int to)
+/// Copies from the offset `begin` to `end` or the end of the file.
+bool copyRange(int from, int to, off_t begin, off_t end)
 {
+    if (lseek(from, begin, SEEK_SET) != begin || lseek(to, begin, SEEK_SET) != begin)
+        return false;
     QByteArray piece(pieceBytes, Qt::Uninitialized);
-    for (;;) {
-        const ssize_t count = read(from, piece.data(), pieceBytes);
+    while (begin < end) {
+        const ssize_t count = read(from, piece.data(), std::min(pieceBytes, static_cast<size_t>(end - begin)));
         if (count < 0 && errno == EINTR)
             continue;
         if (count <= 0)
             return count == 0;
         if (!writeWhole(to, piece.constData(), static_cast<size_t>(count)))
             return false;
+        begin += count;
     }
+    return true;
+}
+
+/// Copies what lies between the holes of a file, the first data being at `begin` (-1 = none).
+bool copyAroundHoles(int from, int to, off_t begin, off_t size)
+{
+    while (begin >= 0) {
+        const off_t end = lseek(from, begin, SEEK_HOLE);
+        if (end < 0 || !copyRange(from, to, begin, end))
+            return false;
+        begin = lseek(from, end, SEEK_DATA);
+    }
+    if (errno != ENXIO)
+        return false;
+    // Not all file systems lengthen a file without a byte being written.
+    return ftruncate(to, size) == 0 || pwrite(to, "", 1, size - 1) == 1;
+}
+
+bool copyContent(int from, int to, const struct stat &info)
+{
+    const bool isSparse = info.st_blocks * 512 < info.st_size; // told in blocks of 512 bytes everywhere
+    const off_t begin = isSparse ? lseek(from, 0, SEEK_DATA) : 0;
+    const bool areHolesKnown = isSparse && (begin >= 0 || errno == ENXIO);
+    return areHolesKnown ? copyAroundHoles(from, to, begin, info.st_size)
+                         : copyRange(from, to, 0, std::numeric_limits<off_t>::max());
+}
+
+/// Whether a call on an attribute did its work, or could not since the target's file system or the user's rights do not
+/// allow the attribute. FAT over FUSE answers ENOSYS.
+bool isSetOrUnsupported(int result)
+{
+    return result == 0 || errno == EPERM || errno == EOPNOTSUPP || errno == ENOSYS;
 }
 
 /// What the target's file system or the user's rights do not allow is left out.
@@ -93,9 +131,8 @@ bool copyAttributes(int from, int to, const struct stat &info)
     // Before the mode, since it takes away the set-user-id bits. Only root may give files to others.
     const bool isOwnerKept = fchown(to, info.st_uid, info.st_gid) == 0;
     const mode_t mode = info.st_mode & (isOwnerKept ? 07777 : 0777);
-    const bool hasMode = fchmod(to, mode) == 0 || errno == EPERM || errno == EOPNOTSUPP; // not all volumes have modes
     const std::array<timespec, 2> times = {info.st_atim, info.st_mtim};
-    return hasMode && futimens(to, times.data()) == 0;
+    return isSetOrUnsupported(fchmod(to, mode)) && isSetOrUnsupported(futimens(to, times.data()));
 }
 
 } // namespace
@@ -110,7 +147,7 @@ FileFault copyToNewFile(const QString &from, const QString &to)
     Descriptor target(open(path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
     if (target.get() < 0)
         return errno == EEXIST ? FileFault::Occupied : FileFault::Failed;
-    bool isWhole = copyContent(source.get(), target.get()) && copyAttributes(source.get(), target.get(), info) &&
+    bool isWhole = copyContent(source.get(), target.get(), info) && copyAttributes(source.get(), target.get(), info) &&
                    fsync(target.get()) == 0;
     // So that whoever compares the two reads what the disk has got.
     posix_fadvise(target.get(), 0, 0, POSIX_FADV_DONTNEED);

@@ -53,11 +53,16 @@ enum class FileFault
     Failed
 };
 
-/// Renames within one volume; the new path must be free.
+/// Renames within one volume; the new path must be free. Where the file system can neither rename without replacing nor
+/// make hard links (fusefat and its like), a file put there between the last look and the rename, two system calls
+/// apart, would be replaced.
 [[nodiscard]] FileFault renameExclusively(const QString &from, const QString &to);
 
-/// Deletes a file or link, not a folder.
+/// Deletes a file or link, not a folder. On Windows one that is marked read-only stays.
 [[nodiscard]] FileFault removeFile(const QString &path);
+
+/// Deletes a copy that this program made, even one that took the read-only mark of its source over.
+[[nodiscard]] FileFault removeOwnCopy(const QString &path);
 
 /// Makes `link` a symbolic link to `target`, absolute or as seen from the link's folder, which need not exist.
 [[nodiscard]] FileFault makeSymbolicLink(const QString &target, const QString &link);
@@ -66,7 +71,8 @@ enum class FileFault
 [[nodiscard]] FileFault makeHardLink(const QString &target, const QString &link);
 
 /// Copies the plain file `from` with times and attributes to the free path `to` and waits until it is on the disk.
-/// Leaves nothing behind on failure.
+/// Attributes that the file system of `to` does not have are left out; holes stay holes (POSIX). Leaves nothing behind
+/// on failure.
 [[nodiscard]] FileFault copyToNewFile(const QString &from, const QString &to);
 
 /// Makes an empty file at the free path `path`.

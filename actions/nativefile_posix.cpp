@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <optional>
 #include <sys/vfs.h>
 #include <unistd.h>
 
@@ -38,29 +39,52 @@ FileFault faultUnless(int result)
 }
 
 /// For file systems that cannot rename without replacing but know hard links, such as network drives. A crash in
-/// between leaves the file under both names.
-FileFault linkAndUnlink(const QByteArray &from, const QByteArray &to)
+/// between leaves the file under both names. Nothing when a link cannot be made.
+std::optional<FileFault> linkAndUnlink(const QByteArray &from, const QByteArray &to)
 {
-    if (::link(from.constData(), to.constData()) != 0)
-        return faultOf(errno);
-    if (unlink(from.constData()) == 0)
+    if (::link(from.constData(), to.constData()) != 0) {
+        const FileFault fault = faultOf(errno);
+        return fault == FileFault::Failed ? std::nullopt : std::optional(fault);
+    }
+    // A network drive that is asked again, since its first answer got lost, says that there is no such name.
+    if (unlink(from.constData()) == 0 || errno == ENOENT)
         return FileFault::None;
     unlink(to.constData());
     return FileFault::Failed;
 }
 
+enum class Claim
+{
+    Held,
+    Lost, ///< another file stands there, or somebody has written into ours
+    Unknown
+};
+
+Claim claimAt(const QByteArray &path, const struct stat &claim)
+{
+    struct stat found = {};
+    if (lstat(path.constData(), &found) != 0)
+        return Claim::Unknown;
+    return found.st_dev == claim.st_dev && found.st_ino == claim.st_ino && found.st_size == 0 ? Claim::Held
+                                                                                              : Claim::Lost;
+}
+
 /// For those that know neither: an empty file of our own claims the name and is replaced.
 FileFault claimAndRename(const QByteArray &from, const QByteArray &to)
 {
-    const int claim = open(to.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
-    if (claim < 0)
+    const int file = open(to.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    if (file < 0)
         return faultOf(errno);
-    close(claim);
-    if (rename(from.constData(), to.constData()) == 0)
-        return FileFault::None;
-    const FileFault fault = faultOf(errno);
-    unlink(to.constData());
-    return fault;
+    struct stat claim = {};
+    const bool isKnown = fstat(file, &claim) == 0;
+    FileFault fault = FileFault::Failed;
+    if (isKnown && claimAt(to, claim) == Claim::Held)
+        fault = faultUnless(rename(from.constData(), to.constData()));
+    const bool isLost = fault != FileFault::None && isKnown && claimAt(to, claim) == Claim::Lost;
+    if (fault != FileFault::None && !isLost)
+        unlink(to.constData());
+    close(file); // not before: another file could get its number
+    return isLost ? FileFault::Occupied : fault;
 }
 
 } // namespace
@@ -93,15 +117,20 @@ FileFault renameExclusively(const QString &from, const QString &to)
     const QByteArray target = pathBytes(to);
     if (renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) == 0)
         return FileFault::None;
-    if (errno != EINVAL && errno != ENOSYS)
+    if (errno != EINVAL && errno != ENOSYS && errno != EOPNOTSUPP)
         return faultOf(errno);
-    const FileFault linked = linkAndUnlink(source, target);
-    return linked == FileFault::Failed ? claimAndRename(source, target) : linked;
+    const std::optional<FileFault> linked = linkAndUnlink(source, target);
+    return linked ? *linked : claimAndRename(source, target);
 }
 
 FileFault removeFile(const QString &path)
 {
     return faultUnless(unlink(pathBytes(path).constData()));
+}
+
+FileFault removeOwnCopy(const QString &path)
+{
+    return removeFile(path);
 }
 
 FileFault makeSymbolicLink(const QString &target, const QString &link)

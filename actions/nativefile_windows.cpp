@@ -123,6 +123,13 @@ FileFault removeFile(const QString &path)
     return patiently([&native] { return DeleteFileW(native.c_str()); });
 }
 
+FileFault removeOwnCopy(const QString &path)
+{
+    const std::wstring native = wide(path);
+    SetFileAttributesW(native.c_str(), FILE_ATTRIBUTE_NORMAL);
+    return patiently([&native] { return DeleteFileW(native.c_str()); });
+}
+
 FileFault makeSymbolicLink(const QString &target, const QString &link)
 {
     // Other programs show the target as it is written, so the long form only where it is needed.

@@ -32,9 +32,11 @@ void printError(const QString &message)
 
 QByteArray shownPath(const QString &path, bool forTerminal)
 {
-    if (!forTerminal)
-        return MirrixCore::pathBytes(path);
     QString shown = path;
+    if (!forTerminal) {
+        shown.replace(QLatin1Char('\n'), QLatin1Char('?')).replace(QLatin1Char('\r'), QLatin1Char('?'));
+        return MirrixCore::pathBytes(shown);
+    }
     for (QChar &character : shown) {
         if (character.category() == QChar::Other_Control || character.category() == QChar::Other_Surrogate)
             character = QLatin1Char('?');

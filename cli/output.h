@@ -14,8 +14,8 @@ namespace MirrixCli {
 void printText(const QString &text);
 void printError(const QString &message);
 
-/// A path as the outside world is to see it: its own bytes; line breaks and control characters, which could forge
-/// lines or steer a terminal, as "?" when `forTerminal`.
+/// A path as the outside world is to see it: its own bytes, but line breaks, which could forge lines, as "?", and
+/// control characters, which could steer a terminal, too when `forTerminal`.
 [[nodiscard]] QByteArray shownPath(const QString &path, bool forTerminal);
 
 /// Where a report goes: standard output, a device or pipe, or a file that appears whole or not at all.

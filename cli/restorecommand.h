@@ -7,7 +7,8 @@ namespace MirrixCli {
 /// Declares the options of "restore".
 void addRestoreOptions(QCommandLineParser &parser);
 
-/// Runs "restore": lists what a backup folder holds, or puts back what is named. What fails is named on standard error.
+/// Runs "restore": lists what a backup folder holds, checks it, or puts back what is named. What fails is named on
+/// standard error.
 /// Throws UsageError.
 [[nodiscard]] ExitStatus runRestore(const QCommandLineParser &parser);
 

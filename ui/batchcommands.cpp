@@ -335,11 +335,12 @@ void BatchCommands::restore(const QString &folder, const QList<BackupEntry> &cho
         return static_cast<const BatchResult &>(result);
     }));
     const QString count = Text::tr("已恢复 %1 个文件。").arg(result.count);
+    const QString notes = result.notes.isEmpty() ? QString() : QLatin1Char('\n') + result.notes.join(QLatin1Char('\n'));
     if (!result.errors.isEmpty())
         m_prompts.warn(m_window, Text::tr("失败"),
-                       chosen.size() == 1 ? result.errors.first() : count + failureText(result));
+                       chosen.size() == 1 ? result.errors.first() : count + failureText(result) + notes);
     else
-        m_prompts.inform(m_window, Text::tr("完成"), chosen.size() == 1 ? Text::tr("文件已恢复。") : count);
+        m_prompts.inform(m_window, Text::tr("完成"), (chosen.size() == 1 ? Text::tr("文件已恢复。") : count) + notes);
 }
 
 } // namespace Mirrix

@@ -252,6 +252,18 @@
         <translation>Wiederherstellen fehlgeschlagen: %1</translation>
     </message>
     <message>
+        <source>备份文件已损坏，未恢复: %1</source>
+        <translation>Die Sicherung ist beschädigt; nicht wiederhergestellt: %1</translation>
+    </message>
+    <message>
+        <source>已恢复，但备份无法删除: %1</source>
+        <translation>Wiederhergestellt, aber die Sicherung konnte nicht entfernt werden: %1</translation>
+    </message>
+    <message>
+        <source>备份索引无法写入: %1</source>
+        <translation>Der Sicherungsindex konnte nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
         <source>原路径已存在文件，已取消恢复: %1</source>
         <translation>Am ursprünglichen Ort liegt schon eine Datei; nicht wiederhergestellt: %1</translation>
     </message>

@@ -252,6 +252,18 @@
         <translation>Restore failed: %1</translation>
     </message>
     <message>
+        <source>备份文件已损坏，未恢复: %1</source>
+        <translation>The backup is damaged; not restored: %1</translation>
+    </message>
+    <message>
+        <source>已恢复，但备份无法删除: %1</source>
+        <translation>Restored, but the backup could not be removed: %1</translation>
+    </message>
+    <message>
+        <source>备份索引无法写入: %1</source>
+        <translation>The backup index could not be written: %1</translation>
+    </message>
+    <message>
         <source>原路径已存在文件，已取消恢复: %1</source>
         <translation>A file already exists at the original path; restore cancelled: %1</translation>
     </message>

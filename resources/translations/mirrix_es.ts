@@ -252,6 +252,18 @@
         <translation>No se pudo restaurar: %1</translation>
     </message>
     <message>
+        <source>备份文件已损坏，未恢复: %1</source>
+        <translation>La copia de seguridad está dañada; no se ha restaurado: %1</translation>
+    </message>
+    <message>
+        <source>已恢复，但备份无法删除: %1</source>
+        <translation>Restaurado, pero no se pudo eliminar la copia de seguridad: %1</translation>
+    </message>
+    <message>
+        <source>备份索引无法写入: %1</source>
+        <translation>No se pudo escribir el índice de copias de seguridad: %1</translation>
+    </message>
+    <message>
         <source>原路径已存在文件，已取消恢复: %1</source>
         <translation>Ya existe un archivo en la ruta original; restauración cancelada: %1</translation>
     </message>

@@ -252,6 +252,18 @@
         <translation>Échec de la restauration : %1</translation>
     </message>
     <message>
+        <source>备份文件已损坏，未恢复: %1</source>
+        <translation>La sauvegarde est endommagée&#xa0;; non restaurée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>已恢复，但备份无法删除: %1</source>
+        <translation>Restauré, mais la sauvegarde n’a pas pu être supprimée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>备份索引无法写入: %1</source>
+        <translation>Impossible d’écrire l’index de sauvegarde&#xa0;: %1</translation>
+    </message>
+    <message>
         <source>原路径已存在文件，已取消恢复: %1</source>
         <translation>Un fichier existe déjà à l’emplacement d’origine ; restauration annulée : %1</translation>
     </message>

@@ -252,6 +252,18 @@
         <translation>Ripristino non riuscito: %1</translation>
     </message>
     <message>
+        <source>备份文件已损坏，未恢复: %1</source>
+        <translation>Il backup è danneggiato; non ripristinato: %1</translation>
+    </message>
+    <message>
+        <source>已恢复，但备份无法删除: %1</source>
+        <translation>Ripristinato, ma non è stato possibile rimuovere il backup: %1</translation>
+    </message>
+    <message>
+        <source>备份索引无法写入: %1</source>
+        <translation>Impossibile scrivere l&apos;indice di backup: %1</translation>
+    </message>
+    <message>
         <source>原路径已存在文件，已取消恢复: %1</source>
         <translation>Nel percorso originale esiste già un file; ripristino annullato: %1</translation>
     </message>

@@ -252,6 +252,18 @@
         <translation>復元に失敗しました: %1</translation>
     </message>
     <message>
+        <source>备份文件已损坏，未恢复: %1</source>
+        <translation>バックアップが破損しているため、復元しませんでした: %1</translation>
+    </message>
+    <message>
+        <source>已恢复，但备份无法删除: %1</source>
+        <translation>復元しましたが、バックアップを削除できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>备份索引无法写入: %1</source>
+        <translation>バックアップの索引を書き込めません: %1</translation>
+    </message>
+    <message>
         <source>原路径已存在文件，已取消恢复: %1</source>
         <translation>元の場所に既にファイルがあるため、復元を中止しました: %1</translation>
     </message>

@@ -252,6 +252,18 @@
         <translation>복원 실패: %1</translation>
     </message>
     <message>
+        <source>备份文件已损坏，未恢复: %1</source>
+        <translation>백업이 손상되어 복원하지 않음: %1</translation>
+    </message>
+    <message>
+        <source>已恢复，但备份无法删除: %1</source>
+        <translation>복원했지만 백업을 제거할 수 없음: %1</translation>
+    </message>
+    <message>
+        <source>备份索引无法写入: %1</source>
+        <translation>백업 색인을 쓸 수 없음: %1</translation>
+    </message>
+    <message>
         <source>原路径已存在文件，已取消恢复: %1</source>
         <translation>원래 경로에 파일이 이미 있어 복원을 취소했습니다: %1</translation>
     </message>

@@ -252,6 +252,18 @@
         <translation>Terugzetten mislukt: %1</translation>
     </message>
     <message>
+        <source>备份文件已损坏，未恢复: %1</source>
+        <translation>De back-up is beschadigd; niet teruggezet: %1</translation>
+    </message>
+    <message>
+        <source>已恢复，但备份无法删除: %1</source>
+        <translation>Teruggezet, maar de back-up kon niet worden verwijderd: %1</translation>
+    </message>
+    <message>
+        <source>备份索引无法写入: %1</source>
+        <translation>De back-upindex kon niet worden geschreven: %1</translation>
+    </message>
+    <message>
         <source>原路径已存在文件，已取消恢复: %1</source>
         <translation>Op de oorspronkelijke plaats staat al een bestand; niet teruggezet: %1</translation>
     </message>

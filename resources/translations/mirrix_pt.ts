@@ -252,6 +252,18 @@
         <translation>Falha ao restaurar: %1</translation>
     </message>
     <message>
+        <source>备份文件已损坏，未恢复: %1</source>
+        <translation>O backup está danificado; não restaurado: %1</translation>
+    </message>
+    <message>
+        <source>已恢复，但备份无法删除: %1</source>
+        <translation>Restaurado, mas não foi possível remover o backup: %1</translation>
+    </message>
+    <message>
+        <source>备份索引无法写入: %1</source>
+        <translation>Não foi possível gravar o índice de backup: %1</translation>
+    </message>
+    <message>
         <source>原路径已存在文件，已取消恢复: %1</source>
         <translation>Já existe um arquivo no caminho original; restauração cancelada: %1</translation>
     </message>

@@ -252,6 +252,18 @@
         <translation>還原失敗: %1</translation>
     </message>
     <message>
+        <source>备份文件已损坏，未恢复: %1</source>
+        <translation>備份檔案已損壞，未還原: %1</translation>
+    </message>
+    <message>
+        <source>已恢复，但备份无法删除: %1</source>
+        <translation>已還原，但無法刪除備份: %1</translation>
+    </message>
+    <message>
+        <source>备份索引无法写入: %1</source>
+        <translation>無法寫入備份索引: %1</translation>
+    </message>
+    <message>
         <source>原路径已存在文件，已取消恢复: %1</source>
         <translation>原路徑已有檔案，已取消還原: %1</translation>
     </message>

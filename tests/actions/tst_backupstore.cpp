@@ -35,7 +35,10 @@ private slots:
     void fullDisk();
     void cancelling();
     void nothingIsOverwritten();
-    void goneEntries();
+    void missingBackupsStayListed();
+    void renamedFolder();
+    void damagedBackups_data();
+    void damagedBackups();
     void damagedIndexIsKept_data();
     void damagedIndexIsKept();
     void indexCutAnywhere();
@@ -238,20 +241,73 @@ void BackupStoreTest::nothingIsOverwritten()
     QCOMPARE(treeBelow(m_tree->path()), before);
 }
 
-/// An entry whose file has gone is not offered and leaves with the next write; one on a drive that is away stays.
-void BackupStoreTest::goneEntries()
+/// Only an entry whose file is at its old path, as a crash leaves it, goes with the next write.
+void BackupStoreTest::missingBackupsStayListed()
 {
-    const QStringList paths = fill({u"1"_s, u"2"_s, u"3"_s});
-    QCOMPARE(backupFiles(store(), paths.first(2)).count, 2);
+    const QStringList paths = fill({u"1"_s, u"2"_s, u"3"_s, u"4"_s});
+    QCOMPARE(backupFiles(store(), paths.first(3)).count, 3);
     QList<BackupEntry> entries = loadBackupIndex(store());
     entries.append({m_tree->path(u"away/x"_s), m_tree->path(u"away/.mirrix-0.aside"_s), 1, 1});
     QVERIFY(saveBackupIndex(store(), entries));
     QVERIFY(QFile::remove(entries[0].backup));
+    QVERIFY(QFile::rename(entries[2].backup, paths[2]));
     QCOMPARE(restorableEntries(store()), QList<BackupEntry>{entries[1]});
-    QCOMPARE(backupFiles(store(), {paths[2]}).count, 1);
+    QCOMPARE(backupFiles(store(), {paths[3]}).count, 1);
     const QList<BackupEntry> after = loadBackupIndex(store());
-    QCOMPARE(after.first(2), (QList<BackupEntry>{entries[1], entries[2]}));
-    QCOMPARE(after[2].original, paths[2]);
+    QCOMPARE(after.first(3), (QList<BackupEntry>{entries[0], entries[1], entries[3]}));
+    QCOMPARE(after[3].original, paths[3]);
+}
+
+void BackupStoreTest::renamedFolder()
+{
+    const QStringList paths = fill({u"1"_s, u"2"_s});
+    const DiskTree before = source();
+    QCOMPARE(backupFiles(store(), {paths[0]}).count, 1);
+    const QString moved = m_tree->path(u"mounted elsewhere"_s);
+    QVERIFY(QDir().rename(store(), moved));
+    QCOMPARE(backupFiles(moved, {paths[1]}).count, 1);
+    const QList<BackupEntry> entries = restorableEntries(moved);
+    QCOMPARE(entries.size(), 2);
+    QVERIFY(entries[0].backup.startsWith(moved + u'/'));
+    QCOMPARE(restoreBackups(moved, entries).errors, QStringList());
+    QCOMPARE(source(), before);
+    QVERIFY(loadBackupIndex(moved).isEmpty());
+}
+
+void BackupStoreTest::damagedBackups_data()
+{
+    QTest::addColumn<QString>("digest"); // of the bytes "content of 1"
+    QTest::addColumn<QByteArray>("found");
+    QTest::addColumn<bool>("isRestored");
+    const QString md5 =
+        u"md5:"_s + QLatin1String(QCryptographicHash::hash("content of 1", QCryptographicHash::Md5).toHex());
+    const QString blake3 = u"blake3:c315b79a8e962d7125ff793567b79c48786d2f2b0754bdacb5b71c9216619f98"_s;
+    QTest::newRow("cut") << QString() << QByteArray("content of") << false;
+    QTest::newRow("a byte flipped, MD5") << md5 << QByteArray("content oF 1") << false;
+    QTest::newRow("a byte flipped, BLAKE3") << blake3 << QByteArray("content oF 1") << false;
+    QTest::newRow("whole, MD5") << md5.toUpper().replace(u"MD5"_s, u"md5"_s) << QByteArray("content of 1") << true;
+    QTest::newRow("whole, BLAKE3") << blake3 << QByteArray("content of 1") << true;
+    QTest::newRow("digest of a later version") << u"sha999:00"_s << QByteArray("content of 1") << true;
+}
+
+/// What differs from what was backed up stays in the folder and in the index.
+void BackupStoreTest::damagedBackups()
+{
+    QFETCH(QString, digest);
+    QFETCH(QByteArray, found);
+    QFETCH(bool, isRestored);
+    const QStringList paths = fill({u"1"_s});
+    QCOMPARE(backupFiles(store(), paths, {}, {digest}).count, 1);
+    QList<BackupEntry> entries = loadBackupIndex(store());
+    QCOMPARE(entries[0].digest, digest);
+    entries[0].others = {{u"later"_s, 7}};
+    QVERIFY(saveBackupIndex(store(), entries));
+    m_tree->write(u"store/deep/"_s + QFileInfo(entries[0].backup).fileName(), found);
+    const RestoreResult result = restoreBackups(store(), restorableEntries(store()));
+    QCOMPARE(result.errors, isRestored ? QStringList() : QStringList{u"备份文件已损坏，未恢复: "_s + paths[0]});
+    QCOMPARE(QFile::exists(paths[0]), isRestored);
+    QCOMPARE(backupFiles(store(), fill({u"2"_s})).count, 1);
+    QCOMPARE(loadBackupIndex(store()).first() == entries[0], !isRestored);
 }
 
 void BackupStoreTest::damagedIndexIsKept_data()
@@ -293,7 +349,10 @@ void BackupStoreTest::hostileEntries_data()
     QTest::addColumn<QString>("backup");
     QTest::newRow("a file from elsewhere") << u"src/new"_s << u"src/victim"_s;
     QTest::newRow("out of the store by dots") << u"src/new"_s << u"store/deep/../../src/victim"_s;
-    QTest::newRow("from below the store") << u"src/new"_s << u"store/deep/sub/file"_s;
+    QTest::newRow("from below the store") << u"src/new"_s << u"store/deep/sub/other"_s;
+    QTest::newRow("the index") << u"src/new"_s << u"store/deep/backup_index.json"_s;
+    QTest::newRow("its lock") << u"src/new"_s << u"store/deep/Backup_Index.lock"_s;
+    QTest::newRow("a begun copy") << u"src/new"_s << u"store/deep/.mirrix-1.part"_s;
     QTest::newRow("aside name from elsewhere") << u"new"_s << u"src/.mirrix-1.aside"_s;
     QTest::newRow("dots in the old path") << u"src/../new"_s << u"store/deep/file"_s;
     QTest::newRow("a zero in the old path") << u"src/new"_s + QChar(0) + u'x' << u"store/deep/file"_s;
@@ -310,12 +369,13 @@ void BackupStoreTest::hostileEntries()
     QFETCH(QString, original);
     QFETCH(QString, backup);
     for (const QString &name :
-         {u"src/victim"_s, u"src/.mirrix-1.aside"_s, u"store/deep/file"_s, u"store/deep/sub/file"_s})
+         {u"src/victim"_s, u"src/.mirrix-1.aside"_s, u"store/deep/file"_s, u"store/deep/sub/other"_s,
+          u"store/deep/Backup_Index.lock"_s, u"store/deep/.mirrix-1.part"_s})
         m_tree->write(name, name.toUtf8());
     if (backup.endsWith(u"link"_s) && !m_tree->symbolicLink(u"src/victim"_s, backup))
         QSKIP("no symbolic links");
     const QString to = original.isEmpty() ? u"new"_s : m_tree->path() + u'/' + original;
-    QVERIFY(saveBackupIndex(store(), {{to, m_tree->path() + u'/' + backup, 1, 1}}));
+    QVERIFY(saveBackupIndex(store(), {{to, m_tree->path() + u'/' + backup, 0, 1}}));
     const DiskTree before = treeBelow(m_tree->path());
     const RestoreResult result = restoreBackups(store(), loadBackupIndex(store()));
     QCOMPARE(result.errors.size(), 1);

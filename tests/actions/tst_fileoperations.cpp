@@ -75,6 +75,9 @@ private slots:
     void heldOpenByOthers_data();
     void heldOpenByOthers();
     void acrossVolumes();
+    void sparseFilesStaySparse_data();
+    void sparseFilesStaySparse();
+    void volumeWithoutAttributes();
     void fullDisk_data();
     void fullDisk();
     void guardAndCancel();
@@ -247,6 +250,54 @@ void FileOperationsTest::acrossVolumes()
     QVERIFY(!createHardLink(link, m_tree->write(u"target"_s, "x"), &error));
     QCOMPARE(error, u"无法创建硬链接: "_s + link);
     QVERIFY(treeBelow(other->path()).isEmpty());
+}
+
+void FileOperationsTest::sparseFilesStaySparse_data()
+{
+    QTest::addColumn<QList<int>>("written"); // a few bytes at these offsets
+    QTest::newRow("hole behind") << QList<int>{0};
+    QTest::newRow("hole before") << QList<int>{(64 << 20) - 5};
+    QTest::newRow("holes between") << QList<int>{0, 10 << 20, 30 << 20};
+    QTest::newRow("nothing but a hole") << QList<int>{};
+}
+
+void FileOperationsTest::sparseFilesStaySparse()
+{
+    QFETCH(const QList<int>, written);
+    const auto other = folderOnOtherVolume(m_tree->path());
+    if (!other || !namesAreBytes)
+        QSKIP("no second volume, or no blocks to count");
+    QFile file(m_tree->path(u"sparse"_s));
+    QVERIFY(file.open(QIODevice::ReadWrite) && file.resize(64 << 20));
+    for (const int offset : written)
+        QVERIFY(file.seek(offset) && file.write("bytes") == 5);
+    file.close();
+    const DiskTree before = treeBelow(m_tree->path());
+    QVERIFY(moveToFolder(file.fileName(), other->path()));
+    QCOMPARE(treeBelow(other->path()), before);
+    QProcess blocks;
+    blocks.start(u"stat"_s, {u"-c"_s, u"%b"_s, other->filePath(u"sparse"_s)});
+    QVERIFY(blocks.waitForFinished());
+    QVERIFY(blocks.readAll().toInt() <= 8192); // of 512 bytes; 131072 without holes
+}
+
+/// FAT over FUSE answers ENOSYS where others have modes and times, and renames only with replacing.
+void FileOperationsTest::volumeWithoutAttributes()
+{
+    MIRRIX_IN_SCENE("MIRRIX_NO_ATTRIBUTES",
+                    "MIRRIX_NO_ATTRIBUTES=1 ASAN_OPTIONS=detect_leaks=0 exec strace -f -qq -o \"$0/trace\" "
+                    "-e inject=fchmod,fchown,utimensat,fsetxattr,renameat2,link:error=ENOSYS \"$@\"");
+    const auto other = folderOnOtherVolume(m_tree->path());
+    if (!other)
+        QSKIP("no second volume");
+    const QString path = m_tree->write(u"file"_s, patternBytes(3 << 20));
+    QVERIFY(moveToFolder(path, other->path()));
+    QCOMPARE(contentOf(other->filePath(u"file"_s)), patternBytes(3 << 20));
+    QCOMPARE(treeBelow(other->path()).size(), 1);
+    const QString twin = m_tree->write(u"away/file"_s, "other");
+    QCOMPARE(renameExclusively(twin, other->filePath(u"file"_s)), FileFault::Occupied);
+    QCOMPARE(renameExclusively(twin, path), FileFault::None);
+    QCOMPARE(contentOf(path), QByteArray("other"));
 }
 
 void FileOperationsTest::fullDisk_data()

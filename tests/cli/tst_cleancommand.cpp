@@ -347,7 +347,7 @@ void CleanCommandTest::mistakes_data()
     for (const QString &loose : {u"contentMatch=2"_s, u"searchMode=1"_s})
         row(u"clean --keep newest --method delete --set "_s + loose + u" /a"_s,
             u"clean acts on files of identical content only"_s);
-    row(u"restore --all x"_s, u"--list, --all and entries exclude each other"_s);
+    row(u"restore --all x"_s, u"--list, --all, --verify and entries exclude each other"_s);
     row(u"log --format csv"_s, u"--format needs text or json, not \"csv\""_s);
 }
 

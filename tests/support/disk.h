@@ -89,13 +89,11 @@ using DiskTree = QMap<QString, QByteArray>;
     return qEnvironmentVariable("MIRRIX_SMALL_DISK");
 }
 
-/// Runs the current row once more, with smallDisk() set. False, with the reason in `problem`, when that run failed;
-/// "cannot mount" where a file system cannot be mounted.
-[[nodiscard]] inline bool passesOnSmallDisk(QByteArray &problem)
+/// Runs the current row once more by a shell script that sets the scene in the folder "$0" and then executes the test,
+/// "$@". False, with the reason in `problem`, when that run failed; "no scene" where the scene cannot be set.
+[[nodiscard]] inline bool passesInScene(const QString &script, QByteArray &problem)
 {
     const QTemporaryDir folder;
-    const QString script = QStringLiteral("mount -t tmpfs -o size=20k none \"$0\" || exit 77; "
-                                          "MIRRIX_SMALL_DISK=\"$0\" exec \"$1\" \"$2\"");
     const char *tag = QTest::currentDataTag();
     const QString row =
         QLatin1String(QTest::currentTestFunction()) + (tag ? QLatin1Char(':') + QString::fromUtf8(tag) : QString());
@@ -105,19 +103,25 @@ using DiskTree = QMap<QString, QByteArray>;
     process.waitForFinished();
     const QByteArray output = process.readAll();
     const bool hasRun = process.error() != QProcess::FailedToStart && output.contains("PASS");
-    problem = hasRun || output.contains("FAIL!") ? output : QByteArray("cannot mount");
+    problem = hasRun || output.contains("FAIL!") ? output : QByteArray("no scene");
     return hasRun && process.exitCode() == 0;
 }
 
 } // namespace MirrixTest
 
-/// Goes on on a disk of 20 KiB, in a second run of the row, and ends the first.
-#define MIRRIX_ON_SMALL_DISK()                                                                                         \
-    if (MirrixTest::smallDisk().isEmpty()) {                                                                           \
+/// Goes on in a second run of the row, which the environment variable `sign` marks and `script` sets up as for
+/// passesInScene, and ends the first.
+#define MIRRIX_IN_SCENE(sign, script)                                                                                  \
+    if (!qEnvironmentVariableIsSet(sign)) {                                                                            \
         QByteArray problem;                                                                                            \
-        const bool isPassed = MirrixTest::passesOnSmallDisk(problem);                                                  \
-        if (problem == "cannot mount")                                                                                 \
-            QSKIP("cannot mount a small file system");                                                                 \
+        const bool isPassed = MirrixTest::passesInScene(QStringLiteral(script), problem);                              \
+        if (problem == "no scene")                                                                                     \
+            QSKIP("the system lets nobody set up " sign);                                                              \
         QVERIFY2(isPassed, problem.constData());                                                                       \
         return;                                                                                                        \
     }
+
+/// Goes on on a disk of 20 KiB.
+#define MIRRIX_ON_SMALL_DISK()                                                                                         \
+    MIRRIX_IN_SCENE("MIRRIX_SMALL_DISK", "mount -t tmpfs -o size=20k none \"$0\" || exit 77; "                         \
+                                         "MIRRIX_SMALL_DISK=\"$0\" exec \"$@\"")
