@@ -179,9 +179,9 @@ void RunJournalTest::cutAnywhere()
         replace(bytes.first(length));
         const auto whole = std::upper_bound(ends.begin(), ends.end(), length) - ends.begin();
         const StoredRun run = readRun(path());
-        QCOMPARE(run.summary.isReadable, whole > 0);
+        QVERIFY(run.summary.isReadable && run.summary.header.startedMs > 0);
         QCOMPARE(run.summary.isDamaged, length != 0 && !ends.contains(length));
-        QCOMPARE(run.summary.message.isEmpty(), whole > 0 && !run.summary.isDamaged);
+        QCOMPARE(run.summary.message.isEmpty(), !run.summary.isDamaged);
         QCOMPARE(run.summary.isComplete, length == bytes.size());
         QCOMPARE(run.items.size(), whole > 1 ? 3 : 0);
         QCOMPARE(run.summary.totals.done, whole > 4 ? 2 : whole > 3 ? 1 : 0);
@@ -199,7 +199,7 @@ void RunJournalTest::flippedAnywhere()
         replace(flipped);
         const auto whole = std::upper_bound(ends.begin(), ends.end(), at) - ends.begin();
         const StoredRun run = readRun(path());
-        QCOMPARE(run.summary.isReadable, whole > 0);
+        QVERIFY(run.summary.isReadable || whole == 0);
         QVERIFY(run.summary.isDamaged && !run.summary.isComplete);
         QCOMPARE(run.items.size(), whole > 1 ? 3 : 0);
         QCOMPARE(run.summary.totals.done, whole > 4 ? 2 : whole > 3 ? 1 : 0);
@@ -209,7 +209,6 @@ void RunJournalTest::flippedAnywhere()
 void RunJournalTest::garbage_data()
 {
     QTest::addColumn<QByteArray>("content");
-    QTest::newRow("zeros") << QByteArray(4096, '\0');
     QTest::newRow("length of 4 GiB") << QByteArray(4096, '\xFF');
     QTest::newRow("length above the limit") << QByteArray::fromHex("01000001") + QByteArray(16 * 1024 * 1024 + 1, 'x');
     QTest::newRow("length without nonce and tag") << QByteArray::fromHex("1b000000") + QByteArray(27, 'x');
@@ -240,7 +239,8 @@ void RunJournalTest::continuesAfterACut()
 {
     const QByteArray bytes = written();
     for (const qsizetype missing : {1, 30, 200}) {
-        replace(bytes.chopped(missing));
+        replace(bytes.chopped(missing) + (missing == 30 ? QByteArray(4096, '\0') : QByteArray()));
+        QVERIFY(readRun(path()).summary.isDamaged);
         QVERIFY(appendUndone(data(), id, {{0, ItemState::Done, u"/a"_s, {}, {}, 9, 9}}));
         const StoredRun run = readRun(path());
         QVERIFY(!run.summary.isDamaged && !run.summary.isComplete);
