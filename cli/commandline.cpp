@@ -3,6 +3,7 @@
 #include "app/datalocations.h"
 #include "cli/cleancommand.h"
 #include "cli/hashcommand.h"
+#include "cli/historycommand.h"
 #include "cli/logcommand.h"
 #include "cli/output.h"
 #include "cli/restorecommand.h"
@@ -31,13 +32,15 @@ struct Command
     ExitStatus (*run)(const QCommandLineParser &);
 };
 
-const std::array<Command, 5> &commands()
+const std::array<Command, 6> &commands()
 {
-    static const std::array<Command, 5> table = {{
+    static const std::array<Command, 6> table = {{
         {QStringLiteral("scan"), QStringLiteral("find duplicate files below folders"), addScanOptions, runScan},
         {QStringLiteral("clean"), QStringLiteral("remove surplus copies of identical files"), addCleanOptions,
          runClean},
         {QStringLiteral("restore"), QStringLiteral("list or put back backed-up files"), addRestoreOptions, runRestore},
+        {QStringLiteral("history"), QStringLiteral("list the cleaning runs, or the files of one"), addHistoryOptions,
+         runHistory},
         {QStringLiteral("log"), QStringLiteral("print what was done"), addLogOptions, runLog},
         {QStringLiteral("hash"), QStringLiteral("print digests of files"), addHashOptions, runHash},
     }};

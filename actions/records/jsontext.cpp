@@ -1,7 +1,5 @@
 #include "actions/records/jsontext.h"
 
-#include <algorithm>
-
 namespace Mirrix {
 
 namespace {
@@ -19,21 +17,35 @@ void appendEscape(QByteArray &out, QChar unit)
         out.append("\\u").append(QByteArray::number(unit.unicode(), 16).rightJustified(4, '0'));
 }
 
+/// Most texts are ASCII without anything to escape. False, with nothing appended, for another.
+bool appendPlain(QByteArray &out, const QString &text)
+{
+    const qsizetype begin = out.size();
+    out.resize(begin + text.size());
+    char *at = out.data() + begin;
+    for (const QChar unit : text) {
+        if (unit > u'~' || isEscaped(unit)) {
+            out.truncate(begin);
+            return false;
+        }
+        *at++ = static_cast<char>(unit.unicode());
+    }
+    return true;
+}
+
 } // namespace
 
 void appendJsonText(QByteArray &out, const QString &text)
 {
     out.append('"');
-    if (std::none_of(text.begin(), text.end(), isEscaped) && text.isValidUtf16()) {
-        out.append(text.toUtf8());
-    } else {
+    if (!appendPlain(out, text)) {
         for (qsizetype i = 0; i < text.size(); ++i) {
             const QChar unit = text[i];
             const bool isPair = unit.isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
             if (isEscaped(unit) || (unit.isSurrogate() && !isPair))
                 appendEscape(out, unit);
             else
-                out.append(text.mid(i, isPair ? 2 : 1).toUtf8());
+                out.append(QStringView(text).sliced(i, isPair ? 2 : 1).toUtf8());
             i += isPair ? 1 : 0;
         }
     }

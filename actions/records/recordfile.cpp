@@ -35,20 +35,16 @@ RecordReader::Outcome RecordReader::next(QByteArray &text)
 
 RecordReader::Outcome RecordReader::read(QByteArray &text)
 {
-    const auto endOrCut = [this](const QByteArray &bytes) {
-        return m_file.error() != QFileDevice::NoError ? Outcome::Failed
-               : bytes.isEmpty()                      ? Outcome::End
-                                                      : Outcome::Damaged;
-    };
+    const auto hasFailed = [this] { return m_file.error() != QFileDevice::NoError; };
     const QByteArray head = m_file.read(lengthBytes);
     if (head.size() != lengthBytes)
-        return endOrCut(head);
+        return hasFailed() ? Outcome::Failed : head.isEmpty() ? Outcome::End : Outcome::Cut;
     const qint64 length = qFromLittleEndian<quint32>(head.constData());
     if (length < gcmNonceBytes + gcmTagBytes || length > mostRecordBytes)
-        return Outcome::Damaged;
+        return length == 0 ? Outcome::Cut : Outcome::Damaged;
     const QByteArray body = m_file.read(length);
     if (body.size() != length)
-        return m_file.error() != QFileDevice::NoError ? Outcome::Failed : Outcome::Damaged;
+        return hasFailed() ? Outcome::Failed : Outcome::Cut;
     const QByteArrayView bytes(body);
     const std::optional<QByteArray> plain =
         m_key.decrypt(bytes.first(gcmNonceBytes), bytes.sliced(gcmNonceBytes), littleEndian(m_position.count));

@@ -31,7 +31,8 @@ public:
     {
         Record,
         End,
-        Damaged, ///< the next record is cut, too long or not authentic
+        Cut,     ///< the file ends inside a record, or goes on with the zeros that a power cut leaves
+        Damaged, ///< the next record is too long or not authentic
         Failed   ///< the disk would not read
     };
 

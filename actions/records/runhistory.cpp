@@ -31,8 +31,10 @@ public:
         RecordReader reader(runJournalKey());
         QByteArray text;
         RecordReader::Outcome read = reader.open(path) ? reader.next(text) : RecordReader::Outcome::Failed;
-        summary.isReadable =
-            read == RecordReader::Outcome::Record && readHeader(QJsonDocument::fromJson(text).object(), summary.header);
+        if (read == RecordReader::Outcome::Record)
+            summary.isReadable = readHeader(QJsonDocument::fromJson(text).object(), summary.header);
+        else // a run that was interrupted before it began
+            summary.isReadable = read == RecordReader::Outcome::End || read == RecordReader::Outcome::Cut;
         nameAfter(path);
         // No more files can be recorded than have room; the number itself proves nothing.
         constexpr qint64 leastBytesOfItem = 16;
@@ -57,7 +59,7 @@ private:
         if (!isRunId(name))
             return;
         header.id = name;
-        if (!m_run.summary.isReadable)
+        if (header.startedMs == 0)
             header.startedMs =
                 QDateTime::fromString(name.left(15), QStringLiteral("yyyyMMdd-HHmmss")).toMSecsSinceEpoch();
     }

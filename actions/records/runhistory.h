@@ -13,9 +13,9 @@ namespace Mirrix {
 /// A run without its files.
 struct RunSummary
 {
-    RunHeader header; ///< the id is that of the file's name; little else when the journal cannot be read
+    RunHeader header; ///< id and, where nothing else is known, time are those of the file's name
     RunTally::Totals totals;
-    bool isReadable = false;
+    bool isReadable = false; ///< also when nothing was written yet: such a run did nothing
     bool isComplete = false; ///< the run came to its end, or was cancelled
     bool isDamaged = false;  ///< more stands in the journal than can be read
     QString message;         ///< on what is damaged or cannot be read; empty otherwise

@@ -336,6 +336,22 @@
         <translation>Kein Papierkorb kann diese Datei aufnehmen; behalten: %1</translation>
     </message>
     <message>
+        <source>无法写入清理记录: %1 (%2)</source>
+        <translation>Das Protokoll der Bereinigung konnte nicht geschrieben werden: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>清理记录正被另一程序使用: %1</source>
+        <translation>Ein anderes Programm benutzt das Protokoll der Bereinigung: %1</translation>
+    </message>
+    <message>
+        <source>清理记录已损坏，只读到完好部分: %1</source>
+        <translation>Das Protokoll der Bereinigung ist beschädigt; nur sein heiler Teil wurde gelesen: %1</translation>
+    </message>
+    <message>
+        <source>无法读取清理记录（已损坏或来自另一台计算机）: %1</source>
+        <translation>Das Protokoll der Bereinigung konnte nicht gelesen werden (beschädigt oder von einem anderen Computer): %1</translation>
+    </message>
+    <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
         <translation>Verschieben in den Papierkorb fehlgeschlagen (Code %1, Dateien: %2)</translation>
     </message>

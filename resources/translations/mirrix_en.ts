@@ -336,6 +336,22 @@
         <translation>No Recycle Bin can take this file, kept: %1</translation>
     </message>
     <message>
+        <source>无法写入清理记录: %1 (%2)</source>
+        <translation>Could not write the cleaning journal: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>清理记录正被另一程序使用: %1</source>
+        <translation>Another program is using the cleaning journal: %1</translation>
+    </message>
+    <message>
+        <source>清理记录已损坏，只读到完好部分: %1</source>
+        <translation>The cleaning journal is damaged; only its intact part was read: %1</translation>
+    </message>
+    <message>
+        <source>无法读取清理记录（已损坏或来自另一台计算机）: %1</source>
+        <translation>Could not read the cleaning journal (damaged, or from another computer): %1</translation>
+    </message>
+    <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
         <translation>Failed to send files to Recycle Bin (code %1, %2 files)</translation>
     </message>

@@ -336,6 +336,22 @@
         <translation>Ninguna Papelera de reciclaje admite este archivo, se conserva: %1</translation>
     </message>
     <message>
+        <source>无法写入清理记录: %1 (%2)</source>
+        <translation>No se pudo escribir el registro de la limpieza: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>清理记录正被另一程序使用: %1</source>
+        <translation>Otro programa está usando el registro de la limpieza: %1</translation>
+    </message>
+    <message>
+        <source>清理记录已损坏，只读到完好部分: %1</source>
+        <translation>El registro de la limpieza está dañado; solo se leyó la parte intacta: %1</translation>
+    </message>
+    <message>
+        <source>无法读取清理记录（已损坏或来自另一台计算机）: %1</source>
+        <translation>No se pudo leer el registro de la limpieza (dañado o de otro equipo): %1</translation>
+    </message>
+    <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
         <translation>Error al enviar a la Papelera de reciclaje (código %1, archivos: %2)</translation>
     </message>

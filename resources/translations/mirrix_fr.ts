@@ -336,6 +336,22 @@
         <translation>Aucune Corbeille ne peut recevoir ce fichier, conservé : %1</translation>
     </message>
     <message>
+        <source>无法写入清理记录: %1 (%2)</source>
+        <translation>Impossible d’écrire le journal du nettoyage : %1 (%2)</translation>
+    </message>
+    <message>
+        <source>清理记录正被另一程序使用: %1</source>
+        <translation>Un autre programme utilise le journal du nettoyage : %1</translation>
+    </message>
+    <message>
+        <source>清理记录已损坏，只读到完好部分: %1</source>
+        <translation>Le journal du nettoyage est endommagé ; seule sa partie intacte a été lue : %1</translation>
+    </message>
+    <message>
+        <source>无法读取清理记录（已损坏或来自另一台计算机）: %1</source>
+        <translation>Impossible de lire le journal du nettoyage (endommagé ou d’un autre ordinateur) : %1</translation>
+    </message>
+    <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
         <translation>Échec de la mise à la Corbeille (code %1, fichiers : %2)</translation>
     </message>

@@ -336,6 +336,22 @@
         <translation>Nessun Cestino può accogliere questo file, conservato: %1</translation>
     </message>
     <message>
+        <source>无法写入清理记录: %1 (%2)</source>
+        <translation>Impossibile scrivere il registro della pulizia: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>清理记录正被另一程序使用: %1</source>
+        <translation>Un altro programma sta usando il registro della pulizia: %1</translation>
+    </message>
+    <message>
+        <source>清理记录已损坏，只读到完好部分: %1</source>
+        <translation>Il registro della pulizia è danneggiato; è stata letta solo la parte intatta: %1</translation>
+    </message>
+    <message>
+        <source>无法读取清理记录（已损坏或来自另一台计算机）: %1</source>
+        <translation>Impossibile leggere il registro della pulizia (danneggiato o di un altro computer): %1</translation>
+    </message>
+    <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
         <translation>Il Cestino ha rifiutato dei file (codice %1, %2 file)</translation>
     </message>

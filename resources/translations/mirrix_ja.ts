@@ -336,6 +336,22 @@
         <translation>ごみ箱に入れられないため保持しました: %1</translation>
     </message>
     <message>
+        <source>无法写入清理记录: %1 (%2)</source>
+        <translation>クリーンアップの記録を書き込めません: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>清理记录正被另一程序使用: %1</source>
+        <translation>クリーンアップの記録は別のプログラムが使用中です: %1</translation>
+    </message>
+    <message>
+        <source>清理记录已损坏，只读到完好部分: %1</source>
+        <translation>クリーンアップの記録が破損しているため、正常な部分だけを読み込みました: %1</translation>
+    </message>
+    <message>
+        <source>无法读取清理记录（已损坏或来自另一台计算机）: %1</source>
+        <translation>クリーンアップの記録を読み込めません（破損、または別のコンピューターのもの）: %1</translation>
+    </message>
+    <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
         <translation>ごみ箱に移動できませんでした (code %1、%2 個のファイル)</translation>
     </message>

@@ -336,6 +336,22 @@
         <translation>휴지통에 넣을 수 없어 보존함: %1</translation>
     </message>
     <message>
+        <source>无法写入清理记录: %1 (%2)</source>
+        <translation>정리 기록을 쓸 수 없습니다: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>清理记录正被另一程序使用: %1</source>
+        <translation>다른 프로그램이 정리 기록을 사용 중입니다: %1</translation>
+    </message>
+    <message>
+        <source>清理记录已损坏，只读到完好部分: %1</source>
+        <translation>정리 기록이 손상되어 온전한 부분만 읽었습니다: %1</translation>
+    </message>
+    <message>
+        <source>无法读取清理记录（已损坏或来自另一台计算机）: %1</source>
+        <translation>정리 기록을 읽을 수 없습니다(손상되었거나 다른 컴퓨터의 기록): %1</translation>
+    </message>
+    <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
         <translation>휴지통으로 이동하지 못함(code %1, 파일 %2개)</translation>
     </message>

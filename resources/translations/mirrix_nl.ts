@@ -336,6 +336,22 @@
         <translation>Geen prullenbak kan dit bestand opnemen, behouden: %1</translation>
     </message>
     <message>
+        <source>无法写入清理记录: %1 (%2)</source>
+        <translation>Kan het logboek van de opruiming niet schrijven: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>清理记录正被另一程序使用: %1</source>
+        <translation>Een ander programma gebruikt het logboek van de opruiming: %1</translation>
+    </message>
+    <message>
+        <source>清理记录已损坏，只读到完好部分: %1</source>
+        <translation>Het logboek van de opruiming is beschadigd; alleen het gave deel is gelezen: %1</translation>
+    </message>
+    <message>
+        <source>无法读取清理记录（已损坏或来自另一台计算机）: %1</source>
+        <translation>Kan het logboek van de opruiming niet lezen (beschadigd of van een andere computer): %1</translation>
+    </message>
+    <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
         <translation>Prullenbak heeft bestanden geweigerd (code %1, %2 bestanden)</translation>
     </message>

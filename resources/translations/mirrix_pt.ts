@@ -336,6 +336,22 @@
         <translation>Nenhuma Lixeira pode receber este arquivo, mantido: %1</translation>
     </message>
     <message>
+        <source>无法写入清理记录: %1 (%2)</source>
+        <translation>Não foi possível gravar o registro da limpeza: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>清理记录正被另一程序使用: %1</source>
+        <translation>Outro programa está usando o registro da limpeza: %1</translation>
+    </message>
+    <message>
+        <source>清理记录已损坏，只读到完好部分: %1</source>
+        <translation>O registro da limpeza está danificado; só a parte intacta foi lida: %1</translation>
+    </message>
+    <message>
+        <source>无法读取清理记录（已损坏或来自另一台计算机）: %1</source>
+        <translation>Não foi possível ler o registro da limpeza (danificado ou de outro computador): %1</translation>
+    </message>
+    <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
         <translation>Falha ao enviar para a Lixeira (código %1, arquivos: %2)</translation>
     </message>

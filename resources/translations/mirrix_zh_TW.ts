@@ -336,6 +336,22 @@
         <translation>無法放入資源回收筒，已保留: %1</translation>
     </message>
     <message>
+        <source>无法写入清理记录: %1 (%2)</source>
+        <translation>無法寫入清理記錄: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>清理记录正被另一程序使用: %1</source>
+        <translation>清理記錄正由另一個程式使用: %1</translation>
+    </message>
+    <message>
+        <source>清理记录已损坏，只读到完好部分: %1</source>
+        <translation>清理記錄已損壞，只讀取了完好的部分: %1</translation>
+    </message>
+    <message>
+        <source>无法读取清理记录（已损坏或来自另一台计算机）: %1</source>
+        <translation>無法讀取清理記錄（已損壞或來自另一台電腦）: %1</translation>
+    </message>
+    <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
         <translation>無法將檔案移至資源回收筒 (code %1, %2 個檔案)</translation>
     </message>
