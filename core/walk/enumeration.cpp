@@ -118,13 +118,14 @@ private:
             note(root, status.reason.isEmpty() ? QStringLiteral("no such folder") : status.reason);
         else if (status.kind != FileStatus::Kind::Folder)
             note(root, QStringLiteral("not a folder"));
-        else if (!m_rules.isListed(root) && !m_rules.isListed(status.identity))
-            walkFolder(root);
+        else if (const QString realPath = realPathOf(root);
+                 !m_rules.isListed(root) && !m_rules.isListed(realPath) && !m_rules.isListed(status.identity))
+            walkFolder(root, realPath);
     }
 
-    void walkFolder(const QString &folder)
+    void walkFolder(const QString &folder, const QString &realFolder)
     {
-        push(folder, realPathOf(folder), placeOfTree(folder), true);
+        push(folder, realFolder, placeOfTree(folder), true);
         FolderItem item;
         while (!m_stack.empty()) {
             if (isCancelled(m_cancelled)) {

@@ -523,7 +523,8 @@ void ScanCommandTest::oddNames()
     const QStringList folders = {m_tree->path(u"one"_s), m_tree->path(u"two/sub"_s)};
     QCOMPARE(groupsIn(scanAsJson(folders).output), (QList<QStringList>{{file, other}}));
     const QByteArray text = scan(folders).output;
-    QVERIFY2(text.contains("\n  " + file.toUtf8() + "\n  " + other.toUtf8() + "\n\n"), text.constData());
+    for (const QString &path : {file, other})
+        QVERIFY2(text.contains("\n  " + path.toUtf8() + '\n'), text.constData());
 }
 
 void ScanCommandTest::namesOfBytes()
