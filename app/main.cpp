@@ -4,13 +4,13 @@
 #include "app/translations.h"
 #include "core/cache/cacheroot.h"
 #include "core/platform/nativepath.h"
+#include "ui/logic/locationtext.h"
 #include "ui/mirrix.h"
 #include "ui/prompts.h"
 #include "ui/showcaptionhook.h"
 #include "ui/theme.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QIcon>
 
 int main(int argc, char *argv[])
@@ -34,10 +34,8 @@ int main(int argc, char *argv[])
     Mirrix::DialogPrompts prompts;
     MirrixUi::Mirrix window(settings, prompts);
     // Folders named on the command line, or dropped on the program's icon.
-    for (const QString &argument : arguments.mid(1)) {
-        if (QDir(argument).exists())
-            window.addLocation(MirrixCore::absolutePath(argument));
-    }
+    for (const QString &folder : Mirrix::foldersAmong(arguments.mid(1)))
+        window.addLocation(folder);
     window.show();
     return QApplication::exec();
 }

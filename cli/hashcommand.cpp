@@ -130,6 +130,8 @@ ExitStatus runHash(const QCommandLineParser &parser)
     const QStringList arguments = parser.positionalArguments();
     if (arguments.isEmpty())
         throw UsageError{QStringLiteral("no file to hash")};
+    if (arguments.contains(QString()))
+        throw UsageError{QStringLiteral("an empty file name")};
     catchInterrupts();
     QList<UnreadPath> unread;
     QStringList files;

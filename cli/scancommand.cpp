@@ -11,6 +11,7 @@
 #include "core/platform/nativepath.h"
 #include "core/scan/duplicatescanner.h"
 #include "core/scan/optiontable.h"
+#include "core/walk/filestatus.h"
 #include "core/walk/pathrules.h"
 
 #include <QDir>
@@ -37,6 +38,39 @@ const QString outputOption = QStringLiteral("output");
 
 constexpr int mostThreads = 256;
 
+/// `path` against `base`, the current folder when that is empty.
+QString absoluteFolder(const QString &path, const QString &base = {})
+{
+    if (path.isEmpty())
+        throw UsageError{QStringLiteral("an empty folder name")};
+    const bool isAgainstBase = !base.isEmpty() && QDir::isRelativePath(path);
+    return cleanedPath(absolutePath(isAgainstBase ? base + QLatin1Char('/') + path : path));
+}
+
+/// Takes the relative paths among the options against `base`, as above.
+void makeAbsolute(ScanOptions &options, const QString &base = {})
+{
+    for (QString &root : options.roots)
+        root = absoluteFolder(root, base);
+    for (QString &folder : options.excludeFolders)
+        folder = absoluteFolder(folder, base);
+    for (ScanLocation &location : options.locations)
+        location.path = absoluteFolder(location.path, base);
+}
+
+/// A folder that is to be left out and is misspelled would be scanned.
+void refuseMissingExclusions(const ScanOptions &options)
+{
+    for (const QString &folder : options.excludeFolders) {
+        const FileStatus status = fileStatus(folder);
+        if (status.kind == FileStatus::Kind::Folder)
+            continue;
+        const QString missing = status.reason.isEmpty() ? QStringLiteral("no such folder") : status.reason;
+        const QString reason = status.kind == FileStatus::Kind::Missing ? missing : QStringLiteral("not a folder");
+        throw UsageError{QStringLiteral("cannot exclude %1: %2").arg(folder, reason)};
+    }
+}
+
 void readOptionsFile(const QString &path, ScanOptions &options)
 {
     QFile file(path);
@@ -52,6 +86,7 @@ void readOptionsFile(const QString &path, ScanOptions &options)
     const QString problem = scanOptionsFromJson(document.object(), options);
     if (!problem.isEmpty())
         throw UsageError{QStringLiteral("%1: %2").arg(path, problem)};
+    makeAbsolute(options, QFileInfo(path).path());
 }
 
 void applyAssignment(const QString &assignment, ScanOptions &options)
@@ -62,13 +97,6 @@ void applyAssignment(const QString &assignment, ScanOptions &options)
     const QString problem = setScanOption(options, assignment.left(equals), assignment.mid(equals + 1));
     if (!problem.isEmpty())
         throw UsageError{problem};
-}
-
-QString absoluteFolder(const QString &path)
-{
-    if (path.isEmpty())
-        throw UsageError{QStringLiteral("an empty folder name")};
-    return cleanedPath(absolutePath(path));
 }
 
 int threadsOf(const QString &text)
@@ -209,13 +237,10 @@ void readSelection(const QCommandLineParser &parser, ScanOptions &options)
         applyAssignment(assignment, options);
     if (parser.isSet(threadsOption))
         options.threads = threadsOf(parser.value(threadsOption));
-    const QStringList excluded = parser.values(excludeOption);
-    for (const QString &folder : excluded)
-        options.excludeFolders.append(absoluteFolder(folder));
-    QStringList roots = options.roots + parser.positionalArguments();
-    for (QString &root : roots)
-        root = absoluteFolder(root);
-    options.roots = roots;
+    options.excludeFolders += parser.values(excludeOption);
+    options.roots += parser.positionalArguments();
+    makeAbsolute(options);
+    refuseMissingExclusions(options);
     if (options.roots.isEmpty())
         throw UsageError{QStringLiteral("no folder to scan")};
 }

@@ -22,7 +22,7 @@ void addScanOptions(QCommandLineParser &parser);
 /// Declares the options that choose files and digests, and the folders.
 void addSelectionOptions(QCommandLineParser &parser);
 
-/// Overlays `options` with those, all folders made absolute. Throws UsageError.
+/// Overlays `options` with those. All folders become absolute, and those to leave out must exist. Throws UsageError.
 void readSelection(const QCommandLineParser &parser, MirrixCore::ScanOptions &options);
 
 /// Chooses digest and cache as the command line asks, and notes Ctrl-C from now on. Throws UsageError.

@@ -43,6 +43,22 @@ QString heading(const FolderGroup &group)
              counted(group.fileCount, QStringLiteral("file")), Mirrix::sizeText(group.size));
 }
 
+/// The name of a place in JSON; empty for the ordinary one.
+QString placeName(FilePlace place)
+{
+    switch (place) {
+    case FilePlace::Ordinary:
+        return {};
+    case FilePlace::RecycleBin:
+        return QStringLiteral("recycleBin");
+    case FilePlace::BackupFolder:
+        return QStringLiteral("backupFolder");
+    case FilePlace::Snapshot:
+        return QStringLiteral("snapshot");
+    }
+    return {};
+}
+
 /// A heading, and below it the paths of `items`.
 template <typename Item>
 void writeBlock(const QString &heading, const QList<Item> &items, Output &output)
@@ -126,6 +142,7 @@ public:
         member("size", file.size);
         member("modifiedMs", file.modifiedMs);
         member("createdMs", file.createdMs);
+        knownMember("place", placeName(file.place));
         mediaMembers(file);
         raw("}");
     }

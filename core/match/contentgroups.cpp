@@ -5,7 +5,7 @@
 
 namespace MirrixCore {
 
-void collectGroups(Candidates &candidates, const QList<FileEntry> &files, ScanResult &result)
+void collectGroups(Candidates &candidates, const QList<FileEntry> &files, bool isEqualContent, ScanResult &result)
 {
     for (const Run &run : runsOf(candidates, &Candidate::full)) {
         DuplicateGroup group;
@@ -14,6 +14,7 @@ void collectGroups(Candidates &candidates, const QList<FileEntry> &files, ScanRe
         for (const Candidate &candidate : run)
             group.files.append(files[candidate.file]);
         group.wastedBytes = wasteOf(group.files);
+        group.isEqualContent = isEqualContent;
         result.groups.append(group);
     }
 }

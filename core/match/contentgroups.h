@@ -8,8 +8,8 @@
 namespace MirrixCore {
 
 /// Adds a group for each full digest that two or more candidates share, keyed by its lower-case hex digits, members in
-/// input order. The candidates end up sorted.
-void collectGroups(Candidates &candidates, const QList<FileEntry> &files, ScanResult &result);
+/// input order. `isEqualContent`: whether those digests are of whole files. The candidates end up sorted.
+void collectGroups(Candidates &candidates, const QList<FileEntry> &files, bool isEqualContent, ScanResult &result);
 
 /// What every matcher of contents does to its groups at last: splits them by the rules that are on, drops further names
 /// of one file when asked to, counts the waste and sorts by it.

@@ -6,11 +6,12 @@ ScanResult groupEmptyFiles(const QList<FileEntry> &files)
 {
     ScanResult result = resultOn(files);
     DuplicateGroup group;
-    group.key = QStringLiteral("empty");
+    group.key = emptyFilesKey;
     for (const FileEntry &file : files) {
         if (file.size == 0)
             group.files.append(file);
     }
+    group.isEqualContent = true;
     if (!group.files.isEmpty())
         result.groups.append(group);
     return result;

@@ -48,7 +48,7 @@ public:
         if (isCancelled(m_cancelled))
             return abandoned(candidates);
         candidates.resize(static_cast<size_t>(shared));
-        collectGroups(candidates, m_files, m_result);
+        collectGroups(candidates, m_files, true, m_result);
         finishContentGroups(m_result, m_options, m_cancelled);
         return finished();
     }

@@ -194,7 +194,10 @@ QList<DuplicateGroup> refineGroupsByRuleKeys(const QList<DuplicateGroup> &groups
         if (isCancelled(cancelled))
             return {};
         const QList<Bucket> buckets = sharedBuckets(group.files, options, false, true, cancelled);
-        refined += groupsOf(buckets, group.key, QStringLiteral("%1|SFN"), options, cancelled);
+        QList<DuplicateGroup> parts = groupsOf(buckets, group.key, QStringLiteral("%1|SFN"), options, cancelled);
+        for (DuplicateGroup &part : parts)
+            part.isEqualContent = group.isEqualContent;
+        refined += parts;
     }
     return refined;
 }

@@ -30,6 +30,10 @@ namespace MirrixCore {
 /// it, by the text; on POSIX it stays, since behind a link it leads elsewhere.
 [[nodiscard]] QString absolutePath(const QString &path);
 
+/// What the absolute `path` leads to, by a path without links, "." and ".."; empty when nothing is there or the system
+/// would not say.
+[[nodiscard]] QString canonicalPath(const QString &path);
+
 /// A text that is equal for all spellings of one path that this system does not tell apart by its rules on letter case.
 [[nodiscard]] QString pathCaseKey(const QString &path);
 

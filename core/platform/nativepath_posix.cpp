@@ -12,6 +12,9 @@ namespace MirrixCore {
 
 namespace {
 
+/// A text that the system has allocated.
+using SystemText = std::unique_ptr<char, decltype(&std::free)>;
+
 constexpr char16_t loneBase = 0xDC00;
 
 /// Length of the valid UTF-8 sequence at the start of `bytes` (no overlong form, no surrogate), or 0.
@@ -68,17 +71,22 @@ std::filesystem::path filesystemPath(const QString &path)
 
 QString absolutePath(const QString &path)
 {
-    using SystemText = std::unique_ptr<char, decltype(&std::free)>;
     // Behind a link ".." leads elsewhere than the text says, so the system is asked; what does not exist stays.
     if (path.split(QLatin1Char('/')).contains(QLatin1String(".."))) {
-        const SystemText resolved(realpath(pathBytes(path).constData(), nullptr), &std::free);
-        if (resolved)
-            return pathFromBytes(resolved.get());
+        const QString resolved = canonicalPath(path);
+        if (!resolved.isEmpty())
+            return resolved;
     }
     if (path.startsWith(QLatin1Char('/')))
         return path;
     const SystemText current(getcwd(nullptr, 0), &std::free); // QDir::currentPath() loses bytes that are not UTF-8
     return current ? pathFromBytes(current.get()) + QLatin1Char('/') + path : path;
+}
+
+QString canonicalPath(const QString &path)
+{
+    const SystemText resolved(realpath(pathBytes(path).constData(), nullptr), &std::free);
+    return resolved ? pathFromBytes(resolved.get()) : QString();
 }
 
 QString pathCaseKey(const QString &path)

@@ -57,6 +57,24 @@ QString absolutePath(const QString &path)
     return QDir::cleanPath(QDir::current().absoluteFilePath(QDir::fromNativeSeparators(path)));
 }
 
+QString canonicalPath(const QString &path)
+{
+    const UniqueHandle file(CreateFileW(longPath(path).c_str(), FILE_READ_ATTRIBUTES,
+                                        FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                                        FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    if (!file)
+        return {};
+    std::wstring text(32768, L'\0'); // the longest path there is
+    const DWORD length = GetFinalPathNameByHandleW(file.get(), text.data(), static_cast<DWORD>(text.size()),
+                                                   FILE_NAME_NORMALIZED | VOLUME_NAME_DOS);
+    if (length == 0 || length >= text.size())
+        return {};
+    const QString found = QDir::fromNativeSeparators(textFromWide(text.c_str()));
+    if (found.startsWith(QLatin1String("//?/UNC/")))
+        return QLatin1String("//") + found.mid(8);
+    return found.startsWith(QLatin1String("//?/")) ? found.mid(4) : found;
+}
+
 QString pathCaseKey(const QString &path)
 {
     return path.toLower();

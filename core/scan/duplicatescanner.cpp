@@ -3,6 +3,7 @@
 #include "core/cache/cacheroot.h"
 #include "core/match/emptyfiles.h"
 #include "core/match/folders.h"
+#include "core/match/memberorder.h"
 #include "core/match/rulekeys.h"
 #include "core/media/metadata.h"
 #include "core/scan/locationkinds.h"
@@ -89,6 +90,7 @@ ScanResult DuplicateScanner::scan(const ScanOptions &options, const ProgressCall
         result.totalBytes = totalSize(files);
     if (!isCancelled(cancelled))
         addFolders(result, files, options);
+    orderMembers(result.groups);
     result.elapsedMs = timer.elapsed();
     return result;
 }

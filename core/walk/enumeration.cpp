@@ -1,6 +1,7 @@
 #include "core/walk/enumeration.h"
 
 #include "core/platform/nativepath.h"
+#include "core/walk/fileplaces.h"
 #include "core/walk/filestatus.h"
 #include "core/walk/folderreader.h"
 #include "core/walk/pathrules.h"
@@ -69,8 +70,11 @@ private:
 struct OpenFolder
 {
     QString path;
+    QString realPath; ///< without links, when something is excluded and it differs from the path; else empty
+    FilePlace place;
     FolderReader reader;
     bool descends;         ///< whether its subfolders are walked
+    qsizetype firstFile;   ///< how many files were taken before it was opened
     FileIdentity identity; ///< read when a folder link is met below
     bool hasIdentity = false;
 };
@@ -114,13 +118,14 @@ private:
             note(root, status.reason.isEmpty() ? QStringLiteral("no such folder") : status.reason);
         else if (status.kind != FileStatus::Kind::Folder)
             note(root, QStringLiteral("not a folder"));
-        else if (!m_rules.isListed(root))
-            walkFolder(root);
+        else if (const QString realPath = realPathOf(root);
+                 !m_rules.isListed(root) && !m_rules.isListed(realPath) && !m_rules.isListed(status.identity))
+            walkFolder(root, realPath);
     }
 
-    void walkFolder(const QString &folder)
+    void walkFolder(const QString &folder, const QString &realFolder)
     {
-        push(folder, true);
+        push(folder, realFolder, placeOfTree(folder), true);
         FolderItem item;
         while (!m_stack.empty()) {
             if (isCancelled(m_cancelled)) {
@@ -133,25 +138,48 @@ private:
                 m_stack.pop_back();
                 continue;
             }
-            const bool hasSlash = current.path.endsWith(QLatin1Char('/'));
-            const QString path = hasSlash ? current.path + item.name : current.path + QLatin1Char('/') + item.name;
+            const QString path = childPath(current.path, item.name);
             if (!item.reason.isEmpty())
                 note(path, item.reason);
             else if (item.kind == FolderItem::Kind::Folder && current.descends)
-                enter(path, item);
+                enter(path, current, item);
             else if (item.kind == FolderItem::Kind::File)
-                take(path, item);
+                take(path, current, item);
         }
     }
 
-    void enter(const QString &path, const FolderItem &item)
+    static QString childPath(const QString &folder, const QString &name)
     {
-        if (!m_rules.excludes(path, item.isHidden) && (!item.isFolderLink || mayFollow(path)))
-            push(path, item.isFolderLink);
+        return folder.endsWith(QLatin1Char('/')) ? folder + name : folder + QLatin1Char('/') + name;
+    }
+
+    void enter(const QString &path, const OpenFolder &parent, const FolderItem &item)
+    {
+        if (m_rules.excludes(path, item.isHidden))
+            return;
+        QString realPath;
+        if (item.isFolderLink)
+            realPath = realPathOf(path);
+        else if (!parent.realPath.isEmpty())
+            realPath = childPath(parent.realPath, item.name);
+        if ((!realPath.isEmpty() && m_rules.excludes(realPath, false)) ||
+            (m_rules.needsIdentities() && m_rules.isListed(fileStatus(path).identity)))
+            return;
+        if (!item.isFolderLink)
+            push(path, realPath, placeOfFolder(path, parent.place), false);
+        else if (mayFollow(path))
+            push(path, realPath, parent.place == FilePlace::Ordinary ? placeOfTree(path) : parent.place, true);
+    }
+
+    /// The path without links that exclusions are compared with too; empty when that changes nothing.
+    QString realPathOf(const QString &path) const
+    {
+        const QString real = m_rules.needsIdentities() ? canonicalPath(path) : QString();
+        return real == path ? QString() : real;
     }
 
     /// Opens a folder for reading unless an overlapping root has been walked through it before.
-    void push(const QString &path, bool isLinkWanted)
+    void push(const QString &path, const QString &realPath, FilePlace place, bool isLinkWanted)
     {
         if (m_options.roots.size() > 1) {
             const QString key = pathCaseKey(path);
@@ -160,7 +188,8 @@ private:
             m_visited.insert(key);
         }
         const bool isFlat = !m_flatFolders.isEmpty() && m_flatFolders.contains(path.toLower());
-        m_stack.push_back({path, FolderReader(path, isLinkWanted), !isFlat, {}, false});
+        m_stack.push_back(
+            {path, realPath, place, FolderReader(path, isLinkWanted), !isFlat, m_files.size(), {}, false});
     }
 
     /// Whether a folder link leads anywhere but back to a folder that is being walked. Noted as unread when that cannot
@@ -181,8 +210,18 @@ private:
         });
     }
 
-    void take(const QString &path, const FolderItem &item)
+    /// All that was taken since a folder was opened lies in it or below it.
+    void markAsBackupFolder(OpenFolder &folder)
     {
+        folder.place = FilePlace::BackupFolder;
+        for (qsizetype i = folder.firstFile; i < m_files.size(); ++i)
+            m_files[i].place = FilePlace::BackupFolder;
+    }
+
+    void take(const QString &path, OpenFolder &folder, const FolderItem &item)
+    {
+        if (folder.place == FilePlace::Ordinary && isBackupIndex(item.name))
+            markAsBackupFolder(folder);
         if (!m_filter.accepts(item))
             return;
         if (item.isPlaceholder) {
@@ -194,6 +233,7 @@ private:
         file.size = item.sizeBytes;
         file.modifiedMs = item.modifiedMs;
         file.createdMs = item.createdMs;
+        file.place = folder.place;
         if (m_options.readFileIdentity || m_options.collapseHardLinks)
             setIdentity(file, item.identity.isKnown ? item.identity : fileStatus(path).identity);
         m_files.append(file);

@@ -1,6 +1,6 @@
 #include "core/walk/pathrules.h"
 
-#include "core/walk/filestatus.h"
+#include "core/platform/nativepath.h"
 
 #include <QDir>
 
@@ -25,9 +25,16 @@ const QStringList &systemFolders()
     return folders;
 }
 
+/// With every backslash as a separator, whatever the system.
 QString comparablePath(const QString &path)
 {
     return QDir::cleanPath(path).replace(QLatin1Char('\\'), QLatin1Char('/')).toLower();
+}
+
+/// With the system's separators only.
+QString nativelyComparablePath(const QString &path)
+{
+    return cleanedPath(path).toLower();
 }
 
 /// Both in comparable form.
@@ -38,12 +45,12 @@ bool isBelow(const QString &path, const QString &folder)
     return path.size() == folder.size() || folder.endsWith(QLatin1Char('/')) || path[folder.size()] == QLatin1Char('/');
 }
 
-QStringList comparablePaths(const QStringList &paths)
+QStringList nativelyComparablePaths(const QStringList &paths)
 {
     QStringList comparable;
     for (const QString &path : paths) {
         if (!path.isEmpty())
-            comparable.append(comparablePath(path));
+            comparable.append(nativelyComparablePath(path));
     }
     return comparable;
 }
@@ -65,8 +72,12 @@ bool isUnderFolder(const QString &path, const QString &folder)
 
 bool isExcludedFolder(const QString &path, const ScanOptions &options)
 {
-    const bool isHidden = options.skipHidden && fileStatus(path).isHidden;
-    return FolderRules(options).excludes(path, isHidden);
+    const auto covers = [&](const QString &folder) { return !folder.isEmpty() && isUnderFolder(path, folder); };
+    const auto anyCovers = [&](const QStringList &folders) {
+        return std::any_of(folders.begin(), folders.end(), covers);
+    };
+    return anyCovers(options.excludeFolders) || (options.skipSystemFolders && anyCovers(systemFolders())) ||
+           (options.skipHidden && fileStatus(path).isHidden);
 }
 
 QString lowerSuffix(const QString &name)
@@ -76,10 +87,20 @@ QString lowerSuffix(const QString &name)
 }
 
 FolderRules::FolderRules(const ScanOptions &options)
-    : m_excluded(comparablePaths(options.excludeFolders))
-    , m_system(options.skipSystemFolders ? comparablePaths(systemFolders()) : QStringList())
+    : m_excluded(nativelyComparablePaths(options.excludeFolders))
+    , m_system(options.skipSystemFolders ? nativelyComparablePaths(systemFolders()) : QStringList())
     , m_skipHidden(options.skipHidden)
-{}
+{
+    for (const QString &folder : options.excludeFolders) {
+        const FileIdentity identity = folder.isEmpty() ? FileIdentity() : fileStatus(folder).identity;
+        if (!identity.isKnown)
+            continue;
+        m_identities.append(identity);
+        const QString real = nativelyComparablePath(canonicalPath(folder));
+        if (!real.isEmpty() && !m_excluded.contains(real))
+            m_excluded.append(real);
+    }
+}
 
 bool FolderRules::excludes(const QString &path, bool isHidden) const
 {
@@ -87,7 +108,7 @@ bool FolderRules::excludes(const QString &path, bool isHidden) const
         return true;
     if (m_excluded.isEmpty() && m_system.isEmpty())
         return false;
-    const QString comparable = comparablePath(path);
+    const QString comparable = nativelyComparablePath(path);
     const auto covers = [&](const QString &folder) { return isBelow(comparable, folder); };
     return std::any_of(m_excluded.begin(), m_excluded.end(), covers) ||
            std::any_of(m_system.begin(), m_system.end(), covers);
@@ -95,7 +116,13 @@ bool FolderRules::excludes(const QString &path, bool isHidden) const
 
 bool FolderRules::isListed(const QString &path) const
 {
-    return m_excluded.contains(comparablePath(path));
+    return m_excluded.contains(nativelyComparablePath(path));
+}
+
+bool FolderRules::isListed(const FileIdentity &identity) const
+{
+    return std::any_of(m_identities.begin(), m_identities.end(),
+                       [&](const FileIdentity &listed) { return listed.isSameAs(identity); });
 }
 
 } // namespace MirrixCore

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/scan/scanoptions.h"
+#include "core/walk/filestatus.h"
 
 #include <QString>
 #include <QStringList>
@@ -23,21 +24,31 @@ namespace MirrixCore {
 /// The text after the last dot of a file's name, lower case; empty without a dot.
 [[nodiscard]] QString lowerSuffix(const QString &name);
 
-/// The rules above with the options' lists brought into comparable form once, for use on every folder of a walk.
+/// isExcludedFolder for every folder of a walk: the options' lists are brought into comparable form once, and excluded
+/// folders that exist are known by what their paths lead to and by identity as well. Unlike there, a backslash is a
+/// separator only where the system takes it for one.
 class FolderRules
 {
 public:
+    /// Asks the file system for each of excludeFolders.
     explicit FolderRules(const ScanOptions &options);
 
-    /// isExcludedFolder for a folder of which it is already known whether it is hidden.
+    /// Whether `path` is excluded by its text, or because it is hidden.
     [[nodiscard]] bool excludes(const QString &path, bool isHidden) const;
 
-    /// Whether `path` itself is one of excludeFolders.
+    /// Whether `path` itself is one of excludeFolders, by its text.
     [[nodiscard]] bool isListed(const QString &path) const;
 
+    /// Whether a folder of this identity is one of excludeFolders.
+    [[nodiscard]] bool isListed(const FileIdentity &identity) const;
+
+    /// Whether any excluded folder exists, so that folders are worth asking for their identities and real paths.
+    [[nodiscard]] bool needsIdentities() const { return !m_identities.isEmpty(); }
+
 private:
-    QStringList m_excluded; ///< comparable form
-    QStringList m_system;   ///< comparable form; empty unless skipSystemFolders
+    QStringList m_excluded; ///< comparable form, as given and without links
+    QList<FileIdentity> m_identities;
+    QStringList m_system; ///< comparable form; empty unless skipSystemFolders
     bool m_skipHidden;
 };
 

@@ -164,6 +164,18 @@
         <translation>Suche beendet · Bild-Hash: %1</translation>
     </message>
     <message>
+        <source>位于回收站中</source>
+        <translation>Im Papierkorb</translation>
+    </message>
+    <message>
+        <source>位于备份文件夹中</source>
+        <translation>In einem Sicherungsordner</translation>
+    </message>
+    <message>
+        <source>位于快照中</source>
+        <translation>In einem Schnappschuss</translation>
+    </message>
+    <message>
         <source>未能读取 %1 项：%2</source>
         <translation>Nicht lesbar (%1): %2</translation>
     </message>

@@ -164,6 +164,18 @@
         <translation>Scan complete · Image hash backend: %1</translation>
     </message>
     <message>
+        <source>位于回收站中</source>
+        <translation>In the recycle bin</translation>
+    </message>
+    <message>
+        <source>位于备份文件夹中</source>
+        <translation>In a backup folder</translation>
+    </message>
+    <message>
+        <source>位于快照中</source>
+        <translation>In a snapshot</translation>
+    </message>
+    <message>
         <source>未能读取 %1 项：%2</source>
         <translation>Could not be read (%1): %2</translation>
     </message>

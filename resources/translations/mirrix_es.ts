@@ -164,6 +164,18 @@
         <translation>Análisis completado · Motor de hash de imágenes: %1</translation>
     </message>
     <message>
+        <source>位于回收站中</source>
+        <translation>En la Papelera de reciclaje</translation>
+    </message>
+    <message>
+        <source>位于备份文件夹中</source>
+        <translation>En una carpeta de copias de seguridad</translation>
+    </message>
+    <message>
+        <source>位于快照中</source>
+        <translation>En una instantánea</translation>
+    </message>
+    <message>
         <source>未能读取 %1 项：%2</source>
         <translation>No se pudieron leer (%1): %2</translation>
     </message>

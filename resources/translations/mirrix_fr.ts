@@ -164,6 +164,18 @@
         <translation>Analyse terminée · Moteur de hachage d’images : %1</translation>
     </message>
     <message>
+        <source>位于回收站中</source>
+        <translation>Dans la Corbeille</translation>
+    </message>
+    <message>
+        <source>位于备份文件夹中</source>
+        <translation>Dans un dossier de sauvegarde</translation>
+    </message>
+    <message>
+        <source>位于快照中</source>
+        <translation>Dans un instantané</translation>
+    </message>
+    <message>
         <source>未能读取 %1 项：%2</source>
         <translation>Illisibles (%1) : %2</translation>
     </message>

@@ -164,6 +164,18 @@
         <translation>Scansione completata · Hash immagini: %1</translation>
     </message>
     <message>
+        <source>位于回收站中</source>
+        <translation>Nel Cestino</translation>
+    </message>
+    <message>
+        <source>位于备份文件夹中</source>
+        <translation>In una cartella di backup</translation>
+    </message>
+    <message>
+        <source>位于快照中</source>
+        <translation>In un’istantanea</translation>
+    </message>
+    <message>
         <source>未能读取 %1 项：%2</source>
         <translation>Non leggibili (%1): %2</translation>
     </message>

@@ -164,6 +164,18 @@
         <translation>スキャン完了 · 画像ハッシュ エンジン: %1</translation>
     </message>
     <message>
+        <source>位于回收站中</source>
+        <translation>ごみ箱の中にあります</translation>
+    </message>
+    <message>
+        <source>位于备份文件夹中</source>
+        <translation>バックアップフォルダーの中にあります</translation>
+    </message>
+    <message>
+        <source>位于快照中</source>
+        <translation>スナップショットの中にあります</translation>
+    </message>
+    <message>
         <source>未能读取 %1 项：%2</source>
         <translation>読み取れなかった項目 (%1): %2</translation>
     </message>

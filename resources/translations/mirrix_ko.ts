@@ -164,6 +164,18 @@
         <translation>스캔 완료 · 이미지 해시 엔진: %1</translation>
     </message>
     <message>
+        <source>位于回收站中</source>
+        <translation>휴지통에 있음</translation>
+    </message>
+    <message>
+        <source>位于备份文件夹中</source>
+        <translation>백업 폴더에 있음</translation>
+    </message>
+    <message>
+        <source>位于快照中</source>
+        <translation>스냅샷에 있음</translation>
+    </message>
+    <message>
         <source>未能读取 %1 项：%2</source>
         <translation>읽지 못한 항목(%1): %2</translation>
     </message>

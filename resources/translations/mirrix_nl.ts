@@ -164,6 +164,18 @@
         <translation>Scan voltooid · Beeldhash: %1</translation>
     </message>
     <message>
+        <source>位于回收站中</source>
+        <translation>In de prullenbak</translation>
+    </message>
+    <message>
+        <source>位于备份文件夹中</source>
+        <translation>In een back-upmap</translation>
+    </message>
+    <message>
+        <source>位于快照中</source>
+        <translation>In een momentopname</translation>
+    </message>
+    <message>
         <source>未能读取 %1 项：%2</source>
         <translation>Niet leesbaar (%1): %2</translation>
     </message>

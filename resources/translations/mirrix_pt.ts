@@ -164,6 +164,18 @@
         <translation>Verificação concluída · Mecanismo de hash de imagens: %1</translation>
     </message>
     <message>
+        <source>位于回收站中</source>
+        <translation>Na Lixeira</translation>
+    </message>
+    <message>
+        <source>位于备份文件夹中</source>
+        <translation>Em uma pasta de backup</translation>
+    </message>
+    <message>
+        <source>位于快照中</source>
+        <translation>Em um instantâneo</translation>
+    </message>
+    <message>
         <source>未能读取 %1 项：%2</source>
         <translation>Não foi possível ler (%1): %2</translation>
     </message>

@@ -164,6 +164,18 @@
         <translation>掃描完成 · 圖片雜湊後端: %1</translation>
     </message>
     <message>
+        <source>位于回收站中</source>
+        <translation>位於資源回收筒中</translation>
+    </message>
+    <message>
+        <source>位于备份文件夹中</source>
+        <translation>位於備份資料夾中</translation>
+    </message>
+    <message>
+        <source>位于快照中</source>
+        <translation>位於快照中</translation>
+    </message>
+    <message>
         <source>未能读取 %1 项：%2</source>
         <translation>未能讀取 %1 項：%2</translation>
     </message>

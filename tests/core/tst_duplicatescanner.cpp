@@ -197,12 +197,24 @@ void DuplicateScannerTest::addsUpLocations()
 void DuplicateScannerTest::runsContentModes_data()
 {
     QTest::addColumn<ScanOptions>("options");
+    QTest::addColumn<bool>("isEqualContent");
     ScanOptions options;
-    QTest::newRow("files, exact") << options;
+    QTest::newRow("files, exact") << options << true;
+    options.sameExtension = true;
+    QTest::newRow("files, exact, refined by a rule") << options << true;
+    options.contentMatch = static_cast<qint32>(ContentMatch::Ignore);
+    QTest::newRow("files, rules") << options << false;
+    options.contentMatch = static_cast<qint32>(ContentMatch::Similar);
+    QTest::newRow("files, similar") << options << false;
     options.searchMode = static_cast<qint32>(SearchMode::Audio);
     options.contentMatch = 9; // counts for files only
-    options.mediaCompareDepth = 3;
-    QTest::newRow("audio, exact") << options;
+    const QList<bool> isEqual = {true, false, false, true, false};
+    for (; options.mediaCompareDepth < isEqual.size(); ++options.mediaCompareDepth)
+        QTest::addRow("audio, depth %d", options.mediaCompareDepth) << options << isEqual[options.mediaCompareDepth];
+    options.searchMode = static_cast<qint32>(SearchMode::Video);
+    QTest::newRow("video, opening") << options << false;
+    options.mediaCompareDepthAlt = 1;
+    QTest::newRow("video, whole") << options << true;
 }
 
 void DuplicateScannerTest::runsContentModes()
@@ -210,8 +222,18 @@ void DuplicateScannerTest::runsContentModes()
     QFETCH(ScanOptions, options);
     const TempTree tree;
     fill(tree, u"a"_s);
+    options.minSize = 1;
     options.roots = QStringList(tree.path());
-    QCOMPARE(groupTexts(scan(options), tree), QSet<QString>({u"same: a/1, a/2"_s}));
+    const ScanResult result = scan(options);
+    QCOMPARE(groupTexts(result, tree), QSet<QString>({u"same: a/1, a/2"_s}));
+    QTEST(result.groups.constFirst().isEqualContent, "isEqualContent");
+    // The other kinds of search beside it.
+    tree.write(u"b/1"_s, "");
+    options.minSize = 0;
+    for (const auto &[kind, isEqual] : {std::pair(FindKind::EmptyFiles, true), {FindKind::NameDuplicates, false}}) {
+        options.locations = {location(tree, u""_s, kind)};
+        QCOMPARE(scan(options).groups.constFirst().isEqualContent, isEqual);
+    }
 }
 
 void DuplicateScannerTest::knowsNoOtherModes_data()

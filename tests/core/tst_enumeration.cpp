@@ -48,6 +48,10 @@ private slots:
     void skipsHidden();
     void leavesOutExcludedFolders();
     void skipsRootsOnlyWhenListed();
+    void leavesOutWhatLinksHide_data();
+    void leavesOutWhatLinksHide();
+    void tellsNamesWithBackslashes();
+    void tellsPlaces();
     void walksLocationsWithoutSubfolders();
     void takesFilesOfOverlappingRootsOnce_data();
     void takesFilesOfOverlappingRootsOnce();
@@ -251,6 +255,102 @@ void EnumerationTest::skipsRootsOnlyWhenListed()
     QCOMPARE(walked(tree, options), QStringList());
     options.roots.append(tree.path(u"out"_s));
     QCOMPARE(walked(tree, options), QStringList(u"out/a"_s));
+}
+
+void EnumerationTest::leavesOutWhatLinksHide_data()
+{
+    QTest::addColumn<QString>("excluded");
+    QTest::addColumn<QString>("root");
+    QTest::addColumn<QStringList>("taken");
+    QTest::newRow("excluded by a link") << u"to sub"_s << u"real"_s << QStringList(u"real/keep/a"_s);
+    QTest::newRow("root by a link") << u"real/sub"_s << u"link"_s << QStringList(u"link/keep/a"_s);
+    QTest::newRow("both by links") << u"to sub"_s << u"link"_s << QStringList(u"link/keep/a"_s);
+    QTest::newRow("root leads to it") << u"real/sub"_s << u"to sub"_s << QStringList();
+    QTest::newRow("link leads to the root") << u"to sub"_s << u"real/sub"_s << QStringList();
+    QTest::newRow("root leads into it") << u"real"_s << u"to sub"_s << QStringList(u"to sub/b"_s);
+    QTest::newRow("another folder") << u"real/keep"_s << u"to sub"_s
+                                    << QStringList({u"to sub/b"_s, u"to sub/deep/c"_s});
+}
+
+void EnumerationTest::leavesOutWhatLinksHide()
+{
+    QFETCH(QString, excluded);
+    QFETCH(QString, root);
+    const TempTree tree;
+    for (const QString &path : {u"real/keep/a"_s, u"real/sub/b"_s, u"real/sub/deep/c"_s})
+        tree.write(path, "x");
+    if (!tree.symbolicLink(u"real"_s, u"link"_s) || !tree.symbolicLink(u"real/sub"_s, u"to sub"_s))
+        QSKIP("no symbolic links here");
+    ScanOptions options = optionsFor(tree, {root});
+    options.excludeFolders = {tree.path(u"no such folder"_s), tree.path(excluded)};
+    QTEST(walked(tree, options), "taken");
+}
+
+void EnumerationTest::tellsNamesWithBackslashes()
+{
+    if (!namesAreBytes)
+        QSKIP("no name can have one here");
+    const TempTree tree;
+    tree.write(u"a\\b/c"_s, "x");
+    tree.write(u"a/b/c"_s, "x");
+    ScanOptions options = optionsFor(tree);
+    options.excludeFolders = {tree.path(u"a"_s)};
+    QCOMPARE(walked(tree, options), QStringList(u"a\\b/c"_s));
+}
+
+void EnumerationTest::tellsPlaces()
+{
+    using enum FilePlace;
+    const QList<std::pair<QString, FilePlace>> files = {
+        {u"plain/a"_s, Ordinary},
+        {u"plain/Trash/a"_s, Ordinary},
+        {u".Trash-me/a"_s, Ordinary},
+        {u"pool/.zfs/a"_s, Ordinary},
+        {u"pool/snapshot/a"_s, Ordinary},
+        {u"$Recycle.Bin/S-1-5/a"_s, RecycleBin},
+        {u"RECYCLER/a"_s, RecycleBin},
+        {u"old/recycled/a"_s, RecycleBin},
+        {u".Trash/1000/files/a"_s, RecycleBin},
+        {u".Trash-1000/files/b/a"_s, RecycleBin},
+        {u"share/Trash/files/a"_s, RecycleBin},
+        {u"share/Trash/info/a.trashinfo"_s, RecycleBin},
+        {u"System volume information/a"_s, Snapshot},
+        {u".snapshots/1/a"_s, Snapshot},
+        {u".snapshots/2/backup_index.json"_s, Snapshot},
+        {u"pool/.zfs/snapshot/1/a"_s, Snapshot},
+        {u"@GMT-2024.01.01-00.00.00/a"_s, Snapshot},
+        {u"kept/Backup_Index.json"_s, BackupFolder},
+        {u"kept/a"_s, BackupFolder},
+        {u"kept/b/a"_s, BackupFolder},
+        {u"kept/b/Trash/files/a"_s, BackupFolder},
+        {u"kept/zz/a"_s, BackupFolder},
+    };
+    const TempTree tree;
+    for (const auto &[path, place] : files)
+        tree.write(path, "x");
+    tree.write(u"kept/backup_index.json"_s, "{}"); // the same file or another
+    const QList<FileEntry> walkedFiles = enumerateFiles(optionsFor(tree), {}, {});
+    const auto placeOf = [](const QList<FileEntry> &found, const QString &path) {
+        for (const FileEntry &file : found) {
+            if (file.path == path)
+                return static_cast<int>(file.place);
+        }
+        return -1;
+    };
+    for (const auto &[path, place] : files) {
+        QVERIFY2(placeOf(walkedFiles, tree.path(path)) == static_cast<int>(place), qPrintable(path));
+        // The same when the walk begins there, and when a link leads there.
+        const QString folder = QFileInfo(path).path();
+        QVERIFY2(placeOf(enumerateFiles(optionsFor(tree, {folder}), {}, {}), tree.path(path)) ==
+                     static_cast<int>(place),
+                 qPrintable(path));
+        const QString link = u"link to "_s + QString(path).replace(u'/', u'_');
+        if (tree.symbolicLink(folder, link)) {
+            const QString linked = tree.path(link + u'/' + QFileInfo(path).fileName());
+            QVERIFY2(placeOf(enumerateFiles(optionsFor(tree, {link}), {}, {}), linked) == static_cast<int>(place),
+                     qPrintable(linked));
+        }
+    }
 }
 
 void EnumerationTest::walksLocationsWithoutSubfolders()

@@ -1,6 +1,7 @@
 #include "core/cache/cacheroot.h"
 #include "core/cache/fingerprintcache.h"
 #include "core/hash/contenthash.h"
+#include "core/match/memberorder.h"
 #include "core/platform/nativepath.h"
 #include "core/scan/duplicatescanner.h"
 #include "core/walk/enumeration.h"
@@ -85,7 +86,9 @@ private slots:
     void separatesByMiddle();
     void ignoresEmptyFiles();
     void ordersByWaste();
-    void keepsInputOrder();
+    void ordersMembers_data();
+    void ordersMembers();
+    void ordersGroupsAndMembers();
     void namesGroupsByDigest_data();
     void namesGroupsByDigest();
     void readsNamesOfBytes();
@@ -188,21 +191,51 @@ void ExactTest::ordersByWaste()
     QCOMPARE(result.candidates, 9);
 }
 
-void ExactTest::keepsInputOrder()
+void ExactTest::ordersMembers_data()
+{
+    QTest::addColumn<QStringList>("ordered");
+    QTest::newRow("the shorter path") << QStringList{u"z/a"_s, u"a/bc"_s, u"a/bd"_s, u"a/b/c"_s};
+    QTest::newRow("no copy words") << QStringList{
+        u"deep/down/photo.jpg"_s, u"photo (1).jpg"_s,     u"photo (2).jpg"_s,           u"photo (copy).jpg"_s,
+        u"photo - Copy.jpg"_s,    u"Copy of photo.jpg"_s, u"photo (another copy).jpg"_s};
+    QTest::newRow("nothing but copy words") << QStringList{u"(1).x"_s, u"Copy.x"_s, u"of copy.d"_s, u"of copy (1).d"_s};
+    QTest::newRow("code points") << QStringList{u"zz"_s, u"\uFFFDz"_s, u"😀"_s};
+}
+
+void ExactTest::ordersMembers()
+{
+    QFETCH(QStringList, ordered);
+    DuplicateGroup group;
+    for (const QString &path : std::as_const(ordered)) {
+        group.files.prepend({});
+        group.files[0].path = u'/' + path;
+    }
+    for (qsizetype turn = 0; turn < ordered.size(); ++turn) {
+        group.files.append(group.files.takeFirst());
+        QList<DuplicateGroup> groups = {group};
+        orderMembers(groups);
+        QStringList found;
+        for (const FileEntry &file : std::as_const(groups[0].files))
+            found.append(file.path.mid(1));
+        QCOMPARE(found, ordered);
+    }
+}
+
+void ExactTest::ordersGroupsAndMembers()
 {
     const TempTree tree;
-    const QStringList folders = {u"m"_s, u"a"_s, u"z"_s, u"k"_s, u"b"_s};
-    QStringList expected;
+    const QStringList folders = {u"m"_s, u"a"_s, u"z"_s};
     for (const QString &folder : folders) {
-        tree.write(folder + u"/large"_s, patternBytes(largeBytes));
-        tree.write(folder + u"/small"_s, patternBytes(smallBytes));
-        expected.append(folder + u"/large"_s);
+        for (const quint32 seed : {3, 1, 2})
+            tree.write(folder + u'/' + QString::number(seed), patternBytes(smallBytes, seed));
+        tree.write(folder + u"/0"_s, patternBytes(largeBytes));
     }
     const ScanOptions options = optionsFor(tree, folders);
     const ScanResult result = scan(options);
-    QCOMPARE(result.groups.size(), 2);
-    QCOMPARE(relativePaths(result.groups[0].files, tree), expected);
-    QCOMPARE(relativePaths(result.groups[1].files, tree), expected.replaceInStrings(u"large"_s, u"small"_s));
+    QList<QStringList> expected;
+    for (const QString &name : {u"0"_s, u"1"_s, u"2"_s, u"3"_s})
+        expected.append({u"a/"_s + name, u"m/"_s + name, u"z/"_s + name});
+    QCOMPARE(groupsOf(result, tree), expected);
     // Members are the records of the walk, nothing left out.
     QVERIFY(enumerateFiles(options, {}, {}).contains(result.groups[0].files[0]));
 }

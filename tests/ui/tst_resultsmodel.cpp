@@ -72,6 +72,13 @@ private slots:
         QCOMPARE(model.rowCount(second), 3);
         const QModelIndex name = model.index(0, ResultsModel::FileColumn, second);
         QCOMPARE(name.data().toString(), Mirrix::shownPath(u"/a/1.JPG"_qs));
+        QCOMPARE(name.data(Qt::ToolTipRole), name.data());
+        for (const auto &[place, text] : {std::pair(MirrixCore::FilePlace::RecycleBin, u"位于回收站中"_qs),
+                                          {MirrixCore::FilePlace::BackupFolder, u"位于备份文件夹中"_qs},
+                                          {MirrixCore::FilePlace::Snapshot, u"位于快照中"_qs}}) {
+            results.groups[1].files[0].place = place;
+            QCOMPARE(name.data(Qt::ToolTipRole).toString(), name.data().toString() + u'\n' + text);
+        }
         QCOMPARE(name.siblingAtColumn(ResultsModel::SizeColumn).data().toString(), u"512 B"_qs);
         QCOMPARE(name.siblingAtColumn(ResultsModel::ModifiedColumn).data().toString(),
                  QDateTime::fromMSecsSinceEpoch(50).toString(u"yyyy-MM-dd HH:mm"_qs));

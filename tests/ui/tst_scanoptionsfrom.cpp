@@ -2,9 +2,11 @@
 
 #include "core/media/mediakinds.h"
 #include "core/scan/optiontable.h"
+#include "ui/logic/locationtext.h"
 #include "ui/logic/rulessettings.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTest>
@@ -67,6 +69,7 @@ private slots:
     void keptSettings_data();
     void keptSettings();
     void storesOptions();
+    void takesFoldersOfTheCommandLine();
 };
 
 void TestScanOptionsFrom::defaults_data()
@@ -118,7 +121,14 @@ void TestScanOptionsFrom::eachControl_data()
     ROW(0, l.advanced.skipSystemFolders = false, R"("skipSystemFolders":false)");
     ROW(0, l.advanced.backupBeforeDelete = false, "");
     ROW(0, (l.excludeFolders = {u"b"_qs, u"a"_qs}), R"("excludeFolders":["b","a"])");
-    ROW(0, (l.rows = {{u"a"_qs, true, true}, {u"b"_qs, false, false}, {u""_qs, true, false}}), "");
+    ROW(0, (l.rows = {{u"b"_qs, false, false}, {u""_qs, true, false}, {u""_qs, true, true}}), "");
+    // A protected row keeps its files out, whether another row covers it, is the same or lies below it.
+    ROW(0, (l.excludeFolders = {u"x"_qs}, l.rows = {{u"/a"_qs, true, true}, {u"/b"_qs, false, true}}),
+        R"("excludeFolders":["x","/a","/b"])");
+    ROW(0, (l.rows = {{u"/a"_qs}, {u"/a/b"_qs, true, true}, {u"/a/b/c"_qs}, {u"/A/b"_qs}, {u"/a/b2"_qs}}),
+        R"("roots":["/a","/a/b2"],"excludeFolders":["/a/b"],"locations":[
+           {"path":"/a","includeSubfolders":true,"findKind":0,"showRemaining":false},
+           {"path":"/a/b2","includeSubfolders":true,"findKind":0,"showRemaining":false}])");
     ROW(0, (l.rows = {{u"a"_qs, true, false, false, 2, true}}),
         R"("roots":["a"],"locations":[{"path":"a","includeSubfolders":false,"findKind":2,"showRemaining":true}])");
     ROW(0, r.general.contentMatch = 2, R"("contentMatch":2)");
@@ -287,6 +297,13 @@ void TestScanOptionsFrom::storesOptions()
     settings.maxFileBytes = (1 << 20) + 1;
     QCOMPARE(rulesStateFrom(settings).fileTypes.minMegabytes, 1);
     QCOMPARE(rulesStateFrom(settings).fileTypes.maxMegabytes, 2);
+}
+
+void TestScanOptionsFrom::takesFoldersOfTheCommandLine()
+{
+    const QString root = QDir::rootPath();
+    QCOMPARE(foldersAmong({QString(), u"no such folder"_qs, u"."_qs, root}),
+             QStringList({locationPath(u"."_qs), locationPath(root)}));
 }
 
 QTEST_GUILESS_MAIN(TestScanOptionsFrom)

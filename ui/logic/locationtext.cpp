@@ -4,6 +4,8 @@
 #include "app/text.h"
 #include "core/platform/nativepath.h"
 
+#include <QDir>
+
 namespace Mirrix {
 
 namespace {
@@ -31,6 +33,17 @@ QString locationPath(const QString &path)
     while (clean.endsWith(u'/') && !isRoot(clean))
         clean.chop(1);
     return clean;
+}
+
+QStringList foldersAmong(const QStringList &arguments)
+{
+    QStringList folders;
+    for (const QString &argument : arguments) {
+        // To QDir an empty path is the current folder.
+        if (!argument.isEmpty() && QDir(argument).exists())
+            folders.append(MirrixCore::absolutePath(argument));
+    }
+    return folders;
 }
 
 bool isSameLocation(const QString &a, const QString &b)

@@ -4,12 +4,16 @@
 
 #include <QHash>
 #include <QString>
+#include <QStringList>
 
 namespace Mirrix {
 
 /// The form in which a location or folder is kept: absolute, forward slashes, none at the end but that of a root.
 /// Empty stays empty.
 [[nodiscard]] QString locationPath(const QString &path);
+
+/// The arguments of a command line that name existing folders, made absolute. An empty one names none.
+[[nodiscard]] QStringList foldersAmong(const QStringList &arguments);
 
 /// Whether two paths name one folder, by the system's rules on letter case.
 [[nodiscard]] bool isSameLocation(const QString &a, const QString &b);

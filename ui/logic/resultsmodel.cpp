@@ -54,6 +54,13 @@ const std::array<ColumnInfo, ResultsModel::ColumnCount> columns{{
      {latestTime, nullptr}},
 }};
 
+/// The path, and below it where the file lies if that is no ordinary place.
+QString pathToolTip(const FileEntry &file)
+{
+    const QString place = placeText(file.place);
+    return place.isEmpty() ? shownPath(file.path) : shownPath(file.path) + QLatin1Char('\n') + place;
+}
+
 const ColumnInfo &columnInfo(int column)
 {
     return columns[static_cast<size_t>(column)];
@@ -180,7 +187,7 @@ QVariant ResultsModel::childData(qsizetype item, int child, int column, int role
     case Qt::DecorationRole:
         return column == FileColumn ? QVariant(m_icons.file(file.path)) : QVariant();
     case Qt::ToolTipRole:
-        return column == FileColumn ? shownPath(file.path) : QString();
+        return column == FileColumn ? pathToolTip(file) : QString();
     case Qt::AccessibleTextRole:
         return column == SelectColumn ? shownPath(file.path) : columnInfo(column).fileText(file);
     case PathRole:

@@ -37,6 +37,21 @@ QString shownPath(const QString &path)
     return QDir::toNativeSeparators(path);
 }
 
+QString placeText(MirrixCore::FilePlace place)
+{
+    switch (place) {
+    case MirrixCore::FilePlace::Ordinary:
+        return {};
+    case MirrixCore::FilePlace::RecycleBin:
+        return Text::tr("位于回收站中");
+    case MirrixCore::FilePlace::BackupFolder:
+        return Text::tr("位于备份文件夹中");
+    case MirrixCore::FilePlace::Snapshot:
+        return Text::tr("位于快照中");
+    }
+    return {};
+}
+
 UnreadNote::UnreadNote(const QList<MirrixCore::UnreadPath> &unread)
     : m_count(unread.size())
 {

@@ -13,6 +13,10 @@ namespace Mirrix {
 /// A path with the separators of this system.
 [[nodiscard]] QString shownPath(const QString &path);
 
+/// Where a file lies that is never the copy to keep, such as "In the recycle bin", in the current language; empty for
+/// the ordinary place.
+[[nodiscard]] QString placeText(MirrixCore::FilePlace place);
+
 /// The paths that a scan could not read, as the end of its status: how many, and the first of them. Keeps no more than
 /// those.
 class UnreadNote

@@ -1,6 +1,7 @@
 #include "ui/logic/scanoptionsfrom.h"
 
 #include "core/media/mediakinds.h"
+#include "core/walk/pathrules.h"
 #include "ui/logic/extensiontext.h"
 
 #include <QDateTime>
@@ -17,15 +18,29 @@ namespace {
 constexpr qint64 bytesPerMegabyte = 1 << 20;
 constexpr qint64 largeFileBytes = 104857600;
 
+/// The folders of which nothing is scanned, whatever row covers them.
+QStringList protectedFolders(const LocationsState &locations)
+{
+    QStringList folders;
+    for (const LocationRow &row : locations.rows) {
+        if (row.isProtected && !row.path.isEmpty())
+            folders.append(row.path);
+    }
+    return folders;
+}
+
 void addLocations(const LocationsState &locations, ScanOptions &options)
 {
+    const QStringList untouched = protectedFolders(locations);
     for (const LocationRow &row : locations.rows) {
-        if (!row.enabled || row.isProtected || row.path.isEmpty())
+        // Excluding a folder does not keep a walk from beginning below it.
+        const auto covers = [&row](const QString &folder) { return MirrixCore::isUnderFolder(row.path, folder); };
+        if (!row.enabled || row.path.isEmpty() || std::any_of(untouched.begin(), untouched.end(), covers))
             continue;
         options.roots.append(row.path);
         options.locations.append({row.path, row.includeSubfolders, row.findKind, row.showRemaining});
     }
-    options.excludeFolders = locations.excludeFolders;
+    options.excludeFolders = locations.excludeFolders + untouched;
 }
 
 void addFilters(const AdvancedOptions &advanced, const FileTypeFilters &filters, ScanOptions &options)

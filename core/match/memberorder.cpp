@@ -1,0 +1,94 @@
+#include "core/match/memberorder.h"
+
+#include "core/match/emptyfiles.h"
+#include "core/match/groups.h"
+#include "core/match/similarnames.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <vector>
+
+namespace MirrixCore {
+
+namespace {
+
+/// What a file is sorted by.
+struct OrderKey
+{
+    bool isCopy;
+    QStringView path;
+    qsizetype index;
+};
+
+bool isBefore(const OrderKey &a, const OrderKey &b)
+{
+    if (a.isCopy != b.isCopy)
+        return b.isCopy;
+    if (a.path.size() != b.path.size())
+        return a.path.size() < b.path.size();
+    return compareCodePoints(a.path, b.path) < 0;
+}
+
+void orderFiles(QList<FileEntry> &files)
+{
+    std::vector<OrderKey> keys;
+    keys.reserve(static_cast<size_t>(files.size()));
+    for (const FileEntry &file : std::as_const(files))
+        keys.push_back({hasCopyWord(nameOf(file.path).toString()), file.path, std::ssize(keys)});
+    if (std::is_sorted(keys.begin(), keys.end(), isBefore))
+        return;
+    std::stable_sort(keys.begin(), keys.end(), isBefore);
+    QList<FileEntry> sorted;
+    sorted.reserve(files.size());
+    for (const OrderKey &key : keys)
+        sorted.append(std::as_const(files)[key.index]);
+    files.swap(sorted);
+}
+
+} // namespace
+
+bool hasCopyWord(const QString &name)
+{
+    static const QRegularExpression words(
+        QStringLiteral("^copy (?:\\(\\d+\\) )?of .|\\((?:[^()]* )?copy(?: \\d+)?\\)$"),
+        QRegularExpression::CaseInsensitiveOption);
+    const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
+    const QString base = dot < 1 ? name : name.left(dot);
+    const QString stripped = stripCopySuffix(base);
+    if (!stripped.isEmpty() && stripped != base.trimmed())
+        return true;
+    const bool mayMatch =
+        base.endsWith(QLatin1Char(')')) || base.startsWith(QLatin1String("copy "), Qt::CaseInsensitive);
+    return mayMatch && words.match(base).hasMatch();
+}
+
+int compareCodePoints(QStringView a, QStringView b)
+{
+    // By units, characters beyond the basic plane, which are pairs of surrogates, would come before U+E000 to U+FFFF.
+    const auto rank = [](char16_t unit) -> int {
+        if (unit < 0xD800)
+            return unit;
+        return unit < 0xE000 ? unit + 0x2000 : unit - 0x800;
+    };
+    const auto [inA, inB] = std::mismatch(a.utf16(), a.utf16() + std::min(a.size(), b.size()), b.utf16());
+    const qsizetype equal = inA - a.utf16();
+    if (equal == std::min(a.size(), b.size()))
+        return a.size() < b.size() ? -1 : a.size() > b.size() ? 1 : 0;
+    return rank(*inA) - rank(*inB);
+}
+
+void orderMembers(QList<DuplicateGroup> &groups)
+{
+    for (DuplicateGroup &group : groups) {
+        if (group.key != emptyFilesKey)
+            orderFiles(group.files);
+    }
+    std::sort(groups.begin(), groups.end(), [](const DuplicateGroup &a, const DuplicateGroup &b) {
+        if (a.wastedBytes != b.wastedBytes)
+            return a.wastedBytes > b.wastedBytes;
+        return compareCodePoints(a.files.constFirst().path, b.files.constFirst().path) < 0;
+    });
+}
+
+} // namespace MirrixCore
