@@ -5,16 +5,31 @@
 
 namespace MirrixCore {
 
-void collectGroups(Candidates &candidates, const QList<FileEntry> &files, ScanResult &result)
+namespace {
+
+void addGroup(const Run &run, const QList<FileEntry> &files, ScanResult &result)
+{
+    DuplicateGroup group;
+    group.key = QString::fromLatin1(run.front().full.bytes().toHex());
+    group.files.reserve(std::ssize(run));
+    for (const Candidate &candidate : run)
+        group.files.append(files[candidate.file]);
+    group.wastedBytes = wasteOf(group.files);
+    result.groups.append(group);
+}
+
+} // namespace
+
+void collectGroups(Candidates &candidates, const QList<FileEntry> &files, Shared shared, ScanResult &result)
 {
     for (const Run &run : runsOf(candidates, &Candidate::full)) {
-        DuplicateGroup group;
-        group.key = QString::fromLatin1(run.front().full.bytes().toHex());
-        group.files.reserve(std::ssize(run));
-        for (const Candidate &candidate : run)
-            group.files.append(files[candidate.file]);
-        group.wastedBytes = wasteOf(group.files);
-        result.groups.append(group);
+        if (shared == Shared::Full) {
+            addGroup(run, files, result);
+            continue;
+        }
+        Candidates members(run.begin(), run.end());
+        for (const Run &part : runsOf(members, &Candidate::quick))
+            addGroup(part, files, result);
     }
 }
 

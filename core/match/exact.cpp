@@ -43,7 +43,7 @@ public:
         if (isCancelled(m_cancelled))
             return finished();
         candidates.resize(static_cast<size_t>(shared));
-        collectGroups(candidates, m_files, m_result);
+        collectGroups(candidates, m_files, Shared::Full, m_result);
         finishContentGroups(m_result, m_options, m_cancelled);
         return finished();
     }

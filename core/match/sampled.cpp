@@ -37,7 +37,7 @@ public:
             hashStage(Phase::PrefixHash, candidates, [this](Candidate &candidate) { hashPrefix(candidate); });
         }
         if (!isCancelled(m_cancelled)) {
-            collectGroups(candidates, m_files, result);
+            collectGroups(candidates, m_files, Shared::QuickAndFull, result);
             finishContentGroups(result, m_options, m_cancelled);
         }
         result.unread = m_unread.take();
