@@ -4,6 +4,7 @@
 #include <QStorageInfo>
 
 #include <algorithm>
+#include <sys/statvfs.h>
 
 namespace Mirrix {
 
@@ -47,6 +48,21 @@ Drive driveOf(const QStorageInfo &volume)
     return drive;
 }
 
+/// The root folder of a system that lives in a folder of another, as in a container, and is no mount point.
+Drive rootFolder()
+{
+    Drive drive;
+    drive.root = QStringLiteral("/");
+    drive.type = DriveType::Fixed;
+    drive.isSystem = true;
+    struct statvfs space = {};
+    if (statvfs("/", &space) == 0) {
+        drive.totalBytes = qint64(space.f_blocks) * qint64(space.f_frsize);
+        drive.freeBytes = qint64(space.f_bavail) * qint64(space.f_frsize);
+    }
+    return drive;
+}
+
 } // namespace
 
 QList<Drive> listDrives()
@@ -64,6 +80,8 @@ QList<Drive> listDrives()
         devices.insert(volume.device());
         drives.append(driveOf(volume));
     }
+    if (drives.isEmpty() || !drives.constFirst().isSystem)
+        drives.prepend(rootFolder());
     return drives;
 }
 

@@ -39,7 +39,7 @@ QByteArray readEntryFile(const QString &entryPath)
     constexpr qint64 firstBytes = 512;    // an entry of ours is shorter
     constexpr qint64 mostBytes = 1 << 20; // no entry of anybody's is longer
     FileReader reader;
-    if (!reader.open(entryPath))
+    if (!reader.open(entryPath) || !reader.readState()) // no pipe, no device
         return {};
     QByteArray text(firstBytes, Qt::Uninitialized);
     qint64 count = reader.readAt(0, text.data(), firstBytes);
@@ -51,10 +51,12 @@ QByteArray readEntryFile(const QString &entryPath)
     return text;
 }
 
+/// Never writes into a file that is there: it might be a pipe, or another name of one of the user's.
 bool writeEntryFile(const QString &entryPath, const QByteArray &text)
 {
+    constexpr auto mode = QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered;
     QFile file(entryPath);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered))
+    if (!file.open(mode) && !(file.remove() && file.open(mode)))
         return false;
     if (file.write(text) != text.size()) // a full disk: half an entry is none, and only in the way
         file.remove();
@@ -73,6 +75,15 @@ bool isValidFor(const QJsonObject &entry, qint64 sizeBytes, qint64 modifiedMs)
     const QString algorithm = entry[Key::algorithm].toString();
     return truncated(entry[Key::size]) == sizeBytes && truncated(entry[Key::modified]) == modifiedMs &&
            (algorithm.isEmpty() || algorithm == currentHashAlgorithmName());
+}
+
+/// The digest in a member; empty unless it has the length that the entry's algorithm gives, or for an entry that names
+/// none, that some algorithm gives.
+QByteArray digestIn(const QJsonObject &entry, const QString &key)
+{
+    const QByteArray digest = QByteArray::fromHex(entry[key].toString().toLatin1());
+    const bool isOfAny = entry[Key::algorithm].toString().isEmpty() && (digest.size() == 16 || digest.size() == 32);
+    return isOfAny || digest.size() == currentDigestLength() ? digest : QByteArray();
 }
 
 /// The text of a new entry, as QJsonDocument writes it but without a document: there is nothing to escape, and a scan
@@ -139,8 +150,7 @@ Fingerprint lookupFingerprint(const QString &filePath, qint64 sizeBytes, qint64 
     const QJsonObject entry = QJsonDocument::fromJson(text).object();
     if (!isValidFor(entry, sizeBytes, modifiedMs))
         return {};
-    return {QByteArray::fromHex(entry[Key::quick].toString().toLatin1()),
-            QByteArray::fromHex(entry[Key::full].toString().toLatin1())};
+    return {digestIn(entry, Key::quick), digestIn(entry, Key::full)};
 }
 
 bool lookupQuick(const QString &filePath, qint64 sizeBytes, qint64 modifiedMs, QByteArray &digest)

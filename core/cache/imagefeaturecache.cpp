@@ -30,7 +30,7 @@ QByteArray readEntryFile(const QString &entryPath)
 {
     constexpr qint64 mostBytes = 16 * 1024;
     FileReader reader;
-    if (!reader.open(entryPath))
+    if (!reader.open(entryPath) || !reader.readState()) // no pipe, no device
         return {};
     QByteArray text(mostBytes, Qt::Uninitialized);
     const qint64 count = reader.readAt(0, text.data(), mostBytes);
@@ -38,11 +38,13 @@ QByteArray readEntryFile(const QString &entryPath)
     return text;
 }
 
-/// Writes a file beside the entry and renames it: an entry is whole or is not there. Nothing waits for the disk.
+/// Writes a file beside the entry and renames it: an entry is whole or is not there. Nothing waits for the disk. Never
+/// writes into a file that is there: it might be a pipe, or another name of one of the user's.
 bool writeEntryFile(const QString &entryPath, const QByteArray &text)
 {
     QFile file(entryPath + QLatin1String(".new"));
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered))
+    constexpr auto mode = QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered;
+    if (!file.open(mode) && !(file.remove() && file.open(mode)))
         return false;
     const bool isWhole = file.write(text) == text.size();
     file.close();

@@ -26,7 +26,7 @@ public:
     /// Size in bytes at readState.
     [[nodiscard]] qint64 sizeBytes() const;
 
-    /// Modification time at readState, milliseconds since the Unix epoch.
+    /// Modification time at readState, milliseconds since the Unix epoch; 0 for earlier ones.
     [[nodiscard]] qint64 modifiedMs() const;
 
     /// Reads up to `length` bytes at `offset`. Returns the number read, less than `length` only at the end of the file,

@@ -1,5 +1,6 @@
 #include "core/hash/filereader.h"
 
+#include "core/platform/epochtime.h"
 #include "core/platform/nativepath.h"
 
 #include <cerrno>
@@ -72,7 +73,7 @@ qint64 FileReader::sizeBytes() const
 
 qint64 FileReader::modifiedMs() const
 {
-    return qint64(m_state->info.st_mtim.tv_sec) * 1000 + m_state->info.st_mtim.tv_nsec / 1000000;
+    return epochMsFrom(m_state->info.st_mtim.tv_sec, m_state->info.st_mtim.tv_nsec);
 }
 
 qint64 FileReader::readAt(qint64 offset, char *buffer, qint64 length)

@@ -42,7 +42,7 @@ Candidates filesOfSharedSize(const QList<FileEntry> &files)
     candidates.reserve(static_cast<size_t>(files.size() / 4 + 8));
     for (qsizetype i = 0; i < files.size(); ++i) {
         if (filesOfSize.value(files[i].size) >= 2)
-            candidates.push_back({static_cast<quint32>(i), {}, {}, false});
+            candidates.push_back({static_cast<quint32>(i), {}, {}});
     }
     return candidates;
 }

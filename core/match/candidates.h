@@ -13,10 +13,9 @@ namespace MirrixCore {
 /// A file of a size that occurs more than once, and what is known of its content.
 struct Candidate
 {
-    quint32 file = 0;       ///< index into the matcher's input
-    Digest quick;           ///< what the cheap first stage tells; files of different ones are different
-    Digest full;            ///< what makes files duplicates
-    bool mustStore = false; ///< holds a digest that the cache has not
+    quint32 file = 0; ///< index into the matcher's input
+    Digest quick;     ///< what the cheap first stage tells; files of different ones are different
+    Digest full;      ///< what makes files duplicates
 };
 
 using Candidates = std::vector<Candidate>;

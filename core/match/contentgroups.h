@@ -7,9 +7,18 @@
 
 namespace MirrixCore {
 
-/// Adds a group for each full digest that two or more candidates share, keyed by its lower-case hex digits, members in
-/// input order. `isEqualContent`: whether those digests are of whole files. The candidates end up sorted.
-void collectGroups(Candidates &candidates, const QList<FileEntry> &files, bool isEqualContent, ScanResult &result);
+/// Which digests the members of a group share.
+enum class Shared
+{
+    Full,        ///< the full one, of the whole content
+    QuickAndFull ///< both, since neither tells everything
+};
+
+/// Adds a group for each digest, or pair of them, that two or more candidates share, keyed by the lower-case hex digits
+/// of the full one, members in input order. Two groups may so have one key. `isEqualContent`: whether the full digests
+/// are of whole files. The candidates end up sorted.
+void collectGroups(Candidates &candidates, const QList<FileEntry> &files, Shared shared, bool isEqualContent,
+                   ScanResult &result);
 
 /// What every matcher of contents does to its groups at last: splits them by the rules that are on, drops further names
 /// of one file when asked to, counts the waste and sorts by it.

@@ -1,6 +1,7 @@
 #include "core/scan/duplicatescanner.h"
 
 #include "core/cache/cacheroot.h"
+#include "core/cache/digestwriter.h"
 #include "core/cache/fingerprintcache.h"
 #include "core/hash/contenthash.h"
 #include "core/match/candidates.h"
@@ -9,16 +10,9 @@
 #include "core/match/unreadfiles.h"
 #include "core/scan/threadpool.h"
 
-#include <QElapsedTimer>
-
-#include <vector>
-
 namespace MirrixCore {
 
 namespace {
-
-/// How long a cancelled scan may go on writing down the digests it has gained.
-constexpr qint64 cancelledStoreMs = 100;
 
 /// Three stages, each of which can only shrink the set: equal size, equal quick digest, equal full digest.
 class ExactScan
@@ -31,6 +25,7 @@ public:
         , m_progress(progress)
         , m_cancelled(cancelled)
         , m_usesCache(!cacheRoot().isEmpty())
+        , m_writer(cancelled)
     {}
 
     ScanResult run()
@@ -42,13 +37,13 @@ public:
 
         hashQuick(candidates);
         if (isCancelled(m_cancelled))
-            return abandoned(candidates);
+            return finished();
         const qsizetype shared = moveSharedToFront(candidates);
         hashFull(candidates, shared);
         if (isCancelled(m_cancelled))
-            return abandoned(candidates);
+            return finished();
         candidates.resize(static_cast<size_t>(shared));
-        collectGroups(candidates, m_files, true, m_result);
+        collectGroups(candidates, m_files, Shared::Full, true, m_result);
         finishContentGroups(m_result, m_options, m_cancelled);
         return finished();
     }
@@ -85,38 +80,19 @@ private:
         } else {
             candidate.quick = Digest(m_unread.accepted(file, quickHash(file.path, &notes), notes));
         }
-        candidate.mustStore = describes(notes, file);
+        remember(candidate, notes);
     }
 
-    /// Hashes the first `count` candidates whole. Meanwhile this thread writes down what is known of the others: the
-    /// cache takes one entry at a time, so several threads would only wait for each other.
     void hashFull(Candidates &candidates, qsizetype count)
     {
-        std::vector<Candidate *> known;
-        std::vector<Candidate *> unknown;
-        for (Candidate &candidate : candidates) {
-            const bool isShared = &candidate - candidates.data() < count;
-            (isShared && candidate.full.isEmpty() ? unknown : known).push_back(&candidate);
-        }
         StageProgress progress(m_progress, Phase::FullHash, m_files.size(), count);
-        const auto hash = [&](qsizetype i) {
+        forEachParallel(count, [&](qsizetype i) {
             if (isCancelled(m_cancelled))
                 return;
             Candidate &candidate = candidates[static_cast<size_t>(i)];
             hashWhole(candidate);
             progress.step(m_files[candidate.file].path);
-        };
-        forEachParallel(count, hash, [&] { storeAll(known); });
-        storeAll(unknown);
-    }
-
-    void storeAll(const std::vector<Candidate *> &candidates) const
-    {
-        for (Candidate *candidate : candidates) {
-            if (isCancelled(m_cancelled))
-                return;
-            store(*candidate);
-        }
+        });
     }
 
     void hashWhole(Candidate &candidate)
@@ -125,49 +101,23 @@ private:
         if (!candidate.full.isEmpty())
             return;
         HashNotes notes;
-        const Digest full(m_unread.accepted(file, fullContentHash(file.path, m_cancelled, &notes), notes));
-        if (full.isEmpty())
-            return;
-        if (describes(notes, file))
-            candidate.mustStore = true;
-        else
-            store(candidate); // the quick digest was taken earlier and may still fit
-        candidate.full = full;
+        candidate.full = Digest(m_unread.accepted(file, fullContentHash(file.path, m_cancelled, &notes), notes));
+        if (!candidate.full.isEmpty())
+            remember(candidate, notes);
     }
 
-    /// Whether the digest was taken from the state of the file that the walk saw, so that the cache may remember it.
-    static bool describes(const HashNotes &notes, const FileEntry &file)
+    /// Has the digests written down if they were taken from the state of the file that the walk saw.
+    void remember(const Candidate &candidate, const HashNotes &notes)
     {
-        return notes.sizeBytes == file.size && notes.modifiedMs == file.modifiedMs;
-    }
-
-    void store(Candidate &candidate) const
-    {
-        if (!candidate.mustStore || candidate.quick.isEmpty())
-            return;
         const FileEntry &file = m_files[candidate.file];
-        if (candidate.full.isEmpty())
-            storeQuick(file.path, file.size, file.modifiedMs, candidate.quick.bytes());
-        else
-            storeQuickAndFull(file.path, file.size, file.modifiedMs, candidate.quick.bytes(), candidate.full.bytes());
-        candidate.mustStore = false;
-    }
-
-    /// The result of a cancelled scan. What was hashed so far is kept for the next one as far as the time allows.
-    ScanResult abandoned(Candidates &candidates)
-    {
-        QElapsedTimer timer;
-        timer.start();
-        for (Candidate &candidate : candidates) {
-            if (timer.hasExpired(cancelledStoreMs))
-                break;
-            store(candidate);
-        }
-        return finished();
+        const bool describes = notes.sizeBytes == file.size && notes.modifiedMs == file.modifiedMs;
+        if (m_usesCache && describes && !candidate.quick.isEmpty())
+            m_writer.add(file, {candidate.quick.bytes(), candidate.full.bytes()});
     }
 
     ScanResult finished()
     {
+        m_writer.finish();
         m_result.unread = m_unread.take();
         return std::move(m_result);
     }
@@ -178,6 +128,7 @@ private:
     const CancelQuery &m_cancelled;
     const bool m_usesCache;
     UnreadFiles m_unread;
+    DigestWriter m_writer;
     ScanResult m_result;
 };
 

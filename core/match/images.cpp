@@ -107,10 +107,10 @@ private:
 
     ImageFeature computedFeature(FileEntry &file) const
     {
-        const PictureBytes picture = readPicture(file.path, m_request.useRawPreview);
+        const PictureBytes picture = readPicture(file.path, m_request.useRawPreview, m_cancelled);
         if (m_needsSizes)
             setSize(file, pictureSize(picture.bytes));
-        const ImageFeature feature = imageFeatureOf(picture.bytes, m_request);
+        const ImageFeature feature = imageFeatureOf(picture.bytes, m_request, m_cancelled);
         const bool isAsListed = picture.sizeBytes == file.size && picture.modifiedMs == file.modifiedMs;
         if (m_usesCache && isAsListed)
             storeImageFeature(file.path, file.size, file.modifiedMs, feature);

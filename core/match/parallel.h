@@ -2,7 +2,6 @@
 
 #include "core/scan/scanprogress.h"
 
-#include <QScopeGuard>
 #include <QSemaphore>
 #include <QThreadPool>
 
@@ -25,12 +24,16 @@ public:
     SpareThread &operator=(const SpareThread &) = delete;
 };
 
-/// Calls `task(i)` for each i in 0..count-1 on Qt's global thread pool, and meanwhile `meanwhile()` on the calling
-/// thread; returns when both are done. A task writes only what belongs to its index. The calling thread takes no task,
-/// so the pool's size is the number of threads at work on them. An exception of a task is thrown again here, as what it
-/// was; tasks not yet begun are then left out.
-template <typename Task, typename Meanwhile>
-void forEachParallel(qsizetype count, Task task, Meanwhile meanwhile)
+/// How many of `wanted` threads the system lets this process have now. Qt's pool counts a thread that the system has
+/// refused as one at work for ever, so this is asked before the pool is.
+[[nodiscard]] int creatableThreads(int wanted);
+
+/// Calls `task(i)` for each i in 0..count-1 on Qt's global thread pool; returns when all are done. A task writes only
+/// what belongs to its index. The calling thread takes no task unless the system refuses all others, so the pool's size
+/// is the number of threads at work on them. An exception of a task is thrown again here, as what it was; tasks not yet
+/// begun are then left out.
+template <typename Task>
+void forEachParallel(qsizetype count, Task task)
 {
     QThreadPool &pool = *QThreadPool::globalInstance();
     const SpareThread spare;
@@ -38,33 +41,26 @@ void forEachParallel(qsizetype count, Task task, Meanwhile meanwhile)
     std::mutex mutex;
     std::exception_ptr failure;
     QSemaphore ended;
+    const auto work = [&] {
+        try {
+            for (qsizetype i = next++; i < count; i = next++)
+                task(i);
+        } catch (...) {
+            next = count;
+            const std::lock_guard lock(mutex);
+            failure = std::current_exception();
+        }
+        ended.release();
+    };
     // As many as threads, so that the spare thread finds none.
-    const int lanes = static_cast<int>(std::min<qsizetype>(count, pool.maxThreadCount()));
-    for (int lane = 0; lane < lanes; ++lane) {
-        pool.start([&] {
-            try {
-                for (qsizetype i = next++; i < count; i = next++)
-                    task(i);
-            } catch (...) {
-                next = count;
-                const std::lock_guard lock(mutex);
-                failure = std::current_exception();
-            }
-            ended.release();
-        });
-    }
-    {
-        const auto wait = qScopeGuard([&] { ended.acquire(lanes); }); // also when `meanwhile` fails
-        meanwhile();
-    }
+    const int lanes = creatableThreads(static_cast<int>(std::min<qsizetype>(count, pool.maxThreadCount())));
+    for (int lane = 0; lane < lanes; ++lane)
+        pool.start(work);
+    if (lanes == 0)
+        work();
+    ended.acquire(std::max(lanes, 1));
     if (failure)
         std::rethrow_exception(failure);
-}
-
-template <typename Task>
-void forEachParallel(qsizetype count, Task task)
-{
-    forEachParallel(count, task, [] {});
 }
 
 /// Counts the items that the tasks of one stage finish and passes every 64th and the last on, one thread at a time.

@@ -37,7 +37,7 @@ public:
             hashStage(Phase::PrefixHash, candidates, [this](Candidate &candidate) { hashPrefix(candidate); });
         }
         if (!isCancelled(m_cancelled)) {
-            collectGroups(candidates, m_files, m_limit < 1, result);
+            collectGroups(candidates, m_files, Shared::QuickAndFull, m_limit < 1, result);
             finishContentGroups(result, m_options, m_cancelled);
         }
         result.unread = m_unread.take();

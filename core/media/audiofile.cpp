@@ -5,6 +5,7 @@
 
 #include <taglib/fileref.h>
 #include <taglib/tag.h>
+#include <taglib/tfilestream.h>
 #include <taglib/tpropertymap.h>
 
 #include <algorithm>
@@ -45,7 +46,10 @@ void readTags(const TagLib::FileRef &file, FileEntry &entry)
 void readAudioFacts(FileEntry &entry, bool withTags)
 {
     const std::filesystem::path path = filesystemPath(entry.path);
-    const TagLib::FileRef file(path.c_str(), true, TagLib::AudioProperties::Average);
+    TagLib::FileStream stream(path.c_str(), true); // else it asks for the right to write
+    if (!stream.isOpen())
+        return;
+    const TagLib::FileRef file(&stream, true, TagLib::AudioProperties::Average);
     if (file.isNull() || file.file()->length() == 0) // of an empty file the library makes up a duration
         return;
     if (const TagLib::AudioProperties *audio = file.audioProperties())

@@ -1,5 +1,7 @@
 #include "core/media/imagefeature.h"
 
+#include "core/media/decodebudget.h"
+#include "core/media/headersize.h"
 #include "core/media/opencvfeature.h"
 #include "core/media/pictures.h"
 #include "core/media/qtfeature.h"
@@ -37,11 +39,18 @@ Histogram histogramIn(const QByteArray &bytes)
 
 } // namespace
 
-ImageFeature imageFeatureOf(const QByteArray &bytes, const FeatureRequest &request)
+ImageFeature imageFeatureOf(const QByteArray &bytes, const FeatureRequest &request, const CancelQuery &cancelled)
 {
     ImageFeature feature;
-    const QSize size = pictureSize(bytes);
+    QSize size = pictureSize(bytes);
+    const HeaderSize further = size.isValid() ? HeaderSize() : headerSizeOf(bytes);
+    if (further.size.isValid())
+        size = further.size;
     if (bytes.isEmpty() || qint64(size.width()) * size.height() > mostPixels)
+        return feature;
+    const bool isOfUnknownSize = further.isKnownFormat && !further.size.isValid(); // to be decoded alone
+    const DecodeShare memory(isOfUnknownSize ? DecodeBudget::ofProcess().totalBytes() : decodingBytes(size), cancelled);
+    if (!memory.isGranted())
         return feature;
     const QuietDecoding quiet;
     const OpenCvFeature byOpenCv = openCvFeature();

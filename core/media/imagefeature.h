@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/scan/scanprogress.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QString>
@@ -32,8 +34,11 @@ struct FeatureRequest
 };
 
 /// The feature of a picture's encoded bytes, by OpenCV or, for what that cannot decode, by Qt; the two give different
-/// hashes. Invalid for what neither decodes and for pictures of more than 2^28 pixels. Decodes once. Thread-safe.
-[[nodiscard]] ImageFeature imageFeatureOf(const QByteArray &bytes, const FeatureRequest &request);
+/// hashes. Invalid for what neither decodes, for pictures of more than 2^28 pixels or of more memory than the process
+/// may use for one (DecodeBudget). Waits for that memory while others decode; invalid when `cancelled` meanwhile.
+/// Decodes once. Thread-safe.
+[[nodiscard]] ImageFeature imageFeatureOf(const QByteArray &bytes, const FeatureRequest &request,
+                                          const CancelQuery &cancelled = {});
 
 /// Reads and decodes a file for one of its values each; false or empty when that fails. Thread-safe.
 [[nodiscard]] bool computeImageHash(const QString &path, quint64 &hash);

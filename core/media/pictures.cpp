@@ -18,7 +18,7 @@ constexpr qint64 mostFileBytes = qint64(1) << 30;
 
 } // namespace
 
-PictureBytes readPicture(const QString &path, bool useRawPreview)
+PictureBytes readPicture(const QString &path, bool useRawPreview, const CancelQuery &cancelled)
 {
     PictureBytes picture;
     FileReader reader;
@@ -27,7 +27,7 @@ PictureBytes readPicture(const QString &path, bool useRawPreview)
     if (isRawFile(path)) {
         picture.bytes = useRawPreview ? embeddedPreview(path) : QByteArray();
         if (picture.bytes.isEmpty())
-            picture.bytes = developedRaw(path);
+            picture.bytes = developedRaw(path, cancelled);
     }
     if (picture.bytes.isEmpty()) {
         picture.bytes.resize(reader.sizeBytes());

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/scan/scanprogress.h"
+
 #include <QByteArray>
 #include <QSize>
 #include <QString>
@@ -15,8 +17,9 @@ struct PictureBytes
 };
 
 /// Reads a file whole, or of a RAW file the embedded JPEG or, without `useRawPreview` or where there is none, the
-/// picture developed at half size (as PPM). Files above 1 GiB are refused. Thread-safe.
-[[nodiscard]] PictureBytes readPicture(const QString &path, bool useRawPreview);
+/// picture developed at half size (as PPM). Files above 1 GiB are refused. Developing may wait for memory, until
+/// `cancelled`. Thread-safe.
+[[nodiscard]] PictureBytes readPicture(const QString &path, bool useRawPreview, const CancelQuery &cancelled = {});
 
 /// Width and height in pixels as the head of a picture's encoded bytes tells them, before any turning; invalid where Qt
 /// does not know the format. Decodes nothing.

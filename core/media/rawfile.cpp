@@ -1,5 +1,6 @@
 #include "core/media/rawfile.h"
 
+#include "core/media/decodebudget.h"
 #include "core/media/mediafacts.h"
 #include "core/platform/nativepath.h"
 
@@ -71,10 +72,13 @@ QByteArray embeddedPreview(const QString &path)
                : QByteArray();
 }
 
-QByteArray developedRaw(const QString &path)
+QByteArray developedRaw(const QString &path, const CancelQuery &cancelled)
 {
     const std::unique_ptr<LibRaw> raw = opened(path);
     if (!raw)
+        return {};
+    const DecodeShare memory(decodingBytes({raw->imgdata.sizes.raw_width, raw->imgdata.sizes.raw_height}), cancelled);
+    if (!memory.isGranted())
         return {};
     raw->imgdata.params.half_size = 1;
     raw->imgdata.params.use_camera_wb = 1;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/scan/fileentry.h"
+#include "core/scan/scanprogress.h"
 
 #include <QByteArray>
 #include <QSize>
@@ -14,8 +15,9 @@ namespace MirrixCore {
 /// The largest picture embedded in a RAW file, encoded: mostly JPEG, from a few cameras PPM.
 [[nodiscard]] QByteArray embeddedPreview(const QString &path);
 
-/// A RAW file developed at half its width and height with the camera's white balance, as 8-bit PPM or PGM.
-[[nodiscard]] QByteArray developedRaw(const QString &path);
+/// A RAW file developed at half its width and height with the camera's white balance, as 8-bit PPM or PGM. May wait for
+/// the memory it takes (DecodeBudget), with nothing as the answer when `cancelled` meanwhile.
+[[nodiscard]] QByteArray developedRaw(const QString &path, const CancelQuery &cancelled = {});
 
 /// Width and height of the picture a RAW file holds, in pixels, before any turning.
 [[nodiscard]] QSize rawSize(const QString &path);

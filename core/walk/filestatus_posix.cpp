@@ -1,5 +1,6 @@
 #include "core/walk/filestatus.h"
 
+#include "core/platform/epochtime.h"
 #include "core/platform/nativepath.h"
 
 #include <cerrno>
@@ -21,7 +22,7 @@ FileStatus fileStatus(const QString &path)
                                           : FileStatus::Kind::Other;
     status.isHidden = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1).startsWith(QLatin1Char('.'));
     status.sizeBytes = info.st_size;
-    status.modifiedMs = qint64(info.st_mtim.tv_sec) * 1000 + info.st_mtim.tv_nsec / 1000000;
+    status.modifiedMs = epochMsFrom(info.st_mtim.tv_sec, info.st_mtim.tv_nsec);
     status.identity = {static_cast<quint32>(info.st_dev), info.st_ino, static_cast<quint32>(info.st_nlink), true};
     return status;
 }

@@ -1,5 +1,6 @@
 #include "core/walk/folderreader.h"
 
+#include "core/platform/epochtime.h"
 #include "core/platform/nativepath.h"
 
 #include <cerrno>
@@ -52,7 +53,7 @@ bool isKernelFileSystem(int folder)
 
 qint64 epochMs(const statx_timestamp &time)
 {
-    return time.tv_sec * 1000 + time.tv_nsec / 1000000;
+    return epochMsFrom(time.tv_sec, time.tv_nsec);
 }
 
 /// Fills `item` from the file `name` below the open folder. False when the entry has vanished meanwhile.

@@ -233,7 +233,7 @@
     </message>
     <message>
         <source>扫描过程中发生未知错误</source>
-        <translation>An unknown error occurred during the scan</translation>
+        <translation>An unknown error occurred during the scan.</translation>
     </message>
     <message>
         <source>扫描已取消</source>

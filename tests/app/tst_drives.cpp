@@ -1,6 +1,8 @@
 #include "app/drives.h"
 
+#include <QProcess>
 #include <QSet>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <filesystem>
@@ -14,6 +16,7 @@ class DrivesTest : public QObject
 
 private slots:
     void listsThisMachine();
+    void rootIsNoMountPoint();
     void scannable_data();
     void scannable();
 };
@@ -41,6 +44,25 @@ void DrivesTest::listsThisMachine()
         QVERIFY(drives.first().isSystem && drives.first().totalBytes > 0);
     else
         QVERIFY(roots.contains(u"C:/"_s));
+}
+
+/// As in containers: everything is mounted somewhere below a root that is a mere folder.
+void DrivesTest::rootIsNoMountPoint()
+{
+    const QTemporaryDir root;
+    const QString script =
+        u"for d in /*; do "
+        "if [ -L \"$d\" ]; then cp -P \"$d\" \"$0$d\"; "
+        "elif [ -d \"$d\" ]; then mkdir \"$0$d\" && mount --rbind \"$d\" \"$0$d\" || exit 77; fi; done; "
+        "exec chroot \"$0\" \"$1\" listsThisMachine"_s;
+    QProcess process;
+    process.start(u"unshare"_s,
+                  {u"-m"_s, u"sh"_s, u"-c"_s, script, root.path(), QCoreApplication::applicationFilePath()});
+    process.waitForFinished();
+    const QByteArray output = process.readAll();
+    if (!output.contains("listsThisMachine"))
+        QSKIP("cannot mount");
+    QVERIFY2(process.exitCode() == 0, output.constData());
 }
 
 void DrivesTest::scannable_data()

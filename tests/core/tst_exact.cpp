@@ -108,7 +108,7 @@ private slots:
     void rehashesTouchedFiles_data();
     void rehashesTouchedFiles();
     void storesWhatItHashed();
-    void storesOneEntryForBothDigests();
+    void writesDigestsAsTheyAreGained();
     void keepsDigestsWhenCancelled();
     void recoversBrokenEntries_data();
     void recoversBrokenEntries();
@@ -625,7 +625,9 @@ void ExactTest::rehashesTouchedFiles()
         QCOMPARE(scan(optionsFor(tree)).groups.size(), groups);
         const QJsonObject entry = cacheEntryOf(touched);
         QCOMPARE(entry[u"mtimeMs"_s].toInteger(), someTimeMs + 1);
-        QCOMPARE(entry.contains(u"full"_s), groups == 1);
+        const bool isWhole = groups == 1 || size == smallBytes; // small files are read only once
+        const QByteArray full = isWhole ? fullContentHash(touched).toHex() : QByteArray();
+        QCOMPARE(entry[u"full"_s].toString(), QString::fromLatin1(full));
     }
 }
 
@@ -650,7 +652,8 @@ void ExactTest::storesWhatItHashed()
             QCOMPARE(entry[u"algo"_s].toString(), u"md5"_s);
             QCOMPARE(entry[u"size"_s].toInteger(), size);
             QCOMPARE(entry[u"quick"_s].toString(), QString::fromLatin1(quickHash(path).toHex()));
-            const QByteArray full = name == u"other"_s ? QByteArray() : fullContentHash(path).toHex();
+            const bool isWhole = name != u"other"_s || size == smallBytes; // small files are read only once
+            const QByteArray full = isWhole ? fullContentHash(path).toHex() : QByteArray();
             QCOMPARE(entry[u"full"_s].toString(), QString::fromLatin1(full));
         }
     }
@@ -658,18 +661,24 @@ void ExactTest::storesWhatItHashed()
         QVERIFY(!QFileInfo::exists(cachePathFor(tree.path(name))));
 }
 
-void ExactTest::storesOneEntryForBothDigests()
+/// Whatever ends the program now, only the few digests that wait to be written are lost.
+void ExactTest::writesDigestsAsTheyAreGained()
 {
+    constexpr int files = 1000;
+    constexpr int mostLost = 256 + 10;
     const TempTree cache;
     const TempTree tree;
     setCacheRoot(cache.path());
-    const QString path = tree.write(u"a"_s, patternBytes(largeBytes));
-    tree.write(u"b"_s, patternBytes(largeBytes));
-    bool wasEarly = true;
-    (void)DuplicateScanner::scan(
-        optionsFor(tree), atEndOf(Phase::QuickHash, [&] { wasEarly = QFileInfo::exists(cachePathFor(path)); }), {});
-    QVERIFY(!wasEarly); // writing costs more than hashing: not twice for one file
-    QVERIFY(cacheEntryOf(path).contains(u"quick"_s) && cacheEntryOf(path).contains(u"full"_s));
+    QStringList paths;
+    for (int i = 0; i < files; ++i)
+        paths.append(tree.write(QString::number(i), patternBytes(largeBytes, quint32(i / 2))));
+    qsizetype written = 0;
+    const auto count = [&] {
+        written = std::count_if(paths.begin(), paths.end(),
+                                [](const QString &path) { return QFileInfo::exists(cachePathFor(path)); });
+    };
+    QCOMPARE(DuplicateScanner::scan(optionsFor(tree), atEndOf(Phase::QuickHash, count), {}).groups.size(), files / 2);
+    QVERIFY2(written >= files - mostLost, QByteArray::number(written).constData());
 }
 
 void ExactTest::keepsDigestsWhenCancelled()

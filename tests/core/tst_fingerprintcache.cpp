@@ -1,6 +1,8 @@
 #include "core/cache/cacheroot.h"
 #include "core/cache/fingerprintcache.h"
 #include "core/hash/contenthasher.h"
+#include "tests/support/disk.h"
+#include "tests/support/probes.h"
 #include "tests/support/temptree.h"
 
 #include <QDir>
@@ -46,6 +48,8 @@ private slots:
     void fullOfAnotherAlgorithmGoes();
     void brokenEntryIsReplaced_data();
     void brokenEntryIsReplaced();
+    void entryThatIsNoPlainFile_data();
+    void entryThatIsNoPlainFile();
     void unwritableFolderIsSilent();
     void offWithoutRoot();
     void oddNamesDoNotMeet();
@@ -141,20 +145,34 @@ void FingerprintCacheTest::validity_data()
     const auto row = [](const char *name, const char *text, bool isHit) {
         QTest::newRow(name) << QByteArray(text) << isHit;
     };
-    row("valid", R"({"algo":"md5","size":1234,"mtimeMs":1700000000123,"quick":"0011"})", true);
-    row("no algorithm", R"({"size":1234,"mtimeMs":1700000000123,"quick":"0011"})", true);
-    row("empty algorithm", R"({"algo":"","size":1234,"mtimeMs":1700000000123,"quick":"0011"})", true);
-    row("fractions are cut", R"({"size":1234.9,"mtimeMs":1700000000123.75,"quick":"0011"})", true);
-    row("other algorithm", R"({"algo":"blake3","size":1234,"mtimeMs":1700000000123,"quick":"0011"})", false);
-    row("other case", R"({"algo":"MD5","size":1234,"mtimeMs":1700000000123,"quick":"0011"})", false);
-    row("other size", R"({"algo":"md5","size":1235,"mtimeMs":1700000000123,"quick":"0011"})", false);
-    row("other time", R"({"algo":"md5","size":1234,"mtimeMs":1700000000124,"quick":"0011"})", false);
-    row("no size", R"({"algo":"md5","mtimeMs":1700000000123,"quick":"0011"})", false);
-    row("size as text", R"({"size":"1234","mtimeMs":1700000000123,"quick":"0011"})", false);
-    row("size beyond all numbers", R"({"size":1e300,"mtimeMs":1700000000123,"quick":"0011"})", false);
+    row("valid", R"({"algo":"md5","size":1234,"mtimeMs":1700000000123,"quick":"00112233445566778899aabbccddeeff"})",
+        true);
+    row("no algorithm", R"({"size":1234,"mtimeMs":1700000000123,"quick":"00112233445566778899aabbccddeeff"})", true);
+    row("empty algorithm",
+        R"({"algo":"","size":1234,"mtimeMs":1700000000123,"quick":"00112233445566778899aabbccddeeff"})", true);
+    row("fractions are cut", R"({"size":1234.9,"mtimeMs":1700000000123.75,"quick":"00112233445566778899aabbccddeeff"})",
+        true);
+    row("other algorithm",
+        R"({"algo":"blake3","size":1234,"mtimeMs":1700000000123,"quick":"00112233445566778899aabbccddeeff"})", false);
+    row("other case",
+        R"({"algo":"MD5","size":1234,"mtimeMs":1700000000123,"quick":"00112233445566778899aabbccddeeff"})", false);
+    row("other size",
+        R"({"algo":"md5","size":1235,"mtimeMs":1700000000123,"quick":"00112233445566778899aabbccddeeff"})", false);
+    row("other time",
+        R"({"algo":"md5","size":1234,"mtimeMs":1700000000124,"quick":"00112233445566778899aabbccddeeff"})", false);
+    row("no size", R"({"algo":"md5","mtimeMs":1700000000123,"quick":"00112233445566778899aabbccddeeff"})", false);
+    row("size as text", R"({"size":"1234","mtimeMs":1700000000123,"quick":"00112233445566778899aabbccddeeff"})", false);
+    row("size beyond all numbers",
+        R"({"size":1e300,"mtimeMs":1700000000123,"quick":"00112233445566778899aabbccddeeff"})", false);
     row("no digest", R"({"algo":"md5","size":1234,"mtimeMs":1700000000123})", false);
     row("empty digest", R"({"algo":"md5","size":1234,"mtimeMs":1700000000123,"quick":""})", false);
     row("digest as number", R"({"algo":"md5","size":1234,"mtimeMs":1700000000123,"quick":11})", false);
+    row("digest too short", R"({"algo":"md5","size":1234,"mtimeMs":1700000000123,"quick":"0011"})", false);
+    row("of another algorithm's length",
+        R"({"algo":"md5","size":1234,"mtimeMs":1700000000123,"quick":"00112233445566778899aabbccddeeff)"
+        R"(00112233445566778899aabbccddeeff"})",
+        false);
+    row("of no algorithm's length", R"({"size":1234,"mtimeMs":1700000000123,"quick":"0011"})", false);
     row("array", "[]", false);
     row("cut short", R"({"algo":"md5","size":1234,"mtimeMs":17)", false);
     row("empty file", "", false);
@@ -167,7 +185,7 @@ void FingerprintCacheTest::validity()
     writeEntry(text);
     QByteArray digest;
     QTEST(lookupQuick(file, size, modified, digest), "isHit");
-    QVERIFY(digest.isEmpty() || digest == QByteArray::fromHex("0011"));
+    QVERIFY(digest.isEmpty() || digest == quick);
 }
 
 void FingerprintCacheTest::otherMembersStay()
@@ -218,6 +236,37 @@ void FingerprintCacheTest::brokenEntryIsReplaced()
     QByteArray digest;
     QVERIFY(lookupQuick(file, size, modified, digest));
     QCOMPARE(entry().size(), 4);
+}
+
+void FingerprintCacheTest::entryThatIsNoPlainFile_data()
+{
+    QTest::addColumn<QString>("kind");
+    for (const char *kind : {"symbolic link", "hard link", "pipe", "device"})
+        QTest::newRow(kind) << QString::fromLatin1(kind);
+}
+
+/// Somebody put it there. Nothing hangs, nothing is written through it, and the entry takes its place.
+void FingerprintCacheTest::entryThatIsNoPlainFile()
+{
+    QFETCH(QString, kind);
+    const QByteArray content = R"({"note":"the user's own"})";
+    const QString users = m_tree->write(QStringLiteral("user's file"), content);
+    const QString entryPath = cachePathFor(file);
+    QVERIFY(QDir().mkpath(QFileInfo(entryPath).path()));
+    const QString relative = QDir(m_tree->path()).relativeFilePath(entryPath);
+    const bool isMade = kind == QLatin1String("hard link") ? m_tree->hardLink(QStringLiteral("user's file"), relative)
+                        : kind == QLatin1String("symbolic link")
+                            ? m_tree->symbolicLink(QStringLiteral("user's file"), relative)
+                        : kind == QLatin1String("device") ? QFile::link(QStringLiteral("/dev/zero"), entryPath)
+                                                          : makePipe(entryPath);
+    if (!isMade)
+        QSKIP("cannot be made here");
+    QByteArray digest;
+    QVERIFY(!lookupQuick(file, size, modified, digest));
+    storeQuick(file, size, modified, quick);
+    QCOMPARE(contentOf(users), content);
+    QVERIFY(lookupQuick(file, size, modified, digest));
+    QVERIFY(QFileInfo(entryPath).isFile() && !QFileInfo(entryPath).isSymLink());
 }
 
 void FingerprintCacheTest::unwritableFolderIsSilent()

@@ -1,5 +1,6 @@
 #include "core/walk/folderreader.h"
 
+#include "core/hash/filereader.h"
 #include "core/platform/nativepath.h"
 #include "core/walk/filestatus.h"
 #include "core/walk/windowsattributes.h"
@@ -113,8 +114,11 @@ void FolderReaderTest::tellsTimesBefore1970AsUnknown()
     const TempTree tree;
     tree.write(u"old"_s, "x");
     tree.setModified(u"old"_s, -86400000);
-    QVERIFY(itemsOf(tree.path())[u"old"_s].modifiedMs < 1);
-    QVERIFY(fileStatus(tree.path(u"old"_s)).modifiedMs < 1);
+    QCOMPARE(itemsOf(tree.path())[u"old"_s].modifiedMs, 0);
+    QCOMPARE(fileStatus(tree.path(u"old"_s)).modifiedMs, 0);
+    FileReader reader;
+    QVERIFY(reader.open(tree.path(u"old"_s)) && reader.readState());
+    QCOMPARE(reader.modifiedMs(), 0);
 }
 
 void FolderReaderTest::listsLargeFolders()

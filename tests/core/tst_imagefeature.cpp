@@ -1,6 +1,9 @@
+#include "core/media/decodebudget.h"
+#include "core/media/headersize.h"
 #include "core/media/imagefeature.h"
 #include "core/media/pictures.h"
 #include "core/media/qtfeature.h"
+#include "tests/support/mediafiles.h"
 #include "tests/support/temptree.h"
 
 #include <QBuffer>
@@ -11,10 +14,12 @@
 #include <QJsonObject>
 #include <QTest>
 
+#include <atomic>
 #include <bit>
 #include <cstring>
 #include <functional>
 #include <map>
+#include <thread>
 
 using namespace MirrixCore;
 using namespace MirrixTest;
@@ -102,6 +107,9 @@ private slots:
     void truncated();
     void readsFiles();
     void histograms();
+    void headerSizes_data();
+    void headerSizes();
+    void decodersShareMemory();
 };
 
 void ImageFeatureTest::vectors_data()
@@ -281,6 +289,75 @@ void ImageFeatureTest::histograms()
     QVERIFY(!histogramsMatch(histogram({0}), histogram({0}), 0));
     QVERIFY(!histogramsMatch(histogram({1}), histogram({1}).first(255), 0));
     QVERIFY(histogramsMatch(histogram({1}), histogram({1}) + "more", 1));
+}
+
+void ImageFeatureTest::headerSizes_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    const QByteArray sides = QByteArray::fromHex("0000012C000000C8"); // 300 and 200
+    const QByteArray webp("RIFF\x1A\0\0\0WEBP", 12);
+    QTest::newRow("WebP") << webp + QByteArray("VP8X\x0A\0\0\0\0\0\0\0\x2B\1\0\xC7\0\0", 18) + QByteArray(20, '\0');
+    QTest::newRow("WebP with loss") << webp + QByteArray("VP8 \x0E\0\0\0\0\0\0\x9D\1\x2A\x2C\1\xC8\0", 18) +
+                                           QByteArray(20, '\0');
+    QTest::newRow("WebP without loss") << webp + QByteArray("VP8L\x0E\0\0\0\x2F\x2B\xC1\x31\0", 13) +
+                                              QByteArray(24, '\0');
+    TiffFile tiff;
+    QTest::newRow("TIFF") << tiff.finished({tiffShorts(256, {300}), tiffLong(257, 200)});
+    QTest::newRow("JPEG 2000") << QByteArray("\0\0\0\x0CjP  ", 8) + QByteArray(70, '\0') +
+                                      QByteArray::fromHex("FF4FFF5100290000"
+                                                          "0000013C000000D0"
+                                                          "0000001000000008");
+    QTest::newRow("OpenEXR") << QByteArray::fromHex("762F3101") + QByteArray("\2\0\0\0dataWindow\0box2i\0", 21) +
+                                    QByteArray::fromHex("10000000"
+                                                        "FEFFFFFF"
+                                                        "00000000"
+                                                        "29010000"
+                                                        "C7000000");
+    QTest::newRow("Sun raster") << QByteArray::fromHex("59A66A95") + sides;
+    QTest::newRow("Radiance") << QByteArray("#?RADIANCE\nEXPOSURE=1\n\n-Y 200 +X 300\n");
+    QTest::newRow("float") << QByteArray("PF\n300 200\n-1.0\n");
+    QTest::newRow("arbitrary") << QByteArray("P7\nWIDTH 300\nHEIGHT 200\nDEPTH 1\n");
+}
+
+void ImageFeatureTest::headerSizes()
+{
+    QFETCH(QByteArray, bytes);
+    QCOMPARE(headerSizeOf(bytes).size, QSize(300, 200));
+    for (qsizetype length = 4; length < bytes.size() - 20; ++length)
+        QVERIFY(headerSizeOf(bytes.first(length)).size.isEmpty());
+}
+
+/// Never more than the total is out, what is larger is out alone, and what is too large or cancelled is not out at all.
+void ImageFeatureTest::decodersShareMemory()
+{
+    DecodeBudget budget(100);
+    std::atomic<qint64> taken = 0;
+    std::atomic<int> granted = 0;
+    std::atomic<bool> isExceeded = false;
+    std::vector<std::thread> threads;
+    for (const qint64 bytes : {60, 60, 30, 150, 100, 40, 201}) {
+        threads.emplace_back([&, bytes] {
+            for (int round = 0; round < 200; ++round) {
+                const DecodeShare share(bytes, {}, budget);
+                if (!share.isGranted())
+                    continue;
+                ++granted;
+                if ((taken += bytes) > std::max<qint64>(bytes, budget.totalBytes()))
+                    isExceeded = true;
+                std::this_thread::yield();
+                taken -= bytes;
+            }
+        });
+    }
+    for (std::thread &thread : threads)
+        thread.join();
+    QVERIFY(!isExceeded);
+    QCOMPARE(granted.load(), 6 * 200);
+    const DecodeShare all(100, {}, budget);
+    QVERIFY(all.isGranted());
+    QVERIFY(!DecodeShare(
+                 1, [] { return true; }, budget)
+                 .isGranted());
 }
 
 QTEST_GUILESS_MAIN(ImageFeatureTest)

@@ -70,6 +70,7 @@ private slots:
     void comparesAsFarAsAsked_data();
     void comparesAsFarAsAsked();
     void narrowsStageByStage();
+    void keepsDifferentSamplesApart();
     void appliesRulesAndHardLinks();
     void namesUnreadFiles();
     void stopsWhenCancelled();
@@ -123,6 +124,22 @@ void SampledContentTest::narrowsStageByStage()
     QCOMPARE(scan(mediaOptions(tree, SearchMode::Video, 0), &totals).groups.size(), 0);
     QCOMPARE(totals[Phase::SampleHash], 3);
     QCOMPARE(totals[Phase::PrefixHash], 2);
+}
+
+/// Files of one size and opening whose samples told them apart stay apart, whoever else is there.
+void SampledContentTest::keepsDifferentSamplesApart()
+{
+    const TempTree tree;
+    for (const QString &name : {u"a1"_s, u"a2"_s})
+        tree.write(name, patternBytes(fileBytes));
+    for (const QString &name : {u"b1"_s, u"b2"_s})
+        tree.write(name, changedAt(fileBytes - 1));
+    const ScanOptions options = mediaOptions(tree, SearchMode::Audio, 2);
+    const ScanResult both = scan(options);
+    QCOMPARE(groupTexts(both, tree), QSet<QString>({u"a1 a2"_s, u"b1 b2"_s}));
+    QCOMPARE(both.wastedBytes, 2 * fileBytes);
+    QVERIFY(QFile::remove(tree.path(u"b2"_s)));
+    QCOMPARE(groupTexts(scan(options), tree), QSet<QString>({u"a1 a2"_s}));
 }
 
 void SampledContentTest::appliesRulesAndHardLinks()

@@ -4,7 +4,8 @@
    all later calls fail too, as on a drive that has gone. With MIRRIX_FAULT_CUT the power fails at that call: what was
    written into files there and not flushed is gone, as file systems have it that keep names in order but not contents.
    With MIRRIX_FAULT_PLAIN_RENAME the file systems cannot rename without replacing, with the value "2" hard links
-   neither. The name of the call is written to MIRRIX_FAULT_REPORT, which is not made when the program ended before. */
+   neither. With MIRRIX_FAULT_NO_THREADS the system refuses every further thread. The name of the call is written to
+   MIRRIX_FAULT_REPORT, which is not made when the program ended before. */
 
 #include <dirent.h>
 #include <dlfcn.h>
@@ -270,6 +271,12 @@ DIR *fdopendir(int file)
 {
     NEXT(fdopendir);
     return isOpenBelow(file) && fails("fdopendir") ? NULL : next(file);
+}
+
+int pthread_create(pthread_t *thread, const pthread_attr_t *attributes, void *(*start)(void *), void *argument)
+{
+    NEXT(pthread_create);
+    return getenv("MIRRIX_FAULT_NO_THREADS") ? EAGAIN : next(thread, attributes, start, argument);
 }
 
 /* The file is closed all the same, as the system does it. */

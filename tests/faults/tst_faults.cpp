@@ -67,6 +67,7 @@ private slots:
     void cleaning_data();
     void cleaning();
     void scanning();
+    void scanningWithoutThreads();
     void ownFiles_data();
     void ownFiles();
 
@@ -186,6 +187,21 @@ void FaultsTest::scanning()
             return u"the next scan is misled"_s;
         return scene.problem(run.program.status, run.program.output, true, !fault.isPassing());
     });
+}
+
+/// Where the system refuses further threads, the one there is does all the work.
+void FaultsTest::scanningWithoutThreads()
+{
+    const Scene scene(u"scan"_s, false);
+    QProcess process;
+    scene.prepare(process);
+    QProcessEnvironment environment = process.processEnvironment();
+    environment.insert(u"LD_PRELOAD"_s, QStringLiteral(MIRRIX_FAULT_SHIM));
+    environment.insert(u"MIRRIX_FAULT_NO_THREADS"_s, u"1"_s);
+    process.setProcessEnvironment(environment);
+    process.start(Program::builtExecutable(), scene.arguments());
+    QCOMPARE(Program::ended(process).status, 0);
+    QCOMPARE(QJsonDocument::fromJson(contentOf(scene.path(u"report"_s))).object()[u"groups"_s].toArray().size(), 2);
 }
 
 void FaultsTest::ownFiles_data()

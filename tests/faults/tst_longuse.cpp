@@ -1,5 +1,6 @@
 #include "core/cache/cacheroot.h"
 #include "core/scan/scanworker.h"
+#include "tests/support/program.h"
 #include "tests/support/scans.h"
 
 #include <QDir>
@@ -8,6 +9,7 @@
 #include <QThreadPool>
 
 #include <malloc.h>
+#include <sys/resource.h>
 
 using namespace MirrixCore;
 using namespace MirrixTest;
@@ -47,6 +49,13 @@ void scanOnce(const TempTree &tree, int number)
     QCOMPARE(ended, 1);
 }
 
+/// One colour, 8192 x 8192 pixels without loss: head, no transformation, and five codes of one symbol each.
+QByteArray largeWebp()
+{
+    return QByteArray("RIFF\x1A\0\0\0WEBPVP8L\x0E\0\0\0\x2F", 21) + QByteArray::fromHex("FFDFFF07888808") +
+           QByteArray(6, '\0');
+}
+
 } // namespace
 
 class LongUseTest : public QObject
@@ -54,6 +63,30 @@ class LongUseTest : public QObject
     Q_OBJECT
 
 private slots:
+    /// Pictures of 34 bytes that promise half a gigabyte each are not all decoded at once.
+    void promisedPicturesTakeTurns()
+    {
+        constexpr rlim_t allowedBytes = rlim_t(3) << 30; // a quarter of it is for pictures
+        const TempTree tree;
+        const Program program;
+        for (int i = 0; i < 4; ++i)
+            tree.write(u"%1.webp"_s.arg(i), largeWebp());
+        QProcess process;
+        program.prepare(process, {u"scan"_s, u"--no-cache"_s, u"--mode"_s, u"images"_s, u"--set"_s, u"threads=4"_s,
+                                  u"--data-dir"_s, program.dataFolder(), tree.path()});
+        process.setChildProcessModifier([] {
+            const rlimit limit = {allowedBytes, allowedBytes};
+            setrlimit(RLIMIT_AS, &limit);
+        });
+        process.start();
+        QCOMPARE(Program::ended(process).status, 0);
+        rusage use = {};
+        QCOMPARE(getrusage(RUSAGE_CHILDREN, &use), 0);
+        qInfo("%ld KiB at most", use.ru_maxrss);
+        constexpr long programKiB = 300 * 1024;
+        QVERIFY(use.ru_maxrss < long(allowedBytes / 4 / 1024) + programKiB);
+    }
+
     /// 200 scans in a row leave neither memory nor files nor threads behind.
     void scansLeaveNothing()
     {

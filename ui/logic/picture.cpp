@@ -1,6 +1,7 @@
 #include "ui/logic/picture.h"
 
 #include "app/text.h"
+#include "core/media/decodebudget.h"
 #include "core/media/mediakinds.h"
 #include "core/media/rawfile.h"
 #include "ui/logic/suffixicons.h"
@@ -36,6 +37,17 @@ bool openRaw(const QString &path, QBuffer &encoded)
     return !bytes.isEmpty() && encoded.open(QIODevice::ReadOnly);
 }
 
+/// What decoding takes. Drawings are drawn as small as they are wanted; Qt itself keeps to its limit where the size is
+/// not known before.
+qint64 wantedBytes(const QImageReader &reader, QSize size)
+{
+    constexpr qint64 mega = 1024 * 1024;
+    if (!size.isValid())
+        return QImageReader::allocationLimit() * mega;
+    const bool isDrawing = reader.format().startsWith("svg");
+    return MirrixCore::decodingBytes(isDrawing && reader.scaledSize().isValid() ? reader.scaledSize() : size);
+}
+
 Picture readFrom(QIODevice *device, QSize bounds)
 {
     QImageReader reader(device);
@@ -46,10 +58,11 @@ Picture readFrom(QIODevice *device, QSize bounds)
         bounds.transpose();
     if (size.isValid() && (size.width() > bounds.width() || size.height() > bounds.height()))
         reader.setScaledSize(size.scaled(bounds, Qt::KeepAspectRatio).expandedTo({1, 1}));
-    const QImage image = reader.read();
+    const MirrixCore::DecodeShare memory(wantedBytes(reader, size));
+    const QImage image = memory.isGranted() ? reader.read() : QImage();
     if (!image.isNull())
         return {image, Picture::Problem::None};
-    return {{}, exceedsLimit(size) ? Picture::Problem::TooLarge : Picture::Problem::Unreadable};
+    return {{}, !memory.isGranted() || exceedsLimit(size) ? Picture::Problem::TooLarge : Picture::Problem::Unreadable};
 }
 
 } // namespace
