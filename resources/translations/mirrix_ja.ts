@@ -995,7 +995,7 @@
     </message>
     <message>
         <source>删除所选</source>
-        <translation>チェックした項目を削除</translation>
+        <translation>チェックを入れた項目を削除</translation>
     </message>
     <message>
         <source>导出…</source>
