@@ -995,7 +995,7 @@ Titre : %1</translation>
     </message>
     <message>
         <source>删除所选</source>
-        <translation>Supprimer les cochés</translation>
+        <translation>Supprimer les fichiers cochés</translation>
     </message>
     <message>
         <source>导出…</source>
