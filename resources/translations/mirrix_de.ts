@@ -37,11 +37,11 @@
     </message>
     <message>
         <source>[%1] %2  已枚举 %3  已处理 %4/%5</source>
-        <translation>[%1] %2  Gefunden: %3  Bearbeitet: %4/%5</translation>
+        <translation>[%1] %2  Gefunden: %3  Verarbeitet: %4/%5</translation>
     </message>
     <message>
         <source>文件 %1 · 重复组 %2 · 文件夹组 %3 · 其余 %4 · 可回收约 %5 · 耗时 %6 秒</source>
-        <translation>Dateien: %1 · Duplikatgruppen: %2 · Ordnergruppen: %3 · Übrige: %4 · Freizugeben: ~%5 · %6 s</translation>
+        <translation>Dateien: %1 · Duplikatgruppen: %2 · Ordnergruppen: %3 · Übrige: %4 · Platzgewinn: ~%5 · %6 s</translation>
     </message>
     <message>
         <source>文件(&amp;F)</source>
@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>勾选要移除的副本，建议先备份再删除</source>
-        <translation>Überzählige Kopien auswählen; im Zweifel vorher sichern</translation>
+        <translation>Überzählige Kopien ankreuzen; im Zweifel vorher sichern</translation>
     </message>
     <message>
         <source>请选择要扫描的位置</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>勾选重复项并进行清理</source>
-        <translation>Duplikate auswählen und aufräumen</translation>
+        <translation>Duplikate ankreuzen und aufräumen</translation>
     </message>
     <message>
         <source>提示</source>
@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>扫描完成 · 图片哈希后端: %1</source>
-        <translation>Suche beendet · Bild-Hash: %1</translation>
+        <translation>Suche abgeschlossen · Bild-Hash: %1</translation>
     </message>
     <message>
         <source>位于回收站中</source>
@@ -289,11 +289,11 @@
     </message>
     <message>
         <source>要保留的文件已更改，未处理: %1</source>
-        <translation>Die zu behaltende Datei hat sich geändert, nicht bearbeitet: %1</translation>
+        <translation>Die zu behaltende Datei hat sich geändert; diese Kopie blieb unberührt: %1</translation>
     </message>
     <message>
         <source>与要保留的文件可能是同一个文件，未处理: %1</source>
-        <translation>Vielleicht dieselbe Datei wie die zu behaltende, nicht bearbeitet: %1</translation>
+        <translation>Möglicherweise dieselbe Datei wie die zu behaltende; blieb unberührt: %1</translation>
     </message>
     <message>
         <source>无法创建目标目录: %1</source>
@@ -345,7 +345,7 @@
     </message>
     <message>
         <source>无法放入回收站，已保留: %1</source>
-        <translation>Kein Papierkorb kann diese Datei aufnehmen; behalten: %1</translation>
+        <translation>Verschieben in den Papierkorb nicht möglich; Datei behalten: %1</translation>
     </message>
     <message>
         <source>无法写入清理记录: %1 (%2)</source>
@@ -381,11 +381,11 @@
     </message>
     <message>
         <source>保留最上层目录</source>
-        <translation>Oberste Ordnerebene behalten</translation>
+        <translation>Datei im obersten Ordner behalten</translation>
     </message>
     <message>
         <source>保留最深路径</source>
-        <translation>Längsten Pfad behalten</translation>
+        <translation>Datei im tiefsten Ordner behalten</translation>
     </message>
     <message>
         <source>选择备份目录</source>
@@ -397,7 +397,7 @@
     </message>
     <message>
         <source>保留规则</source>
-        <translation>Behalten</translation>
+        <translation>Zu behalten</translation>
     </message>
     <message>
         <source>跳过隐藏文件</source>
@@ -431,7 +431,7 @@ Systemordner bleiben ausgeschlossen. Das ganze Systemlaufwerk nur mit Bedacht du
     </message>
     <message>
         <source>未勾选任何磁盘。</source>
-        <translation>Keine Laufwerke gewählt.</translation>
+        <translation>Keine Laufwerke angekreuzt.</translation>
     </message>
     <message>
         <source>系统盘确认</source>
@@ -440,7 +440,7 @@ Systemordner bleiben ausgeschlossen. Das ganze Systemlaufwerk nur mit Bedacht du
     <message>
         <source>您选择了系统盘。整盘扫描耗时较长，系统目录仍会排除。
 是否加入扫描列表？</source>
-        <translation>Es ist ein Systemlaufwerk gewählt. Es ganz zu durchsuchen dauert länger; Systemordner bleiben ausgeschlossen.
+        <translation>Es ist ein Systemlaufwerk angekreuzt. Es ganz zu durchsuchen dauert länger; Systemordner bleiben ausgeschlossen.
 Zu den Suchorten hinzufügen?</translation>
     </message>
     <message>
@@ -450,7 +450,7 @@ Zu den Suchorten hinzufügen?</translation>
     <message>
         <source>将 %1 个分区加入扫描列表（不会立即开始扫描）：
 %2</source>
-        <translation>Laufwerke, die zu den Suchorten kommen: %1 (die Suche beginnt noch nicht)
+        <translation>Laufwerke zu den Suchorten hinzufügen (die Suche beginnt noch nicht): %1
 %2</translation>
     </message>
     <message>
@@ -471,7 +471,7 @@ Zu den Suchorten hinzufügen?</translation>
     </message>
     <message>
         <source>移除</source>
-        <translation>Entfernen</translation>
+        <translation>Herausnehmen</translation>
     </message>
     <message>
         <source>选择一个扫描时不进入的文件夹</source>
@@ -513,7 +513,7 @@ oder Ordner aus dem Explorer in die Liste ziehen.</translation>
     </message>
     <message>
         <source>移除所选</source>
-        <translation>Markierte entfernen</translation>
+        <translation>Aus Liste nehmen</translation>
     </message>
     <message>
         <source>清空列表</source>
@@ -525,7 +525,7 @@ oder Ordner aus dem Explorer in die Liste ziehen.</translation>
     </message>
     <message>
         <source>已包含</source>
-        <translation>Enthalten</translation>
+        <translation>Einbezogen</translation>
     </message>
     <message>
         <source>🔒 已保护</source>
@@ -631,7 +631,7 @@ Dieser Ordner ist zurzeit nicht zu finden.</translation>
     </message>
     <message>
         <source>「其余文件」为只读视图；请切换到「重复文件」Tab 勾选处理。</source>
-        <translation>„Übrige Dateien“ ist nur zum Ansehen; ausgewählt wird unter „Doppelte Dateien“.</translation>
+        <translation>„Übrige Dateien“ ist nur zum Ansehen; angekreuzt wird unter „Doppelte Dateien“.</translation>
     </message>
     <message>
         <source>扫描完成后，在左侧勾选重复项再执行批量操作。</source>
@@ -639,7 +639,7 @@ Dieser Ordner ist zurzeit nicht zu finden.</translation>
     </message>
     <message>
         <source>已勾选 %1 个文件</source>
-        <translation>Ausgewählte Dateien: %1</translation>
+        <translation>Angekreuzte Dateien: %1</translation>
     </message>
     <message>
         <source>分组</source>
@@ -699,7 +699,7 @@ Dieser Ordner ist zurzeit nicht zu finden.</translation>
     </message>
     <message>
         <source>选择</source>
-        <translation>Auswahl</translation>
+        <translation>Häkchen</translation>
     </message>
     <message>
         <source>文件 / 分组</source>
@@ -707,11 +707,11 @@ Dieser Ordner ist zurzeit nicht zu finden.</translation>
     </message>
     <message>
         <source>分组 #%1  (%2 个文件, 可回收 %3)</source>
-        <translation>Gruppe %1  (Dateien: %2, freizugeben: %3)</translation>
+        <translation>Gruppe %1  (Dateien: %2, Platzgewinn: %3)</translation>
     </message>
     <message>
         <source>本组所有文件均已勾选，处理后将不保留任何副本。</source>
-        <translation>Alle Dateien dieser Gruppe sind angekreuzt; keine Kopie bliebe übrig.</translation>
+        <translation>Alle Dateien dieser Gruppe sind angekreuzt; keine davon wird behalten.</translation>
     </message>
     <message>
         <source>路径: %1
@@ -815,7 +815,7 @@ Titel: %1</translation>
     </message>
     <message>
         <source>全文件多点哈希（较慢）</source>
-        <translation>Prüfsumme über die ganze Datei (langsamer)</translation>
+        <translation>Stichproben aus der ganzen Datei (langsamer)</translation>
     </message>
     <message>
         <source>仅显示</source>
@@ -859,7 +859,7 @@ Titel: %1</translation>
     </message>
     <message>
         <source>• 匹配：相似内容（采样一致 ≥ %1%）</source>
-        <translation>• Vergleich: ähnlicher Inhalt (Proben stimmen zu ≥ %1% überein)</translation>
+        <translation>• Vergleich: ähnlicher Inhalt (Proben stimmen zu mindestens %1 % überein)</translation>
     </message>
     <message>
         <source>• 匹配：忽略内容（名称/大小/日期规则）</source>
@@ -887,7 +887,7 @@ Titel: %1</translation>
     </message>
     <message>
         <source>• 大小限制：%1 ~ %2</source>
-        <translation>• Größe: %1 ~ %2</translation>
+        <translation>• Größe: %1 – %2</translation>
     </message>
     <message>
         <source>• 包含扩展名：%1</source>
@@ -1015,15 +1015,15 @@ Titel: %1</translation>
     </message>
     <message>
         <source>按规则自动勾选</source>
-        <translation>Nach Regel auswählen</translation>
+        <translation>Nach Regel ankreuzen</translation>
     </message>
     <message>
         <source>全选重复项</source>
-        <translation>Alle Duplikate auswählen</translation>
+        <translation>Alle Duplikate ankreuzen</translation>
     </message>
     <message>
         <source>反选</source>
-        <translation>Auswahl umkehren</translation>
+        <translation>Häkchen umkehren</translation>
     </message>
     <message>
         <source>清空结果</source>
@@ -1035,7 +1035,7 @@ Titel: %1</translation>
     </message>
     <message>
         <source>删除所选</source>
-        <translation>Ausgewählte löschen</translation>
+        <translation>Angekreuzte löschen</translation>
     </message>
     <message>
         <source>导出…</source>
@@ -1043,7 +1043,7 @@ Titel: %1</translation>
     </message>
     <message>
         <source>删除文件前先将其移动到备份文件夹</source>
-        <translation>Verschiebt Dateien vor dem Löschen in den Sicherungsordner</translation>
+        <translation>Verschiebt Dateien in den Sicherungsordner, statt sie zu löschen</translation>
     </message>
     <message>
         <source>文件预览</source>
@@ -1051,7 +1051,7 @@ Titel: %1</translation>
     </message>
     <message>
         <source>选择文件以预览</source>
-        <translation>Datei für die Vorschau wählen</translation>
+        <translation>Datei für die Vorschau markieren</translation>
     </message>
     <message>
         <source>文件夹: %1</source>
@@ -1125,11 +1125,11 @@ Titel: %1</translation>
     </message>
     <message>
         <source>对比图片 (选 2 个)</source>
-        <translation>Bilder vergleichen (2 auswählen)</translation>
+        <translation>Bilder vergleichen (2 markieren)</translation>
     </message>
     <message>
         <source>全选本组重复项</source>
-        <translation>Alle Duplikate der Gruppe auswählen</translation>
+        <translation>Alle Duplikate der Gruppe ankreuzen</translation>
     </message>
     <message>
         <source>音频文件匹配配置</source>
@@ -1161,7 +1161,7 @@ Titel: %1</translation>
     </message>
     <message>
         <source>勾选时按当前扫描模式扩展名扫描；取消勾选则仅扫描「已包含」列表中的扩展名。</source>
-        <translation>Angekreuzt gelten die Endungen des aktuellen Modus, sonst nur die Liste „Enthalten“.</translation>
+        <translation>Angekreuzt gelten die Endungen des aktuellen Modus, sonst nur die Liste „Einbezogen“.</translation>
     </message>
     <message>
         <source>已排除</source>
@@ -1183,7 +1183,7 @@ Titel: %1</translation>
         <source>图片模式下还扫描 arw、dng、rw2、orf、srw 等相机 RAW 文件；
 raw、cr2、nef 始终扫描。仅在「已包含」列表为空时有效。</source>
         <translation>Im Bildmodus auch RAW-Dateien von Kameras wie arw, dng, rw2, orf und srw durchsuchen;
-raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Enthalten“ nicht benutzt wird.</translation>
+raw, cr2 und nef werden immer durchsucht. Gilt nur, solange die Liste „Einbezogen“ leer ist.</translation>
     </message>
     <message>
         <source>文件大小</source>
@@ -1253,7 +1253,7 @@ raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Enthalten“ 
     </message>
     <message>
         <source>采样一致的最低比例</source>
-        <translation>Geringste Übereinstimmung der Proben</translation>
+        <translation>Mindestübereinstimmung der Proben</translation>
     </message>
     <message>
         <source>不读文件内容，仅用下方「更多判断重复的选项」分组（名称/大小/日期等）。</source>
@@ -1277,7 +1277,7 @@ raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Enthalten“ 
     </message>
     <message>
         <source>忽略文件名中「副本」字样</source>
-        <translation>„Kopie“ in Dateinamen ignorieren</translation>
+        <translation>„Copy“, „(2)“ usw. in Dateinamen ignorieren</translation>
     </message>
     <message>
         <source>相同文件大小</source>
@@ -1325,7 +1325,7 @@ raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Enthalten“ 
     </message>
     <message>
         <source>匹配文件夹路径深度</source>
-        <translation>Tiefe des Ordnerpfads</translation>
+        <translation>Gleiche Pfadtiefe</translation>
     </message>
     <message>
         <source>匹配扫描位置以下路径</source>
@@ -1333,7 +1333,7 @@ raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Enthalten“ 
     </message>
     <message>
         <source>忽略在同一文件夹的重复组别</source>
-        <translation>Duplikate im selben Ordner ignorieren</translation>
+        <translation>Gruppen ignorieren, die ganz in einem Ordner liegen</translation>
     </message>
     <message>
         <source>文本匹配选项</source>
@@ -1365,7 +1365,7 @@ raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Enthalten“ 
     </message>
     <message>
         <source>使用图片特征值缓存</source>
-        <translation>Bildmerkmale zwischenspeichern</translation>
+        <translation>Cache der Bildmerkmale nutzen</translation>
     </message>
     <message>
         <source>图片标签</source>
@@ -1397,7 +1397,7 @@ raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Enthalten“ 
     </message>
     <message>
         <source>变换匹配</source>
-        <translation>Veränderte Bilder</translation>
+        <translation>Gedrehte und gespiegelte Bilder</translation>
     </message>
     <message>
         <source>查找旋转过的</source>
@@ -1513,7 +1513,7 @@ raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Enthalten“ 
     </message>
     <message>
         <source>批处理脚本无法准确指明该文件，已写为注释: %1</source>
-        <translation>Ein Batch-Skript kann diese Datei nicht genau benennen; als Bemerkung geschrieben: %1</translation>
+        <translation>Ein Batch-Skript kann diese Datei nicht genau benennen; als Kommentar geschrieben: %1</translation>
     </message>
     <message>
         <source>Mirrix 重复文件扫描报告</source>
@@ -1533,7 +1533,7 @@ raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Enthalten“ 
     </message>
     <message>
         <source>说明: 路径已脱敏（用户名已隐藏）</source>
-        <translation>Hinweis: Pfade geschwärzt (Benutzername verborgen)</translation>
+        <translation>Hinweis: Pfade anonymisiert (Benutzername verborgen)</translation>
     </message>
     <message>
         <source>[组 %1]</source>
@@ -1552,38 +1552,38 @@ raw, cr2 und nef werden immer durchsucht. Nur solange die Liste „Enthalten“ 
 部分失败：
 </source>
         <translation>
-Teilweise fehlgeschlagen:
+Fehlgeschlagen:
 </translation>
     </message>
     <message>
         <source>已按规则自动勾选待处理文件</source>
-        <translation>Dateien nach Regel ausgewählt</translation>
+        <translation>Dateien nach Regel angekreuzt</translation>
     </message>
     <message>
         <source>已勾选各组重复项（默认保留每组第一个）</source>
-        <translation>Duplikate jeder Gruppe ausgewählt (die erste Datei bleibt)</translation>
+        <translation>Duplikate jeder Gruppe angekreuzt (die erste Datei bleibt)</translation>
     </message>
     <message>
         <source>已反选</source>
-        <translation>Auswahl umgekehrt</translation>
+        <translation>Häkchen umgekehrt</translation>
     </message>
     <message>
         <source>正在更新勾选…</source>
-        <translation>Auswahl wird geändert…</translation>
+        <translation>Häkchen werden geändert…</translation>
     </message>
     <message>
         <source>已停止，其余文件未处理</source>
-        <translation>Gestoppt; die übrigen Dateien wurden nicht bearbeitet</translation>
+        <translation>Gestoppt; die restlichen Dateien wurden nicht verarbeitet</translation>
     </message>
     <message>
         <source>请先勾选要处理的文件。</source>
-        <translation>Bitte zuerst Dateien auswählen.</translation>
+        <translation>Bitte zuerst Dateien ankreuzen.</translation>
     </message>
     <message>
         <source>将把 %1 个文件移动到备份目录：
 %2
 是否继续？</source>
-        <translation>In den Sicherungsordner zu verschiebende Dateien: %1
+        <translation>Dateien (%1) in den Sicherungsordner verschieben:
 %2
 Fortfahren?</translation>
     </message>
@@ -1607,7 +1607,7 @@ Bitte neu suchen.</translation>
     </message>
     <message>
         <source>请先勾选要删除的文件。</source>
-        <translation>Bitte zuerst zu löschende Dateien auswählen.</translation>
+        <translation>Bitte zuerst zu löschende Dateien ankreuzen.</translation>
     </message>
     <message>
         <source>正在备份并移除文件… (%1/%2)</source>
@@ -1645,7 +1645,7 @@ Bitte neu suchen.</translation>
     </message>
     <message>
         <source>已处理 %1 个文件。%2</source>
-        <translation>Bearbeitete Dateien: %1. %2</translation>
+        <translation>Verarbeitete Dateien: %1. %2</translation>
     </message>
     <message>
         <source>正在读取备份索引…</source>
@@ -1683,7 +1683,7 @@ Bitte neu suchen.</translation>
     </message>
     <message>
         <source>快速、安全的重复文件查找与清理工具，支持常规内容、图片相似、音频指纹与视频缩略图模式。</source>
-        <translation>Findet doppelte Dateien schnell und räumt sie sicher auf. Vergleicht allgemeine Inhalte, ähnliche Bilder, Audio nach Fingerabdruck und Videos nach Vorschaubild.</translation>
+        <translation>Findet doppelte Dateien schnell und räumt sie sicher auf. Vergleicht allgemeine Inhalte, ähnliche Bilder, Audio nach Fingerabdruck und Videos nach Miniatur.</translation>
     </message>
     <message>
         <source>便携模式（数据位于程序旁的 \Data）</source>
@@ -1759,7 +1759,7 @@ Bitte neu suchen.</translation>
     </message>
     <message>
         <source>运行脚本会删除其中列出的每个文件，包括要保留的副本；如只删除已勾选的文件，请勾选“仅导出已勾选的文件”</source>
-        <translation>Das Skript löscht jede aufgeführte Datei, auch die zu behaltenden Kopien; um nur die angekreuzten zu löschen, „Nur angekreuzte Dateien“ wählen</translation>
+        <translation>Das Skript löscht jede aufgeführte Datei, auch die zu behaltenden; um nur die angekreuzten zu löschen, „Nur angekreuzte Dateien“ einschalten</translation>
     </message>
     <message>
         <source>输出路径：</source>
@@ -1779,11 +1779,11 @@ Bitte neu suchen.</translation>
     </message>
     <message>
         <source>路径脱敏（隐藏用户名，便于分享）</source>
-        <translation>Pfade schwärzen (Benutzername verbergen)</translation>
+        <translation>Pfade anonymisieren (Benutzername verbergen)</translation>
     </message>
     <message>
         <source>脱敏后的批处理脚本只供阅读，不会删除被隐藏用户名的文件</source>
-        <translation>Ein geschwärztes Batch-Skript ist zum Lesen da: Dateien mit verborgenem Benutzernamen löscht es nicht</translation>
+        <translation>Ein anonymisiertes Batch-Skript ist nur zum Lesen da: Dateien mit verborgenem Benutzernamen löscht es nicht</translation>
     </message>
     <message>
         <source>正在停止…</source>
@@ -1827,7 +1827,7 @@ Bitte neu suchen.</translation>
     </message>
     <message>
         <source>即将处理 %1 个文件。请选择移除方式：</source>
-        <translation>Zu bearbeitende Dateien: %1. Wie sollen sie entfernt werden?</translation>
+        <translation>Zu verarbeitende Dateien: %1. Wie sollen sie entfernt werden?</translation>
     </message>
     <message>
         <source>移除方式</source>
@@ -1943,7 +1943,7 @@ Bitte neu suchen.</translation>
     </message>
     <message>
         <source>复制所选</source>
-        <translation>Auswahl kopieren</translation>
+        <translation>Markierte kopieren</translation>
     </message>
     <message>
         <source>刷新</source>
@@ -1958,22 +1958,22 @@ Bitte neu suchen.</translation>
 %1
 
 下次图片扫描会重新计算，可能稍慢。是否继续？</source>
-        <translation>Alle zwischengespeicherten Bild-Hashes und Histogramme löschen?
+        <translation>Alle zwischengespeicherten Bild-Hashes und Histogramme löschen in:
 %1
 
 Die nächste Bildsuche dauert länger. Fortfahren?</translation>
     </message>
     <message>
         <source>清空图片特征缓存</source>
-        <translation>Zwischenspeicher der Bilder leeren</translation>
+        <translation>Cache der Bildmerkmale leeren</translation>
     </message>
     <message>
         <source>图片特征缓存已清空。</source>
-        <translation>Zwischenspeicher der Bilder geleert.</translation>
+        <translation>Cache der Bildmerkmale geleert.</translation>
     </message>
     <message>
         <source>部分缓存文件无法删除。</source>
-        <translation>Einige Dateien des Zwischenspeichers ließen sich nicht löschen.</translation>
+        <translation>Einige Cache-Dateien ließen sich nicht löschen.</translation>
     </message>
     <message>
         <source>选项</source>
@@ -1989,7 +1989,7 @@ Die nächste Bildsuche dauert länger. Fortfahren?</translation>
     </message>
     <message>
         <source>ℹ  关于程序</source>
-        <translation>ℹ  Über</translation>
+        <translation>ℹ  Info</translation>
     </message>
     <message>
         <source>常规设置</source>
@@ -2001,7 +2001,7 @@ Die nächste Bildsuche dauert länger. Fortfahren?</translation>
     </message>
     <message>
         <source>最小化到系统托盘（推荐）</source>
-        <translation>In den Infobereich verkleinern (empfohlen)</translation>
+        <translation>In den Infobereich minimieren (empfohlen)</translation>
     </message>
     <message>
         <source>退出程序</source>
@@ -2021,7 +2021,7 @@ Die nächste Bildsuche dauert länger. Fortfahren?</translation>
     </message>
     <message>
         <source>关闭后点击「开始扫描」将立即执行；也可在确认对话框中勾选「不再显示此确认」。</source>
-        <translation>Wenn ausgeschaltet, beginnt die Suche sofort; dasselbe bewirkt „Nicht mehr anzeigen“ in der Nachfrage.</translation>
+        <translation>Wenn ausgeschaltet, beginnt die Suche sofort; dasselbe bewirkt „Nicht mehr anzeigen“ in der Rückfrage.</translation>
     </message>
     <message>
         <source>内容指纹算法</source>
@@ -2041,11 +2041,11 @@ Die nächste Bildsuche dauert länger. Fortfahren?</translation>
     </message>
     <message>
         <source>缓存与数据</source>
-        <translation>Zwischenspeicher und Daten</translation>
+        <translation>Cache und Daten</translation>
     </message>
     <message>
         <source>图片特征缓存可加快重复图片的扫描。位置：</source>
-        <translation>Der Zwischenspeicher beschleunigt die Suche nach doppelten Bildern. Ort:</translation>
+        <translation>Der Cache der Bildmerkmale beschleunigt die Suche nach doppelten Bildern. Ort:</translation>
     </message>
     <message>
         <source>清除已缓存的感知哈希与直方图，下次扫描会重新计算</source>
@@ -2081,7 +2081,7 @@ Die nächste Bildsuche dauert länger. Fortfahren?</translation>
     </message>
     <message>
         <source>恢复所选</source>
-        <translation>Ausgewählte wiederherstellen</translation>
+        <translation>Markierte wiederherstellen</translation>
     </message>
     <message>
         <source>正在复制文件… (%1/%2)</source>
@@ -2129,23 +2129,23 @@ Die nächste Bildsuche dauert länger. Fortfahren?</translation>
     </message>
     <message>
         <source>…… 另有 %1 行，见详细信息</source>
-        <translation>… %1 weitere Zeilen, siehe Einzelheiten</translation>
+        <translation>… weitere Zeilen: %1, siehe Einzelheiten</translation>
     </message>
     <message>
         <source>…… 另有 %1 行未显示</source>
-        <translation>… %1 weitere Zeilen nicht angezeigt</translation>
+        <translation>… weitere Zeilen, nicht angezeigt: %1</translation>
     </message>
     <message>
         <source>未勾选的文件，未处理: %1</source>
-        <translation>Nicht angekreuzt, nicht bearbeitet: %1</translation>
+        <translation>Nicht angekreuzt; nicht verarbeitet: %1</translation>
     </message>
     <message>
         <source>链接目标属于另一组，未处理: %1</source>
-        <translation>Das Ziel der Verknüpfung gehört zu einer anderen Gruppe; nicht bearbeitet: %1</translation>
+        <translation>Das Ziel der Verknüpfung gehört zu einer anderen Gruppe; nicht verarbeitet: %1</translation>
     </message>
     <message>
         <source>没有可链接的保留文件，未处理: %1</source>
-        <translation>Keine behaltene Datei als Ziel der Verknüpfung; nicht bearbeitet: %1</translation>
+        <translation>Keine behaltene Datei als Ziel der Verknüpfung; nicht verarbeitet: %1</translation>
     </message>
     <message>
         <source>共 %1 个文件</source>
@@ -2153,7 +2153,7 @@ Die nächste Bildsuche dauert länger. Fortfahren?</translation>
     </message>
     <message>
         <source>共 %1 个文件 @ %2.%3 秒</source>
-        <translation>Dateien: %1 @ %2,%3 s</translation>
+        <translation>Dateien: %1 in %2,%3 s</translation>
     </message>
     <message>
         <source>路径: %1
@@ -2187,11 +2187,11 @@ GPS: %1, %2</translation>
     </message>
     <message>
         <source>扫描完成</source>
-        <translation>Suche beendet</translation>
+        <translation>Suche abgeschlossen</translation>
     </message>
     <message>
         <source>按规则勾选</source>
-        <translation>Nach Regel ausgewählt</translation>
+        <translation>Nach Regel angekreuzt</translation>
     </message>
     <message>
         <source>移动到备份</source>
@@ -2207,7 +2207,7 @@ GPS: %1, %2</translation>
     </message>
     <message>
         <source>导出</source>
-        <translation>Exportieren</translation>
+        <translation>Exportiert</translation>
     </message>
     <message>
         <source>导出副本</source>
@@ -2223,7 +2223,7 @@ GPS: %1, %2</translation>
     </message>
     <message>
         <source>请选中同一组内的两个图片文件进行对比。</source>
-        <translation>Zwei Bilder derselben Gruppe zum Vergleichen auswählen.</translation>
+        <translation>Zwei Bilder derselben Gruppe zum Vergleichen markieren.</translation>
     </message>
     <message>
         <source>没有匹配的记录。</source>
@@ -2237,7 +2237,7 @@ GPS: %1, %2</translation>
         <source>还没有扫描位置。
 点击“+文件夹”，在左侧选择，或把文件夹拖放、粘贴到这里。</source>
         <translation>Noch keine Suchorte.
-Klicken Sie auf „+ Ordner“, wählen Sie links, oder ziehen Sie Ordner hierher oder fügen Sie sie ein.</translation>
+Auf „+ Ordner“ klicken, links wählen oder Ordner hierher ziehen oder einfügen.</translation>
     </message>
     <message>
         <source>扫描后在这里显示结果。</source>
@@ -2255,7 +2255,7 @@ Klicken Sie auf „+ Ordner“, wählen Sie links, oder ziehen Sie Ordner hierhe
         <source>没有列出其余文件。
 要查看它们，请在扫描位置中打开“显示其余文件”，然后重新扫描。</source>
         <translation>Es sind keine übrigen Dateien aufgeführt.
-Um sie zu sehen, schalten Sie bei einem Suchort „Übrige Dateien anzeigen“ ein und suchen Sie erneut.</translation>
+Um sie zu sehen, bei einem Suchort „Übrige Dateien anzeigen“ einschalten und neu suchen.</translation>
     </message>
     <message>
         <source>筛选只改变列表中显示的内容，勾选与批量操作仍针对全部结果。</source>

@@ -289,11 +289,11 @@
     </message>
     <message>
         <source>要保留的文件已更改，未处理: %1</source>
-        <translation>The file to keep has changed, not touched: %1</translation>
+        <translation>The file to keep has changed; this copy was left alone: %1</translation>
     </message>
     <message>
         <source>与要保留的文件可能是同一个文件，未处理: %1</source>
-        <translation>Perhaps the same file as the one to keep, not touched: %1</translation>
+        <translation>May be the same file as the one to keep; left alone: %1</translation>
     </message>
     <message>
         <source>无法创建目标目录: %1</source>
@@ -309,7 +309,7 @@
     </message>
     <message>
         <source>没有创建符号链接的权限（请启用开发人员模式或以管理员身份运行）: %1</source>
-        <translation>No right to create symbolic links (turn on developer mode or run as administrator): %1</translation>
+        <translation>No permission to create symbolic links (turn on Developer Mode or run as administrator): %1</translation>
     </message>
     <message>
         <source>无法删除: %1</source>
@@ -345,7 +345,7 @@
     </message>
     <message>
         <source>无法放入回收站，已保留: %1</source>
-        <translation>No Recycle Bin can take this file, kept: %1</translation>
+        <translation>Cannot be moved to the Recycle Bin; file kept: %1</translation>
     </message>
     <message>
         <source>无法写入清理记录: %1 (%2)</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>未移入回收站，仍在原处: %1</source>
-        <translation>Not recycled, still in its place: %1</translation>
+        <translation>Not moved to the Recycle Bin; still in place: %1</translation>
     </message>
     <message>
         <source>保留最新文件</source>
@@ -422,7 +422,7 @@
     <message>
         <source>勾选分区后加入扫描列表（不会立即开始扫描）。
 系统目录仍会默认排除。建议慎选系统盘整盘扫描。</source>
-        <translation>Tick partitions to add them to the scan list (the scan won't start yet).
+        <translation>Check the boxes of the partitions to add to the scan list (the scan won't start yet).
 System folders stay excluded. Think twice before scanning the whole system drive.</translation>
     </message>
     <message>
@@ -475,11 +475,11 @@ Add to scan list?</translation>
     </message>
     <message>
         <source>选择一个扫描时不进入的文件夹</source>
-        <translation>Choose a folder that scans do not enter</translation>
+        <translation>Choose a folder to leave out of scans</translation>
     </message>
     <message>
         <source>从排除目录中移除选中的文件夹</source>
-        <translation>Remove the selected folders from the excluded ones</translation>
+        <translation>Stop excluding the selected folders</translation>
     </message>
     <message>
         <source>可操作文件夹</source>
@@ -639,7 +639,7 @@ This folder cannot be found at the moment.</translation>
     </message>
     <message>
         <source>已勾选 %1 个文件</source>
-        <translation>%1 files selected</translation>
+        <translation>%1 files checked</translation>
     </message>
     <message>
         <source>分组</source>
@@ -683,11 +683,11 @@ This folder cannot be found at the moment.</translation>
     </message>
     <message>
         <source>图片过大，无法预览</source>
-        <translation>The picture is too large to preview</translation>
+        <translation>The image is too large to preview</translation>
     </message>
     <message>
         <source>无法读取此图片</source>
-        <translation>This picture cannot be read</translation>
+        <translation>This image cannot be read</translation>
     </message>
     <message>
         <source>文件</source>
@@ -711,7 +711,7 @@ This folder cannot be found at the moment.</translation>
     </message>
     <message>
         <source>本组所有文件均已勾选，处理后将不保留任何副本。</source>
-        <translation>All files of this group are ticked; no copy would be kept.</translation>
+        <translation>All files in this group are checked; no copy will be kept.</translation>
     </message>
     <message>
         <source>路径: %1
@@ -1043,7 +1043,7 @@ Title: %1</translation>
     </message>
     <message>
         <source>删除文件前先将其移动到备份文件夹</source>
-        <translation>Moves files to the backup folder before they are deleted</translation>
+        <translation>Moves files to the backup folder instead of deleting them</translation>
     </message>
     <message>
         <source>文件预览</source>
@@ -1125,11 +1125,11 @@ Title: %1</translation>
     </message>
     <message>
         <source>对比图片 (选 2 个)</source>
-        <translation>Compare pictures (select 2)</translation>
+        <translation>Compare images (select 2)</translation>
     </message>
     <message>
         <source>全选本组重复项</source>
-        <translation>Select all duplicates in group</translation>
+        <translation>Check all duplicates in group</translation>
     </message>
     <message>
         <source>音频文件匹配配置</source>
@@ -1173,7 +1173,7 @@ Title: %1</translation>
     </message>
     <message>
         <source>用逗号、分号或空格分隔；* 或 *.* 表示全部</source>
-        <translation>Separated by commas, semicolons or spaces; * or *.* stands for all</translation>
+        <translation>Separated by commas, semicolons or spaces; * or *.* means all</translation>
     </message>
     <message>
         <source>图片模式包含更多 RAW 格式</source>
@@ -1183,7 +1183,7 @@ Title: %1</translation>
         <source>图片模式下还扫描 arw、dng、rw2、orf、srw 等相机 RAW 文件；
 raw、cr2、nef 始终扫描。仅在「已包含」列表为空时有效。</source>
         <translation>In image mode, also scan camera RAW files such as arw, dng, rw2, orf and srw;
-raw, cr2 and nef are always scanned. Only while no Included list is used.</translation>
+raw, cr2 and nef are always scanned. Applies only while the Included list is empty.</translation>
     </message>
     <message>
         <source>文件大小</source>
@@ -1349,7 +1349,7 @@ raw, cr2 and nef are always scanned. Only while no Included list is used.</trans
     </message>
     <message>
         <source>相似文件名之间最多相差的字符数</source>
-        <translation>How many characters similar file names may differ in</translation>
+        <translation>Maximum number of characters by which similar file names may differ</translation>
     </message>
     <message>
         <source>图片匹配配置</source>
@@ -1409,7 +1409,7 @@ raw, cr2 and nef are always scanned. Only while no Included list is used.</trans
     </message>
     <message>
         <source>同时要求颜色分布（直方图）一致</source>
-        <translation>Also require the same distribution of colours</translation>
+        <translation>Also require the same colour distribution</translation>
     </message>
     <message>
         <source>时间分组</source>
@@ -1425,7 +1425,7 @@ raw, cr2 and nef are always scanned. Only while no Included list is used.</trans
     </message>
     <message>
         <source>摄制时间最多相差</source>
-        <translation>Largest difference of shot times</translation>
+        <translation>Maximum difference in shot time</translation>
     </message>
     <message>
         <source>GPS分组</source>
@@ -1437,7 +1437,7 @@ raw, cr2 and nef are always scanned. Only while no Included list is used.</trans
     </message>
     <message>
         <source>拍摄地点最多相距</source>
-        <translation>Largest distance between places</translation>
+        <translation>Maximum distance between locations</translation>
     </message>
     <message>
         <source>匹配方式</source>
@@ -1445,7 +1445,7 @@ raw, cr2 and nef are always scanned. Only while no Included list is used.</trans
     </message>
     <message>
         <source>仅按标签匹配时，请至少将一个标签设为「必须匹配」</source>
-        <translation>To match by tags only, set at least one tag to "Must match"</translation>
+        <translation>To match by tags only, set at least one tag to “Must match”</translation>
     </message>
     <message>
         <source>时长</source>
@@ -1461,7 +1461,7 @@ raw, cr2 and nef are always scanned. Only while no Included list is used.</trans
     </message>
     <message>
         <source>硬链接只是同一份数据的另一个名称，移除它不会释放空间。</source>
-        <translation>A hard link is another name of the same data; removing it frees no space.</translation>
+        <translation>A hard link is another name for the same data; removing it frees no space.</translation>
     </message>
     <message>
         <source>标签</source>
@@ -1513,7 +1513,7 @@ raw, cr2 and nef are always scanned. Only while no Included list is used.</trans
     </message>
     <message>
         <source>批处理脚本无法准确指明该文件，已写为注释: %1</source>
-        <translation>A batch script cannot name this file exactly; written as a remark: %1</translation>
+        <translation>A batch script cannot refer to this file exactly; written as a comment: %1</translation>
     </message>
     <message>
         <source>Mirrix 重复文件扫描报告</source>
@@ -1569,7 +1569,7 @@ Partial failures:
     </message>
     <message>
         <source>正在更新勾选…</source>
-        <translation>Updating the selection…</translation>
+        <translation>Updating the check marks…</translation>
     </message>
     <message>
         <source>已停止，其余文件未处理</source>
@@ -1759,7 +1759,7 @@ Rescan to refresh.</translation>
     </message>
     <message>
         <source>运行脚本会删除其中列出的每个文件，包括要保留的副本；如只删除已勾选的文件，请勾选“仅导出已勾选的文件”</source>
-        <translation>Running the script deletes every file listed in it, the copies to keep included; to delete the checked files alone, tick “Export checked files only”</translation>
+        <translation>Running the script deletes every file listed in it, including the copies to keep. To delete only the checked files, turn on “Export checked files only”.</translation>
     </message>
     <message>
         <source>输出路径：</source>
@@ -1783,7 +1783,7 @@ Rescan to refresh.</translation>
     </message>
     <message>
         <source>脱敏后的批处理脚本只供阅读，不会删除被隐藏用户名的文件</source>
-        <translation>A redacted batch script is for reading: it does not delete files whose username is hidden</translation>
+        <translation>A redacted batch script is for reading only: it does not delete files whose paths have the user name hidden</translation>
     </message>
     <message>
         <source>正在停止…</source>
@@ -1847,7 +1847,7 @@ Rescan to refresh.</translation>
     </message>
     <message>
         <source>先备份再创建链接时可留空：每个链接指向本组中未勾选的文件</source>
-        <translation>May be left empty when backing up first: each link then leads to the unticked file of its group</translation>
+        <translation>May be left empty when backing up first: each link then points to the unchecked file in its group</translation>
     </message>
     <message>
         <source>移除前先备份</source>
@@ -1875,7 +1875,7 @@ Rescan to refresh.</translation>
     </message>
     <message>
         <source>添加文件夹时包含其所有下级文件夹中的文件</source>
-        <translation>Adding a folder takes the files of all its subfolders too</translation>
+        <translation>Adding a folder also adds the files in all its subfolders</translation>
     </message>
     <message>
         <source>哈希值</source>
@@ -2137,7 +2137,7 @@ Next image scan will be slower. Continue?</translation>
     </message>
     <message>
         <source>未勾选的文件，未处理: %1</source>
-        <translation>Not ticked, not processed: %1</translation>
+        <translation>Not checked; not processed: %1</translation>
     </message>
     <message>
         <source>链接目标属于另一组，未处理: %1</source>
@@ -2191,7 +2191,7 @@ GPS: %1, %2</translation>
     </message>
     <message>
         <source>按规则勾选</source>
-        <translation>Selected by rule</translation>
+        <translation>Checked by rule</translation>
     </message>
     <message>
         <source>移动到备份</source>
@@ -2223,7 +2223,7 @@ GPS: %1, %2</translation>
     </message>
     <message>
         <source>请选中同一组内的两个图片文件进行对比。</source>
-        <translation>Select two image files of the same group to compare.</translation>
+        <translation>Select two image files in the same group to compare.</translation>
     </message>
     <message>
         <source>没有匹配的记录。</source>
@@ -2254,12 +2254,12 @@ Click “+ Folder”, choose on the left, or drop or paste folders here.</transl
     <message>
         <source>没有列出其余文件。
 要查看它们，请在扫描位置中打开“显示其余文件”，然后重新扫描。</source>
-        <translation>No other files are listed.
+        <translation>No remaining files are listed.
 To see them, switch on “Show remaining files” for a scan location and scan again.</translation>
     </message>
     <message>
         <source>筛选只改变列表中显示的内容，勾选与批量操作仍针对全部结果。</source>
-        <translation>The filter only changes what the lists show; ticks and batch actions still apply to all results.</translation>
+        <translation>The filter only changes what the lists show; check marks and batch actions still apply to all results.</translation>
     </message>
 </context>
 </TS>

@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>[%1] %2  已枚举 %3  已处理 %4/%5</source>
-        <translation>[%1] %2  Enumerados %3  Procesados %4/%5</translation>
+        <translation>[%1] %2  Enumerados: %3  Procesados: %4/%5</translation>
     </message>
     <message>
         <source>文件 %1 · 重复组 %2 · 文件夹组 %3 · 其余 %4 · 可回收约 %5 · 耗时 %6 秒</source>
@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>勾选要移除的副本，建议先备份再删除</source>
-        <translation>Marque las copias que desea quitar; si tiene dudas, haga antes una copia de seguridad</translation>
+        <translation>Marque las copias que desea eliminar; si tiene dudas, haga antes una copia de seguridad</translation>
     </message>
     <message>
         <source>请选择要扫描的位置</source>
@@ -177,7 +177,7 @@
     </message>
     <message>
         <source>未能读取 %1 项：%2</source>
-        <translation>No se pudieron leer (%1): %2</translation>
+        <translation>No legibles (%1): %2</translation>
     </message>
     <message>
         <source>扫描失败</source>
@@ -289,11 +289,11 @@
     </message>
     <message>
         <source>要保留的文件已更改，未处理: %1</source>
-        <translation>El archivo que se debía conservar ha cambiado, sin procesar: %1</translation>
+        <translation>El archivo que se debe conservar ha cambiado; esta copia no se procesó: %1</translation>
     </message>
     <message>
         <source>与要保留的文件可能是同一个文件，未处理: %1</source>
-        <translation>Puede ser el mismo archivo que se debe conservar, sin procesar: %1</translation>
+        <translation>Puede ser el mismo archivo que se debe conservar; sin procesar: %1</translation>
     </message>
     <message>
         <source>无法创建目标目录: %1</source>
@@ -345,7 +345,7 @@
     </message>
     <message>
         <source>无法放入回收站，已保留: %1</source>
-        <translation>Ninguna Papelera de reciclaje admite este archivo, se conserva: %1</translation>
+        <translation>No se pudo mover a la Papelera de reciclaje; archivo conservado: %1</translation>
     </message>
     <message>
         <source>无法写入清理记录: %1 (%2)</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>未移入回收站，仍在原处: %1</source>
-        <translation>No se envió a la Papelera, sigue en su lugar: %1</translation>
+        <translation>No se envió a la Papelera de reciclaje, sigue en su lugar: %1</translation>
     </message>
     <message>
         <source>保留最新文件</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>保留最深路径</source>
-        <translation>Conservar la ruta más larga</translation>
+        <translation>Conservar la ruta más profunda</translation>
     </message>
     <message>
         <source>选择备份目录</source>
@@ -417,7 +417,7 @@
     </message>
     <message>
         <source>选择要扫描的磁盘 / 分区</source>
-        <translation>Unidades y particiones que analizar</translation>
+        <translation>Unidades y particiones para analizar</translation>
     </message>
     <message>
         <source>勾选分区后加入扫描列表（不会立即开始扫描）。
@@ -435,12 +435,12 @@ Las carpetas del sistema siguen excluidas. Piénselo bien antes de analizar toda
     </message>
     <message>
         <source>系统盘确认</source>
-        <translation>Confirmación de la unidad del sistema</translation>
+        <translation>¿Analizar la unidad del sistema?</translation>
     </message>
     <message>
         <source>您选择了系统盘。整盘扫描耗时较长，系统目录仍会排除。
 是否加入扫描列表？</source>
-        <translation>Ha elegido una unidad del sistema. Analizar un disco completo lleva más tiempo; las carpetas del sistema siguen excluidas.
+        <translation>Ha marcado una unidad del sistema. Analizar una unidad completa lleva más tiempo; las carpetas del sistema siguen excluidas.
 ¿Añadirla a la lista de análisis?</translation>
     </message>
     <message>
@@ -455,7 +455,7 @@ Las carpetas del sistema siguen excluidas. Piénselo bien antes de analizar toda
     </message>
     <message>
         <source>未检测到可扫描的磁盘或分区。</source>
-        <translation>No se encontraron unidades ni particiones que analizar.</translation>
+        <translation>No se encontraron unidades ni particiones para analizar.</translation>
     </message>
     <message>
         <source>选择要排除的文件夹</source>
@@ -513,7 +513,7 @@ también puede arrastrar carpetas desde el Explorador a la lista de análisis.</
     </message>
     <message>
         <source>移除所选</source>
-        <translation>Quitar selección</translation>
+        <translation>Quitar seleccionadas</translation>
     </message>
     <message>
         <source>清空列表</source>
@@ -647,7 +647,7 @@ No se encuentra esta carpeta en este momento.</translation>
     </message>
     <message>
         <source>文件夹组 #%1</source>
-        <translation>Grupo de carpetas #%1</translation>
+        <translation>Grupo de carpetas n.º %1</translation>
     </message>
     <message>
         <source>文件夹路径</source>
@@ -699,7 +699,7 @@ No se encuentra esta carpeta en este momento.</translation>
     </message>
     <message>
         <source>选择</source>
-        <translation>Selección</translation>
+        <translation>Marcado</translation>
     </message>
     <message>
         <source>文件 / 分组</source>
@@ -707,11 +707,11 @@ No se encuentra esta carpeta en este momento.</translation>
     </message>
     <message>
         <source>分组 #%1  (%2 个文件, 可回收 %3)</source>
-        <translation>Grupo #%1  (archivos: %2, recuperable: %3)</translation>
+        <translation>Grupo n.º %1  (archivos: %2, recuperable: %3)</translation>
     </message>
     <message>
         <source>本组所有文件均已勾选，处理后将不保留任何副本。</source>
-        <translation>Todos los archivos de este grupo están marcados; no se conservaría ninguna copia.</translation>
+        <translation>Todos los archivos de este grupo están marcados; no se conservará ninguno.</translation>
     </message>
     <message>
         <source>路径: %1
@@ -783,11 +783,11 @@ Título: %1</translation>
     </message>
     <message>
         <source>相似匹配</source>
-        <translation>Coincidencia similar</translation>
+        <translation>Similar</translation>
     </message>
     <message>
         <source>宽松相似</source>
-        <translation>Similitud amplia</translation>
+        <translation>Similitud baja</translation>
     </message>
     <message>
         <source>采样指纹（多点哈希）</source>
@@ -887,7 +887,7 @@ Título: %1</translation>
     </message>
     <message>
         <source>• 大小限制：%1 ~ %2</source>
-        <translation>• Límites de tamaño: %1 ~ %2</translation>
+        <translation>• Límites de tamaño: %1 – %2</translation>
     </message>
     <message>
         <source>• 包含扩展名：%1</source>
@@ -1023,11 +1023,11 @@ Título: %1</translation>
     </message>
     <message>
         <source>反选</source>
-        <translation>Invertir selección</translation>
+        <translation>Invertir marcas</translation>
     </message>
     <message>
         <source>清空结果</source>
-        <translation>Borrar resultados</translation>
+        <translation>Vaciar resultados</translation>
     </message>
     <message>
         <source>移动到备份文件夹</source>
@@ -1035,7 +1035,7 @@ Título: %1</translation>
     </message>
     <message>
         <source>删除所选</source>
-        <translation>Eliminar selección</translation>
+        <translation>Eliminar marcados</translation>
     </message>
     <message>
         <source>导出…</source>
@@ -1043,7 +1043,7 @@ Título: %1</translation>
     </message>
     <message>
         <source>删除文件前先将其移动到备份文件夹</source>
-        <translation>Mueve los archivos a la carpeta de copias de seguridad antes de eliminarlos</translation>
+        <translation>Mueve los archivos a la carpeta de copias de seguridad en lugar de eliminarlos</translation>
     </message>
     <message>
         <source>文件预览</source>
@@ -1125,7 +1125,7 @@ Título: %1</translation>
     </message>
     <message>
         <source>对比图片 (选 2 个)</source>
-        <translation>Comparar imágenes (elija 2)</translation>
+        <translation>Comparar imágenes (seleccione 2)</translation>
     </message>
     <message>
         <source>全选本组重复项</source>
@@ -1277,7 +1277,7 @@ raw, cr2 y nef se analizan siempre. Solo tiene efecto si la lista «Incluido» e
     </message>
     <message>
         <source>忽略文件名中「副本」字样</source>
-        <translation>Ignorar «copia» en los nombres de archivo</translation>
+        <translation>Ignorar «Copy», «(2)», etc. en los nombres de archivo</translation>
     </message>
     <message>
         <source>相同文件大小</source>
@@ -1413,11 +1413,11 @@ raw, cr2 y nef se analizan siempre. Solo tiene efecto si la lista «Incluido» e
     </message>
     <message>
         <source>时间分组</source>
-        <translation>Agrupación por fecha</translation>
+        <translation>Agrupación por hora</translation>
     </message>
     <message>
         <source>按摄制时间分组</source>
-        <translation>Agrupar por fecha de captura</translation>
+        <translation>Agrupar por hora de captura</translation>
     </message>
     <message>
         <source> 秒</source>
@@ -1461,7 +1461,7 @@ raw, cr2 y nef se analizan siempre. Solo tiene efecto si la lista «Incluido» e
     </message>
     <message>
         <source>硬链接只是同一份数据的另一个名称，移除它不会释放空间。</source>
-        <translation>Un enlace físico es otro nombre de los mismos datos; quitarlo no libera espacio.</translation>
+        <translation>Un enlace físico es otro nombre de los mismos datos; eliminarlo no libera espacio.</translation>
     </message>
     <message>
         <source>标签</source>
@@ -1552,7 +1552,7 @@ raw, cr2 y nef se analizan siempre. Solo tiene efecto si la lista «Incluido» e
 部分失败：
 </source>
         <translation>
-Errores parciales:
+Errores:
 </translation>
     </message>
     <message>
@@ -1565,11 +1565,11 @@ Errores parciales:
     </message>
     <message>
         <source>已反选</source>
-        <translation>Selección invertida</translation>
+        <translation>Marcas invertidas</translation>
     </message>
     <message>
         <source>正在更新勾选…</source>
-        <translation>Actualizando la selección…</translation>
+        <translation>Actualizando las marcas…</translation>
     </message>
     <message>
         <source>已停止，其余文件未处理</source>
@@ -1583,7 +1583,7 @@ Errores parciales:
         <source>将把 %1 个文件移动到备份目录：
 %2
 是否继续？</source>
-        <translation>Archivos que se moverán a la carpeta de copias de seguridad: %1
+        <translation>Mover los archivos (%1) a la carpeta de copias de seguridad:
 %2
 ¿Continuar?</translation>
     </message>
@@ -1611,7 +1611,7 @@ Repita el análisis para actualizar.</translation>
     </message>
     <message>
         <source>正在备份并移除文件… (%1/%2)</source>
-        <translation>Copiando y quitando archivos… (%1/%2)</translation>
+        <translation>Haciendo copia de seguridad y eliminando… (%1/%2)</translation>
     </message>
     <message>
         <source>备份警告</source>
@@ -1625,7 +1625,7 @@ Repita el análisis para actualizar.</translation>
     </message>
     <message>
         <source>已备份并移除 %1 个文件。请重新扫描以刷新结果。</source>
-        <translation>Archivos guardados en la copia de seguridad y quitados: %1. Repita el análisis para actualizar.</translation>
+        <translation>Archivos eliminados tras la copia de seguridad: %1. Repita el análisis para actualizar.</translation>
     </message>
     <message>
         <source>永久删除确认</source>
@@ -1637,7 +1637,7 @@ Repita el análisis para actualizar.</translation>
     </message>
     <message>
         <source>正在移除文件… (%1/%2)</source>
-        <translation>Quitando archivos… (%1/%2)</translation>
+        <translation>Eliminando archivos… (%1/%2)</translation>
     </message>
     <message>
         <source>请重新扫描以刷新结果。</source>
@@ -1759,7 +1759,7 @@ Repita el análisis para actualizar.</translation>
     </message>
     <message>
         <source>运行脚本会删除其中列出的每个文件，包括要保留的副本；如只删除已勾选的文件，请勾选“仅导出已勾选的文件”</source>
-        <translation>Al ejecutar el script se eliminan todos los archivos que contiene, incluidas las copias que se deben conservar; para eliminar solo los archivos marcados, active «Exportar solo los archivos marcados»</translation>
+        <translation>Al ejecutar el script se eliminan todos los archivos que contiene, incluidos los que se deben conservar; para eliminar solo los archivos marcados, active «Exportar solo los archivos marcados»</translation>
     </message>
     <message>
         <source>输出路径：</source>
@@ -1783,7 +1783,7 @@ Repita el análisis para actualizar.</translation>
     </message>
     <message>
         <source>脱敏后的批处理脚本只供阅读，不会删除被隐藏用户名的文件</source>
-        <translation>Un script anonimizado es solo para lectura: no elimina los archivos cuyo nombre de usuario está oculto</translation>
+        <translation>Un script anonimizado es solo para lectura: no elimina los archivos cuya ruta oculta el nombre de usuario</translation>
     </message>
     <message>
         <source>正在停止…</source>
@@ -1823,15 +1823,15 @@ Repita el análisis para actualizar.</translation>
     </message>
     <message>
         <source>文件移除</source>
-        <translation>Quitar archivos</translation>
+        <translation>Eliminar archivos</translation>
     </message>
     <message>
         <source>即将处理 %1 个文件。请选择移除方式：</source>
-        <translation>Archivos que se procesarán: %1. Elija cómo quitarlos:</translation>
+        <translation>Archivos que se procesarán: %1. Elija cómo eliminarlos:</translation>
     </message>
     <message>
         <source>移除方式</source>
-        <translation>Forma de quitarlos</translation>
+        <translation>Modo de eliminación</translation>
     </message>
     <message>
         <source>目标文件夹：</source>
@@ -1843,7 +1843,7 @@ Repita el análisis para actualizar.</translation>
     </message>
     <message>
         <source>保留的文件路径（用于创建链接）</source>
-        <translation>Ruta que se conserva (para los enlaces)</translation>
+        <translation>Archivo que se conserva (para los enlaces)</translation>
     </message>
     <message>
         <source>先备份再创建链接时可留空：每个链接指向本组中未勾选的文件</source>
@@ -1851,7 +1851,7 @@ Repita el análisis para actualizar.</translation>
     </message>
     <message>
         <source>移除前先备份</source>
-        <translation>Copia de seguridad antes de quitar</translation>
+        <translation>Copia de seguridad antes de eliminar</translation>
     </message>
     <message>
         <source>哈希值工具 - Mirrix</source>
@@ -1903,11 +1903,11 @@ Repita el análisis para actualizar.</translation>
     </message>
     <message>
         <source>复制：哈希值</source>
-        <translation>Copiar: hash</translation>
+        <translation>Copiar hash</translation>
     </message>
     <message>
         <source>复制：文件名</source>
-        <translation>Copiar: nombre de archivo</translation>
+        <translation>Copiar nombre de archivo</translation>
     </message>
     <message>
         <source>图片对比</source>
@@ -2049,7 +2049,7 @@ El próximo análisis de imágenes será más lento. ¿Continuar?</translation>
     </message>
     <message>
         <source>清除已缓存的感知哈希与直方图，下次扫描会重新计算</source>
-        <translation>Borra los hashes perceptuales y los histogramas en caché; el próximo análisis los volverá a calcular</translation>
+        <translation>Vacía la caché de hashes perceptuales e histogramas; el próximo análisis los volverá a calcular</translation>
     </message>
     <message>
         <source>主题</source>
@@ -2073,7 +2073,7 @@ El próximo análisis de imágenes será más lento. ¿Continuar?</translation>
     </message>
     <message>
         <source>选择要恢复的文件：</source>
-        <translation>Archivos que restaurar:</translation>
+        <translation>Archivos para restaurar:</translation>
     </message>
     <message>
         <source>按路径筛选</source>
@@ -2081,7 +2081,7 @@ El próximo análisis de imágenes será más lento. ¿Continuar?</translation>
     </message>
     <message>
         <source>恢复所选</source>
-        <translation>Restaurar selección</translation>
+        <translation>Restaurar seleccionados</translation>
     </message>
     <message>
         <source>正在复制文件… (%1/%2)</source>
@@ -2137,15 +2137,15 @@ El próximo análisis de imágenes será más lento. ¿Continuar?</translation>
     </message>
     <message>
         <source>未勾选的文件，未处理: %1</source>
-        <translation>Sin marcar, no procesado: %1</translation>
+        <translation>Sin marcar; no procesado: %1</translation>
     </message>
     <message>
         <source>链接目标属于另一组，未处理: %1</source>
-        <translation>El destino del enlace pertenece a otro grupo, no procesado: %1</translation>
+        <translation>El destino del enlace pertenece a otro grupo; no procesado: %1</translation>
     </message>
     <message>
         <source>没有可链接的保留文件，未处理: %1</source>
-        <translation>No hay archivo conservado al que enlazar, no procesado: %1</translation>
+        <translation>No hay archivo conservado al que enlazar; no procesado: %1</translation>
     </message>
     <message>
         <source>共 %1 个文件</source>
@@ -2171,7 +2171,7 @@ GPS: %1, %2</translation>
     </message>
     <message>
         <source>时间</source>
-        <translation>Hora</translation>
+        <translation>Fecha y hora</translation>
     </message>
     <message>
         <source>操作</source>
@@ -2187,7 +2187,7 @@ GPS: %1, %2</translation>
     </message>
     <message>
         <source>扫描完成</source>
-        <translation>Análisis finalizado</translation>
+        <translation>Análisis completado</translation>
     </message>
     <message>
         <source>按规则勾选</source>
@@ -2199,15 +2199,15 @@ GPS: %1, %2</translation>
     </message>
     <message>
         <source>备份并移除</source>
-        <translation>Guardados en copia y quitados</translation>
+        <translation>Eliminados tras copia de seguridad</translation>
     </message>
     <message>
         <source>移除文件</source>
-        <translation>Archivos quitados</translation>
+        <translation>Archivos eliminados</translation>
     </message>
     <message>
         <source>导出</source>
-        <translation>Exportar</translation>
+        <translation>Exportación</translation>
     </message>
     <message>
         <source>导出副本</source>
@@ -2219,7 +2219,7 @@ GPS: %1, %2</translation>
     </message>
     <message>
         <source>结果已清空。切换Tab调整规则后可重新开始扫描。</source>
-        <translation>Resultados borrados. Ajuste las reglas y repita el análisis.</translation>
+        <translation>Resultados vaciados. Ajuste las reglas y repita el análisis.</translation>
     </message>
     <message>
         <source>请选中同一组内的两个图片文件进行对比。</source>
@@ -2227,7 +2227,7 @@ GPS: %1, %2</translation>
     </message>
     <message>
         <source>没有匹配的记录。</source>
-        <translation>No hay registros que coincidan.</translation>
+        <translation>No hay entradas que coincidan.</translation>
     </message>
     <message>
         <source>没有匹配的文件。</source>
@@ -2237,7 +2237,7 @@ GPS: %1, %2</translation>
         <source>还没有扫描位置。
 点击“+文件夹”，在左侧选择，或把文件夹拖放、粘贴到这里。</source>
         <translation>Aún no hay ubicaciones.
-Pulse «+ Carpeta», elija a la izquierda, o arrastre o pegue carpetas aquí.</translation>
+Haga clic en «+ Carpeta», elija a la izquierda, o arrastre o pegue carpetas aquí.</translation>
     </message>
     <message>
         <source>扫描后在这里显示结果。</source>
@@ -2254,7 +2254,7 @@ Pulse «+ Carpeta», elija a la izquierda, o arrastre o pegue carpetas aquí.</t
     <message>
         <source>没有列出其余文件。
 要查看它们，请在扫描位置中打开“显示其余文件”，然后重新扫描。</source>
-        <translation>No se muestran otros archivos.
+        <translation>No se muestran archivos restantes.
 Para verlos, active «Mostrar archivos restantes» en una ubicación y analice de nuevo.</translation>
     </message>
     <message>

@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>[%1] %2  已枚举 %3  已处理 %4/%5</source>
-        <translation>[%1] %2  Énumérés %3  Traités %4/%5</translation>
+        <translation>[%1] %2  Énumérés : %3  Traités : %4/%5</translation>
     </message>
     <message>
         <source>文件 %1 · 重复组 %2 · 文件夹组 %3 · 其余 %4 · 可回收约 %5 · 耗时 %6 秒</source>
@@ -177,7 +177,7 @@
     </message>
     <message>
         <source>未能读取 %1 项：%2</source>
-        <translation>Illisibles (%1) : %2</translation>
+        <translation>Illisibles (%1) : %2</translation>
     </message>
     <message>
         <source>扫描失败</source>
@@ -289,11 +289,11 @@
     </message>
     <message>
         <source>要保留的文件已更改，未处理: %1</source>
-        <translation>Le fichier à conserver a changé, rien n’a été fait : %1</translation>
+        <translation>Le fichier à conserver a changé ; cette copie n’a pas été traitée : %1</translation>
     </message>
     <message>
         <source>与要保留的文件可能是同一个文件，未处理: %1</source>
-        <translation>Peut-être le même fichier que celui à conserver, rien n’a été fait : %1</translation>
+        <translation>Peut-être le même fichier que celui à conserver ; non traité : %1</translation>
     </message>
     <message>
         <source>无法创建目标目录: %1</source>
@@ -345,7 +345,7 @@
     </message>
     <message>
         <source>无法放入回收站，已保留: %1</source>
-        <translation>Aucune Corbeille ne peut recevoir ce fichier, conservé : %1</translation>
+        <translation>Mise à la Corbeille impossible ; fichier conservé : %1</translation>
     </message>
     <message>
         <source>无法写入清理记录: %1 (%2)</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>保留最深路径</source>
-        <translation>Conserver le chemin le plus long</translation>
+        <translation>Conserver le chemin le plus profond</translation>
     </message>
     <message>
         <source>选择备份目录</source>
@@ -435,12 +435,12 @@ Les dossiers système restent exclus. Évitez si possible d’analyser tout le d
     </message>
     <message>
         <source>系统盘确认</source>
-        <translation>Confirmation du disque système</translation>
+        <translation>Analyser le disque système ?</translation>
     </message>
     <message>
         <source>您选择了系统盘。整盘扫描耗时较长，系统目录仍会排除。
 是否加入扫描列表？</source>
-        <translation>Vous avez choisi un disque système. L’analyse d’un disque entier est plus longue ; les dossiers système restent exclus.
+        <translation>Vous avez coché un disque système. L’analyse d’un disque entier est plus longue ; les dossiers système restent exclus.
 L’ajouter à la liste d’analyse ?</translation>
     </message>
     <message>
@@ -513,7 +513,7 @@ vous pouvez aussi faire glisser des dossiers depuis l’Explorateur vers la list
     </message>
     <message>
         <source>移除所选</source>
-        <translation>Retirer la sélection</translation>
+        <translation>Retirer de la liste</translation>
     </message>
     <message>
         <source>清空列表</source>
@@ -647,7 +647,7 @@ Ce dossier est introuvable pour le moment.</translation>
     </message>
     <message>
         <source>文件夹组 #%1</source>
-        <translation>Groupe de dossiers #%1</translation>
+        <translation>Groupe de dossiers n° %1</translation>
     </message>
     <message>
         <source>文件夹路径</source>
@@ -699,7 +699,7 @@ Ce dossier est introuvable pour le moment.</translation>
     </message>
     <message>
         <source>选择</source>
-        <translation>Sélection</translation>
+        <translation>Coché</translation>
     </message>
     <message>
         <source>文件 / 分组</source>
@@ -707,11 +707,11 @@ Ce dossier est introuvable pour le moment.</translation>
     </message>
     <message>
         <source>分组 #%1  (%2 个文件, 可回收 %3)</source>
-        <translation>Groupe #%1  (fichiers : %2, récupérable : %3)</translation>
+        <translation>Groupe n° %1  (fichiers : %2, récupérable : %3)</translation>
     </message>
     <message>
         <source>本组所有文件均已勾选，处理后将不保留任何副本。</source>
-        <translation>Tous les fichiers de ce groupe sont cochés ; aucune copie ne serait conservée.</translation>
+        <translation>Tous les fichiers de ce groupe sont cochés ; aucun ne sera conservé.</translation>
     </message>
     <message>
         <source>路径: %1
@@ -783,11 +783,11 @@ Titre : %1</translation>
     </message>
     <message>
         <source>相似匹配</source>
-        <translation>Correspondance similaire</translation>
+        <translation>Ressemblance</translation>
     </message>
     <message>
         <source>宽松相似</source>
-        <translation>Similarité large</translation>
+        <translation>Similarité faible</translation>
     </message>
     <message>
         <source>采样指纹（多点哈希）</source>
@@ -847,7 +847,7 @@ Titre : %1</translation>
     </message>
     <message>
         <source>翻转</source>
-        <translation>Retournement</translation>
+        <translation>Miroir</translation>
     </message>
     <message>
         <source>• 变体：%1</source>
@@ -887,7 +887,7 @@ Titre : %1</translation>
     </message>
     <message>
         <source>• 大小限制：%1 ~ %2</source>
-        <translation>• Limites de taille : %1 ~ %2</translation>
+        <translation>• Limites de taille : %1 – %2</translation>
     </message>
     <message>
         <source>• 包含扩展名：%1</source>
@@ -1023,11 +1023,11 @@ Titre : %1</translation>
     </message>
     <message>
         <source>反选</source>
-        <translation>Inverser la sélection</translation>
+        <translation>Inverser les coches</translation>
     </message>
     <message>
         <source>清空结果</source>
-        <translation>Effacer les résultats</translation>
+        <translation>Vider les résultats</translation>
     </message>
     <message>
         <source>移动到备份文件夹</source>
@@ -1035,7 +1035,7 @@ Titre : %1</translation>
     </message>
     <message>
         <source>删除所选</source>
-        <translation>Supprimer la sélection</translation>
+        <translation>Supprimer les fichiers cochés</translation>
     </message>
     <message>
         <source>导出…</source>
@@ -1043,7 +1043,7 @@ Titre : %1</translation>
     </message>
     <message>
         <source>删除文件前先将其移动到备份文件夹</source>
-        <translation>Déplace les fichiers vers le dossier de sauvegarde avant leur suppression</translation>
+        <translation>Déplace les fichiers vers le dossier de sauvegarde au lieu de les supprimer</translation>
     </message>
     <message>
         <source>文件预览</source>
@@ -1125,7 +1125,7 @@ Titre : %1</translation>
     </message>
     <message>
         <source>对比图片 (选 2 个)</source>
-        <translation>Comparer les images (en choisir 2)</translation>
+        <translation>Comparer les images (en sélectionner 2)</translation>
     </message>
     <message>
         <source>全选本组重复项</source>
@@ -1277,7 +1277,7 @@ raw, cr2 et nef sont toujours analysés. Valable seulement si la liste « Inclu
     </message>
     <message>
         <source>忽略文件名中「副本」字样</source>
-        <translation>Ignorer « copie » dans les noms de fichiers</translation>
+        <translation>Ignorer « Copy », « (2) », etc. dans les noms de fichiers</translation>
     </message>
     <message>
         <source>相同文件大小</source>
@@ -1405,7 +1405,7 @@ raw, cr2 et nef sont toujours analysés. Valable seulement si la liste « Inclu
     </message>
     <message>
         <source>查找翻转过的</source>
-        <translation>Trouver les images retournées</translation>
+        <translation>Trouver les images en miroir</translation>
     </message>
     <message>
         <source>同时要求颜色分布（直方图）一致</source>
@@ -1413,11 +1413,11 @@ raw, cr2 et nef sont toujours analysés. Valable seulement si la liste « Inclu
     </message>
     <message>
         <source>时间分组</source>
-        <translation>Regroupement par date</translation>
+        <translation>Regroupement par heure</translation>
     </message>
     <message>
         <source>按摄制时间分组</source>
-        <translation>Regrouper par date de prise de vue</translation>
+        <translation>Regrouper par heure de prise de vue</translation>
     </message>
     <message>
         <source> 秒</source>
@@ -1552,7 +1552,7 @@ raw, cr2 et nef sont toujours analysés. Valable seulement si la liste « Inclu
 部分失败：
 </source>
         <translation>
-Échecs partiels :
+Échecs :
 </translation>
     </message>
     <message>
@@ -1565,11 +1565,11 @@ raw, cr2 et nef sont toujours analysés. Valable seulement si la liste « Inclu
     </message>
     <message>
         <source>已反选</source>
-        <translation>Sélection inversée</translation>
+        <translation>Coches inversées</translation>
     </message>
     <message>
         <source>正在更新勾选…</source>
-        <translation>Mise à jour de la sélection…</translation>
+        <translation>Mise à jour des coches…</translation>
     </message>
     <message>
         <source>已停止，其余文件未处理</source>
@@ -1583,7 +1583,7 @@ raw, cr2 et nef sont toujours analysés. Valable seulement si la liste « Inclu
         <source>将把 %1 个文件移动到备份目录：
 %2
 是否继续？</source>
-        <translation>Fichiers à déplacer vers le dossier de sauvegarde : %1
+        <translation>Déplacer les fichiers (%1) vers le dossier de sauvegarde :
 %2
 Continuer ?</translation>
     </message>
@@ -1759,7 +1759,7 @@ Relancez l’analyse pour actualiser.</translation>
     </message>
     <message>
         <source>运行脚本会删除其中列出的每个文件，包括要保留的副本；如只删除已勾选的文件，请勾选“仅导出已勾选的文件”</source>
-        <translation>L’exécution du script supprime tous les fichiers qu’il contient, y compris les copies à conserver ; pour ne supprimer que les fichiers cochés, cochez « Exporter uniquement les fichiers cochés »</translation>
+        <translation>L’exécution du script supprime tous les fichiers qu’il contient, y compris ceux à conserver ; pour ne supprimer que les fichiers cochés, activez « Exporter uniquement les fichiers cochés »</translation>
     </message>
     <message>
         <source>输出路径：</source>
@@ -1783,7 +1783,7 @@ Relancez l’analyse pour actualiser.</translation>
     </message>
     <message>
         <source>脱敏后的批处理脚本只供阅读，不会删除被隐藏用户名的文件</source>
-        <translation>Un script anonymisé est destiné à la lecture : il ne supprime pas les fichiers dont le nom d’utilisateur est masqué</translation>
+        <translation>Un script anonymisé est destiné à la lecture : il ne supprime pas les fichiers dont le chemin masque le nom d’utilisateur</translation>
     </message>
     <message>
         <source>正在停止…</source>
@@ -1843,7 +1843,7 @@ Relancez l’analyse pour actualiser.</translation>
     </message>
     <message>
         <source>保留的文件路径（用于创建链接）</source>
-        <translation>Chemin à conserver (pour les liens)</translation>
+        <translation>Fichier à conserver (pour les liens)</translation>
     </message>
     <message>
         <source>先备份再创建链接时可留空：每个链接指向本组中未勾选的文件</source>
@@ -1903,11 +1903,11 @@ Relancez l’analyse pour actualiser.</translation>
     </message>
     <message>
         <source>复制：哈希值</source>
-        <translation>Copier : valeur de hachage</translation>
+        <translation>Copier la valeur de hachage</translation>
     </message>
     <message>
         <source>复制：文件名</source>
-        <translation>Copier : nom du fichier</translation>
+        <translation>Copier le nom du fichier</translation>
     </message>
     <message>
         <source>图片对比</source>
@@ -2021,7 +2021,7 @@ La prochaine analyse d’images sera plus lente. Continuer ?</translation>
     </message>
     <message>
         <source>关闭后点击「开始扫描」将立即执行；也可在确认对话框中勾选「不再显示此确认」。</source>
-        <translation>Si l’option est désactivée, « Lancer l’analyse » démarre aussitôt ; vous pouvez aussi cocher « Ne plus afficher ce message » dans la confirmation.</translation>
+        <translation>Si l’option est désactivée, « Lancer l’analyse » la démarre aussitôt ; vous pouvez aussi cocher « Ne plus afficher ce message » dans la confirmation.</translation>
     </message>
     <message>
         <source>内容指纹算法</source>
@@ -2089,7 +2089,7 @@ La prochaine analyse d’images sera plus lente. Continuer ?</translation>
     </message>
     <message>
         <source>正在导出… (%1/%2)</source>
-        <translation>Exportation… (%1/%2)</translation>
+        <translation>Export en cours… (%1/%2)</translation>
     </message>
     <message>
         <source>错误</source>
@@ -2137,15 +2137,15 @@ La prochaine analyse d’images sera plus lente. Continuer ?</translation>
     </message>
     <message>
         <source>未勾选的文件，未处理: %1</source>
-        <translation>Non coché, non traité : %1</translation>
+        <translation>Non coché ; non traité : %1</translation>
     </message>
     <message>
         <source>链接目标属于另一组，未处理: %1</source>
-        <translation>La cible du lien appartient à un autre groupe, non traité : %1</translation>
+        <translation>La cible du lien appartient à un autre groupe ; non traité : %1</translation>
     </message>
     <message>
         <source>没有可链接的保留文件，未处理: %1</source>
-        <translation>Aucun fichier conservé à lier, non traité : %1</translation>
+        <translation>Aucun fichier conservé à lier ; non traité : %1</translation>
     </message>
     <message>
         <source>共 %1 个文件</source>
@@ -2171,7 +2171,7 @@ GPS : %1, %2</translation>
     </message>
     <message>
         <source>时间</source>
-        <translation>Heure</translation>
+        <translation>Date et heure</translation>
     </message>
     <message>
         <source>操作</source>
@@ -2207,7 +2207,7 @@ GPS : %1, %2</translation>
     </message>
     <message>
         <source>导出</source>
-        <translation>Exporter</translation>
+        <translation>Export</translation>
     </message>
     <message>
         <source>导出副本</source>
@@ -2219,7 +2219,7 @@ GPS : %1, %2</translation>
     </message>
     <message>
         <source>结果已清空。切换Tab调整规则后可重新开始扫描。</source>
-        <translation>Résultats effacés. Ajustez les règles et relancez l’analyse.</translation>
+        <translation>Résultats vidés. Ajustez les règles et relancez l’analyse.</translation>
     </message>
     <message>
         <source>请选中同一组内的两个图片文件进行对比。</source>
@@ -2227,7 +2227,7 @@ GPS : %1, %2</translation>
     </message>
     <message>
         <source>没有匹配的记录。</source>
-        <translation>Aucun enregistrement correspondant.</translation>
+        <translation>Aucune entrée correspondante.</translation>
     </message>
     <message>
         <source>没有匹配的文件。</source>
@@ -2237,7 +2237,7 @@ GPS : %1, %2</translation>
         <source>还没有扫描位置。
 点击“+文件夹”，在左侧选择，或把文件夹拖放、粘贴到这里。</source>
         <translation>Aucun emplacement à analyser.
-Cliquez sur « + Dossier », choisissez à gauche, ou déposez ou collez des dossiers ici.</translation>
+Cliquez sur « + Dossier », choisissez à gauche, ou déposez ou collez des dossiers ici.</translation>
     </message>
     <message>
         <source>扫描后在这里显示结果。</source>
@@ -2254,12 +2254,12 @@ Cliquez sur « + Dossier », choisissez à gauche, ou déposez ou collez des dos
     <message>
         <source>没有列出其余文件。
 要查看它们，请在扫描位置中打开“显示其余文件”，然后重新扫描。</source>
-        <translation>Aucun autre fichier n’est affiché.
-Pour les voir, activez « Afficher les fichiers restants » pour un emplacement et relancez l’analyse.</translation>
+        <translation>Aucun fichier restant n’est affiché.
+Pour les voir, activez « Afficher les fichiers restants » pour un emplacement et relancez l’analyse.</translation>
     </message>
     <message>
         <source>筛选只改变列表中显示的内容，勾选与批量操作仍针对全部结果。</source>
-        <translation>Le filtre ne change que ce que les listes affichent ; les coches et les actions groupées portent toujours sur tous les résultats.</translation>
+        <translation>Le filtre ne change que ce que les listes affichent ; les coches et les actions groupées portent toujours sur tous les résultats.</translation>
     </message>
 </context>
 </TS>

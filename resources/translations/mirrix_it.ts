@@ -5,7 +5,7 @@
     <name>Mirrix</name>
     <message>
         <source>枚举文件</source>
-        <translation>Elenco dei file</translation>
+        <translation>Ricerca dei file</translation>
     </message>
     <message>
         <source>读取元数据</source>
@@ -37,11 +37,11 @@
     </message>
     <message>
         <source>[%1] %2  已枚举 %3  已处理 %4/%5</source>
-        <translation>[%1] %2  Trovati %3  Elaborati %4/%5</translation>
+        <translation>[%1] %2  Trovati: %3  Elaborati: %4/%5</translation>
     </message>
     <message>
         <source>文件 %1 · 重复组 %2 · 文件夹组 %3 · 其余 %4 · 可回收约 %5 · 耗时 %6 秒</source>
-        <translation>File %1 · Gruppi di file %2 · Gruppi di cartelle %3 · Altri %4 · Recupero ~%5 · %6 s</translation>
+        <translation>File: %1 · Gruppi di duplicati: %2 · Gruppi di cartelle: %3 · Altri: %4 · Recuperabile: ~%5 · %6 s</translation>
     </message>
     <message>
         <source>文件(&amp;F)</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>选好后点击左侧「开始扫描」</source>
-        <translation>Poi fai clic su Avvia scansione a sinistra</translation>
+        <translation>Poi fai clic su “Avvia scansione” a sinistra</translation>
     </message>
     <message>
         <source>配置匹配规则</source>
@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>勾选要移除的副本，建议先备份再删除</source>
-        <translation>Scegli le copie da rimuovere; nel dubbio fai prima un backup</translation>
+        <translation>Spunta le copie da rimuovere; nel dubbio fai prima un backup</translation>
     </message>
     <message>
         <source>请选择要扫描的位置</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>勾选重复项并进行清理</source>
-        <translation>Scegli i duplicati e fai pulizia</translation>
+        <translation>Spunta i duplicati e fai pulizia</translation>
     </message>
     <message>
         <source>提示</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>程序仍在托盘运行。可通过托盘菜单一键完整退出。</source>
-        <translation>Ancora attivo nell'area di notifica. Per uscire del tutto usa il menu dell'icona.</translation>
+        <translation>Mirrix è ancora attivo nell'area di notifica. Per uscire del tutto usa il menu dell'icona.</translation>
     </message>
     <message>
         <source>显示主窗口</source>
@@ -225,7 +225,7 @@
     </message>
     <message>
         <source>预览清理</source>
-        <translation>Anteprima</translation>
+        <translation>Anteprima e pulizia</translation>
     </message>
     <message>
         <source>停止</source>
@@ -289,11 +289,11 @@
     </message>
     <message>
         <source>要保留的文件已更改，未处理: %1</source>
-        <translation>Il file da conservare è cambiato, non toccato: %1</translation>
+        <translation>Il file da conservare è stato modificato; questo non è stato toccato: %1</translation>
     </message>
     <message>
         <source>与要保留的文件可能是同一个文件，未处理: %1</source>
-        <translation>Forse è lo stesso file da conservare, non toccato: %1</translation>
+        <translation>Potrebbe coincidere con il file da conservare; non toccato: %1</translation>
     </message>
     <message>
         <source>无法创建目标目录: %1</source>
@@ -345,7 +345,7 @@
     </message>
     <message>
         <source>无法放入回收站，已保留: %1</source>
-        <translation>Nessun Cestino può accogliere questo file, conservato: %1</translation>
+        <translation>Impossibile spostare nel Cestino; file conservato: %1</translation>
     </message>
     <message>
         <source>无法写入清理记录: %1 (%2)</source>
@@ -365,11 +365,11 @@
     </message>
     <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
-        <translation>Il Cestino ha rifiutato dei file (codice %1, %2 file)</translation>
+        <translation>Impossibile spostare nel Cestino (codice %1, file: %2)</translation>
     </message>
     <message>
         <source>未移入回收站，仍在原处: %1</source>
-        <translation>Non nel Cestino, ancora al suo posto: %1</translation>
+        <translation>Non spostato nel Cestino, ancora al suo posto: %1</translation>
     </message>
     <message>
         <source>保留最新文件</source>
@@ -381,11 +381,11 @@
     </message>
     <message>
         <source>保留最上层目录</source>
-        <translation>Conserva il percorso più breve</translation>
+        <translation>Conserva il percorso meno profondo</translation>
     </message>
     <message>
         <source>保留最深路径</source>
-        <translation>Conserva il percorso più lungo</translation>
+        <translation>Conserva il percorso più profondo</translation>
     </message>
     <message>
         <source>选择备份目录</source>
@@ -397,7 +397,7 @@
     </message>
     <message>
         <source>保留规则</source>
-        <translation>Conserva</translation>
+        <translation>Regola</translation>
     </message>
     <message>
         <source>跳过隐藏文件</source>
@@ -431,16 +431,16 @@ Le cartelle di sistema restano escluse. Rifletti bene prima di scansionare tutta
     </message>
     <message>
         <source>未勾选任何磁盘。</source>
-        <translation>Nessuna unità scelta.</translation>
+        <translation>Nessuna unità spuntata.</translation>
     </message>
     <message>
         <source>系统盘确认</source>
-        <translation>Conferma unità di sistema</translation>
+        <translation>Scansionare l'unità di sistema?</translation>
     </message>
     <message>
         <source>您选择了系统盘。整盘扫描耗时较长，系统目录仍会排除。
 是否加入扫描列表？</source>
-        <translation>Hai scelto un'unità di sistema. Scansionarla tutta richiede più tempo; le cartelle di sistema restano escluse.
+        <translation>Hai spuntato un'unità di sistema. Scansionarla tutta richiede più tempo; le cartelle di sistema restano escluse.
 Aggiungerla all'elenco?</translation>
     </message>
     <message>
@@ -471,7 +471,7 @@ Aggiungerla all'elenco?</translation>
     </message>
     <message>
         <source>移除</source>
-        <translation>Rimuovi</translation>
+        <translation>Togli</translation>
     </message>
     <message>
         <source>选择一个扫描时不进入的文件夹</source>
@@ -479,7 +479,7 @@ Aggiungerla all'elenco?</translation>
     </message>
     <message>
         <source>从排除目录中移除选中的文件夹</source>
-        <translation>Rimuovi le cartelle selezionate da quelle escluse</translation>
+        <translation>Togli le cartelle selezionate da quelle escluse</translation>
     </message>
     <message>
         <source>可操作文件夹</source>
@@ -501,7 +501,7 @@ oppure trascinale da Esplora file nell'elenco.</translation>
     </message>
     <message>
         <source>每行一个扫描位置，状态列=启用/停用，已保护=不扫描。</source>
-        <translation>Un percorso per riga; Stato = attivo/spento; Protetto = saltato.</translation>
+        <translation>Un percorso per riga; Stato = attivo/disattivato; Protetto = saltato.</translation>
     </message>
     <message>
         <source>+文件夹</source>
@@ -513,7 +513,7 @@ oppure trascinale da Esplora file nell'elenco.</translation>
     </message>
     <message>
         <source>移除所选</source>
-        <translation>Rimuovi scelti</translation>
+        <translation>Togli dall'elenco</translation>
     </message>
     <message>
         <source>清空列表</source>
@@ -533,7 +533,7 @@ oppure trascinale da Esplora file nell'elenco.</translation>
     </message>
     <message>
         <source>锁 否</source>
-        <translation>Aperto</translation>
+        <translation>Non protetto</translation>
     </message>
     <message>
         <source>📂 是</source>
@@ -583,7 +583,7 @@ oppure trascinale da Esplora file nell'elenco.</translation>
         <source>%1
 现在找不到这个文件夹。</source>
         <translation>%1
-Questa cartella al momento non si trova.</translation>
+Al momento questa cartella non è reperibile.</translation>
     </message>
     <message>
         <source>扫描位置</source>
@@ -631,7 +631,7 @@ Questa cartella al momento non si trova.</translation>
     </message>
     <message>
         <source>「其余文件」为只读视图；请切换到「重复文件」Tab 勾选处理。</source>
-        <translation>“Altri file” è di sola lettura; per scegliere i file passa a “File duplicati”.</translation>
+        <translation>“Altri file” è di sola lettura; per spuntare i file passa a “File duplicati”.</translation>
     </message>
     <message>
         <source>扫描完成后，在左侧勾选重复项再执行批量操作。</source>
@@ -639,7 +639,7 @@ Questa cartella al momento non si trova.</translation>
     </message>
     <message>
         <source>已勾选 %1 个文件</source>
-        <translation>File scelti: %1</translation>
+        <translation>File spuntati: %1</translation>
     </message>
     <message>
         <source>分组</source>
@@ -663,7 +663,7 @@ Questa cartella al momento non si trova.</translation>
     </message>
     <message>
         <source>容量未知</source>
-        <translation>Dimensione ignota</translation>
+        <translation>Capacità sconosciuta</translation>
     </message>
     <message>
         <source>%1 / 可用 %2</source>
@@ -699,7 +699,7 @@ Questa cartella al momento non si trova.</translation>
     </message>
     <message>
         <source>选择</source>
-        <translation>Scelta</translation>
+        <translation>Spunta</translation>
     </message>
     <message>
         <source>文件 / 分组</source>
@@ -707,11 +707,11 @@ Questa cartella al momento non si trova.</translation>
     </message>
     <message>
         <source>分组 #%1  (%2 个文件, 可回收 %3)</source>
-        <translation>Gruppo %1  (file: %2, recupero %3)</translation>
+        <translation>Gruppo %1  (file: %2, recuperabile: %3)</translation>
     </message>
     <message>
         <source>本组所有文件均已勾选，处理后将不保留任何副本。</source>
-        <translation>Tutti i file di questo gruppo sono spuntati; non resterebbe alcuna copia.</translation>
+        <translation>Tutti i file di questo gruppo sono spuntati; non ne resterà nessuno.</translation>
     </message>
     <message>
         <source>路径: %1
@@ -795,11 +795,11 @@ Titolo: %1</translation>
     </message>
     <message>
         <source>近似匹配（开头约 2 分钟采样）</source>
-        <translation>Approssimativo (inizio di ≈2 min)</translation>
+        <translation>Approssimativo (primi ≈2 min)</translation>
     </message>
     <message>
         <source>近似匹配（开头约 30 秒采样）</source>
-        <translation>Approssimativo (inizio di ≈30 s)</translation>
+        <translation>Approssimativo (primi ≈30 s)</translation>
     </message>
     <message>
         <source>全文件精确哈希</source>
@@ -815,11 +815,11 @@ Titolo: %1</translation>
     </message>
     <message>
         <source>全文件多点哈希（较慢）</source>
-        <translation>Hash dell'intero file (più lento)</translation>
+        <translation>Campioni dell'intero file (più lento)</translation>
     </message>
     <message>
         <source>仅显示</source>
-        <translation>Solo mostrare</translation>
+        <translation>Mostra soltanto</translation>
     </message>
     <message>
         <source>必须匹配</source>
@@ -859,7 +859,7 @@ Titolo: %1</translation>
     </message>
     <message>
         <source>• 匹配：相似内容（采样一致 ≥ %1%）</source>
-        <translation>• Confronto: contenuto simile (campioni uguali per ≥ %1%)</translation>
+        <translation>• Confronto: contenuto simile (campioni uguali ≥ %1%)</translation>
     </message>
     <message>
         <source>• 匹配：忽略内容（名称/大小/日期规则）</source>
@@ -887,7 +887,7 @@ Titolo: %1</translation>
     </message>
     <message>
         <source>• 大小限制：%1 ~ %2</source>
-        <translation>• Dimensione: %1 ~ %2</translation>
+        <translation>• Dimensione: %1 – %2</translation>
     </message>
     <message>
         <source>• 包含扩展名：%1</source>
@@ -895,7 +895,7 @@ Titolo: %1</translation>
     </message>
     <message>
         <source>• 排除扩展名：%1</source>
-        <translation>• Escluse estensioni: %1</translation>
+        <translation>• Estensioni escluse: %1</translation>
     </message>
     <message>
         <source>隐藏文件</source>
@@ -1015,15 +1015,15 @@ Titolo: %1</translation>
     </message>
     <message>
         <source>按规则自动勾选</source>
-        <translation>Scegli secondo la regola</translation>
+        <translation>Spunta secondo la regola</translation>
     </message>
     <message>
         <source>全选重复项</source>
-        <translation>Tutti i duplicati</translation>
+        <translation>Spunta tutti i duplicati</translation>
     </message>
     <message>
         <source>反选</source>
-        <translation>Inverti la scelta</translation>
+        <translation>Inverti le spunte</translation>
     </message>
     <message>
         <source>清空结果</source>
@@ -1035,7 +1035,7 @@ Titolo: %1</translation>
     </message>
     <message>
         <source>删除所选</source>
-        <translation>Elimina scelti</translation>
+        <translation>Elimina spuntati</translation>
     </message>
     <message>
         <source>导出…</source>
@@ -1043,7 +1043,7 @@ Titolo: %1</translation>
     </message>
     <message>
         <source>删除文件前先将其移动到备份文件夹</source>
-        <translation>Sposta i file nella cartella di backup prima che vengano eliminati</translation>
+        <translation>Invece di eliminare i file, li sposta nella cartella di backup</translation>
     </message>
     <message>
         <source>文件预览</source>
@@ -1051,7 +1051,7 @@ Titolo: %1</translation>
     </message>
     <message>
         <source>选择文件以预览</source>
-        <translation>Scegli un file per l'anteprima</translation>
+        <translation>Seleziona un file per l'anteprima</translation>
     </message>
     <message>
         <source>文件夹: %1</source>
@@ -1085,7 +1085,7 @@ Titolo: %1</translation>
     </message>
     <message>
         <source>尚未扫描。请选择扫描模式，添加目录后点击“立即扫描”。</source>
-        <translation>Ancora nessuna scansione. Scegli una modalità, aggiungi cartelle e fai clic su Avvia scansione.</translation>
+        <translation>Ancora nessuna scansione. Scegli una modalità, aggiungi cartelle e fai clic su “Avvia scansione”.</translation>
     </message>
     <message>
         <source>视图：</source>
@@ -1125,11 +1125,11 @@ Titolo: %1</translation>
     </message>
     <message>
         <source>对比图片 (选 2 个)</source>
-        <translation>Confronta immagini (scegline 2)</translation>
+        <translation>Confronta immagini (selezionane 2)</translation>
     </message>
     <message>
         <source>全选本组重复项</source>
-        <translation>Scegli tutti i duplicati del gruppo</translation>
+        <translation>Spunta tutti i duplicati del gruppo</translation>
     </message>
     <message>
         <source>音频文件匹配配置</source>
@@ -1183,7 +1183,7 @@ Titolo: %1</translation>
         <source>图片模式下还扫描 arw、dng、rw2、orf、srw 等相机 RAW 文件；
 raw、cr2、nef 始终扫描。仅在「已包含」列表为空时有效。</source>
         <translation>Tra le immagini scansiona anche file RAW come arw, dng, rw2, orf e srw;
-raw, cr2 e nef vengono sempre scansionati. Solo finché l'elenco “Incluso” non è in uso.</translation>
+raw, cr2 e nef vengono sempre scansionati. Vale solo se l'elenco “Incluso” è vuoto.</translation>
     </message>
     <message>
         <source>文件大小</source>
@@ -1248,12 +1248,12 @@ raw, cr2 e nef vengono sempre scansionati. Solo finché l'elenco “Incluso” n
 • 忽略内容 = 仅按元数据规则</source>
         <translation>Vale sempre una sola modalità:
 • Stesso contenuto = byte identici (predefinito)
-• Contenuto simile = byte uguali all'incirca
+• Contenuto simile = byte approssimativamente uguali
 • Ignora contenuto = solo criteri sui metadati</translation>
     </message>
     <message>
         <source>采样一致的最低比例</source>
-        <translation>Minima corrispondenza dei campioni</translation>
+        <translation>Corrispondenza minima dei campioni</translation>
     </message>
     <message>
         <source>不读文件内容，仅用下方「更多判断重复的选项」分组（名称/大小/日期等）。</source>
@@ -1277,7 +1277,7 @@ raw, cr2 e nef vengono sempre scansionati. Solo finché l'elenco “Incluso” n
     </message>
     <message>
         <source>忽略文件名中「副本」字样</source>
-        <translation>Ignora “copia” nei nomi</translation>
+        <translation>Ignora “Copy”, “(2)” ecc. nei nomi</translation>
     </message>
     <message>
         <source>相同文件大小</source>
@@ -1325,15 +1325,15 @@ raw, cr2 e nef vengono sempre scansionati. Solo finché l'elenco “Incluso” n
     </message>
     <message>
         <source>匹配文件夹路径深度</source>
-        <translation>Profondità del percorso</translation>
+        <translation>Stessa profondità del percorso</translation>
     </message>
     <message>
         <source>匹配扫描位置以下路径</source>
-        <translation>Confronta percorso dalla radice</translation>
+        <translation>Confronta percorso sotto il punto di scansione</translation>
     </message>
     <message>
         <source>忽略在同一文件夹的重复组别</source>
-        <translation>Ignora duplicati nella stessa cartella</translation>
+        <translation>Ignora gruppi in un'unica cartella</translation>
     </message>
     <message>
         <source>文本匹配选项</source>
@@ -1357,7 +1357,7 @@ raw, cr2 e nef vengono sempre scansionati. Solo finché l'elenco “Incluso” n
     </message>
     <message>
         <source>匹配RAW图像时使用内嵌JPG图像（较快）</source>
-        <translation>JPEG incorporato nei file RAW (più veloce)</translation>
+        <translation>Usa il JPEG incorporato nei file RAW (più veloce)</translation>
     </message>
     <message>
         <source>性能</source>
@@ -1397,7 +1397,7 @@ raw, cr2 e nef vengono sempre scansionati. Solo finché l'elenco “Incluso” n
     </message>
     <message>
         <source>变换匹配</source>
-        <translation>Immagini trasformate</translation>
+        <translation>Immagini ruotate e specchiate</translation>
     </message>
     <message>
         <source>查找旋转过的</source>
@@ -1413,7 +1413,7 @@ raw, cr2 e nef vengono sempre scansionati. Solo finché l'elenco “Incluso” n
     </message>
     <message>
         <source>时间分组</source>
-        <translation>Raggruppa per tempo</translation>
+        <translation>Raggruppamento per data</translation>
     </message>
     <message>
         <source>按摄制时间分组</source>
@@ -1425,7 +1425,7 @@ raw, cr2 e nef vengono sempre scansionati. Solo finché l'elenco “Incluso” n
     </message>
     <message>
         <source>摄制时间最多相差</source>
-        <translation>Massima differenza tra gli scatti</translation>
+        <translation>Differenza massima tra gli orari di scatto</translation>
     </message>
     <message>
         <source>GPS分组</source>
@@ -1552,38 +1552,38 @@ raw, cr2 e nef vengono sempre scansionati. Solo finché l'elenco “Incluso” n
 部分失败：
 </source>
         <translation>
-Non riusciti in parte:
+Operazioni non riuscite:
 </translation>
     </message>
     <message>
         <source>已按规则自动勾选待处理文件</source>
-        <translation>File scelti secondo la regola</translation>
+        <translation>File spuntati secondo la regola</translation>
     </message>
     <message>
         <source>已勾选各组重复项（默认保留每组第一个）</source>
-        <translation>Duplicati scelti in ogni gruppo (il primo resta)</translation>
+        <translation>Duplicati spuntati in ogni gruppo (il primo resta)</translation>
     </message>
     <message>
         <source>已反选</source>
-        <translation>Scelta invertita</translation>
+        <translation>Spunte invertite</translation>
     </message>
     <message>
         <source>正在更新勾选…</source>
-        <translation>Aggiornamento della scelta…</translation>
+        <translation>Aggiornamento delle spunte…</translation>
     </message>
     <message>
         <source>已停止，其余文件未处理</source>
-        <translation>Fermato; gli altri file non sono stati elaborati</translation>
+        <translation>Fermato; i file rimanenti non sono stati elaborati</translation>
     </message>
     <message>
         <source>请先勾选要处理的文件。</source>
-        <translation>Scegli prima dei file.</translation>
+        <translation>Spunta prima i file da elaborare.</translation>
     </message>
     <message>
         <source>将把 %1 个文件移动到备份目录：
 %2
 是否继续？</source>
-        <translation>Spostare nella cartella di backup (file: %1)?
+        <translation>Spostare i file (%1) nella cartella di backup:
 %2
 Continuare?</translation>
     </message>
@@ -1607,7 +1607,7 @@ Ripeti la scansione.</translation>
     </message>
     <message>
         <source>请先勾选要删除的文件。</source>
-        <translation>Scegli prima i file da eliminare.</translation>
+        <translation>Spunta prima i file da eliminare.</translation>
     </message>
     <message>
         <source>正在备份并移除文件… (%1/%2)</source>
@@ -1703,7 +1703,7 @@ Ripeti la scansione.</translation>
     </message>
     <message>
         <source>开源致谢</source>
-        <translation>Ringraziamenti al software libero</translation>
+        <translation>Riconoscimenti open source</translation>
     </message>
     <message>
         <source>库</source>
@@ -1759,7 +1759,7 @@ Ripeti la scansione.</translation>
     </message>
     <message>
         <source>运行脚本会删除其中列出的每个文件，包括要保留的副本；如只删除已勾选的文件，请勾选“仅导出已勾选的文件”</source>
-        <translation>Lo script elimina ogni file elencato, anche le copie da conservare; per eliminare soltanto i file spuntati scegli “Solo i file spuntati”</translation>
+        <translation>Lo script elimina ogni file elencato, anche quelli da conservare; per eliminare soltanto i file spuntati attiva “Solo i file spuntati”</translation>
     </message>
     <message>
         <source>输出路径：</source>
@@ -1783,7 +1783,7 @@ Ripeti la scansione.</translation>
     </message>
     <message>
         <source>脱敏后的批处理脚本只供阅读，不会删除被隐藏用户名的文件</source>
-        <translation>Uno script oscurato serve alla lettura: non elimina i file con il nome utente nascosto</translation>
+        <translation>Uno script con percorsi oscurati serve solo alla lettura: non elimina i file con il nome utente nascosto</translation>
     </message>
     <message>
         <source>正在停止…</source>
@@ -1958,7 +1958,7 @@ Ripeti la scansione.</translation>
 %1
 
 下次图片扫描会重新计算，可能稍慢。是否继续？</source>
-        <translation>Eliminare tutti gli hash e istogrammi delle immagini in cache?
+        <translation>Verranno eliminati tutti gli hash e gli istogrammi delle immagini in:
 %1
 
 La prossima scansione delle immagini sarà più lenta. Continuare?</translation>
@@ -2021,7 +2021,7 @@ La prossima scansione delle immagini sarà più lenta. Continuare?</translation>
     </message>
     <message>
         <source>关闭后点击「开始扫描」将立即执行；也可在确认对话框中勾选「不再显示此确认」。</source>
-        <translation>Se disattivato, la scansione parte subito; lo stesso fa “Non mostrare più” nella richiesta.</translation>
+        <translation>Se disattivato, la scansione parte subito; puoi anche scegliere “Non mostrare più” nella finestra di conferma.</translation>
     </message>
     <message>
         <source>内容指纹算法</source>
@@ -2037,7 +2037,7 @@ La prossima scansione delle immagini sarà più lenta. Continuare?</translation>
     </message>
     <message>
         <source>仅影响「相同内容」精确查重的 quick/full 哈希；相似内容采样仍使用 MD5。</source>
-        <translation>Riguarda solo gli hash rapidi e completi a parità di contenuto; i campioni dei contenuti simili restano MD5.</translation>
+        <translation>Riguarda solo l'hash rapido e quello completo nella ricerca di contenuti identici; i campioni dei contenuti simili usano ancora MD5.</translation>
     </message>
     <message>
         <source>缓存与数据</source>
@@ -2081,7 +2081,7 @@ La prossima scansione delle immagini sarà più lenta. Continuare?</translation>
     </message>
     <message>
         <source>恢复所选</source>
-        <translation>Ripristina scelti</translation>
+        <translation>Ripristina selezionati</translation>
     </message>
     <message>
         <source>正在复制文件… (%1/%2)</source>
@@ -2129,15 +2129,15 @@ La prossima scansione delle immagini sarà più lenta. Continuare?</translation>
     </message>
     <message>
         <source>…… 另有 %1 行，见详细信息</source>
-        <translation>… righe: altre %1, vedi i dettagli</translation>
+        <translation>… altre righe: %1; vedi i dettagli</translation>
     </message>
     <message>
         <source>…… 另有 %1 行未显示</source>
-        <translation>… righe: altre %1 non mostrate</translation>
+        <translation>… altre righe non mostrate: %1</translation>
     </message>
     <message>
         <source>未勾选的文件，未处理: %1</source>
-        <translation>Non spuntato, non elaborato: %1</translation>
+        <translation>Non spuntato; non elaborato: %1</translation>
     </message>
     <message>
         <source>链接目标属于另一组，未处理: %1</source>
@@ -2153,7 +2153,7 @@ La prossima scansione delle immagini sarà più lenta. Continuare?</translation>
     </message>
     <message>
         <source>共 %1 个文件 @ %2.%3 秒</source>
-        <translation>File: %1, %2.%3 s</translation>
+        <translation>File: %1 in %2,%3 s</translation>
     </message>
     <message>
         <source>路径: %1
@@ -2171,7 +2171,7 @@ GPS: %1, %2</translation>
     </message>
     <message>
         <source>时间</source>
-        <translation>Ora</translation>
+        <translation>Data e ora</translation>
     </message>
     <message>
         <source>操作</source>
@@ -2187,11 +2187,11 @@ GPS: %1, %2</translation>
     </message>
     <message>
         <source>扫描完成</source>
-        <translation>Scansione terminata</translation>
+        <translation>Scansione completata</translation>
     </message>
     <message>
         <source>按规则勾选</source>
-        <translation>Scelti secondo la regola</translation>
+        <translation>Spuntati secondo la regola</translation>
     </message>
     <message>
         <source>移动到备份</source>
@@ -2223,7 +2223,7 @@ GPS: %1, %2</translation>
     </message>
     <message>
         <source>请选中同一组内的两个图片文件进行对比。</source>
-        <translation>Scegli due immagini dello stesso gruppo da confrontare.</translation>
+        <translation>Seleziona due immagini dello stesso gruppo da confrontare.</translation>
     </message>
     <message>
         <source>没有匹配的记录。</source>

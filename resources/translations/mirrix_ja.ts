@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>相似内容比对</source>
-        <translation>類似内容の比較</translation>
+        <translation>類似内容の照合</translation>
     </message>
     <message>
         <source>前缀采样哈希</source>
@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>采样指纹哈希</source>
-        <translation>サンプル指紋ハッシュ</translation>
+        <translation>サンプルフィンガープリント</translation>
     </message>
     <message>
         <source>图片感知哈希</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>文件 %1 · 重复组 %2 · 文件夹组 %3 · 其余 %4 · 可回收约 %5 · 耗时 %6 秒</source>
-        <translation>ファイル %1 · 重複グループ %2 · フォルダーグループ %3 · その他 %4 · 削減可能 約 %5 · 所要時間 %6 秒</translation>
+        <translation>ファイル %1 · 重複グループ %2 · フォルダーグループ %3 · その他 %4 · 解放可能 約 %5 · 所要時間 %6 秒</translation>
     </message>
     <message>
         <source>文件(&amp;F)</source>
@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>关于 Mirrix</source>
-        <translation>Mirrix について</translation>
+        <translation>Mirrix のバージョン情報</translation>
     </message>
     <message>
         <source>%1 · 本地运行 · 零广告 · 图片哈希: %2</source>
@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>勾选要移除的副本，建议先备份再删除</source>
-        <translation>削除するコピーにチェックを入れます。先にバックアップすることをお勧めします</translation>
+        <translation>削除するファイルにチェックを入れてください。先にバックアップすることをお勧めします</translation>
     </message>
     <message>
         <source>请选择要扫描的位置</source>
@@ -157,11 +157,11 @@
     </message>
     <message>
         <source>正在取消...</source>
-        <translation>キャンセルしています...</translation>
+        <translation>キャンセルしています…</translation>
     </message>
     <message>
         <source>扫描完成 · 图片哈希后端: %1</source>
-        <translation>スキャン完了 · 画像ハッシュ エンジン: %1</translation>
+        <translation>スキャン完了 · 画像ハッシュエンジン: %1</translation>
     </message>
     <message>
         <source>位于回收站中</source>
@@ -297,11 +297,11 @@
     </message>
     <message>
         <source>无法创建目标目录: %1</source>
-        <translation>保存先フォルダーを作成できません: %1</translation>
+        <translation>フォルダーを作成できません: %1</translation>
     </message>
     <message>
         <source>目标已存在: %1</source>
-        <translation>保存先に既に存在します: %1</translation>
+        <translation>同じ名前のファイルが既に存在します: %1</translation>
     </message>
     <message>
         <source>链接路径已存在: %1</source>
@@ -365,7 +365,7 @@
     </message>
     <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
-        <translation>ごみ箱に移動できませんでした (code %1、%2 個のファイル)</translation>
+        <translation>ごみ箱に移動できませんでした (コード %1、%2 個のファイル)</translation>
     </message>
     <message>
         <source>未移入回收站，仍在原处: %1</source>
@@ -381,11 +381,11 @@
     </message>
     <message>
         <source>保留最上层目录</source>
-        <translation>最も浅いパスを保持</translation>
+        <translation>最も浅い階層のファイルを保持</translation>
     </message>
     <message>
         <source>保留最深路径</source>
-        <translation>最も深いパスを保持</translation>
+        <translation>最も深い階層のファイルを保持</translation>
     </message>
     <message>
         <source>选择备份目录</source>
@@ -431,7 +431,7 @@
     </message>
     <message>
         <source>未勾选任何磁盘。</source>
-        <translation>ドライブがチェックされていません。</translation>
+        <translation>ドライブにチェックが入っていません。</translation>
     </message>
     <message>
         <source>系统盘确认</source>
@@ -440,12 +440,12 @@
     <message>
         <source>您选择了系统盘。整盘扫描耗时较长，系统目录仍会排除。
 是否加入扫描列表？</source>
-        <translation>システムドライブが選択されています。ドライブ全体のスキャンには時間がかかります。システムフォルダーは除外されたままです。
+        <translation>システムドライブにチェックが入っています。ドライブ全体のスキャンには時間がかかります。システムフォルダーは除外されたままです。
 スキャンリストに追加しますか?</translation>
     </message>
     <message>
         <source>确认添加</source>
-        <translation>追加の確認</translation>
+        <translation>リストへの追加</translation>
     </message>
     <message>
         <source>将 %1 个分区加入扫描列表（不会立即开始扫描）：
@@ -471,7 +471,7 @@
     </message>
     <message>
         <source>移除</source>
-        <translation>削除</translation>
+        <translation>外す</translation>
     </message>
     <message>
         <source>选择一个扫描时不进入的文件夹</source>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>移除所选</source>
-        <translation>選択項目を削除</translation>
+        <translation>リストから外す</translation>
     </message>
     <message>
         <source>清空列表</source>
@@ -525,7 +525,7 @@
     </message>
     <message>
         <source>已包含</source>
-        <translation>含める</translation>
+        <translation>対象</translation>
     </message>
     <message>
         <source>🔒 已保护</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>锁 否</source>
-        <translation>ロック なし</translation>
+        <translation>保護なし</translation>
     </message>
     <message>
         <source>📂 是</source>
@@ -639,7 +639,7 @@
     </message>
     <message>
         <source>已勾选 %1 个文件</source>
-        <translation>%1 個のファイルをチェック済み</translation>
+        <translation>チェックを入れたファイル: %1 個</translation>
     </message>
     <message>
         <source>分组</source>
@@ -699,7 +699,7 @@
     </message>
     <message>
         <source>选择</source>
-        <translation>選択</translation>
+        <translation>チェック</translation>
     </message>
     <message>
         <source>文件 / 分组</source>
@@ -707,11 +707,11 @@
     </message>
     <message>
         <source>分组 #%1  (%2 个文件, 可回收 %3)</source>
-        <translation>グループ #%1  (%2 個のファイル、削減可能 %3)</translation>
+        <translation>グループ #%1  (%2 個のファイル、解放可能 %3)</translation>
     </message>
     <message>
         <source>本组所有文件均已勾选，处理后将不保留任何副本。</source>
-        <translation>このグループのすべてのファイルにチェックが入っています。処理後、コピーは 1 つも残りません。</translation>
+        <translation>このグループのすべてのファイルにチェックが入っています。処理すると、このグループのファイルは 1 つも残りません。</translation>
     </message>
     <message>
         <source>路径: %1
@@ -787,11 +787,11 @@
     </message>
     <message>
         <source>宽松相似</source>
-        <translation>ゆるい類似</translation>
+        <translation>おおまかに類似</translation>
     </message>
     <message>
         <source>采样指纹（多点哈希）</source>
-        <translation>サンプル指紋 (多点ハッシュ)</translation>
+        <translation>サンプルフィンガープリント (多点ハッシュ)</translation>
     </message>
     <message>
         <source>近似匹配（开头约 2 分钟采样）</source>
@@ -867,11 +867,11 @@
     </message>
     <message>
         <source>• 音频比对：%1</source>
-        <translation>• 音声の比較: %1</translation>
+        <translation>• 音声の照合: %1</translation>
     </message>
     <message>
         <source>• 视频比对：%1</source>
-        <translation>• 動画の比較: %1</translation>
+        <translation>• 動画の照合: %1</translation>
     </message>
     <message>
         <source>• 扫描位置：%1</source>
@@ -891,7 +891,7 @@
     </message>
     <message>
         <source>• 包含扩展名：%1</source>
-        <translation>• 含める拡張子: %1</translation>
+        <translation>• 対象の拡張子: %1</translation>
     </message>
     <message>
         <source>• 排除扩展名：%1</source>
@@ -1015,11 +1015,11 @@
     </message>
     <message>
         <source>按规则自动勾选</source>
-        <translation>ルールで自動チェック</translation>
+        <translation>ルールに従ってチェックを入れる</translation>
     </message>
     <message>
         <source>全选重复项</source>
-        <translation>すべての重複をチェック</translation>
+        <translation>すべての重複にチェック</translation>
     </message>
     <message>
         <source>反选</source>
@@ -1035,7 +1035,7 @@
     </message>
     <message>
         <source>删除所选</source>
-        <translation>チェックした項目を削除</translation>
+        <translation>チェックを入れた項目を削除</translation>
     </message>
     <message>
         <source>导出…</source>
@@ -1043,7 +1043,7 @@
     </message>
     <message>
         <source>删除文件前先将其移动到备份文件夹</source>
-        <translation>ファイルを削除する前にバックアップフォルダーへ移動します</translation>
+        <translation>ファイルを削除せずに、バックアップフォルダーへ移動します</translation>
     </message>
     <message>
         <source>文件预览</source>
@@ -1129,7 +1129,7 @@
     </message>
     <message>
         <source>全选本组重复项</source>
-        <translation>グループ内のすべての重複をチェック</translation>
+        <translation>グループ内のすべての重複にチェック</translation>
     </message>
     <message>
         <source>音频文件匹配配置</source>
@@ -1137,7 +1137,7 @@
     </message>
     <message>
         <source>音频指纹基于采样，并非 Chromaprint 级别。</source>
-        <translation>音声指紋はサンプルに基づくもので、Chromaprint ほどの精度はありません。</translation>
+        <translation>音声フィンガープリントはサンプルに基づくもので、Chromaprint ほどの精度はありません。</translation>
     </message>
     <message>
         <source> 毫秒</source>
@@ -1161,7 +1161,7 @@
     </message>
     <message>
         <source>勾选时按当前扫描模式扩展名扫描；取消勾选则仅扫描「已包含」列表中的扩展名。</source>
-        <translation>オンにすると、現在のスキャンモードの拡張子でスキャンします。オフにすると、「含める」リストの拡張子のみをスキャンします。</translation>
+        <translation>オンにすると、現在のスキャンモードの拡張子でスキャンします。オフにすると、「対象」リストの拡張子のみをスキャンします。</translation>
     </message>
     <message>
         <source>已排除</source>
@@ -1183,7 +1183,7 @@
         <source>图片模式下还扫描 arw、dng、rw2、orf、srw 等相机 RAW 文件；
 raw、cr2、nef 始终扫描。仅在「已包含」列表为空时有效。</source>
         <translation>画像モードで arw、dng、rw2、orf、srw などのカメラ RAW ファイルもスキャンします。
-raw、cr2、nef は常にスキャンされます。「含める」リストが空の場合のみ有効です。</translation>
+raw、cr2、nef は常にスキャンされます。「対象」リストが空の場合のみ有効です。</translation>
     </message>
     <message>
         <source>文件大小</source>
@@ -1277,7 +1277,7 @@ raw、cr2、nef は常にスキャンされます。「含める」リストが�
     </message>
     <message>
         <source>忽略文件名中「副本」字样</source>
-        <translation>ファイル名の「コピー」を無視</translation>
+        <translation>ファイル名末尾の Copy、副本、(2) などを無視</translation>
     </message>
     <message>
         <source>相同文件大小</source>
@@ -1485,7 +1485,7 @@ raw、cr2、nef は常にスキャンされます。「含める」リストが�
     </message>
     <message>
         <source>字节采样近似比对，并非逐帧视频指纹。</source>
-        <translation>バイトサンプルによる近似比較であり、フレームごとの動画指紋ではありません。</translation>
+        <translation>バイトサンプルによる近似照合であり、フレームごとの動画フィンガープリントではありません。</translation>
     </message>
     <message>
         <source>时:分:秒.毫秒</source>
@@ -1517,7 +1517,7 @@ raw、cr2、nef は常にスキャンされます。「含める」リストが�
     </message>
     <message>
         <source>Mirrix 重复文件扫描报告</source>
-        <translation>Mirrix 重複ファイル スキャンレポート</translation>
+        <translation>Mirrix 重複ファイルスキャンレポート</translation>
     </message>
     <message>
         <source>生成时间: %1</source>
@@ -1529,7 +1529,7 @@ raw、cr2、nef は常にスキャンされます。「含める」リストが�
     </message>
     <message>
         <source>范围: 仅已勾选文件</source>
-        <translation>範囲: チェックしたファイルのみ</translation>
+        <translation>範囲: チェックを入れたファイルのみ</translation>
     </message>
     <message>
         <source>说明: 路径已脱敏（用户名已隐藏）</source>
@@ -1557,11 +1557,11 @@ raw、cr2、nef は常にスキャンされます。「含める」リストが�
     </message>
     <message>
         <source>已按规则自动勾选待处理文件</source>
-        <translation>ルールに従ってファイルを自動チェックしました</translation>
+        <translation>ルールに従ってファイルに自動でチェックを入れました</translation>
     </message>
     <message>
         <source>已勾选各组重复项（默认保留每组第一个）</source>
-        <translation>各グループの重複をチェックしました (既定では先頭を保持)</translation>
+        <translation>各グループの重複にチェックを入れました (既定では先頭のファイルを保持)</translation>
     </message>
     <message>
         <source>已反选</source>
@@ -1629,7 +1629,7 @@ raw、cr2、nef は常にスキャンされます。「含める」リストが�
     </message>
     <message>
         <source>永久删除确认</source>
-        <translation>完全な削除の確認</translation>
+        <translation>完全削除の確認</translation>
     </message>
     <message>
         <source>即将永久删除 %1 个文件，此操作不可撤销。是否继续？</source>
@@ -1683,7 +1683,7 @@ raw、cr2、nef は常にスキャンされます。「含める」リストが�
     </message>
     <message>
         <source>快速、安全的重复文件查找与清理工具，支持常规内容、图片相似、音频指纹与视频缩略图模式。</source>
-        <translation>高速で安全な重複ファイルの検索・整理ツール。一般の内容、類似画像、音声指紋、動画サムネイルの各モードに対応しています。</translation>
+        <translation>高速で安全な重複ファイルの検索・整理ツール。通常のファイル、類似画像、音声フィンガープリント、動画サムネイルの各モードに対応しています。</translation>
     </message>
     <message>
         <source>便携模式（数据位于程序旁的 \Data）</source>
@@ -1743,7 +1743,7 @@ raw、cr2、nef は常にスキャンされます。「含める」リストが�
     </message>
     <message>
         <source>选择目标文件夹</source>
-        <translation>保存先フォルダーを選択</translation>
+        <translation>フォルダーを選択</translation>
     </message>
     <message>
         <source>保存</source>
@@ -1759,7 +1759,7 @@ raw、cr2、nef は常にスキャンされます。「含める」リストが�
     </message>
     <message>
         <source>运行脚本会删除其中列出的每个文件，包括要保留的副本；如只删除已勾选的文件，请勾选“仅导出已勾选的文件”</source>
-        <translation>スクリプトを実行すると、保持するコピーも含め、記載されたすべてのファイルが削除されます。チェックしたファイルのみを削除するには、「チェックしたファイルのみエクスポート」をオンにしてください</translation>
+        <translation>スクリプトを実行すると、保持するファイルも含め、記載されたすべてのファイルが削除されます。チェックを入れたファイルのみを削除するには、「チェックを入れたファイルのみエクスポート」をオンにしてください</translation>
     </message>
     <message>
         <source>输出路径：</source>
@@ -1767,11 +1767,11 @@ raw、cr2、nef は常にスキャンされます。「含める」リストが�
     </message>
     <message>
         <source>浏览...</source>
-        <translation>参照...</translation>
+        <translation>参照…</translation>
     </message>
     <message>
         <source>仅导出已勾选的文件</source>
-        <translation>チェックしたファイルのみエクスポート</translation>
+        <translation>チェックを入れたファイルのみエクスポート</translation>
     </message>
     <message>
         <source>包含分组键与修改时间</source>
@@ -1779,7 +1779,7 @@ raw、cr2、nef は常にスキャンされます。「含める」リストが�
     </message>
     <message>
         <source>路径脱敏（隐藏用户名，便于分享）</source>
-        <translation>パスを匿名化 (ユーザー名を隠して共有しやすくします)</translation>
+        <translation>パスを匿名化 (ユーザー名を隠す)</translation>
     </message>
     <message>
         <source>脱敏后的批处理脚本只供阅读，不会删除被隐藏用户名的文件</source>
@@ -1847,7 +1847,7 @@ raw、cr2、nef は常にスキャンされます。「含める」リストが�
     </message>
     <message>
         <source>先备份再创建链接时可留空：每个链接指向本组中未勾选的文件</source>
-        <translation>先にバックアップしてリンクを作成する場合は空欄で構いません。各リンクは同じグループのチェックされていないファイルを指します</translation>
+        <translation>先にバックアップしてリンクを作成する場合は空欄で構いません。各リンクは同じグループのチェックの入っていないファイルを指します</translation>
     </message>
     <message>
         <source>移除前先备份</source>
@@ -1903,11 +1903,11 @@ raw、cr2、nef は常にスキャンされます。「含める」リストが�
     </message>
     <message>
         <source>复制：哈希值</source>
-        <translation>コピー: ハッシュ値</translation>
+        <translation>ハッシュ値をコピー</translation>
     </message>
     <message>
         <source>复制：文件名</source>
-        <translation>コピー: ファイル名</translation>
+        <translation>ファイル名をコピー</translation>
     </message>
     <message>
         <source>图片对比</source>
@@ -2025,11 +2025,11 @@ raw、cr2、nef は常にスキャンされます。「含める」リストが�
     </message>
     <message>
         <source>内容指纹算法</source>
-        <translation>内容指紋のアルゴリズム</translation>
+        <translation>内容フィンガープリントのアルゴリズム</translation>
     </message>
     <message>
         <source>MD5（默认，沿用现有指纹缓存）</source>
-        <translation>MD5 (既定、現在の指紋キャッシュを引き続き使用)</translation>
+        <translation>MD5 (既定、現在のフィンガープリントキャッシュを引き続き使用)</translation>
     </message>
     <message>
         <source>BLAKE3（更快、更强；切换后重建缓存）</source>
@@ -2037,7 +2037,7 @@ raw、cr2、nef は常にスキャンされます。「含める」リストが�
     </message>
     <message>
         <source>仅影响「相同内容」精确查重的 quick/full 哈希；相似内容采样仍使用 MD5。</source>
-        <translation>「同じ内容」の正確な照合での quick/full ハッシュにのみ影響します。類似内容のサンプルには引き続き MD5 を使用します。</translation>
+        <translation>「同じ内容」の正確な照合でのクイックハッシュと完全ハッシュにのみ影響します。類似内容のサンプルには引き続き MD5 を使用します。</translation>
     </message>
     <message>
         <source>缓存与数据</source>
@@ -2112,7 +2112,7 @@ raw、cr2、nef は常にスキャンされます。「含める」リストが�
     <message>
         <source>已复制文件到：%1
 %2</source>
-        <translation>ファイルをコピーしました: %1
+        <translation>コピー先: %1
 %2</translation>
     </message>
     <message>
@@ -2137,7 +2137,7 @@ raw、cr2、nef は常にスキャンされます。「含める」リストが�
     </message>
     <message>
         <source>未勾选的文件，未处理: %1</source>
-        <translation>チェックされていないため処理しませんでした: %1</translation>
+        <translation>チェックが入っていないため処理しませんでした: %1</translation>
     </message>
     <message>
         <source>链接目标属于另一组，未处理: %1</source>
@@ -2145,7 +2145,7 @@ raw、cr2、nef は常にスキャンされます。「含める」リストが�
     </message>
     <message>
         <source>没有可链接的保留文件，未处理: %1</source>
-        <translation>リンクできる保持ファイルがないため処理しませんでした: %1</translation>
+        <translation>リンク先となる保持対象のファイルがないため処理しませんでした: %1</translation>
     </message>
     <message>
         <source>共 %1 个文件</source>
@@ -2191,7 +2191,7 @@ GPS: %1, %2</translation>
     </message>
     <message>
         <source>按规则勾选</source>
-        <translation>ルールでチェック</translation>
+        <translation>ルールに従いチェック</translation>
     </message>
     <message>
         <source>移动到备份</source>

@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>文件 %1 · 重复组 %2 · 文件夹组 %3 · 其余 %4 · 可回收约 %5 · 耗时 %6 秒</source>
-        <translation>파일 %1 · 중복 그룹 %2 · 폴더 그룹 %3 · 나머지 %4 · 확보 가능 약 %5 · 소요 시간 %6초</translation>
+        <translation>파일 %1 · 중복 그룹 %2 · 폴더 그룹 %3 · 나머지 %4 · 약 %5 확보 가능 · 소요 시간 %6초</translation>
     </message>
     <message>
         <source>文件(&amp;F)</source>
@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>勾选要移除的副本，建议先备份再删除</source>
-        <translation>제거할 사본을 체크하세요. 먼저 백업하는 것이 좋습니다</translation>
+        <translation>제거할 파일을 체크하세요. 먼저 백업하는 것이 좋습니다</translation>
     </message>
     <message>
         <source>请选择要扫描的位置</source>
@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>正在取消...</source>
-        <translation>취소하는 중...</translation>
+        <translation>취소하는 중…</translation>
     </message>
     <message>
         <source>扫描完成 · 图片哈希后端: %1</source>
@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>原文件未能放回，可从备份中恢复: %1</source>
-        <translation>파일을 제자리로 되돌리지 못함, 백업에서 복원 가능: %1</translation>
+        <translation>파일을 원래 위치로 되돌리지 못했습니다. 백업에서 복원할 수 있습니다: %1</translation>
     </message>
     <message>
         <source>无法放入回收站，已保留: %1</source>
@@ -365,11 +365,11 @@
     </message>
     <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
-        <translation>휴지통으로 이동하지 못함(code %1, 파일 %2개)</translation>
+        <translation>휴지통으로 이동하지 못함(코드 %1, 파일 %2개)</translation>
     </message>
     <message>
         <source>未移入回收站，仍在原处: %1</source>
-        <translation>휴지통으로 이동하지 않음, 제자리에 있음: %1</translation>
+        <translation>휴지통으로 이동하지 못해 원래 위치에 남아 있음: %1</translation>
     </message>
     <message>
         <source>保留最新文件</source>
@@ -381,11 +381,11 @@
     </message>
     <message>
         <source>保留最上层目录</source>
-        <translation>가장 얕은 경로 보존</translation>
+        <translation>최상위 경로의 파일 보존</translation>
     </message>
     <message>
         <source>保留最深路径</source>
-        <translation>가장 깊은 경로 보존</translation>
+        <translation>최하위 경로의 파일 보존</translation>
     </message>
     <message>
         <source>选择备份目录</source>
@@ -440,7 +440,7 @@
     <message>
         <source>您选择了系统盘。整盘扫描耗时较长，系统目录仍会排除。
 是否加入扫描列表？</source>
-        <translation>시스템 드라이브를 선택했습니다. 드라이브 전체 스캔은 시간이 오래 걸리며 시스템 폴더는 계속 제외됩니다.
+        <translation>시스템 드라이브를 체크했습니다. 드라이브 전체 스캔은 시간이 오래 걸리며 시스템 폴더는 계속 제외됩니다.
 스캔 목록에 추가할까요?</translation>
     </message>
     <message>
@@ -471,7 +471,7 @@
     </message>
     <message>
         <source>移除</source>
-        <translation>제거</translation>
+        <translation>목록에서 제거</translation>
     </message>
     <message>
         <source>选择一个扫描时不进入的文件夹</source>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>移除所选</source>
-        <translation>선택 항목 제거</translation>
+        <translation>목록에서 제거</translation>
     </message>
     <message>
         <source>清空列表</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>锁 否</source>
-        <translation>잠금 없음</translation>
+        <translation>보호 안 함</translation>
     </message>
     <message>
         <source>📂 是</source>
@@ -615,7 +615,7 @@
     </message>
     <message>
         <source>快捷位置</source>
-        <translation>빠른 위치</translation>
+        <translation>자주 찾는 위치</translation>
     </message>
     <message>
         <source>本地磁盘 (%1)</source>
@@ -699,7 +699,7 @@
     </message>
     <message>
         <source>选择</source>
-        <translation>선택</translation>
+        <translation>체크</translation>
     </message>
     <message>
         <source>文件 / 分组</source>
@@ -707,11 +707,11 @@
     </message>
     <message>
         <source>分组 #%1  (%2 个文件, 可回收 %3)</source>
-        <translation>그룹 #%1  (파일 %2개, 확보 가능 %3)</translation>
+        <translation>그룹 #%1  (파일 %2개, %3 확보 가능)</translation>
     </message>
     <message>
         <source>本组所有文件均已勾选，处理后将不保留任何副本。</source>
-        <translation>이 그룹의 모든 파일이 체크되어 있어 처리 후 사본이 하나도 남지 않습니다.</translation>
+        <translation>이 그룹의 모든 파일이 체크되어 있습니다. 처리하면 이 그룹의 파일이 하나도 남지 않습니다.</translation>
     </message>
     <message>
         <source>路径: %1
@@ -767,7 +767,7 @@
     </message>
     <message>
         <source>视频模式</source>
-        <translation>비디오 모드</translation>
+        <translation>동영상 모드</translation>
     </message>
     <message>
         <source>完全相同匹配</source>
@@ -775,11 +775,11 @@
     </message>
     <message>
         <source>非常近似匹配</source>
-        <translation>매우 근사</translation>
+        <translation>매우 비슷함</translation>
     </message>
     <message>
         <source>近似匹配</source>
-        <translation>근사</translation>
+        <translation>비슷함</translation>
     </message>
     <message>
         <source>相似匹配</source>
@@ -787,7 +787,7 @@
     </message>
     <message>
         <source>宽松相似</source>
-        <translation>느슨한 유사</translation>
+        <translation>대체로 유사</translation>
     </message>
     <message>
         <source>采样指纹（多点哈希）</source>
@@ -795,11 +795,11 @@
     </message>
     <message>
         <source>近似匹配（开头约 2 分钟采样）</source>
-        <translation>근사(앞부분 약 2분 샘플)</translation>
+        <translation>대략 일치(앞부분 약 2분 샘플)</translation>
     </message>
     <message>
         <source>近似匹配（开头约 30 秒采样）</source>
-        <translation>근사(앞부분 약 30초 샘플)</translation>
+        <translation>대략 일치(앞부분 약 30초 샘플)</translation>
     </message>
     <message>
         <source>全文件精确哈希</source>
@@ -871,7 +871,7 @@
     </message>
     <message>
         <source>• 视频比对：%1</source>
-        <translation>• 비디오 비교: %1</translation>
+        <translation>• 동영상 비교: %1</translation>
     </message>
     <message>
         <source>• 扫描位置：%1</source>
@@ -939,7 +939,7 @@
     </message>
     <message>
         <source>用户注释</source>
-        <translation>사용자 설명</translation>
+        <translation>사용자 주석</translation>
     </message>
     <message>
         <source>镜头型号</source>
@@ -1043,7 +1043,7 @@
     </message>
     <message>
         <source>删除文件前先将其移动到备份文件夹</source>
-        <translation>파일을 삭제하기 전에 백업 폴더로 이동합니다</translation>
+        <translation>파일을 삭제하지 않고 백업 폴더로 이동합니다</translation>
     </message>
     <message>
         <source>文件预览</source>
@@ -1133,7 +1133,7 @@
     </message>
     <message>
         <source>音频文件匹配配置</source>
-        <translation>오디오 일치 설정</translation>
+        <translation>오디오 비교 설정</translation>
     </message>
     <message>
         <source>音频指纹基于采样，并非 Chromaprint 级别。</source>
@@ -1277,7 +1277,7 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     </message>
     <message>
         <source>忽略文件名中「副本」字样</source>
-        <translation>파일 이름의 '복사본' 무시</translation>
+        <translation>파일 이름 끝의 Copy, (2) 등 무시</translation>
     </message>
     <message>
         <source>相同文件大小</source>
@@ -1293,7 +1293,7 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     </message>
     <message>
         <source>相同创建日期</source>
-        <translation>같은 만든 날짜</translation>
+        <translation>만든 날짜가 같음</translation>
     </message>
     <message>
         <source>仅匹配日期</source>
@@ -1301,7 +1301,7 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     </message>
     <message>
         <source>相同修改日期</source>
-        <translation>같은 수정한 날짜</translation>
+        <translation>수정한 날짜가 같음</translation>
     </message>
     <message>
         <source>磁盘</source>
@@ -1353,7 +1353,7 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     </message>
     <message>
         <source>图片匹配配置</source>
-        <translation>이미지 일치 설정</translation>
+        <translation>이미지 비교 설정</translation>
     </message>
     <message>
         <source>匹配RAW图像时使用内嵌JPG图像（较快）</source>
@@ -1401,11 +1401,11 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     </message>
     <message>
         <source>查找旋转过的</source>
-        <translation>회전한 이미지 찾기</translation>
+        <translation>회전된 이미지 찾기</translation>
     </message>
     <message>
         <source>查找翻转过的</source>
-        <translation>뒤집은 이미지 찾기</translation>
+        <translation>뒤집힌 이미지 찾기</translation>
     </message>
     <message>
         <source>同时要求颜色分布（直方图）一致</source>
@@ -1481,11 +1481,11 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     </message>
     <message>
         <source>视频匹配配置</source>
-        <translation>비디오 일치 설정</translation>
+        <translation>동영상 비교 설정</translation>
     </message>
     <message>
         <source>字节采样近似比对，并非逐帧视频指纹。</source>
-        <translation>바이트 샘플을 이용한 근사 비교이며 프레임별 비디오 지문이 아닙니다.</translation>
+        <translation>바이트 샘플을 이용한 근사 비교이며 프레임별 동영상 지문이 아닙니다.</translation>
     </message>
     <message>
         <source>时:分:秒.毫秒</source>
@@ -1493,7 +1493,7 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     </message>
     <message>
         <source>视频文件标签</source>
-        <translation>비디오 파일 태그</translation>
+        <translation>동영상 파일 태그</translation>
     </message>
     <message>
         <source>已复制 %1 个文件</source>
@@ -1505,7 +1505,7 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     </message>
     <message>
         <source>无法写入脚本。</source>
-        <translation>스크립트를 쓸 수 없습니다.</translation>
+        <translation>스크립트를 저장할 수 없습니다.</translation>
     </message>
     <message>
         <source>未知导出格式。</source>
@@ -1573,7 +1573,7 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     </message>
     <message>
         <source>已停止，其余文件未处理</source>
-        <translation>중지됨, 나머지 파일은 처리하지 않았습니다</translation>
+        <translation>중지되었습니다. 남은 파일은 처리하지 않았습니다</translation>
     </message>
     <message>
         <source>请先勾选要处理的文件。</source>
@@ -1633,7 +1633,7 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     </message>
     <message>
         <source>即将永久删除 %1 个文件，此操作不可撤销。是否继续？</source>
-        <translation>파일 %1개를 영구적으로 삭제합니다. 이 작업은 취소할 수 없습니다. 계속할까요?</translation>
+        <translation>파일 %1개를 영구적으로 삭제합니다. 이 작업은 되돌릴 수 없습니다. 계속할까요?</translation>
     </message>
     <message>
         <source>正在移除文件… (%1/%2)</source>
@@ -1683,7 +1683,7 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     </message>
     <message>
         <source>快速、安全的重复文件查找与清理工具，支持常规内容、图片相似、音频指纹与视频缩略图模式。</source>
-        <translation>빠르고 안전한 중복 파일 찾기 및 정리 도구입니다. 일반 내용, 유사 이미지, 오디오 지문, 비디오 축소판 모드를 지원합니다.</translation>
+        <translation>빠르고 안전한 중복 파일 찾기 및 정리 도구입니다. 일반 내용, 유사 이미지, 오디오 지문, 동영상 축소판 모드를 지원합니다.</translation>
     </message>
     <message>
         <source>便携模式（数据位于程序旁的 \Data）</source>
@@ -1703,7 +1703,7 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     </message>
     <message>
         <source>开源致谢</source>
-        <translation>오픈 소스 감사의 글</translation>
+        <translation>오픈 소스 고지</translation>
     </message>
     <message>
         <source>库</source>
@@ -1759,7 +1759,7 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     </message>
     <message>
         <source>运行脚本会删除其中列出的每个文件，包括要保留的副本；如只删除已勾选的文件，请勾选“仅导出已勾选的文件”</source>
-        <translation>스크립트를 실행하면 보존할 사본을 포함하여 목록의 모든 파일이 삭제됩니다. 체크한 파일만 삭제하려면 '체크한 파일만 내보내기'를 체크하세요</translation>
+        <translation>스크립트를 실행하면 보존할 파일까지 포함하여 목록의 모든 파일이 삭제됩니다. 체크한 파일만 삭제하려면 '체크한 파일만 내보내기'를 체크하세요</translation>
     </message>
     <message>
         <source>输出路径：</source>
@@ -1767,7 +1767,7 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     </message>
     <message>
         <source>浏览...</source>
-        <translation>찾아보기...</translation>
+        <translation>찾아보기…</translation>
     </message>
     <message>
         <source>仅导出已勾选的文件</source>
@@ -1847,7 +1847,7 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     </message>
     <message>
         <source>先备份再创建链接时可留空：每个链接指向本组中未勾选的文件</source>
-        <translation>먼저 백업한 후 링크를 만들 때는 비워 둘 수 있습니다. 각 링크는 그룹에서 체크하지 않은 파일을 가리킵니다</translation>
+        <translation>먼저 백업한 후 링크를 만들 때는 비워 둘 수 있습니다. 각 링크는 같은 그룹의 체크하지 않은 파일을 가리킵니다</translation>
     </message>
     <message>
         <source>移除前先备份</source>
@@ -1903,11 +1903,11 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     </message>
     <message>
         <source>复制：哈希值</source>
-        <translation>복사: 해시 값</translation>
+        <translation>해시 값 복사</translation>
     </message>
     <message>
         <source>复制：文件名</source>
-        <translation>복사: 파일 이름</translation>
+        <translation>파일 이름 복사</translation>
     </message>
     <message>
         <source>图片对比</source>
@@ -1931,7 +1931,7 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     </message>
     <message>
         <source>显示 %1 条，共 %2 条</source>
-        <translation>%1개 표시, 전체 %2개</translation>
+        <translation>전체 %2개 중 %1개 표시</translation>
     </message>
     <message>
         <source>操作日志</source>
@@ -2021,7 +2021,7 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     </message>
     <message>
         <source>关闭后点击「开始扫描」将立即执行；也可在确认对话框中勾选「不再显示此确认」。</source>
-        <translation>사용하지 않으면 '스캔 시작'을 클릭할 때 바로 실행됩니다. 확인 대화 상자에서 '이 확인을 다시 표시하지 않음'을 체크해도 됩니다.</translation>
+        <translation>체크를 해제하면 '스캔 시작'을 클릭할 때 바로 실행됩니다. 확인 대화 상자에서 '이 확인을 다시 표시하지 않음'을 체크해도 됩니다.</translation>
     </message>
     <message>
         <source>内容指纹算法</source>
@@ -2037,7 +2037,7 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     </message>
     <message>
         <source>仅影响「相同内容」精确查重的 quick/full 哈希；相似内容采样仍使用 MD5。</source>
-        <translation>'같은 내용' 정밀 스캔의 quick/full 해시에만 적용됩니다. 유사 내용 샘플링은 계속 MD5를 사용합니다.</translation>
+        <translation>'같은 내용' 정밀 스캔의 빠른 해시와 전체 해시에만 적용됩니다. 유사 내용 샘플링은 계속 MD5를 사용합니다.</translation>
     </message>
     <message>
         <source>缓存与数据</source>
@@ -2145,7 +2145,7 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     </message>
     <message>
         <source>没有可链接的保留文件，未处理: %1</source>
-        <translation>링크할 보존 파일이 없어 처리하지 않음: %1</translation>
+        <translation>링크할 보존 대상 파일이 없어 처리하지 않음: %1</translation>
     </message>
     <message>
         <source>共 %1 个文件</source>
@@ -2171,7 +2171,7 @@ GPS: %1, %2</translation>
     </message>
     <message>
         <source>时间</source>
-        <translation>시간</translation>
+        <translation>일시</translation>
     </message>
     <message>
         <source>操作</source>

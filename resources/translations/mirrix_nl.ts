@@ -37,11 +37,11 @@
     </message>
     <message>
         <source>[%1] %2  已枚举 %3  已处理 %4/%5</source>
-        <translation>[%1] %2  Gevonden %3  Verwerkt %4/%5</translation>
+        <translation>[%1] %2  Gevonden: %3  Verwerkt: %4/%5</translation>
     </message>
     <message>
         <source>文件 %1 · 重复组 %2 · 文件夹组 %3 · 其余 %4 · 可回收约 %5 · 耗时 %6 秒</source>
-        <translation>Bestanden %1 · Bestandsgroepen %2 · Mapgroepen %3 · Overige %4 · Winst ~%5 · %6 s</translation>
+        <translation>Bestanden: %1 · Duplicaatgroepen: %2 · Mapgroepen: %3 · Overige: %4 · Vrij te maken: ~%5 · %6 s</translation>
     </message>
     <message>
         <source>文件(&amp;F)</source>
@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>勾选要移除的副本，建议先备份再删除</source>
-        <translation>Kies de overtollige kopieën; maak bij twijfel eerst een back-up</translation>
+        <translation>Vink de overtollige kopieën aan; maak bij twijfel eerst een back-up</translation>
     </message>
     <message>
         <source>请选择要扫描的位置</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>勾选重复项并进行清理</source>
-        <translation>Duplicaten kiezen en opruimen</translation>
+        <translation>Duplicaten aanvinken en opruimen</translation>
     </message>
     <message>
         <source>提示</source>
@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>正在取消...</source>
-        <translation>Annuleren...</translation>
+        <translation>Wordt geannuleerd...</translation>
     </message>
     <message>
         <source>扫描完成 · 图片哈希后端: %1</source>
@@ -225,7 +225,7 @@
     </message>
     <message>
         <source>预览清理</source>
-        <translation>Bekijken</translation>
+        <translation>Bekijken en opruimen</translation>
     </message>
     <message>
         <source>停止</source>
@@ -289,11 +289,11 @@
     </message>
     <message>
         <source>要保留的文件已更改，未处理: %1</source>
-        <translation>Het te behouden bestand is gewijzigd, niets gedaan met: %1</translation>
+        <translation>Het te behouden bestand is gewijzigd; deze kopie is niet verwerkt: %1</translation>
     </message>
     <message>
         <source>与要保留的文件可能是同一个文件，未处理: %1</source>
-        <translation>Misschien hetzelfde bestand als het te behouden, niets gedaan met: %1</translation>
+        <translation>Misschien hetzelfde bestand als het te behouden bestand; niet verwerkt: %1</translation>
     </message>
     <message>
         <source>无法创建目标目录: %1</source>
@@ -345,7 +345,7 @@
     </message>
     <message>
         <source>无法放入回收站，已保留: %1</source>
-        <translation>Geen prullenbak kan dit bestand opnemen, behouden: %1</translation>
+        <translation>Verplaatsen naar prullenbak niet mogelijk; bestand behouden: %1</translation>
     </message>
     <message>
         <source>无法写入清理记录: %1 (%2)</source>
@@ -365,7 +365,7 @@
     </message>
     <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
-        <translation>Prullenbak heeft bestanden geweigerd (code %1, %2 bestanden)</translation>
+        <translation>Verplaatsen naar prullenbak mislukt (code %1, bestanden: %2)</translation>
     </message>
     <message>
         <source>未移入回收站，仍在原处: %1</source>
@@ -381,11 +381,11 @@
     </message>
     <message>
         <source>保留最上层目录</source>
-        <translation>Kortste pad behouden</translation>
+        <translation>Minst diepe pad behouden</translation>
     </message>
     <message>
         <source>保留最深路径</source>
-        <translation>Langste pad behouden</translation>
+        <translation>Diepste pad behouden</translation>
     </message>
     <message>
         <source>选择备份目录</source>
@@ -397,7 +397,7 @@
     </message>
     <message>
         <source>保留规则</source>
-        <translation>Behouden</translation>
+        <translation>Te behouden</translation>
     </message>
     <message>
         <source>跳过隐藏文件</source>
@@ -431,7 +431,7 @@ Systeemmappen blijven uitgesloten. Denk goed na voordat het hele systeemstation 
     </message>
     <message>
         <source>未勾选任何磁盘。</source>
-        <translation>Geen stations gekozen.</translation>
+        <translation>Geen stations aangevinkt.</translation>
     </message>
     <message>
         <source>系统盘确认</source>
@@ -440,7 +440,7 @@ Systeemmappen blijven uitgesloten. Denk goed na voordat het hele systeemstation 
     <message>
         <source>您选择了系统盘。整盘扫描耗时较长，系统目录仍会排除。
 是否加入扫描列表？</source>
-        <translation>Er is een systeemstation gekozen. Het geheel scannen duurt langer; systeemmappen blijven uitgesloten.
+        <translation>Er is een systeemstation aangevinkt. Het hele station scannen duurt langer; systeemmappen blijven uitgesloten.
 Aan de lijst toevoegen?</translation>
     </message>
     <message>
@@ -471,7 +471,7 @@ Aan de lijst toevoegen?</translation>
     </message>
     <message>
         <source>移除</source>
-        <translation>Verwijderen</translation>
+        <translation>Uit lijst</translation>
     </message>
     <message>
         <source>选择一个扫描时不进入的文件夹</source>
@@ -479,7 +479,7 @@ Aan de lijst toevoegen?</translation>
     </message>
     <message>
         <source>从排除目录中移除选中的文件夹</source>
-        <translation>De gekozen mappen niet langer uitsluiten</translation>
+        <translation>De geselecteerde mappen niet langer uitsluiten</translation>
     </message>
     <message>
         <source>可操作文件夹</source>
@@ -493,7 +493,7 @@ of sleep mappen uit de Verkenner naar de lijst.</translation>
     </message>
     <message>
         <source>将选中的文件夹加入扫描位置</source>
-        <translation>Gekozen mappen aan de scanlocaties toevoegen</translation>
+        <translation>Geselecteerde mappen aan de scanlocaties toevoegen</translation>
     </message>
     <message>
         <source>选择要扫描的文件夹</source>
@@ -513,11 +513,11 @@ of sleep mappen uit de Verkenner naar de lijst.</translation>
     </message>
     <message>
         <source>移除所选</source>
-        <translation>Gekozen verwijderen</translation>
+        <translation>Uit lijst halen</translation>
     </message>
     <message>
         <source>清空列表</source>
-        <translation>Lijst wissen</translation>
+        <translation>Lijst leegmaken</translation>
     </message>
     <message>
         <source>选择一个文件夹加入扫描位置</source>
@@ -525,7 +525,7 @@ of sleep mappen uit de Verkenner naar de lijst.</translation>
     </message>
     <message>
         <source>已包含</source>
-        <translation>Inbegrepen</translation>
+        <translation>Opgenomen</translation>
     </message>
     <message>
         <source>🔒 已保护</source>
@@ -533,7 +533,7 @@ of sleep mappen uit de Verkenner naar de lijst.</translation>
     </message>
     <message>
         <source>锁 否</source>
-        <translation>Open</translation>
+        <translation>Niet beschermd</translation>
     </message>
     <message>
         <source>📂 是</source>
@@ -623,7 +623,7 @@ Deze map is nu niet te vinden.</translation>
     </message>
     <message>
         <source>扫描进行中，批量操作已暂停。</source>
-        <translation>Scan bezig; groepsacties wachten.</translation>
+        <translation>Scan bezig; bulkacties wachten.</translation>
     </message>
     <message>
         <source>「重复文件夹」为只读视图；删除/导出请切换到「重复文件」Tab。</source>
@@ -631,15 +631,15 @@ Deze map is nu niet te vinden.</translation>
     </message>
     <message>
         <source>「其余文件」为只读视图；请切换到「重复文件」Tab 勾选处理。</source>
-        <translation>‘Overige bestanden’ is alleen om te bekijken; kiezen kan bij ‘Dubbele bestanden’.</translation>
+        <translation>‘Overige bestanden’ is alleen om te bekijken; aanvinken kan bij ‘Dubbele bestanden’.</translation>
     </message>
     <message>
         <source>扫描完成后，在左侧勾选重复项再执行批量操作。</source>
-        <translation>Vink na de scan links duplicaten aan en voer dan groepsacties uit.</translation>
+        <translation>Vink na de scan links duplicaten aan en voer dan bulkacties uit.</translation>
     </message>
     <message>
         <source>已勾选 %1 个文件</source>
-        <translation>Gekozen bestanden: %1</translation>
+        <translation>Aangevinkte bestanden: %1</translation>
     </message>
     <message>
         <source>分组</source>
@@ -699,7 +699,7 @@ Deze map is nu niet te vinden.</translation>
     </message>
     <message>
         <source>选择</source>
-        <translation>Keuze</translation>
+        <translation>Vinkje</translation>
     </message>
     <message>
         <source>文件 / 分组</source>
@@ -707,11 +707,11 @@ Deze map is nu niet te vinden.</translation>
     </message>
     <message>
         <source>分组 #%1  (%2 个文件, 可回收 %3)</source>
-        <translation>Groep %1  (bestanden: %2, winst %3)</translation>
+        <translation>Groep %1  (bestanden: %2, vrij te maken: %3)</translation>
     </message>
     <message>
         <source>本组所有文件均已勾选，处理后将不保留任何副本。</source>
-        <translation>Alle bestanden van deze groep zijn aangevinkt; er blijft geen kopie over.</translation>
+        <translation>Alle bestanden van deze groep zijn aangevinkt; er blijft geen enkel bestand over.</translation>
     </message>
     <message>
         <source>路径: %1
@@ -815,7 +815,7 @@ Titel: %1</translation>
     </message>
     <message>
         <source>全文件多点哈希（较慢）</source>
-        <translation>Hash over het hele bestand (langzamer)</translation>
+        <translation>Steekproeven uit het hele bestand (langzamer)</translation>
     </message>
     <message>
         <source>仅显示</source>
@@ -887,7 +887,7 @@ Titel: %1</translation>
     </message>
     <message>
         <source>• 大小限制：%1 ~ %2</source>
-        <translation>• Grootte: %1 ~ %2</translation>
+        <translation>• Grootte: %1 – %2</translation>
     </message>
     <message>
         <source>• 包含扩展名：%1</source>
@@ -979,7 +979,7 @@ Titel: %1</translation>
     </message>
     <message>
         <source>音轨号</source>
-        <translation>Nummer</translation>
+        <translation>Tracknummer</translation>
     </message>
     <message>
         <source>年代</source>
@@ -999,7 +999,7 @@ Titel: %1</translation>
     </message>
     <message>
         <source>采样率</source>
-        <translation>Bemonstering</translation>
+        <translation>Samplefrequentie</translation>
     </message>
     <message>
         <source>日期</source>
@@ -1011,23 +1011,23 @@ Titel: %1</translation>
     </message>
     <message>
         <source>批量操作</source>
-        <translation>Groepsacties</translation>
+        <translation>Bulkacties</translation>
     </message>
     <message>
         <source>按规则自动勾选</source>
-        <translation>Kiezen volgens regel</translation>
+        <translation>Aanvinken volgens regel</translation>
     </message>
     <message>
         <source>全选重复项</source>
-        <translation>Alle duplicaten</translation>
+        <translation>Alle duplicaten aanvinken</translation>
     </message>
     <message>
         <source>反选</source>
-        <translation>Keuze omkeren</translation>
+        <translation>Vinkjes omkeren</translation>
     </message>
     <message>
         <source>清空结果</source>
-        <translation>Resultaten wissen</translation>
+        <translation>Resultaten leegmaken</translation>
     </message>
     <message>
         <source>移动到备份文件夹</source>
@@ -1035,7 +1035,7 @@ Titel: %1</translation>
     </message>
     <message>
         <source>删除所选</source>
-        <translation>Keuze verwijderen</translation>
+        <translation>Aangevinkte verwijderen</translation>
     </message>
     <message>
         <source>导出…</source>
@@ -1043,7 +1043,7 @@ Titel: %1</translation>
     </message>
     <message>
         <source>删除文件前先将其移动到备份文件夹</source>
-        <translation>Verplaatst bestanden naar de back-upmap voordat ze worden verwijderd</translation>
+        <translation>Verplaatst bestanden naar de back-upmap in plaats van ze te verwijderen</translation>
     </message>
     <message>
         <source>文件预览</source>
@@ -1051,7 +1051,7 @@ Titel: %1</translation>
     </message>
     <message>
         <source>选择文件以预览</source>
-        <translation>Kies een bestand voor een voorbeeld</translation>
+        <translation>Selecteer een bestand voor een voorbeeld</translation>
     </message>
     <message>
         <source>文件夹: %1</source>
@@ -1125,11 +1125,11 @@ Titel: %1</translation>
     </message>
     <message>
         <source>对比图片 (选 2 个)</source>
-        <translation>Afbeeldingen vergelijken (kies er 2)</translation>
+        <translation>Afbeeldingen vergelijken (selecteer er 2)</translation>
     </message>
     <message>
         <source>全选本组重复项</source>
-        <translation>Alle duplicaten in groep kiezen</translation>
+        <translation>Alle duplicaten in groep aanvinken</translation>
     </message>
     <message>
         <source>音频文件匹配配置</source>
@@ -1161,7 +1161,7 @@ Titel: %1</translation>
     </message>
     <message>
         <source>勾选时按当前扫描模式扩展名扫描；取消勾选则仅扫描「已包含」列表中的扩展名。</source>
-        <translation>Aangevinkt gelden de extensies van de huidige modus, anders alleen de lijst ‘Inbegrepen’.</translation>
+        <translation>Aangevinkt gelden de extensies van de huidige modus, anders alleen de lijst ‘Opgenomen’.</translation>
     </message>
     <message>
         <source>已排除</source>
@@ -1173,7 +1173,7 @@ Titel: %1</translation>
     </message>
     <message>
         <source>用逗号、分号或空格分隔；* 或 *.* 表示全部</source>
-        <translation>Gescheiden door komma's, puntkomma's of spaties; * of *.* staat voor alle</translation>
+        <translation>Gescheiden door komma’s, puntkomma’s of spaties; * of *.* staat voor alle</translation>
     </message>
     <message>
         <source>图片模式包含更多 RAW 格式</source>
@@ -1182,8 +1182,8 @@ Titel: %1</translation>
     <message>
         <source>图片模式下还扫描 arw、dng、rw2、orf、srw 等相机 RAW 文件；
 raw、cr2、nef 始终扫描。仅在「已包含」列表为空时有效。</source>
-        <translation>Bij afbeeldingen ook RAW-bestanden van camera's zoals arw, dng, rw2, orf en srw scannen;
-raw, cr2 en nef worden altijd gescand. Alleen zolang de lijst ‘Inbegrepen’ niet wordt gebruikt.</translation>
+        <translation>Bij afbeeldingen ook RAW-bestanden van camera’s zoals arw, dng, rw2, orf en srw scannen;
+raw, cr2 en nef worden altijd gescand. Geldt alleen zolang de lijst ‘Opgenomen’ leeg is.</translation>
     </message>
     <message>
         <source>文件大小</source>
@@ -1249,11 +1249,11 @@ raw, cr2 en nef worden altijd gescand. Alleen zolang de lijst ‘Inbegrepen’ n
         <translation>Er geldt altijd één van de drie:
 • Zelfde inhoud = exacte bytes (standaard)
 • Vergelijkbare inhoud = bytes bij benadering gelijk
-• Inhoud negeren = alleen op kenmerken</translation>
+• Inhoud negeren = alleen op metagegevens</translation>
     </message>
     <message>
         <source>采样一致的最低比例</source>
-        <translation>Minste overeenkomst van de steekproeven</translation>
+        <translation>Minimale overeenkomst van de steekproeven</translation>
     </message>
     <message>
         <source>不读文件内容，仅用下方「更多判断重复的选项」分组（名称/大小/日期等）。</source>
@@ -1273,11 +1273,11 @@ raw, cr2 en nef worden altijd gescand. Alleen zolang de lijst ‘Inbegrepen’ n
     </message>
     <message>
         <source>相似文件名</source>
-        <translation>Gelijkende bestandsnamen</translation>
+        <translation>Vergelijkbare bestandsnamen</translation>
     </message>
     <message>
         <source>忽略文件名中「副本」字样</source>
-        <translation>‘Kopie’ in bestandsnamen negeren</translation>
+        <translation>‘Copy’, ‘(2)’ enz. in bestandsnamen negeren</translation>
     </message>
     <message>
         <source>相同文件大小</source>
@@ -1325,7 +1325,7 @@ raw, cr2 en nef worden altijd gescand. Alleen zolang de lijst ‘Inbegrepen’ n
     </message>
     <message>
         <source>匹配文件夹路径深度</source>
-        <translation>Diepte van mappad</translation>
+        <translation>Zelfde diepte van mappad</translation>
     </message>
     <message>
         <source>匹配扫描位置以下路径</source>
@@ -1333,7 +1333,7 @@ raw, cr2 en nef worden altijd gescand. Alleen zolang de lijst ‘Inbegrepen’ n
     </message>
     <message>
         <source>忽略在同一文件夹的重复组别</source>
-        <translation>Duplicaten in dezelfde map negeren</translation>
+        <translation>Groepen binnen één map negeren</translation>
     </message>
     <message>
         <source>文本匹配选项</source>
@@ -1345,11 +1345,11 @@ raw, cr2 en nef worden altijd gescand. Alleen zolang de lijst ‘Inbegrepen’ n
     </message>
     <message>
         <source>相似文本 - 容差</source>
-        <translation>Marge bij gelijkende tekst</translation>
+        <translation>Marge bij vergelijkbare tekst</translation>
     </message>
     <message>
         <source>相似文件名之间最多相差的字符数</source>
-        <translation>In hoeveel tekens gelijkende bestandsnamen mogen verschillen</translation>
+        <translation>In hoeveel tekens vergelijkbare bestandsnamen mogen verschillen</translation>
     </message>
     <message>
         <source>图片匹配配置</source>
@@ -1357,7 +1357,7 @@ raw, cr2 en nef worden altijd gescand. Alleen zolang de lijst ‘Inbegrepen’ n
     </message>
     <message>
         <source>匹配RAW图像时使用内嵌JPG图像（较快）</source>
-        <translation>Ingesloten JPEG in RAW-bestanden (sneller)</translation>
+        <translation>Ingesloten JPEG in RAW-bestanden gebruiken (sneller)</translation>
     </message>
     <message>
         <source>性能</source>
@@ -1397,7 +1397,7 @@ raw, cr2 en nef worden altijd gescand. Alleen zolang de lijst ‘Inbegrepen’ n
     </message>
     <message>
         <source>变换匹配</source>
-        <translation>Bewerkte afbeeldingen</translation>
+        <translation>Gedraaid of gespiegeld</translation>
     </message>
     <message>
         <source>查找旋转过的</source>
@@ -1529,11 +1529,11 @@ raw, cr2 en nef worden altijd gescand. Alleen zolang de lijst ‘Inbegrepen’ n
     </message>
     <message>
         <source>范围: 仅已勾选文件</source>
-        <translation>Omvang: alleen aangevinkte bestanden</translation>
+        <translation>Bereik: alleen aangevinkte bestanden</translation>
     </message>
     <message>
         <source>说明: 路径已脱敏（用户名已隐藏）</source>
-        <translation>Let op: paden afgeschermd (gebruikersnaam verborgen)</translation>
+        <translation>Let op: paden geanonimiseerd (gebruikersnaam verborgen)</translation>
     </message>
     <message>
         <source>[组 %1]</source>
@@ -1552,38 +1552,38 @@ raw, cr2 en nef worden altijd gescand. Alleen zolang de lijst ‘Inbegrepen’ n
 部分失败：
 </source>
         <translation>
-Gedeeltelijk mislukt:
+Mislukt:
 </translation>
     </message>
     <message>
         <source>已按规则自动勾选待处理文件</source>
-        <translation>Bestanden gekozen volgens regel</translation>
+        <translation>Bestanden aangevinkt volgens regel</translation>
     </message>
     <message>
         <source>已勾选各组重复项（默认保留每组第一个）</source>
-        <translation>Duplicaten in elke groep gekozen (het eerste blijft)</translation>
+        <translation>Duplicaten in elke groep aangevinkt (het eerste blijft)</translation>
     </message>
     <message>
         <source>已反选</source>
-        <translation>Keuze omgekeerd</translation>
+        <translation>Vinkjes omgekeerd</translation>
     </message>
     <message>
         <source>正在更新勾选…</source>
-        <translation>Keuze bijwerken…</translation>
+        <translation>Vinkjes bijwerken…</translation>
     </message>
     <message>
         <source>已停止，其余文件未处理</source>
-        <translation>Gestopt; de overige bestanden zijn niet verwerkt</translation>
+        <translation>Gestopt; de resterende bestanden zijn niet verwerkt</translation>
     </message>
     <message>
         <source>请先勾选要处理的文件。</source>
-        <translation>Kies eerst bestanden.</translation>
+        <translation>Vink eerst bestanden aan.</translation>
     </message>
     <message>
         <source>将把 %1 个文件移动到备份目录：
 %2
 是否继续？</source>
-        <translation>Naar de back-upmap verplaatsen (bestanden: %1)?
+        <translation>Bestanden (%1) naar de back-upmap verplaatsen:
 %2
 Doorgaan?</translation>
     </message>
@@ -1607,7 +1607,7 @@ Scan opnieuw.</translation>
     </message>
     <message>
         <source>请先勾选要删除的文件。</source>
-        <translation>Kies eerst te verwijderen bestanden.</translation>
+        <translation>Vink eerst de te verwijderen bestanden aan.</translation>
     </message>
     <message>
         <source>正在备份并移除文件… (%1/%2)</source>
@@ -1625,7 +1625,7 @@ Scan opnieuw.</translation>
     </message>
     <message>
         <source>已备份并移除 %1 个文件。请重新扫描以刷新结果。</source>
-        <translation>Bestanden met back-up verwijderd: %1. Scan opnieuw.</translation>
+        <translation>Bestanden verwijderd na back-up: %1. Scan opnieuw.</translation>
     </message>
     <message>
         <source>永久删除确认</source>
@@ -1683,7 +1683,7 @@ Scan opnieuw.</translation>
     </message>
     <message>
         <source>快速、安全的重复文件查找与清理工具，支持常规内容、图片相似、音频指纹与视频缩略图模式。</source>
-        <translation>Vindt snel dubbele bestanden en ruimt ze veilig op. Vergelijkt algemene inhoud, gelijkende afbeeldingen, audio op vingerafdruk en video op miniatuur.</translation>
+        <translation>Vindt snel dubbele bestanden en ruimt ze veilig op. Vergelijkt algemene inhoud, vergelijkbare afbeeldingen, audio op vingerafdruk en video op miniatuur.</translation>
     </message>
     <message>
         <source>便携模式（数据位于程序旁的 \Data）</source>
@@ -1759,7 +1759,7 @@ Scan opnieuw.</translation>
     </message>
     <message>
         <source>运行脚本会删除其中列出的每个文件，包括要保留的副本；如只删除已勾选的文件，请勾选“仅导出已勾选的文件”</source>
-        <translation>Het script verwijdert elk genoemd bestand, ook de te behouden kopieën; kies ‘Alleen aangevinkte bestanden’ om alleen die te verwijderen</translation>
+        <translation>Het script verwijdert elk genoemd bestand, ook de te behouden bestanden; zet ‘Alleen aangevinkte bestanden’ aan om alleen die te verwijderen</translation>
     </message>
     <message>
         <source>输出路径：</source>
@@ -1779,15 +1779,15 @@ Scan opnieuw.</translation>
     </message>
     <message>
         <source>路径脱敏（隐藏用户名，便于分享）</source>
-        <translation>Paden afschermen (gebruikersnaam verbergen)</translation>
+        <translation>Paden anonimiseren (gebruikersnaam verbergen)</translation>
     </message>
     <message>
         <source>脱敏后的批处理脚本只供阅读，不会删除被隐藏用户名的文件</source>
-        <translation>Een afgeschermd batchscript is om te lezen: bestanden met verborgen gebruikersnaam verwijdert het niet</translation>
+        <translation>Een geanonimiseerd batchscript is alleen om te lezen: bestanden met verborgen gebruikersnaam verwijdert het niet</translation>
     </message>
     <message>
         <source>正在停止…</source>
-        <translation>Stoppen…</translation>
+        <translation>Wordt gestopt…</translation>
     </message>
     <message>
         <source>正在处理</source>
@@ -1958,18 +1958,18 @@ Scan opnieuw.</translation>
 %1
 
 下次图片扫描会重新计算，可能稍慢。是否继续？</source>
-        <translation>Alle beeldhashes en histogrammen in de cache verwijderen?
+        <translation>Alle beeldhashes en histogrammen verwijderen uit:
 %1
 
 De volgende beeldscan duurt langer. Doorgaan?</translation>
     </message>
     <message>
         <source>清空图片特征缓存</source>
-        <translation>Cache met beeldkenmerken wissen</translation>
+        <translation>Cache met beeldkenmerken leegmaken</translation>
     </message>
     <message>
         <source>图片特征缓存已清空。</source>
-        <translation>Cache met beeldkenmerken gewist.</translation>
+        <translation>Cache met beeldkenmerken leeggemaakt.</translation>
     </message>
     <message>
         <source>部分缓存文件无法删除。</source>
@@ -2021,7 +2021,7 @@ De volgende beeldscan duurt langer. Doorgaan?</translation>
     </message>
     <message>
         <source>关闭后点击「开始扫描」将立即执行；也可在确认对话框中勾选「不再显示此确认」。</source>
-        <translation>Uitgeschakeld begint de scan meteen; ‘Niet meer tonen’ in de vraag doet hetzelfde.</translation>
+        <translation>Uitgeschakeld begint de scan meteen; ‘Niet meer tonen’ in het bevestigingsvenster doet hetzelfde.</translation>
     </message>
     <message>
         <source>内容指纹算法</source>
@@ -2081,7 +2081,7 @@ De volgende beeldscan duurt langer. Doorgaan?</translation>
     </message>
     <message>
         <source>恢复所选</source>
-        <translation>Keuze terugzetten</translation>
+        <translation>Geselecteerde terugzetten</translation>
     </message>
     <message>
         <source>正在复制文件… (%1/%2)</source>
@@ -2129,15 +2129,15 @@ De volgende beeldscan duurt langer. Doorgaan?</translation>
     </message>
     <message>
         <source>…… 另有 %1 行，见详细信息</source>
-        <translation>… nog %1 regels, zie de details</translation>
+        <translation>… meer regels: %1, zie de details</translation>
     </message>
     <message>
         <source>…… 另有 %1 行未显示</source>
-        <translation>… nog %1 regels niet getoond</translation>
+        <translation>… niet getoonde regels: %1</translation>
     </message>
     <message>
         <source>未勾选的文件，未处理: %1</source>
-        <translation>Niet aangevinkt, niet verwerkt: %1</translation>
+        <translation>Niet aangevinkt; niet verwerkt: %1</translation>
     </message>
     <message>
         <source>链接目标属于另一组，未处理: %1</source>
@@ -2153,7 +2153,7 @@ De volgende beeldscan duurt langer. Doorgaan?</translation>
     </message>
     <message>
         <source>共 %1 个文件 @ %2.%3 秒</source>
-        <translation>Bestanden: %1, %2.%3 s</translation>
+        <translation>Bestanden: %1 in %2,%3 s</translation>
     </message>
     <message>
         <source>路径: %1
@@ -2191,7 +2191,7 @@ GPS: %1, %2</translation>
     </message>
     <message>
         <source>按规则勾选</source>
-        <translation>Gekozen volgens regel</translation>
+        <translation>Aangevinkt volgens regel</translation>
     </message>
     <message>
         <source>移动到备份</source>
@@ -2199,7 +2199,7 @@ GPS: %1, %2</translation>
     </message>
     <message>
         <source>备份并移除</source>
-        <translation>Back-up gemaakt en verwijderd</translation>
+        <translation>Verwijderd na back-up</translation>
     </message>
     <message>
         <source>移除文件</source>
@@ -2207,7 +2207,7 @@ GPS: %1, %2</translation>
     </message>
     <message>
         <source>导出</source>
-        <translation>Exporteren</translation>
+        <translation>Geëxporteerd</translation>
     </message>
     <message>
         <source>导出副本</source>
@@ -2219,11 +2219,11 @@ GPS: %1, %2</translation>
     </message>
     <message>
         <source>结果已清空。切换Tab调整规则后可重新开始扫描。</source>
-        <translation>Resultaten gewist. Pas de regels aan en scan opnieuw.</translation>
+        <translation>Resultaten leeggemaakt. Pas de regels aan en scan opnieuw.</translation>
     </message>
     <message>
         <source>请选中同一组内的两个图片文件进行对比。</source>
-        <translation>Kies twee afbeeldingen van dezelfde groep om te vergelijken.</translation>
+        <translation>Selecteer twee afbeeldingen van dezelfde groep om te vergelijken.</translation>
     </message>
     <message>
         <source>没有匹配的记录。</source>
@@ -2259,7 +2259,7 @@ Zet bij een scanlocatie ‘Overige bestanden tonen’ aan en scan opnieuw om ze 
     </message>
     <message>
         <source>筛选只改变列表中显示的内容，勾选与批量操作仍针对全部结果。</source>
-        <translation>Het filter verandert alleen wat de lijsten tonen; vinkjes en groepsacties gelden nog steeds voor alle resultaten.</translation>
+        <translation>Het filter verandert alleen wat de lijsten tonen; vinkjes en bulkacties gelden nog steeds voor alle resultaten.</translation>
     </message>
 </context>
 </TS>

@@ -25,11 +25,11 @@
     </message>
     <message>
         <source>前缀采样哈希</source>
-        <translation>Hash do início do arquivo</translation>
+        <translation>Hash da amostra inicial</translation>
     </message>
     <message>
         <source>采样指纹哈希</source>
-        <translation>Hash por amostras</translation>
+        <translation>Impressão digital por amostras</translation>
     </message>
     <message>
         <source>图片感知哈希</source>
@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>[%1] %2  已枚举 %3  已处理 %4/%5</source>
-        <translation>[%1] %2  Enumerados %3  Processados %4/%5</translation>
+        <translation>[%1] %2  Enumerados: %3  Processados: %4/%5</translation>
     </message>
     <message>
         <source>文件 %1 · 重复组 %2 · 文件夹组 %3 · 其余 %4 · 可回收约 %5 · 耗时 %6 秒</source>
@@ -289,11 +289,11 @@
     </message>
     <message>
         <source>要保留的文件已更改，未处理: %1</source>
-        <translation>O arquivo a manter foi alterado, não processado: %1</translation>
+        <translation>O arquivo a manter foi alterado; este não foi processado: %1</translation>
     </message>
     <message>
         <source>与要保留的文件可能是同一个文件，未处理: %1</source>
-        <translation>Pode ser o mesmo arquivo que o arquivo a manter, não processado: %1</translation>
+        <translation>Pode ser o próprio arquivo a manter; não processado: %1</translation>
     </message>
     <message>
         <source>无法创建目标目录: %1</source>
@@ -345,7 +345,7 @@
     </message>
     <message>
         <source>无法放入回收站，已保留: %1</source>
-        <translation>Nenhuma Lixeira pode receber este arquivo, mantido: %1</translation>
+        <translation>Não foi possível enviar para a Lixeira; arquivo mantido: %1</translation>
     </message>
     <message>
         <source>无法写入清理记录: %1 (%2)</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>保留最深路径</source>
-        <translation>Manter o caminho mais longo</translation>
+        <translation>Manter o caminho mais profundo</translation>
     </message>
     <message>
         <source>选择备份目录</source>
@@ -423,7 +423,7 @@
         <source>勾选分区后加入扫描列表（不会立即开始扫描）。
 系统目录仍会默认排除。建议慎选系统盘整盘扫描。</source>
         <translation>Marque as partições a adicionar à lista de verificação (a verificação ainda não começa).
-As pastas do sistema continuam de fora. Pense bem antes de verificar toda a unidade do sistema.</translation>
+As pastas do sistema continuam ignoradas. Pense bem antes de verificar toda a unidade do sistema.</translation>
     </message>
     <message>
         <source>加入扫描列表</source>
@@ -435,12 +435,12 @@ As pastas do sistema continuam de fora. Pense bem antes de verificar toda a unid
     </message>
     <message>
         <source>系统盘确认</source>
-        <translation>Confirmação da unidade do sistema</translation>
+        <translation>Verificar a unidade do sistema?</translation>
     </message>
     <message>
         <source>您选择了系统盘。整盘扫描耗时较长，系统目录仍会排除。
 是否加入扫描列表？</source>
-        <translation>Você escolheu uma unidade do sistema. Verificar um disco inteiro demora mais; as pastas do sistema continuam de fora.
+        <translation>Você marcou uma unidade do sistema. Verificar uma unidade inteira demora mais; as pastas do sistema continuam ignoradas.
 Adicionar à lista de verificação?</translation>
     </message>
     <message>
@@ -471,7 +471,7 @@ Adicionar à lista de verificação?</translation>
     </message>
     <message>
         <source>移除</source>
-        <translation>Remover</translation>
+        <translation>Retirar</translation>
     </message>
     <message>
         <source>选择一个扫描时不进入的文件夹</source>
@@ -479,17 +479,17 @@ Adicionar à lista de verificação?</translation>
     </message>
     <message>
         <source>从排除目录中移除选中的文件夹</source>
-        <translation>Remover as pastas selecionadas da lista de pastas ignoradas</translation>
+        <translation>Retirar as pastas selecionadas da lista de pastas ignoradas</translation>
     </message>
     <message>
         <source>可操作文件夹</source>
-        <translation>Procurar pastas</translation>
+        <translation>Navegar pelas pastas</translation>
     </message>
     <message>
         <source>浏览文件夹，用右侧的 → 加入扫描位置；
 也可以从资源管理器把文件夹拖入扫描列表。</source>
-        <translation>Procure as pastas e adicione-as aos locais de verificação com o botão → à direita;
-você também pode arrastar pastas do Explorador para a lista de verificação.</translation>
+        <translation>Navegue pelas pastas e adicione-as aos locais de verificação com o botão → à direita;
+você também pode arrastar pastas do Explorador de Arquivos para a lista de verificação.</translation>
     </message>
     <message>
         <source>将选中的文件夹加入扫描位置</source>
@@ -513,7 +513,7 @@ você também pode arrastar pastas do Explorador para a lista de verificação.<
     </message>
     <message>
         <source>移除所选</source>
-        <translation>Remover seleção</translation>
+        <translation>Retirar da lista</translation>
     </message>
     <message>
         <source>清空列表</source>
@@ -647,7 +647,7 @@ Esta pasta não pode ser encontrada no momento.</translation>
     </message>
     <message>
         <source>文件夹组 #%1</source>
-        <translation>Grupo de pastas #%1</translation>
+        <translation>Grupo de pastas nº %1</translation>
     </message>
     <message>
         <source>文件夹路径</source>
@@ -699,7 +699,7 @@ Esta pasta não pode ser encontrada no momento.</translation>
     </message>
     <message>
         <source>选择</source>
-        <translation>Seleção</translation>
+        <translation>Marcado</translation>
     </message>
     <message>
         <source>文件 / 分组</source>
@@ -707,11 +707,11 @@ Esta pasta não pode ser encontrada no momento.</translation>
     </message>
     <message>
         <source>分组 #%1  (%2 个文件, 可回收 %3)</source>
-        <translation>Grupo #%1  (arquivos: %2, recuperável: %3)</translation>
+        <translation>Grupo nº %1  (arquivos: %2, recuperável: %3)</translation>
     </message>
     <message>
         <source>本组所有文件均已勾选，处理后将不保留任何副本。</source>
-        <translation>Todos os arquivos deste grupo estão marcados; nenhuma cópia seria mantida.</translation>
+        <translation>Todos os arquivos deste grupo estão marcados; nenhum será mantido.</translation>
     </message>
     <message>
         <source>路径: %1
@@ -783,11 +783,11 @@ Título: %1</translation>
     </message>
     <message>
         <source>相似匹配</source>
-        <translation>Correspondência semelhante</translation>
+        <translation>Semelhante</translation>
     </message>
     <message>
         <source>宽松相似</source>
-        <translation>Semelhança ampla</translation>
+        <translation>Semelhança baixa</translation>
     </message>
     <message>
         <source>采样指纹（多点哈希）</source>
@@ -887,7 +887,7 @@ Título: %1</translation>
     </message>
     <message>
         <source>• 大小限制：%1 ~ %2</source>
-        <translation>• Limites de tamanho: %1 ~ %2</translation>
+        <translation>• Limites de tamanho: %1 – %2</translation>
     </message>
     <message>
         <source>• 包含扩展名：%1</source>
@@ -1023,7 +1023,7 @@ Título: %1</translation>
     </message>
     <message>
         <source>反选</source>
-        <translation>Inverter seleção</translation>
+        <translation>Inverter marcações</translation>
     </message>
     <message>
         <source>清空结果</source>
@@ -1035,7 +1035,7 @@ Título: %1</translation>
     </message>
     <message>
         <source>删除所选</source>
-        <translation>Excluir seleção</translation>
+        <translation>Excluir marcados</translation>
     </message>
     <message>
         <source>导出…</source>
@@ -1043,7 +1043,7 @@ Título: %1</translation>
     </message>
     <message>
         <source>删除文件前先将其移动到备份文件夹</source>
-        <translation>Move os arquivos para a pasta de backup antes de excluí-los</translation>
+        <translation>Em vez de excluir os arquivos, move-os para a pasta de backup</translation>
     </message>
     <message>
         <source>文件预览</source>
@@ -1065,7 +1065,7 @@ Título: %1</translation>
     </message>
     <message>
         <source>在资源管理器中打开</source>
-        <translation>Abrir no Explorador</translation>
+        <translation>Abrir no Explorador de Arquivos</translation>
     </message>
     <message>
         <source>打开文件</source>
@@ -1277,7 +1277,7 @@ raw, cr2 e nef são sempre verificados. Só tem efeito se a lista “Incluído�
     </message>
     <message>
         <source>忽略文件名中「副本」字样</source>
-        <translation>Ignorar “cópia” nos nomes de arquivo</translation>
+        <translation>Ignorar “Copy”, “(2)” etc. nos nomes de arquivo</translation>
     </message>
     <message>
         <source>相同文件大小</source>
@@ -1425,7 +1425,7 @@ raw, cr2 e nef são sempre verificados. Só tem efeito se a lista “Incluído�
     </message>
     <message>
         <source>摄制时间最多相差</source>
-        <translation>Diferença máxima entre as fotos</translation>
+        <translation>Diferença máxima entre as datas das fotos</translation>
     </message>
     <message>
         <source>GPS分组</source>
@@ -1552,7 +1552,7 @@ raw, cr2 e nef são sempre verificados. Só tem efeito se a lista “Incluído�
 部分失败：
 </source>
         <translation>
-Falhas parciais:
+Falhas em alguns arquivos:
 </translation>
     </message>
     <message>
@@ -1565,11 +1565,11 @@ Falhas parciais:
     </message>
     <message>
         <source>已反选</source>
-        <translation>Seleção invertida</translation>
+        <translation>Marcações invertidas</translation>
     </message>
     <message>
         <source>正在更新勾选…</source>
-        <translation>Atualizando a seleção…</translation>
+        <translation>Atualizando as marcações…</translation>
     </message>
     <message>
         <source>已停止，其余文件未处理</source>
@@ -1583,7 +1583,7 @@ Falhas parciais:
         <source>将把 %1 个文件移动到备份目录：
 %2
 是否继续？</source>
-        <translation>Arquivos a mover para a pasta de backup: %1
+        <translation>Mover os arquivos (%1) para a pasta de backup:
 %2
 Continuar?</translation>
     </message>
@@ -1603,7 +1603,7 @@ Continuar?</translation>
         <source>已备份移动 %1 个文件。%2
 请重新扫描以刷新结果。</source>
         <translation>Arquivos movidos para o backup: %1. %2
-Verifique novamente para atualizar.</translation>
+Faça uma nova verificação para atualizar os resultados.</translation>
     </message>
     <message>
         <source>请先勾选要删除的文件。</source>
@@ -1625,7 +1625,7 @@ Verifique novamente para atualizar.</translation>
     </message>
     <message>
         <source>已备份并移除 %1 个文件。请重新扫描以刷新结果。</source>
-        <translation>Arquivos com backup feito e removidos: %1. Verifique novamente para atualizar.</translation>
+        <translation>Arquivos removidos com backup: %1. Faça uma nova verificação para atualizar os resultados.</translation>
     </message>
     <message>
         <source>永久删除确认</source>
@@ -1641,7 +1641,7 @@ Verifique novamente para atualizar.</translation>
     </message>
     <message>
         <source>请重新扫描以刷新结果。</source>
-        <translation>Verifique novamente para atualizar os resultados.</translation>
+        <translation>Faça uma nova verificação para atualizar os resultados.</translation>
     </message>
     <message>
         <source>已处理 %1 个文件。%2</source>
@@ -1703,7 +1703,7 @@ Verifique novamente para atualizar.</translation>
     </message>
     <message>
         <source>开源致谢</source>
-        <translation>Agradecimentos de código aberto</translation>
+        <translation>Agradecimentos a projetos de código aberto</translation>
     </message>
     <message>
         <source>库</source>
@@ -1759,7 +1759,7 @@ Verifique novamente para atualizar.</translation>
     </message>
     <message>
         <source>运行脚本会删除其中列出的每个文件，包括要保留的副本；如只删除已勾选的文件，请勾选“仅导出已勾选的文件”</source>
-        <translation>Executar o script exclui todos os arquivos listados nele, inclusive as cópias a manter; para excluir apenas os arquivos marcados, marque “Exportar somente os arquivos marcados”</translation>
+        <translation>Executar o script exclui todos os arquivos listados nele, inclusive os que devem ser mantidos; para excluir apenas os arquivos marcados, ative “Exportar somente os arquivos marcados”</translation>
     </message>
     <message>
         <source>输出路径：</source>
@@ -1783,7 +1783,7 @@ Verifique novamente para atualizar.</translation>
     </message>
     <message>
         <source>脱敏后的批处理脚本只供阅读，不会删除被隐藏用户名的文件</source>
-        <translation>Um script anonimizado serve apenas para leitura: não exclui os arquivos cujo nome de usuário está oculto</translation>
+        <translation>Um script anonimizado serve apenas para leitura: não exclui os arquivos cujo caminho oculta o nome de usuário</translation>
     </message>
     <message>
         <source>正在停止…</source>
@@ -1795,7 +1795,7 @@ Verifique novamente para atualizar.</translation>
     </message>
     <message>
         <source>完成当前文件后停止</source>
-        <translation>Para após o arquivo atual</translation>
+        <translation>Interrompe após o arquivo atual</translation>
     </message>
     <message>
         <source>进度</source>
@@ -1843,7 +1843,7 @@ Verifique novamente para atualizar.</translation>
     </message>
     <message>
         <source>保留的文件路径（用于创建链接）</source>
-        <translation>Caminho a manter (para os links)</translation>
+        <translation>Arquivo a manter (para os links)</translation>
     </message>
     <message>
         <source>先备份再创建链接时可留空：每个链接指向本组中未勾选的文件</source>
@@ -1859,11 +1859,11 @@ Verifique novamente para atualizar.</translation>
     </message>
     <message>
         <source>+ 选择文件</source>
-        <translation>+ Selecionar arquivos</translation>
+        <translation>+ Escolher arquivos</translation>
     </message>
     <message>
         <source>+ 选择文件夹</source>
-        <translation>+ Selecionar pasta</translation>
+        <translation>+ Escolher pasta</translation>
     </message>
     <message>
         <source>重新计算</source>
@@ -1887,11 +1887,11 @@ Verifique novamente para atualizar.</translation>
     </message>
     <message>
         <source>选择文件</source>
-        <translation>Selecionar arquivos</translation>
+        <translation>Escolher arquivos</translation>
     </message>
     <message>
         <source>选择文件夹</source>
-        <translation>Selecionar pasta</translation>
+        <translation>Escolher pasta</translation>
     </message>
     <message>
         <source>正在查找文件…</source>
@@ -1903,11 +1903,11 @@ Verifique novamente para atualizar.</translation>
     </message>
     <message>
         <source>复制：哈希值</source>
-        <translation>Copiar: hash</translation>
+        <translation>Copiar hash</translation>
     </message>
     <message>
         <source>复制：文件名</source>
-        <translation>Copiar: nome do arquivo</translation>
+        <translation>Copiar nome do arquivo</translation>
     </message>
     <message>
         <source>图片对比</source>
@@ -2033,7 +2033,7 @@ A próxima verificação de imagens será mais lenta. Continuar?</translation>
     </message>
     <message>
         <source>BLAKE3（更快、更强；切换后重建缓存）</source>
-        <translation>BLAKE3 (mais rápido e mais forte; o cache é recriado após a troca)</translation>
+        <translation>BLAKE3 (mais rápido e mais seguro; o cache é recriado após a troca)</translation>
     </message>
     <message>
         <source>仅影响「相同内容」精确查重的 quick/full 哈希；相似内容采样仍使用 MD5。</source>
@@ -2081,7 +2081,7 @@ A próxima verificação de imagens será mais lenta. Continuar?</translation>
     </message>
     <message>
         <source>恢复所选</source>
-        <translation>Restaurar seleção</translation>
+        <translation>Restaurar selecionados</translation>
     </message>
     <message>
         <source>正在复制文件… (%1/%2)</source>
@@ -2129,7 +2129,7 @@ A próxima verificação de imagens será mais lenta. Continuar?</translation>
     </message>
     <message>
         <source>…… 另有 %1 行，见详细信息</source>
-        <translation>… outras linhas: %1, veja os detalhes</translation>
+        <translation>… outras linhas: %1; veja os detalhes</translation>
     </message>
     <message>
         <source>…… 另有 %1 行未显示</source>
@@ -2137,15 +2137,15 @@ A próxima verificação de imagens será mais lenta. Continuar?</translation>
     </message>
     <message>
         <source>未勾选的文件，未处理: %1</source>
-        <translation>Não marcado, não processado: %1</translation>
+        <translation>Não marcado; não processado: %1</translation>
     </message>
     <message>
         <source>链接目标属于另一组，未处理: %1</source>
-        <translation>O destino do link pertence a outro grupo, não processado: %1</translation>
+        <translation>O destino do link pertence a outro grupo; não processado: %1</translation>
     </message>
     <message>
         <source>没有可链接的保留文件，未处理: %1</source>
-        <translation>Nenhum arquivo mantido para o link, não processado: %1</translation>
+        <translation>Nenhum arquivo mantido para o link; não processado: %1</translation>
     </message>
     <message>
         <source>共 %1 个文件</source>
@@ -2171,7 +2171,7 @@ GPS: %1, %2</translation>
     </message>
     <message>
         <source>时间</source>
-        <translation>Hora</translation>
+        <translation>Data e hora</translation>
     </message>
     <message>
         <source>操作</source>
@@ -2187,7 +2187,7 @@ GPS: %1, %2</translation>
     </message>
     <message>
         <source>扫描完成</source>
-        <translation>Verificação finalizada</translation>
+        <translation>Verificação concluída</translation>
     </message>
     <message>
         <source>按规则勾选</source>
@@ -2199,7 +2199,7 @@ GPS: %1, %2</translation>
     </message>
     <message>
         <source>备份并移除</source>
-        <translation>Backup feito e removidos</translation>
+        <translation>Removidos com backup</translation>
     </message>
     <message>
         <source>移除文件</source>
@@ -2207,7 +2207,7 @@ GPS: %1, %2</translation>
     </message>
     <message>
         <source>导出</source>
-        <translation>Exportar</translation>
+        <translation>Exportação</translation>
     </message>
     <message>
         <source>导出副本</source>
@@ -2219,7 +2219,7 @@ GPS: %1, %2</translation>
     </message>
     <message>
         <source>结果已清空。切换Tab调整规则后可重新开始扫描。</source>
-        <translation>Resultados limpos. Ajuste as regras e verifique novamente.</translation>
+        <translation>Resultados limpos. Ajuste as regras e faça uma nova verificação.</translation>
     </message>
     <message>
         <source>请选中同一组内的两个图片文件进行对比。</source>
@@ -2227,7 +2227,7 @@ GPS: %1, %2</translation>
     </message>
     <message>
         <source>没有匹配的记录。</source>
-        <translation>Nenhum registro correspondente.</translation>
+        <translation>Nenhuma entrada correspondente.</translation>
     </message>
     <message>
         <source>没有匹配的文件。</source>
@@ -2236,7 +2236,7 @@ GPS: %1, %2</translation>
     <message>
         <source>还没有扫描位置。
 点击“+文件夹”，在左侧选择，或把文件夹拖放、粘贴到这里。</source>
-        <translation>Ainda não há locais.
+        <translation>Ainda não há locais de verificação.
 Clique em “+ Pasta”, escolha à esquerda, ou arraste ou cole pastas aqui.</translation>
     </message>
     <message>
@@ -2254,8 +2254,8 @@ Clique em “+ Pasta”, escolha à esquerda, ou arraste ou cole pastas aqui.</t
     <message>
         <source>没有列出其余文件。
 要查看它们，请在扫描位置中打开“显示其余文件”，然后重新扫描。</source>
-        <translation>Nenhum outro arquivo está listado.
-Para vê-los, ative “Mostrar arquivos restantes” em um local e verifique novamente.</translation>
+        <translation>Nenhum arquivo restante está listado.
+Para vê-los, ative “Mostrar arquivos restantes” em um local e faça uma nova verificação.</translation>
     </message>
     <message>
         <source>筛选只改变列表中显示的内容，勾选与批量操作仍针对全部结果。</source>

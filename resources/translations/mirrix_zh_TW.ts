@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>打开数据文件夹</source>
-        <translation>開啟資料目錄</translation>
+        <translation>開啟資料存放位置</translation>
     </message>
     <message>
         <source>完整退出</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>%1 · 本地运行 · 零广告 · 图片哈希: %2</source>
-        <translation>%1 · 本機執行 · 零廣告 · 圖片雜湊: %2</translation>
+        <translation>%1 · 本機執行 · 零廣告 · 圖片雜湊：%2</translation>
     </message>
     <message>
         <source>① 选择位置 → ② 匹配规则 → ③ 预览并清理</source>
@@ -153,15 +153,15 @@
     </message>
     <message>
         <source>%1 · 本地运行 · 图片哈希: %2</source>
-        <translation>%1 · 本機執行 · 圖片雜湊: %2</translation>
+        <translation>%1 · 本機執行 · 圖片雜湊：%2</translation>
     </message>
     <message>
         <source>正在取消...</source>
-        <translation>正在取消...</translation>
+        <translation>正在取消…</translation>
     </message>
     <message>
         <source>扫描完成 · 图片哈希后端: %1</source>
-        <translation>掃描完成 · 圖片雜湊後端: %1</translation>
+        <translation>掃描完成 · 圖片雜湊後端：%1</translation>
     </message>
     <message>
         <source>位于回收站中</source>
@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>恢复失败: %1</source>
-        <translation>還原失敗: %1</translation>
+        <translation>還原失敗：%1</translation>
     </message>
     <message>
         <source>备份文件已损坏，未恢复: %1</source>
@@ -277,75 +277,75 @@
     </message>
     <message>
         <source>原路径已存在文件，已取消恢复: %1</source>
-        <translation>原路徑已有檔案，已取消還原: %1</translation>
+        <translation>原路徑已有檔案，已取消還原：%1</translation>
     </message>
     <message>
         <source>无法移动到备份目录: %1</source>
-        <translation>無法移至備份資料夾: %1</translation>
+        <translation>無法移至備份資料夾：%1</translation>
     </message>
     <message>
         <source>文件在扫描后已更改，已保留: %1</source>
-        <translation>檔案在掃描後已變更，已保留: %1</translation>
+        <translation>檔案在掃描後已變更，已保留：%1</translation>
     </message>
     <message>
         <source>要保留的文件已更改，未处理: %1</source>
-        <translation>要保留的檔案已變更，未處理: %1</translation>
+        <translation>要保留的檔案已變更，未處理：%1</translation>
     </message>
     <message>
         <source>与要保留的文件可能是同一个文件，未处理: %1</source>
-        <translation>可能與要保留的檔案是同一個檔案，未處理: %1</translation>
+        <translation>可能與要保留的檔案是同一個檔案，未處理：%1</translation>
     </message>
     <message>
         <source>无法创建目标目录: %1</source>
-        <translation>無法建立目的資料夾: %1</translation>
+        <translation>無法建立目標資料夾：%1</translation>
     </message>
     <message>
         <source>目标已存在: %1</source>
-        <translation>目的地已存在: %1</translation>
+        <translation>目標檔案已存在：%1</translation>
     </message>
     <message>
         <source>链接路径已存在: %1</source>
-        <translation>連結路徑已存在: %1</translation>
+        <translation>連結路徑已存在：%1</translation>
     </message>
     <message>
         <source>没有创建符号链接的权限（请启用开发人员模式或以管理员身份运行）: %1</source>
-        <translation>沒有建立符號連結的權限（請開啟開發人員模式或以系統管理員身分執行）: %1</translation>
+        <translation>沒有建立符號連結的權限（請開啟開發人員模式或以系統管理員身分執行）：%1</translation>
     </message>
     <message>
         <source>无法删除: %1</source>
-        <translation>無法刪除: %1</translation>
+        <translation>無法刪除：%1</translation>
     </message>
     <message>
         <source>无法移动: %1</source>
-        <translation>無法移動: %1</translation>
+        <translation>無法移動：%1</translation>
     </message>
     <message>
         <source>无法复制: %1</source>
-        <translation>無法複製: %1</translation>
+        <translation>無法複製：%1</translation>
     </message>
     <message>
         <source>无法创建硬链接: %1</source>
-        <translation>無法建立硬式連結: %1</translation>
+        <translation>無法建立硬式連結：%1</translation>
     </message>
     <message>
         <source>无法创建符号链接: %1</source>
-        <translation>無法建立符號連結: %1</translation>
+        <translation>無法建立符號連結：%1</translation>
     </message>
     <message>
         <source>文件不存在: %1</source>
-        <translation>找不到檔案: %1</translation>
+        <translation>找不到檔案：%1</translation>
     </message>
     <message>
         <source>链接目标不是可用的文件: %1</source>
-        <translation>連結目標不是可用的檔案: %1</translation>
+        <translation>連結目標不是可用的檔案：%1</translation>
     </message>
     <message>
         <source>原文件未能放回，可从备份中恢复: %1</source>
-        <translation>無法將檔案放回原處，可從備份還原: %1</translation>
+        <translation>無法將檔案放回原處，可從備份還原：%1</translation>
     </message>
     <message>
         <source>无法放入回收站，已保留: %1</source>
-        <translation>無法放入資源回收筒，已保留: %1</translation>
+        <translation>無法放入資源回收筒，已保留：%1</translation>
     </message>
     <message>
         <source>无法写入清理记录: %1 (%2)</source>
@@ -365,11 +365,11 @@
     </message>
     <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
-        <translation>無法將檔案移至資源回收筒 (code %1, %2 個檔案)</translation>
+        <translation>無法將檔案移至資源回收筒（代碼 %1，%2 個檔案）</translation>
     </message>
     <message>
         <source>未移入回收站，仍在原处: %1</source>
-        <translation>未移至資源回收筒，仍在原處: %1</translation>
+        <translation>未移至資源回收筒，仍在原處：%1</translation>
     </message>
     <message>
         <source>保留最新文件</source>
@@ -381,11 +381,11 @@
     </message>
     <message>
         <source>保留最上层目录</source>
-        <translation>保留最上層的路徑</translation>
+        <translation>保留最上層的檔案</translation>
     </message>
     <message>
         <source>保留最深路径</source>
-        <translation>保留最深的路徑</translation>
+        <translation>保留最深層的檔案</translation>
     </message>
     <message>
         <source>选择备份目录</source>
@@ -440,7 +440,7 @@
     <message>
         <source>您选择了系统盘。整盘扫描耗时较长，系统目录仍会排除。
 是否加入扫描列表？</source>
-        <translation>您選擇了系統磁碟機。掃描整個磁碟機需要較長時間，系統資料夾仍會排除。
+        <translation>您勾選了系統磁碟機。掃描整個磁碟機需要較長時間，系統資料夾仍會排除。
 要加入掃描清單嗎？</translation>
     </message>
     <message>
@@ -471,7 +471,7 @@
     </message>
     <message>
         <source>移除</source>
-        <translation>移除</translation>
+        <translation>從清單移除</translation>
     </message>
     <message>
         <source>选择一个扫描时不进入的文件夹</source>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>移除所选</source>
-        <translation>移除選取項目</translation>
+        <translation>從清單移除</translation>
     </message>
     <message>
         <source>清空列表</source>
@@ -525,7 +525,7 @@
     </message>
     <message>
         <source>已包含</source>
-        <translation>包含</translation>
+        <translation>已包含</translation>
     </message>
     <message>
         <source>🔒 已保护</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>锁 否</source>
-        <translation>鎖定 無</translation>
+        <translation>未受保護</translation>
     </message>
     <message>
         <source>📂 是</source>
@@ -615,11 +615,11 @@
     </message>
     <message>
         <source>快捷位置</source>
-        <translation>快速位置</translation>
+        <translation>常用位置</translation>
     </message>
     <message>
         <source>本地磁盘 (%1)</source>
-        <translation>本機磁碟 (%1)</translation>
+        <translation>本機磁碟（%1）</translation>
     </message>
     <message>
         <source>扫描进行中，批量操作已暂停。</source>
@@ -699,7 +699,7 @@
     </message>
     <message>
         <source>选择</source>
-        <translation>選取</translation>
+        <translation>勾選</translation>
     </message>
     <message>
         <source>文件 / 分组</source>
@@ -707,51 +707,51 @@
     </message>
     <message>
         <source>分组 #%1  (%2 个文件, 可回收 %3)</source>
-        <translation>群組 #%1  (%2 個檔案, 可釋放 %3)</translation>
+        <translation>群組 #%1  （%2 個檔案，可釋放 %3）</translation>
     </message>
     <message>
         <source>本组所有文件均已勾选，处理后将不保留任何副本。</source>
-        <translation>此群組的所有檔案均已勾選，處理後不會保留任何副本。</translation>
+        <translation>此群組的所有檔案均已勾選，處理後，此群組的檔案將一個也不會保留。</translation>
     </message>
     <message>
         <source>路径: %1
 大小: %2
 修改: %3
 后缀: %4</source>
-        <translation>路徑: %1
-大小: %2
-修改: %3
-副檔名: %4</translation>
+        <translation>路徑：%1
+大小：%2
+修改：%3
+副檔名：%4</translation>
     </message>
     <message>
         <source>
 尺寸: %1 × %2</source>
         <translation>
-尺寸: %1 × %2</translation>
+尺寸：%1 × %2</translation>
     </message>
     <message>
         <source>
 相机: %1 %2</source>
         <translation>
-相機: %1 %2</translation>
+相機：%1 %2</translation>
     </message>
     <message>
         <source>
 拍摄: %1</source>
         <translation>
-拍攝: %1</translation>
+拍攝：%1</translation>
     </message>
     <message>
         <source>
 艺术家: %1</source>
         <translation>
-演出者: %1</translation>
+演出者：%1</translation>
     </message>
     <message>
         <source>
 标题: %1</source>
         <translation>
-標題: %1</translation>
+標題：%1</translation>
     </message>
     <message>
         <source>常规模式</source>
@@ -851,7 +851,7 @@
     </message>
     <message>
         <source>• 变体：%1</source>
-        <translation>• 變化：%1</translation>
+        <translation>• 變體：%1</translation>
     </message>
     <message>
         <source>• 匹配：相同内容（字节级）</source>
@@ -1043,7 +1043,7 @@
     </message>
     <message>
         <source>删除文件前先将其移动到备份文件夹</source>
-        <translation>刪除檔案前先將其移至備份資料夾</translation>
+        <translation>將檔案移至備份資料夾，而不刪除</translation>
     </message>
     <message>
         <source>文件预览</source>
@@ -1055,7 +1055,7 @@
     </message>
     <message>
         <source>文件夹: %1</source>
-        <translation>資料夾: %1</translation>
+        <translation>資料夾：%1</translation>
     </message>
     <message>
         <source>无图像预览
@@ -1125,7 +1125,7 @@
     </message>
     <message>
         <source>对比图片 (选 2 个)</source>
-        <translation>比較圖片 (選 2 個)</translation>
+        <translation>比較圖片（選取 2 個）</translation>
     </message>
     <message>
         <source>全选本组重复项</source>
@@ -1161,11 +1161,11 @@
     </message>
     <message>
         <source>勾选时按当前扫描模式扩展名扫描；取消勾选则仅扫描「已包含」列表中的扩展名。</source>
-        <translation>勾選時依目前掃描模式的副檔名掃描；取消勾選則僅掃描「包含」清單中的副檔名。</translation>
+        <translation>勾選時依目前掃描模式的副檔名掃描；取消勾選則僅掃描「已包含」清單中的副檔名。</translation>
     </message>
     <message>
         <source>已排除</source>
-        <translation>排除</translation>
+        <translation>已排除</translation>
     </message>
     <message>
         <source>例如：jpg, png</source>
@@ -1183,7 +1183,7 @@
         <source>图片模式下还扫描 arw、dng、rw2、orf、srw 等相机 RAW 文件；
 raw、cr2、nef 始终扫描。仅在「已包含」列表为空时有效。</source>
         <translation>圖片模式下也掃描 arw、dng、rw2、orf、srw 等相機 RAW 檔；
-raw、cr2、nef 一律會掃描。僅在「包含」清單為空時有效。</translation>
+raw、cr2、nef 一律會掃描。僅在「已包含」清單為空時有效。</translation>
     </message>
     <message>
         <source>文件大小</source>
@@ -1277,7 +1277,7 @@ raw、cr2、nef 一律會掃描。僅在「包含」清單為空時有效。</tr
     </message>
     <message>
         <source>忽略文件名中「副本」字样</source>
-        <translation>忽略檔名中的「副本」字樣</translation>
+        <translation>忽略檔名結尾的 Copy、副本、(2) 等字樣</translation>
     </message>
     <message>
         <source>相同文件大小</source>
@@ -1397,7 +1397,7 @@ raw、cr2、nef 一律會掃描。僅在「包含」清單為空時有效。</tr
     </message>
     <message>
         <source>变换匹配</source>
-        <translation>變形比對</translation>
+        <translation>旋轉與翻轉比對</translation>
     </message>
     <message>
         <source>查找旋转过的</source>
@@ -1505,7 +1505,7 @@ raw、cr2、nef 一律會掃描。僅在「包含」清單為空時有效。</tr
     </message>
     <message>
         <source>无法写入脚本。</source>
-        <translation>無法寫入指令碼。</translation>
+        <translation>無法寫入批次檔。</translation>
     </message>
     <message>
         <source>未知导出格式。</source>
@@ -1513,7 +1513,7 @@ raw、cr2、nef 一律會掃描。僅在「包含」清單為空時有效。</tr
     </message>
     <message>
         <source>批处理脚本无法准确指明该文件，已写为注释: %1</source>
-        <translation>批次檔無法準確指明此檔案，已改寫為註解: %1</translation>
+        <translation>批次檔無法準確指明此檔案，已改寫為註解：%1</translation>
     </message>
     <message>
         <source>Mirrix 重复文件扫描报告</source>
@@ -1521,19 +1521,19 @@ raw、cr2、nef 一律會掃描。僅在「包含」清單為空時有效。</tr
     </message>
     <message>
         <source>生成时间: %1</source>
-        <translation>產生時間: %1</translation>
+        <translation>產生時間：%1</translation>
     </message>
     <message>
         <source>扫描模式: %1</source>
-        <translation>掃描模式: %1</translation>
+        <translation>掃描模式：%1</translation>
     </message>
     <message>
         <source>范围: 仅已勾选文件</source>
-        <translation>範圍: 僅勾選的檔案</translation>
+        <translation>範圍：僅勾選的檔案</translation>
     </message>
     <message>
         <source>说明: 路径已脱敏（用户名已隐藏）</source>
-        <translation>說明: 路徑已去識別化（使用者名稱已隱藏）</translation>
+        <translation>說明：路徑已去識別化（使用者名稱已隱藏）</translation>
     </message>
     <message>
         <source>[组 %1]</source>
@@ -1541,11 +1541,11 @@ raw、cr2、nef 一律會掃描。僅在「包含」清單為空時有效。</tr
     </message>
     <message>
         <source> 键: %1</source>
-        <translation> 索引鍵: %1</translation>
+        <translation> 索引鍵：%1</translation>
     </message>
     <message>
         <source>  (%1 个文件)</source>
-        <translation>  (%1 個檔案)</translation>
+        <translation>  （%1 個檔案）</translation>
     </message>
     <message>
         <source>
@@ -1573,7 +1573,7 @@ raw、cr2、nef 一律會掃描。僅在「包含」清單為空時有效。</tr
     </message>
     <message>
         <source>已停止，其余文件未处理</source>
-        <translation>已停止，其餘檔案未處理</translation>
+        <translation>已停止，尚未處理的檔案維持不變</translation>
     </message>
     <message>
         <source>请先勾选要处理的文件。</source>
@@ -1699,7 +1699,7 @@ raw、cr2、nef 一律會掃描。僅在「包含」清單為空時有效。</tr
     </message>
     <message>
         <source>数据文件夹：%1</source>
-        <translation>資料目錄：%1</translation>
+        <translation>資料存放位置：%1</translation>
     </message>
     <message>
         <source>开源致谢</source>
@@ -1759,7 +1759,7 @@ raw、cr2、nef 一律會掃描。僅在「包含」清單為空時有效。</tr
     </message>
     <message>
         <source>运行脚本会删除其中列出的每个文件，包括要保留的副本；如只删除已勾选的文件，请勾选“仅导出已勾选的文件”</source>
-        <translation>執行指令碼會刪除其中列出的每個檔案，包括要保留的副本；如只要刪除勾選的檔案，請勾選「僅匯出勾選的檔案」</translation>
+        <translation>執行批次檔會刪除其中列出的每個檔案，包括要保留的檔案；如只要刪除勾選的檔案，請勾選「僅匯出勾選的檔案」</translation>
     </message>
     <message>
         <source>输出路径：</source>
@@ -1767,7 +1767,7 @@ raw、cr2、nef 一律會掃描。僅在「包含」清單為空時有效。</tr
     </message>
     <message>
         <source>浏览...</source>
-        <translation>瀏覽...</translation>
+        <translation>瀏覽…</translation>
     </message>
     <message>
         <source>仅导出已勾选的文件</source>
@@ -1847,7 +1847,7 @@ raw、cr2、nef 一律會掃描。僅在「包含」清單為空時有效。</tr
     </message>
     <message>
         <source>先备份再创建链接时可留空：每个链接指向本组中未勾选的文件</source>
-        <translation>先備份再建立連結時可留空：每個連結會指向群組中未勾選的檔案</translation>
+        <translation>先備份再建立連結時可留空：每個連結會指向同一群組中未勾選的檔案</translation>
     </message>
     <message>
         <source>移除前先备份</source>
@@ -1903,11 +1903,11 @@ raw、cr2、nef 一律會掃描。僅在「包含」清單為空時有效。</tr
     </message>
     <message>
         <source>复制：哈希值</source>
-        <translation>複製：雜湊值</translation>
+        <translation>複製雜湊值</translation>
     </message>
     <message>
         <source>复制：文件名</source>
-        <translation>複製：檔名</translation>
+        <translation>複製檔名</translation>
     </message>
     <message>
         <source>图片对比</source>
@@ -2037,7 +2037,7 @@ raw、cr2、nef 一律會掃描。僅在「包含」清單為空時有效。</tr
     </message>
     <message>
         <source>仅影响「相同内容」精确查重的 quick/full 哈希；相似内容采样仍使用 MD5。</source>
-        <translation>僅影響「相同內容」精確比對的 quick/full 雜湊；相似內容取樣仍使用 MD5。</translation>
+        <translation>僅影響「相同內容」精確比對的快速雜湊與完整雜湊；相似內容取樣仍使用 MD5。</translation>
     </message>
     <message>
         <source>缓存与数据</source>
@@ -2129,7 +2129,7 @@ raw、cr2、nef 一律會掃描。僅在「包含」清單為空時有效。</tr
     </message>
     <message>
         <source>…… 另有 %1 行，见详细信息</source>
-        <translation>…… 另有 %1 行，請見詳細資訊</translation>
+        <translation>…… 另有 %1 行，請見詳細資料</translation>
     </message>
     <message>
         <source>…… 另有 %1 行未显示</source>
@@ -2137,15 +2137,15 @@ raw、cr2、nef 一律會掃描。僅在「包含」清單為空時有效。</tr
     </message>
     <message>
         <source>未勾选的文件，未处理: %1</source>
-        <translation>未勾選的檔案，未處理: %1</translation>
+        <translation>未勾選的檔案，未處理：%1</translation>
     </message>
     <message>
         <source>链接目标属于另一组，未处理: %1</source>
-        <translation>連結目標屬於另一個群組，未處理: %1</translation>
+        <translation>連結目標屬於另一個群組，未處理：%1</translation>
     </message>
     <message>
         <source>没有可链接的保留文件，未处理: %1</source>
-        <translation>沒有可連結的保留檔案，未處理: %1</translation>
+        <translation>沒有可連結的保留檔案，未處理：%1</translation>
     </message>
     <message>
         <source>共 %1 个文件</source>
@@ -2159,15 +2159,15 @@ raw、cr2、nef 一律會掃描。僅在「包含」清單為空時有效。</tr
         <source>路径: %1
 大小: %2 字节
 修改: %3</source>
-        <translation>路徑: %1
-大小: %2 位元組
-修改: %3</translation>
+        <translation>路徑：%1
+大小：%2 位元組
+修改：%3</translation>
     </message>
     <message>
         <source>
 GPS: %1, %2</source>
         <translation>
-GPS: %1, %2</translation>
+GPS：%1, %2</translation>
     </message>
     <message>
         <source>时间</source>
