@@ -4,7 +4,10 @@
 #include "actions/aescbc.h"
 #include "actions/backupstore.h"
 #include "actions/exporttexts.h"
+#include "actions/files/binlookup.h"
 #include "actions/operationslog.h"
+#include "actions/records/runhistory.h"
+#include "actions/records/runjournal.h"
 #include "app/settings.h"
 #include "core/cache/cacheroot.h"
 #include "core/cache/fingerprintcache.h"
@@ -126,6 +129,36 @@ void fuzzPlainLog(const QByteArray &input)
     fuzzLog(encryptAesCbc(operationsLogKey(), input));
 }
 
+void fuzzJournal(const QByteArray &content)
+{
+    const QString path = place(u"runs/20240229-120000-0af3.journal"_s);
+    write(path, content);
+    const StoredRun run = readRun(path);
+    demand(run.items.size() == run.outcomes.size(), "each file of a run has an outcome");
+    demand(listRuns(place()).constFirst().totals == run.summary.totals, "a run counts the same in the list");
+}
+
+/// Each line is a record.
+void fuzzPlainJournal(const QByteArray &input)
+{
+    const QString path = place(u"plain"_s);
+    QFile::remove(path);
+    RecordWriter writer(runJournalKey());
+    bool isWritten = writer.create(path);
+    for (const QByteArray &line : input.split('\n'))
+        isWritten = isWritten && writer.append(line);
+    writer.close();
+    QFile file(path);
+    demand(isWritten && file.open(QIODevice::ReadOnly), "records can be written");
+    fuzzJournal(file.readAll());
+}
+
+void fuzzBinNote(const QByteArray &input)
+{
+    for (const std::optional<BinEntry> &entry : {readTrashNote(input, u"/top"_s), readRecycleNote(input)})
+        demand(!entry || !entry->original.isEmpty(), "a note names a file");
+}
+
 void fuzzOptions(const QByteArray &input)
 {
     ScanOptions options;
@@ -190,6 +223,9 @@ constexpr Target targets[] = {
     {"feature", fuzzFeature},
     {"log", fuzzLog},
     {"plainlog", fuzzPlainLog},
+    {"journal", fuzzJournal},
+    {"plainjournal", fuzzPlainJournal},
+    {"binnote", fuzzBinNote},
     {"options", fuzzOptions},
     {"assignment", fuzzAssignment},
     {"extensions", fuzzExtensions},

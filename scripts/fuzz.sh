@@ -8,7 +8,8 @@ seconds=${1:-60}
 shift || true
 targets=("$@")
 if [ ${#targets[@]} -eq 0 ]; then
-    targets=(settings index fingerprint feature log plainlog options assignment extensions redaction rulekey)
+    targets=(settings index fingerprint feature log plainlog journal plainjournal binnote options assignment extensions
+        redaction rulekey)
 fi
 
 cmake --preset fuzz >/dev/null
@@ -33,6 +34,10 @@ seed fingerprint '{"algo":"md5","full":"00","mtimeMs":7,"quick":"717171717171717
 seed feature '{"size":5,"mtimeMs":7,"primary":"ff","variants":["ff","1"],"histogramValid":true,"histogram":"AAAA"}'
 seed log '0123456789abcdef0123456789abcdef' ''
 seed plainlog '[{"t":1,"a":"x","d":"y"}]' '[{"t":1e400,"a":1,"d":"\\ud800"}]' '{}'
+seed journal '' '\x1c\0\0\0012345678901234567890123456789'
+seed plainjournal '{"run":{"planned":2}}\n{"planned":[["/a","/b",1,2,3,4,"","",""]]}\n{"outcomes":[[0,"done","/c","","",5,6]]}\n{"end":{}}'
+seed binnote '[Trash Info]\nPath=a%20b\nDeletionDate=2024-02-29T12:00:00' \
+    '\x02\0\0\0\0\0\0\0\x05\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\x02\0\0\0a\0\0\0'
 seed options '{"roots":["/a"],"minFileBytes":1,"similarPercent":90,"sameName":true,"locations":[{"path":"/a"}]}' '{}'
 seed assignment 'minFileBytes=1' 'createdFromMs=9223372036854775807' 'includeExtensions=a,b' 'roots=["/a"]' 'sameName=true'
 seed extensions '*.jpg; .PNG,,gif' '*.*' ' \t.tar.gz'
@@ -41,7 +46,8 @@ seed rulekey '{"sameName":true,"sameSize":true,"sameFolderPath":true,"folderPath
 
 # Names of members, which libFuzzer cannot see being compared.
 {
-    grep -ohE '"[A-Za-z]{2,30}"' app/settings.cpp core/cache/*.cpp actions/*.cpp ui/logic/locationsjson.cpp | tr -d '"'
+    grep -ohE '"[A-Za-z]{2,30}"' app/settings.cpp core/cache/*.cpp actions/*.cpp actions/records/*.{h,cpp} \
+        ui/logic/locationsjson.cpp | tr -d '"'
     grep -ohE '[A-Za-z]+( = .*)?;' app/settings.h core/scan/scanoptions.h | grep -oE '^[A-Za-z]+'
 } | sort -u | sed 's/.*/"\\"&\\":"/' >build/fuzz/names.dict
 

@@ -45,7 +45,7 @@ BinFolder volumeTrash(const QString &path)
 QList<BinFolder> binFoldersFor(const QString &path)
 {
     const BinFolder own = volumeTrash(path);
-    // The other place that is laid down, which an administrator makes for all users.
+    // The standard's other place, which an administrator makes for all users.
     const BinFolder shared = {own.layout, joinedPath(own.top, QStringLiteral(".Trash/%1").arg(geteuid())), own.top};
     return {homeTrash(), own, shared};
 }

@@ -66,19 +66,25 @@ private:
 
     void take(const QByteArray &text)
     {
-        if (!m_areItemsWanted && text.startsWith(QByteArray("{\"") + plannedMember))
+        const bool isPlan = text.startsWith(QByteArray("{\"") + plannedMember);
+        if (isPlan && !m_areItemsWanted)
             return;
         const QJsonObject record = QJsonDocument::fromJson(text).object();
-        const QJsonArray planned = record[QLatin1String(plannedMember)].toArray();
-        for (const QJsonValue &row : planned) {
-            m_run.outcomes.append({m_run.items.size(), ItemState::Planned, {}, {}, {}, 0, 0});
-            m_run.items.append(itemOf(row.toArray()));
+        const QJsonArray rows = record[QLatin1String(isPlan ? plannedMember : outcomesMember)].toArray();
+        for (const QJsonValue &row : rows) {
+            if (isPlan)
+                take(itemOf(row.toArray()));
+            else
+                take(outcomeOf(row.toArray()));
         }
-        const QJsonArray outcomes = record[QLatin1String(outcomesMember)].toArray();
-        for (const QJsonValue &row : outcomes)
-            take(outcomeOf(row.toArray()));
         if (record.contains(QLatin1String(endMember)))
             m_run.summary.isComplete = true;
+    }
+
+    void take(const RunItem &item)
+    {
+        m_run.outcomes.append({m_run.items.size(), ItemState::Planned, {}, {}, {}, 0, 0});
+        m_run.items.append(item);
     }
 
     void take(const ItemOutcome &outcome)

@@ -84,10 +84,14 @@ bool RunJournalWriter::create(const QString &dataDirectory, RunHeader header, co
     m_id = header.id.isEmpty() ? newRunId(header.startedMs) : header.id;
     header.id = m_id;
     m_path = runJournalPath(dataDirectory, m_id);
+    if (!isRunId(m_id)) {
+        m_error = unwritableText(m_path, m_id);
+        return false;
+    }
     const QString folder = folderOf(m_path);
-    static_cast<void>(makeFolders(folder)); // the reason of a failure is told by what comes next
+    static_cast<void>(makeFolders(folder)); // where that fails, making the file gives the reason
     auto records = std::make_unique<RecordWriter>(runJournalKey());
-    if (!isRunId(m_id) || !records->create(m_path)) {
+    if (!records->create(m_path)) {
         m_error = unwritableText(m_path, records->errorText());
         return false;
     }

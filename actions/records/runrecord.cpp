@@ -24,6 +24,12 @@ ItemState stateNamed(const QString &name)
     return found == stateNames().end() ? ItemState::Planned : static_cast<ItemState>(found - stateNames().begin());
 }
 
+/// Wraps round: no sum of what a journal says may be undefined.
+void addTo(qint64 &sum, qint64 bytes, int sign)
+{
+    sum = static_cast<qint64>(static_cast<quint64>(sum) + static_cast<quint64>(bytes) * static_cast<quint64>(sign));
+}
+
 /// Builds one row, or one object's members.
 class JsonPieces
 {
@@ -89,8 +95,8 @@ void RunTally::count(const Share &share, int sign)
     m_totals.failed += share.state == ItemState::Failed ? sign : 0;
     m_totals.undone += share.state == ItemState::Undone ? sign : 0;
     if (share.state == ItemState::Done) {
-        m_totals.freedBytes += sign * share.freedBytes;
-        m_totals.heldBytes += sign * share.heldBytes;
+        addTo(m_totals.freedBytes, share.freedBytes, sign);
+        addTo(m_totals.heldBytes, share.heldBytes, sign);
     }
 }
 
