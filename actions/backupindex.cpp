@@ -85,13 +85,21 @@ bool isAtHome(const BackupEntry &located)
     return original.kind == PathState::Kind::File && original.sizeBytes == located.sizeBytes;
 }
 
+/// Whether the file was set aside beside its old path and is gone from there for certain: a crash came after it was
+/// removed because its copy had proved equal.
+bool isDiscarded(const BackupEntry &located)
+{
+    return isAsideName(fileNameOf(located.backup)) && isMissing(located.backup) &&
+           pathState(folderOf(located.backup)).kind == PathState::Kind::Folder;
+}
+
 /// The entries of an index as locatedEntries gives them.
 QList<BackupEntry> locatedIn(const QString &folder, const QByteArray &text)
 {
     QList<BackupEntry> entries = entriesIn(text);
     for (BackupEntry &entry : entries)
         entry = locatedEntry(folder, entry);
-    entries.removeIf(isAtHome);
+    entries.removeIf([](const BackupEntry &entry) { return isAtHome(entry) || isDiscarded(entry); });
     return entries;
 }
 

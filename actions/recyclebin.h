@@ -28,7 +28,7 @@ struct RecycleBin
     std::function<Answer(const QStringList &paths)> send;
 
     /// Puts a file back that was just sent, from `placed` where that is known. False when it stays in the bin.
-    std::function<bool(const QString &path, const QString &placed)> putBack;
+    std::function<bool(const QString &path, const QString &placed)> putBack = {};
 };
 
 /// Looks up a file that was just sent to the system's bin and puts it back at its free path.

@@ -49,7 +49,7 @@ QString CleaningRecord::placeOf(qsizetype item) const
 void CleaningRecord::note(qsizetype item, const CleaningOutcome &outcome)
 {
     if (!m_planned.isEmpty() && outcome.now == m_planned[item].backup)
-        m_kept.append(m_planned[item]);
+        m_kept.append(storedEntry(m_planned[item]));
 }
 
 QStringList CleaningRecord::end(qsizetype doneCount)
@@ -67,9 +67,12 @@ QList<BackupEntry> CleaningRecord::plannedEntries() const
     if (!isBackingUp(m_plan.method) && !isDestroying(m_plan.method))
         return {};
     QStringList paths;
-    for (const CleaningItem &item : m_plan.items)
+    QStringList digests;
+    for (const CleaningItem &item : m_plan.items) {
         paths.append(item.file.path);
-    QList<BackupEntry> entries = plannedBackups(m_plan.backupFolder, paths);
+        digests.append(item.digest);
+    }
+    QList<BackupEntry> entries = plannedBackups(m_plan.backupFolder, paths, digests);
     if (isDestroying(m_plan.method)) {
         for (BackupEntry &entry : entries)
             entry.backup = passingName(entry.original, QStringLiteral(".aside"));

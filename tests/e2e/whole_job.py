@@ -74,7 +74,7 @@ class Job:
 
     def tick(self):
         self.desktop.click("Auto-select by rule")
-        self.desktop.await_text("8 files selected")
+        self.desktop.await_text("8 files checked")
 
     def back_up(self):
         self.desktop.click("Move to backup folder")

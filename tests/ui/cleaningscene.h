@@ -48,6 +48,7 @@ struct CleaningScene
     void addGroup(const QStringList &names, const QByteArray &content)
     {
         MirrixCore::DuplicateGroup group;
+        group.isEqualContent = true;
         for (QString name : names) {
             const QString path = tree.write(name.remove(QLatin1Char('*')), content);
             const MirrixCore::FileStatus status = MirrixCore::fileStatus(path);

@@ -78,10 +78,15 @@ public:
     [[nodiscard]] QStringList problems() const { return m_watch.problems(); }
     [[nodiscard]] int filesGone() const { return m_watch.gone(); }
 
-    void inform(QWidget *, const QString &, const QString &) override { look(); }
+    void inform(QWidget *, const QString &, const QString &, const QString &) override { look(); }
     void warn(QWidget *, const QString &, const QString &) override { look(); }
     void fail(QWidget *, const QString &, const QString &) override { look(); }
-    bool ask(QWidget *, const QString &, const QString &) override { return look() && chance(2); }
+    bool ask(QWidget *, const QString &, const QString &, const QString &) override { return look() && chance(2); }
+    qsizetype choose(QWidget *, const Mirrix::ChoiceRequest &request) override
+    {
+        look();
+        return m_random.bounded(int(request.buttons.size()));
+    }
 
     Mirrix::Confirmation confirm(QWidget *, const Mirrix::ConfirmationRequest &) override
     {

@@ -70,7 +70,7 @@ void TestRemovalCommand::whatIsNotEqualStays()
     QFETCH(bool, isEqualContent);
     QFETCH(bool, isGone);
     Scene scene;
-    scene.results.isEqualContent = isEqualContent;
+    scene.results.groups[0].isEqualContent = isEqualContent;
     scene.addGroup({QStringLiteral("a*"), QStringLiteral("b")}, "one");
     scene.tree.write(QStringLiteral("a"), "two");
     scene.tree.setModified(QStringLiteral("a"), scene.results.groups[0].files[0].modifiedMs);
