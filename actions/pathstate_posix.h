@@ -1,6 +1,7 @@
 #pragma once
 
 #include "actions/nativefile.h"
+#include "core/platform/epochtime.h"
 
 #include <sys/stat.h>
 
@@ -20,7 +21,7 @@ inline PathState pathStateFrom(const struct stat &info)
                  : S_ISDIR(info.st_mode) ? PathState::Kind::Folder
                                          : PathState::Kind::Other;
     state.sizeBytes = info.st_size;
-    state.modifiedMs = qint64(info.st_mtim.tv_sec) * 1000 + info.st_mtim.tv_nsec / 1000000;
+    state.modifiedMs = MirrixCore::epochMsFrom(info.st_mtim.tv_sec, info.st_mtim.tv_nsec);
     state.modifiedExact = nanosecondsOf(info.st_mtim);
     state.changedExact = nanosecondsOf(info.st_ctim);
     state.mode = info.st_mode & 07777;

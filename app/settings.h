@@ -34,9 +34,9 @@ struct Settings
     bool scanDoneBeep = false;
     bool skipScanConfirm = false;
     bool compareWholeContents = false; ///< before recycling, moving and backing up, too
-    QJsonObject window;             ///< where the main window was, as ui/windowmemory.h tells it
-    QString uiLanguage;             ///< a code of languagecodes.h
-    bool languageWasStored = false; ///< whether the file named a language; not stored
+    QJsonObject window;                ///< where the main window was, as ui/windowmemory.h tells it
+    QString uiLanguage;                ///< a code of languagecodes.h
+    bool languageWasStored = false;    ///< whether the file named a language; not stored
 
     QString directory;         ///< the data directory the settings belong to; not stored
     QJsonObject unknown;       ///< members of the file that this version does not know; written back

@@ -33,10 +33,11 @@ public:
 
     int exportFormat = 0; ///< the number of the next export's form
 
-    void inform(QWidget *, const QString &, const QString &) override {}
+    void inform(QWidget *, const QString &, const QString &, const QString &) override {}
     void warn(QWidget *, const QString &, const QString &text) override { complain(text); }
     void fail(QWidget *, const QString &, const QString &text) override { complain(text); }
-    bool ask(QWidget *, const QString &, const QString &) override { return true; }
+    bool ask(QWidget *, const QString &, const QString &, const QString &) override { return true; }
+    qsizetype choose(QWidget *, const Mirrix::ChoiceRequest &) override { return 0; }
     Mirrix::Confirmation confirm(QWidget *, const Mirrix::ConfirmationRequest &) override { return {true, false}; }
     QStringList chooseFiles(QWidget *, const QString &, const QString &) override { return {}; }
     QString chooseFolder(QWidget *, const QString &, const QString &) override { return {}; }

@@ -80,10 +80,12 @@ ExitStatus apply(const CleaningPlan &plan, OperationsLog &log, bool isComplete)
     }
     for (const QString &error : std::as_const(result.errors))
         printError(error);
-    printText(QStringLiteral("%1 of %2 files done (%3); %4\n")
-                  .arg(result.count)
-                  .arg(plan.items.size())
-                  .arg(methodName(plan.method), spaceText(result.space)));
+    const QString account = QStringLiteral("%1 of %2 files done (%3)")
+                                .arg(result.count)
+                                .arg(plan.items.size())
+                                .arg(methodName(plan.method));
+    printText(plan.items.isEmpty() ? account + QLatin1Char('\n')
+                                   : QStringLiteral("%1; %2\n").arg(account, spaceText(result.space)));
     if (result.isCancelled)
         return cancelled();
     return result.errors.isEmpty() && isComplete ? ExitStatus::Done : ExitStatus::SomeFailed;

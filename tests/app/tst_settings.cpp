@@ -116,6 +116,7 @@ void SettingsTest::everyMemberTravels()
     settings.contentHashAlgorithm = ContentHashAlgorithm::Blake3;
     settings.closeToTray = false;
     settings.scanDoneBeep = true;
+    settings.compareWholeContents = true;
     settings.skipScanConfirm = true;
     settings.uiLanguage = u"ja"_s;
     settings.languageWasStored = true;

@@ -524,8 +524,9 @@ void ScanCommandTest::oddNames()
     const QStringList folders = {m_tree->path(u"one"_s), m_tree->path(u"two/sub"_s)};
     QCOMPARE(groupsIn(scanAsJson(folders).output), (QList<QStringList>{{file, other}}));
     const QByteArray text = scan(folders).output;
-    for (const QString &path : {file, other})
-        QVERIFY2(text.contains("\n  " + path.toUtf8() + '\n'), text.constData());
+    for (QString path : {file, other}) // a line break would forge a line
+        QVERIFY2(text.contains("\n  " + path.replace(u'\n', u'?').replace(u'\r', u'?').toUtf8() + '\n'),
+                 text.constData());
 }
 
 void ScanCommandTest::namesOfBytes()

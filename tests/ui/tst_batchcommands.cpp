@@ -119,6 +119,7 @@ void TestBatchCommands::stoppingLeavesNothingHalfDone()
     for (int i = 0; i < 3000; ++i)
         names.append(QStringLiteral("f%1*").arg(i));
     scene.addGroup(names, "x");
+    scene.prompts.choices = {1}; // without a copy that stays
     scene.prompts.answers = {true};
     QTimer clicker;
     connect(&clicker, &QTimer::timeout, &scene.window, [&scene] {
@@ -133,7 +134,7 @@ void TestBatchCommands::stoppingLeavesNothingHalfDone()
     QVERIFY(!scene.commands.isBusy());
     const qsizetype left = QDir(scene.tree.path()).entryList({QStringLiteral("f*")}, QDir::Files).size();
     const qsizetype moved = names.size() - left;
-    QCOMPARE(scene.prompts.asked.size(), 2);
+    QCOMPARE(scene.prompts.asked.size(), 3);
     QCOMPARE(scene.prompts.asked.last(), text("完成|已备份移动 %1 个文件。\n请重新扫描以刷新结果。").arg(moved));
     QCOMPARE(scene.logged(), QStringList(QStringLiteral("backup_batch count=%1").arg(moved)));
     QCOMPARE(Mirrix::loadBackupIndex(scene.backup()).size(), moved);
@@ -181,6 +182,10 @@ void TestBatchCommands::everyCopyThereAndBack()
     Scene scene;
     scene.addGroup({QStringLiteral("a*"), QStringLiteral("b*"), QStringLiteral("deep/a*")}, "the only content");
     const auto before = MirrixTest::treeBelow(scene.tree.path());
+    scene.prompts.choices = {2, 1, 0}; // give up, go on, and untick one
+    scene.commands.moveCheckedToBackup();
+    QCOMPARE(scene.prompts.asked, QStringList(text("没有保留的副本|有 1 组将不会留下任何副本。")));
+    QCOMPARE(MirrixTest::treeBelow(scene.tree.path()), before);
     scene.prompts.answers = {true};
     scene.commands.moveCheckedToBackup();
     QVERIFY(!scene.has("a") && !scene.has("b") && !scene.has("deep/a"));
@@ -191,6 +196,12 @@ void TestBatchCommands::everyCopyThereAndBack()
     auto after = MirrixTest::treeBelow(scene.tree.path());
     after.removeIf([&](const auto &file) { return !before.contains(file.key()); }); // the store's own
     QCOMPARE(after, before);
+
+    scene.prompts.onRun = nullptr;
+    scene.prompts.answers = {true};
+    scene.commands.moveCheckedToBackup();
+    QCOMPARE(scene.marks(), QStringLiteral("011")); // "a" is the first of equally new ones
+    QVERIFY(scene.has("a") && !scene.has("b") && !scene.has("deep/a"));
 }
 
 QTEST_MAIN(TestBatchCommands)

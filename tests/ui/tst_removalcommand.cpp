@@ -60,7 +60,8 @@ void TestRemovalCommand::whatIsNotEqualStays_data()
     using Mirrix::RemovalMethod;
     QTest::newRow("deleted as equal") << RemovalMethod::Delete << true << false;
     QTest::newRow("deleted as alike") << RemovalMethod::Delete << false << true;
-    QTest::newRow("moved as equal") << RemovalMethod::Move << true << true;
+    QTest::newRow("moved as equal") << RemovalMethod::Move << true << false;
+    QTest::newRow("moved as alike") << RemovalMethod::Move << false << true;
 }
 
 /// Files of one size in a group: where the scan was for equal contents, they are compared before one is destroyed.
@@ -70,8 +71,8 @@ void TestRemovalCommand::whatIsNotEqualStays()
     QFETCH(bool, isEqualContent);
     QFETCH(bool, isGone);
     Scene scene;
-    scene.results.groups[0].isEqualContent = isEqualContent;
     scene.addGroup({QStringLiteral("a*"), QStringLiteral("b")}, "one");
+    scene.results.groups[0].isEqualContent = isEqualContent;
     scene.tree.write(QStringLiteral("a"), "two");
     scene.tree.setModified(QStringLiteral("a"), scene.results.groups[0].files[0].modifiedMs);
     scene.prompts.answers = {true, true};
@@ -79,6 +80,8 @@ void TestRemovalCommand::whatIsNotEqualStays()
     scene.commands.removeChecked();
     QCOMPARE(scene.has("a"), !isGone);
     QVERIFY(scene.has("b"));
+    const QString note = text("部分组不是按内容匹配的，处理前不会比较这些文件的内容。");
+    QCOMPARE(scene.prompts.notes.contains(note), !isEqualContent && method == Mirrix::RemovalMethod::Delete);
 }
 
 void TestRemovalCommand::removalByMethod_data()
@@ -174,6 +177,7 @@ void TestRemovalCommand::linksAfterBackup()
     Scene scene;
     scene.addGroup(words(names), "one");
     scene.addGroup({QStringLiteral("other"), QStringLiteral("another")}, "two");
+    scene.prompts.choices = {1};
     scene.choose(Mirrix::RemovalMethod::HardLink, true, {}, target.isEmpty() ? target : scene.tree.path(target));
     scene.commands.removeChecked();
     for (QString name : words(names))
@@ -186,6 +190,7 @@ void TestRemovalCommand::linksAfterBackup()
     const qsizetype count = words(linked).size();
     QCOMPARE(Mirrix::restorableEntries(scene.backup()).size(), count);
     const qsizetype refused = names.count(QLatin1Char('*')) - count;
+    scene.prompts.asked.removeIf([](const QString &box) { return box.startsWith(text("没有保留的副本")); });
     QCOMPARE(scene.prompts.asked.size(), refused > 0 ? 2 : 1);
     QVERIFY(refused == 0 || scene.prompts.asked.first().startsWith(text("备份警告|部分文件备份失败：\n")));
     QCOMPARE(scene.prompts.asked.last(), text("完成|已备份并移除 %1 个文件。请重新扫描以刷新结果。").arg(count));
