@@ -2,6 +2,7 @@
 
 #include "actions/nativefile.h"
 
+#include <QByteArray>
 #include <QString>
 
 #include <functional>
@@ -70,7 +71,9 @@ enum class Comparison
     Stopped
 };
 
-/// Compares all bytes of two open files, in pieces of 1 MiB.
-[[nodiscard]] Comparison compareContents(HeldFile &one, HeldFile &other, const StopQuery &isStopped = {});
+/// Compares all bytes of two open files, in pieces of 1 MiB. Where they are equal and `digest` is given, it gets their
+/// BLAKE3 digest.
+[[nodiscard]] Comparison compareContents(HeldFile &one, HeldFile &other, const StopQuery &isStopped = {},
+                                         QByteArray *digest = nullptr);
 
 } // namespace Mirrix

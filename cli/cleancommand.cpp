@@ -10,6 +10,8 @@
 #include "cli/scancommand.h"
 #include "cli/terminal.h"
 
+#include <QCoreApplication>
+
 #include <utility>
 
 namespace MirrixCli {
@@ -68,12 +70,12 @@ ExitStatus cancelled()
 }
 
 /// Carries the plan out. `isComplete`: whether the scan read everything.
-ExitStatus apply(const CleaningPlan &plan, OperationsLog &log, bool isComplete)
+ExitStatus apply(const CleaningPlan &plan, const CleaningServices &services, bool isComplete)
 {
     CleaningResult result;
     if (!plan.items.isEmpty()) {
         ProgressLine line;
-        result = runCleaning(plan, {log}, [&](qsizetype done, qsizetype total) {
+        result = runCleaning(plan, services, [&](qsizetype done, qsizetype total) {
             line.show({total, done, total, plan.items[done].file.path, QStringLiteral("cleaning")});
             return !isInterrupted();
         });
@@ -121,7 +123,8 @@ ExitStatus runClean(const QCommandLineParser &parser)
                                       markedByRuleEvent(request.rule, plan.items.size())});
     if (!isLogged)
         printError(QStringLiteral("cannot write the log %1").arg(log.filePath()));
-    return apply(plan, log, isComplete && isLogged);
+    const QString command = QCoreApplication::arguments().mid(1).join(QLatin1Char(' '));
+    return apply(plan, {log, dataDirectoryOf(parser), command}, isComplete && isLogged);
 }
 
 } // namespace MirrixCli

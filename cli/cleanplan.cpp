@@ -26,31 +26,21 @@ const QString compareOption = QStringLiteral("compare-contents");
 constexpr std::array methods = {CleaningMethod::Recycle,      CleaningMethod::Delete,   CleaningMethod::Move,
                                 CleaningMethod::SymbolicLink, CleaningMethod::HardLink, CleaningMethod::Backup};
 
-const QStringList ruleNames = {QStringLiteral("newest"), QStringLiteral("oldest"), QStringLiteral("shallowest"),
-                               QStringLiteral("deepest")};
+constexpr std::array rules = {KeepRule::Newest, KeepRule::Oldest, KeepRule::Shallowest, KeepRule::Deepest};
 
-KeepRule ruleOf(const QString &name)
-{
-    const qsizetype index = ruleNames.indexOf(name);
-    if (index < 0)
-        throw UsageError{
-            name.isEmpty()
-                ? QStringLiteral("--keep is missing; it takes %1").arg(ruleNames.join(QStringLiteral(", ")))
-                : QStringLiteral("--keep takes %1, not \"%2\"").arg(ruleNames.join(QStringLiteral(", ")), name)};
-    return static_cast<KeepRule>(index);
-}
-
-CleaningMethod methodOf(const QString &name)
+/// The value of `values` that has the name; throws UsageError where none has.
+template <typename Values, typename NameOf>
+auto named(const QString &option, const QString &name, const Values &values, NameOf nameOf)
 {
     QStringList names;
-    for (const CleaningMethod method : methods) {
-        if (methodName(method) == name)
-            return method;
-        names.append(methodName(method));
+    for (const auto value : values) {
+        if (nameOf(value) == name)
+            return value;
+        names.append(nameOf(value));
     }
-    throw UsageError{name.isEmpty()
-                         ? QStringLiteral("--method is missing; it takes %1").arg(names.join(QStringLiteral(", ")))
-                         : QStringLiteral("--method takes %1, not \"%2\"").arg(names.join(QStringLiteral(", ")), name)};
+    const QString known = names.join(QStringLiteral(", "));
+    throw UsageError{name.isEmpty() ? QStringLiteral("--%1 is missing; it takes %2").arg(option, known)
+                                    : QStringLiteral("--%1 takes %2, not \"%3\"").arg(option, known, name)};
 }
 
 void readFolders(const QCommandLineParser &parser, CleaningPlan &plan)
@@ -113,8 +103,9 @@ void addPlanOptions(QCommandLineParser &parser)
 CleanRequest cleanRequestOf(const QCommandLineParser &parser)
 {
     CleanRequest request;
-    request.rule = ruleOf(parser.value(keepOption));
-    request.plan.method = methodOf(parser.value(methodOption));
+    request.rule = named(keepOption, parser.value(keepOption), rules, ruleName);
+    request.plan.rule = ruleName(request.rule);
+    request.plan.method = named(methodOption, parser.value(methodOption), methods, methodName);
     readFolders(parser, request.plan);
     request.plan.comparesWholeContents =
         parser.isSet(compareOption) || readSettings(dataDirectoryOf(parser)).compareWholeContents;

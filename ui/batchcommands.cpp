@@ -172,7 +172,7 @@ CleaningResult BatchCommands::clean(const QString &label, CleaningPlan plan, con
     static_cast<void>(run(label, [&](const BatchControl &control) {
         QStringList refusals;
         plan.items = makeItems(refusals);
-        result = runCleaning(plan, {m_log}, control.progress);
+        result = runCleaning(plan, {m_log, m_settings.directory, QStringLiteral("window")}, control.progress);
         result.errors = refusals + result.errors;
         return static_cast<const BatchResult &>(result);
     }));

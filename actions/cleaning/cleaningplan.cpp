@@ -101,6 +101,13 @@ QString takingFolder(const CleaningPlan &plan)
     return isBackingUp(plan.method) ? plan.backupFolder : QString();
 }
 
+QString ruleName(KeepRule rule)
+{
+    static const std::array<QString, 4> names = {QStringLiteral("newest"), QStringLiteral("oldest"),
+                                                 QStringLiteral("shallowest"), QStringLiteral("deepest")};
+    return names[static_cast<size_t>(rule)];
+}
+
 GroupChoice chooseInGroup(const QList<FileEntry> &files, KeepRule rule)
 {
     return choice(files, [rule](const QList<FileEntry> &candidates) { return chooseKeeper(candidates, rule); });

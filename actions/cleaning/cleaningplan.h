@@ -67,12 +67,16 @@ struct CleaningPlan
     QString targetFolder;               ///< of Move
     QString backupFolder;               ///< absolute; also lists what is set aside while it is worked on
     bool comparesWholeContents = false; ///< before moving, too, not only before destroying
+    QString rule;                       ///< what chose the files, for the record; may be empty
     bool isBackupBeforeRemoval = false; ///< backed up because the user asked for that in the removal dialog
     QList<CleaningItem> items;
 };
 
 /// The folder into which a plan moves files; empty when it moves none.
 [[nodiscard]] QString takingFolder(const CleaningPlan &plan);
+
+/// "newest", "oldest", "shallowest" or "deepest".
+[[nodiscard]] QString ruleName(KeepRule rule);
 
 /// Which file of a group stays by a rule, and which ones go. Files that lie where copies are put away neither stay nor
 /// go by a rule.

@@ -1,11 +1,13 @@
 #include "actions/cleaning/cleaningrecord.h"
 
 #include "actions/backupstore.h"
+#include "actions/cleaning/cleaningrun.h"
 #include "actions/movefile.h"
 #include "actions/operationslog.h"
 #include "actions/records/logevents.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 
 namespace Mirrix {
 
@@ -18,21 +20,24 @@ QString unrecordedText(const QString &path)
 
 } // namespace
 
-CleaningRecord::CleaningRecord(const CleaningPlan &plan, OperationsLog &log)
+CleaningRecord::CleaningRecord(const CleaningPlan &plan, const CleaningServices &services)
     : m_plan(plan)
-    , m_log(log)
+    , m_services(services)
 {}
 
 QStringList CleaningRecord::begin()
 {
-    if (!m_log.append(QList<LogEntry>()))
-        return {unrecordedText(m_log.filePath())};
+    if (!m_services.log.append(QList<LogEntry>()))
+        return {unrecordedText(m_services.log.filePath())};
     m_planned = plannedEntries();
+    if (!m_plan.items.isEmpty() && !beginJournal())
+        return {m_journal.errorText()};
     if (m_planned.isEmpty())
         return {};
     m_index.emplace(m_plan.backupFolder);
     if (m_index->announce(m_planned))
         return {};
+    static_cast<void>(m_journal.finish());
     QStringList problems;
     for (const CleaningItem &item : m_plan.items) {
         if (isBackingUp(m_plan.method))
@@ -41,24 +46,68 @@ QStringList CleaningRecord::begin()
     return problems.isEmpty() ? QStringList(unrecordedText(m_plan.backupFolder)) : problems;
 }
 
+bool CleaningRecord::beginJournal()
+{
+    RunHeader header;
+    header.startedMs = QDateTime::currentMSecsSinceEpoch();
+    header.command = m_services.command;
+    header.method = methodName(m_plan.method);
+    header.target = takingFolder(m_plan);
+    header.rule = m_plan.rule;
+    return m_journal.create(m_services.dataDirectory, header, plannedItems());
+}
+
+QList<RunItem> CleaningRecord::plannedItems() const
+{
+    QList<RunItem> items;
+    items.reserve(m_plan.items.size());
+    for (qsizetype i = 0; i < m_plan.items.size(); ++i) {
+        const CleaningItem &item = m_plan.items[i];
+        const PathState state = pathState(item.file.path);
+        RunItem planned;
+        planned.original = item.file.path;
+        planned.kept = item.kept.path;
+        planned.sizeBytes = item.file.sizeBytes;
+        planned.modifiedMs = item.file.modifiedMs;
+        planned.modifiedExact = state.modifiedExact;
+        planned.mode = state.mode;
+        planned.digest = item.digest;
+        planned.aside = placeOf(i);
+        items.append(planned);
+    }
+    return items;
+}
+
 QString CleaningRecord::placeOf(qsizetype item) const
 {
     return m_planned.isEmpty() ? QString() : m_planned[item].backup;
 }
 
-void CleaningRecord::note(qsizetype item, const CleaningOutcome &outcome)
+bool CleaningRecord::note(qsizetype item, const CleaningOutcome &outcome, const Space &space)
 {
-    if (!m_planned.isEmpty() && outcome.now == m_planned[item].backup)
+    const bool isInPlannedPlace = !m_planned.isEmpty() && outcome.now == m_planned[item].backup;
+    if (isInPlannedPlace)
         m_kept.append(storedEntry(m_planned[item]));
+    ItemOutcome noted;
+    noted.item = item;
+    noted.state = outcome.problem.isEmpty() ? ItemState::Done : ItemState::Failed;
+    noted.now = outcome.now;
+    noted.message = outcome.problem;
+    noted.digest = outcome.digest;
+    noted.freedBytes = space.freedBytes;
+    noted.heldBytes = space.heldInBackupBytes + space.heldInBinBytes;
+    return m_journal.outcome(noted);
 }
 
 QStringList CleaningRecord::end(qsizetype doneCount)
 {
     QStringList problems;
+    if (!m_plan.items.isEmpty() && !m_journal.finish())
+        problems.append(m_journal.errorText());
     if (m_index && !m_index->conclude(m_kept))
         problems.append(QCoreApplication::translate("Mirrix", "无法更新备份索引: %1").arg(m_plan.backupFolder));
-    if (!m_log.append({cleaningEvent(m_plan, doneCount)}))
-        problems.append(QCoreApplication::translate("Mirrix", "无法写入操作日志: %1").arg(m_log.filePath()));
+    if (!m_services.log.append({cleaningEvent(m_plan, doneCount)}))
+        problems.append(QCoreApplication::translate("Mirrix", "无法写入操作日志: %1").arg(m_services.log.filePath()));
     return problems;
 }
 

@@ -3,6 +3,8 @@
 #include "actions/backupindex.h"
 #include "actions/cleaning/cleaningplan.h"
 #include "actions/cleaning/discard.h"
+#include "actions/cleaning/spaceaccount.h"
+#include "actions/records/runjournal.h"
 
 #include <QStringList>
 
@@ -10,14 +12,14 @@
 
 namespace Mirrix {
 
-class OperationsLog;
+struct CleaningServices;
 
-/// What is kept of a run while it goes on: the backup index lists each file that may be away from its place, and the
-/// log gets its line at the end. One run, one thread.
+/// What is kept of a run while it goes on: the journal tells of each file what was planned and done, the backup index
+/// lists each file that may be away from its place, and the log gets its line at the end. One run, one thread.
 class CleaningRecord
 {
 public:
-    CleaningRecord(const CleaningPlan &plan, OperationsLog &log);
+    CleaningRecord(const CleaningPlan &plan, const CleaningServices &services);
 
     /// Writes down what is going to happen. Empty, or the reasons for which nothing may be done.
     [[nodiscard]] QStringList begin();
@@ -25,17 +27,22 @@ public:
     /// Where the file of an item goes: into the backup folder, or aside; empty where the method decides that itself.
     [[nodiscard]] QString placeOf(qsizetype item) const;
 
-    /// What was done with an item.
-    void note(qsizetype item, const CleaningOutcome &outcome);
+    /// What was done with an item, and what that freed and holds. False when it could not be written down.
+    [[nodiscard]] bool note(qsizetype item, const CleaningOutcome &outcome, const Space &space);
+
+    [[nodiscard]] const QString &runId() const { return m_journal.id(); }
 
     /// Writes down what has happened. The reasons for which that failed.
     [[nodiscard]] QStringList end(qsizetype doneCount);
 
 private:
+    [[nodiscard]] bool beginJournal();
+    [[nodiscard]] QList<RunItem> plannedItems() const;
     [[nodiscard]] QList<BackupEntry> plannedEntries() const;
 
     const CleaningPlan &m_plan;
-    OperationsLog &m_log;
+    const CleaningServices &m_services;
+    RunJournalWriter m_journal;
     std::optional<BackupIndexSession> m_index;
     QList<BackupEntry> m_planned;
     QList<BackupEntry> m_kept;

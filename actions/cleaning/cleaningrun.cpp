@@ -23,7 +23,7 @@ public:
         : m_plan(plan)
         , m_services(services)
         , m_progress(progress)
-        , m_record(plan, services.log)
+        , m_record(plan, services)
         , m_target(takingFolder(plan))
         , m_account(plan.method, takingFolder(plan))
     {}
@@ -34,11 +34,11 @@ public:
         if (!m_result.errors.isEmpty())
             return m_result;
         const qsizetype step = m_plan.method == CleaningMethod::Recycle ? m_services.bin.batchSize : 1;
+        m_result.runId = m_record.runId();
         for (qsizetype i = 0; i < m_plan.items.size(); i += step) {
             m_result.isCancelled = !mayGoOn(i);
-            if (m_result.isCancelled)
-                break;
-            handle(i, m_plan.items.mid(i, step));
+            if (m_result.isCancelled || !handle(i, m_plan.items.mid(i, step)))
+                break; // what cannot be recorded is not done; the end of the record says why
         }
         m_result.space = m_account.total();
         m_result.errors += m_record.end(m_result.count);
@@ -48,7 +48,8 @@ public:
 private:
     [[nodiscard]] bool mayGoOn(qsizetype done) const { return !m_progress || m_progress(done, m_plan.items.size()); }
 
-    void handle(qsizetype first, const QList<CleaningItem> &items)
+    /// False when what was done could not be written down.
+    [[nodiscard]] bool handle(qsizetype first, const QList<CleaningItem> &items)
     {
         QList<PathState> before;
         for (const CleaningItem &item : items)
@@ -57,8 +58,10 @@ private:
         const QList<CleaningOutcome> outcomes = m_plan.method == CleaningMethod::Recycle
                                                     ? recycleBatch(items, isStopped)
                                                     : QList{clean(items.constFirst(), first, isStopped)};
+        bool isNoted = true;
         for (qsizetype i = 0; i < items.size(); ++i)
-            note(first + i, before[i], outcomes[i]);
+            isNoted = note(first + i, before[i], outcomes[i]) && isNoted;
+        return isNoted;
     }
 
     [[nodiscard]] QList<CleaningOutcome> recycleBatch(const QList<CleaningItem> &items, const StopQuery &isStopped)
@@ -83,15 +86,16 @@ private:
                         m_plan.comparesWholeContents, isStopped);
     }
 
-    void note(qsizetype index, const PathState &before, const CleaningOutcome &outcome)
+    [[nodiscard]] bool note(qsizetype index, const PathState &before, const CleaningOutcome &outcome)
     {
-        m_record.note(index, outcome);
-        if (!outcome.problem.isEmpty()) {
+        const Space earlier = m_account.total();
+        if (outcome.problem.isEmpty()) {
+            ++m_result.count;
+            m_account.add(before.sizeBytes, before.identity);
+        } else {
             m_result.errors.append(outcome.problem);
-            return;
         }
-        ++m_result.count;
-        m_account.add(before.sizeBytes, before.identity);
+        return m_record.note(index, outcome, m_account.total() - earlier);
     }
 
     const CleaningPlan &m_plan;

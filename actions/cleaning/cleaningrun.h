@@ -15,12 +15,15 @@ class OperationsLog;
 struct CleaningServices
 {
     OperationsLog &log;
+    QString dataDirectory; ///< holds the journals of runs
+    QString command;       ///< what asked for the run, for the record: "window" or the console's command line
     RecycleBin bin = systemRecycleBin();
 };
 
 struct CleaningResult : BatchResult
 {
-    Space space; ///< of the files that were dealt with
+    Space space;   ///< of the files that were dealt with
+    QString runId; ///< under which the run is recorded; empty when nothing was to be done
 };
 
 /// Carries a plan out, file by file: the only place where files are given up. What cannot be recorded is not done: when

@@ -1,5 +1,6 @@
 #include "actions/cleaning/discard.h"
 
+#include "actions/backupcheck.h"
 #include "actions/cleaning/itemchecks.h"
 #include "actions/fileoperations.h"
 #include "actions/movefile.h"
@@ -63,6 +64,9 @@ public:
         return undeletableText(m_item);
     }
 
+    /// Of the content that both files have; empty where they were not compared.
+    [[nodiscard]] const QString &digest() const { return m_digest; }
+
     [[nodiscard]] CleaningOutcome putBack(const QString &problem)
     {
         m_surplus.close();
@@ -78,10 +82,14 @@ private:
     {
         if (!m_item.isEqualContent)
             return {};
-        const Comparison comparison = compareContents(m_surplus, m_kept, isStopped);
+        QByteArray digest;
+        const Comparison comparison = compareContents(m_surplus, m_kept, isStopped, &digest);
         if (comparison == Comparison::Stopped)
             return stoppedText(m_item.file.path);
-        return comparison == Comparison::Equal ? QString() : differsText(m_item.file.path);
+        if (comparison != Comparison::Equal)
+            return differsText(m_item.file.path);
+        m_digest = backupDigest(digest, MirrixCore::ContentHashAlgorithm::Blake3);
+        return {};
     }
 
     /// Whether both still are what was compared, at their places.
@@ -113,6 +121,7 @@ private:
     const CleaningItem &m_item;
     CleaningMethod m_method;
     QString m_asidePath;
+    QString m_digest;
     HeldFile m_surplus;
     HeldFile m_kept;
 };
@@ -133,7 +142,7 @@ CleaningOutcome discard(const CleaningItem &item, CleaningMethod method, const Q
     problem = step.proofProblem(durable, isStopped);
     if (problem.isEmpty())
         problem = step.act();
-    return problem.isEmpty() ? CleaningOutcome() : step.putBack(problem);
+    return problem.isEmpty() ? CleaningOutcome{{}, {}, step.digest()} : step.putBack(problem);
 }
 
 } // namespace Mirrix

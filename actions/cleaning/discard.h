@@ -11,8 +11,9 @@ namespace Mirrix {
 /// What working on one file came to.
 struct CleaningOutcome
 {
-    QString problem; ///< why nothing was done, translated; empty when the file was dealt with
-    QString now;     ///< where the file is, when that is neither its old place nor nowhere
+    QString problem;     ///< why nothing was done, translated; empty when the file was dealt with
+    QString now;         ///< where the file is, when that is neither its old place nor nowhere
+    QString digest = {}; ///< "blake3:HEX" of the content that was found equal; empty where it was not read whole
 };
 
 /// Destroys the surplus file of `item`, or puts a link in its place, once it is proved that the kept file is another

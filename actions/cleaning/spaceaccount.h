@@ -17,6 +17,11 @@ struct Space
     qint64 heldInBinBytes = 0;    ///< taken until the recycle bin is emptied
 
     bool operator==(const Space &) const = default;
+    [[nodiscard]] Space operator-(const Space &other) const
+    {
+        return {freedBytes - other.freedBytes, heldInBackupBytes - other.heldInBackupBytes,
+                heldInBinBytes - other.heldInBinBytes};
+    }
 };
 
 /// Adds up what the files of one run free and hold. A file with further names counts when its last one goes.

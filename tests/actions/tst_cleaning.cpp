@@ -115,7 +115,7 @@ private:
     [[nodiscard]] CleaningResult run(const CleaningPlan &plan, const BatchProgress &progress = {}) const
     {
         OperationsLog log(path("data/log"));
-        return runCleaning(plan, {log, folderBin(path("bin"))}, progress);
+        return runCleaning(plan, {log, path("data"), u"test"_s, folderBin(path("bin"))}, progress);
     }
 
     std::unique_ptr<TempTree> m_tree;
@@ -336,7 +336,8 @@ void CleaningTest::contraryPrograms()
             mine.targetFolder += QString::number(number) + QString::number(round);
             mine.items = {{number ? one : other, number ? other : one, {}, {}, true}};
             OperationsLog log(m_tree->path(u"data/log%1"_s.arg(number)));
-            results[number] = runCleaning(mine, {log, folderBin(m_tree->path(u"bin%1%2"_s.arg(number).arg(round)))});
+            const RecycleBin bin = folderBin(m_tree->path(u"bin%1%2"_s.arg(number).arg(round)));
+            results[number] = runCleaning(mine, {log, m_tree->path(u"data%1"_s.arg(number)), u"test"_s, bin});
         };
         std::thread second(clean, 1);
         clean(0);

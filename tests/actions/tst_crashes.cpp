@@ -102,7 +102,7 @@ void clean(const QString &name, const QString &root, const QString &store, const
     for (const QString &path : paths)
         plan.items.append({scanned(path), scanned(root + u"/keeper"_s), {}, {}, true});
     OperationsLog log(root + u"/log"_s);
-    static_cast<void>(runCleaning(plan, {log}));
+    static_cast<void>(runCleaning(plan, {log, root + u"/data"_s, u"test"_s}));
 }
 
 /// What the killed process does; all of it below `root`, the store at `store`.
