@@ -1,0 +1,53 @@
+#pragma once
+
+#include "actions/batch.h"
+#include "actions/cleaning/cleaningrun.h"
+#include "actions/records/runhistory.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+namespace Mirrix {
+
+/// One file of a run and whether it can come back.
+struct UndoStep
+{
+    qsizetype item = 0; ///< index in the run's list
+    QString problem;    ///< why the file cannot come back, translated; empty when it can, as far as a look tells
+};
+
+/// What undoing a run would do. A plain value: nothing has been done yet.
+struct UndoPlan
+{
+    StoredRun run;
+    QList<UndoStep> steps; ///< for each file that is not at its place because of the run, in the run's order
+};
+
+/// Reads a run and looks where its files are; contents are not read. Files that the run did not touch, that are back
+/// already or that stand at their place have no step. What a run that was cut short did with a file, the disk tells. Not
+/// for journals that cannot be read: see run.summary. Blocks; cancelled by `progress`.
+[[nodiscard]] UndoPlan planUndo(const QString &dataDirectory, const QString &runId, const BatchProgress &progress = {});
+
+struct UndoResult : BatchResult
+{
+    QStringList notes; ///< what could not be tidied up after files that are back, translated
+    QString runId;     ///< under which the undoing is recorded; empty when nothing was to be done
+};
+
+/// Brings files of a run back to their old paths with the old times and permissions, never over anything that stands
+/// there: from the backup folder, the folder they were moved to, or the bin; what was replaced by a link or deleted for good
+/// is made again from the kept copy when that still has the content that was proved equal. `steps` are those of planUndo, or
+/// some of them. Recorded as a run of its own, and refused where that is not possible. No failure ends it. Blocks.
+[[nodiscard]] UndoResult undoRun(const UndoPlan &plan, const QList<UndoStep> &steps, const CleaningServices &services,
+                                 const BatchProgress &progress = {});
+
+/// Deletes what a run has left in the backup folder, for good, and notes that in its journal and in the index of the
+/// folder. The number of files and messages; blocks.
+[[nodiscard]] BatchResult freeBackups(const StoredRun &run, const CleaningServices &services,
+                                      const BatchProgress &progress = {});
+
+/// Bytes that a run's files take in the backup folder now, going by the records.
+[[nodiscard]] qint64 heldInBackup(const RunSummary &run);
+
+} // namespace Mirrix
