@@ -56,7 +56,7 @@ bool printPlan(const CleaningPlan &plan)
         output.write("  " + verbOf(plan.method).toUtf8() + ' ' + shownPath(item.file.path, true) + '\n');
         bytes += item.file.sizeBytes;
     }
-    output.write(QStringLiteral("%1 files, %2 (%3); nothing was done (--apply does it)\n")
+    output.write(QStringLiteral("%1 files, %2 (%3). Nothing was changed; run again with --apply to do this.\n")
                      .arg(plan.items.size())
                      .arg(sizeText(bytes), spaceText(estimatedSpace(plan)))
                      .toUtf8());
@@ -82,7 +82,7 @@ ExitStatus apply(const CleaningPlan &plan, const CleaningServices &services, boo
     }
     for (const QString &error : std::as_const(result.errors))
         printError(error);
-    const QString account = QStringLiteral("%1 of %2 files done (%3)")
+    const QString account = QStringLiteral("%1 of %2 files processed (%3)")
                                 .arg(result.count)
                                 .arg(plan.items.size())
                                 .arg(methodName(plan.method));
@@ -98,7 +98,8 @@ ExitStatus apply(const CleaningPlan &plan, const CleaningServices &services, boo
 void addCleanOptions(QCommandLineParser &parser)
 {
     addPlanOptions(parser);
-    parser.addOption({applyOption, QStringLiteral("Do it. Without this, what would be done is printed.")});
+    parser.addOption(
+        {applyOption, QStringLiteral("Carry out the plan. Without it, nothing is changed; the plan is only printed.")});
 }
 
 ExitStatus runClean(const QCommandLineParser &parser)

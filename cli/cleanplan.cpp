@@ -38,9 +38,7 @@ auto named(const QString &option, const QString &name, const Values &values, Nam
             return value;
         names.append(nameOf(value));
     }
-    const QString known = names.join(QStringLiteral(", "));
-    throw UsageError{name.isEmpty() ? QStringLiteral("--%1 is missing; it takes %2").arg(option, known)
-                                    : QStringLiteral("--%1 takes %2, not \"%3\"").arg(option, known, name)};
+    throw UsageError{choiceProblem(option, names, name)};
 }
 
 void readFolders(const QCommandLineParser &parser, CleaningPlan &plan)
@@ -48,7 +46,7 @@ void readFolders(const QCommandLineParser &parser, CleaningPlan &plan)
     const QString given = parser.value(targetOption);
     const bool takesTarget = plan.method != CleaningMethod::Recycle && plan.method != CleaningMethod::Delete;
     if (parser.isSet(targetOption) && !takesTarget)
-        throw UsageError{QStringLiteral("--target does not go with --method %1").arg(methodName(plan.method))};
+        throw UsageError{QStringLiteral("--target cannot be used with --method %1").arg(methodName(plan.method))};
     if (plan.method == CleaningMethod::Move && given.isEmpty())
         throw UsageError{QStringLiteral("--method move needs --target DIR")};
     const bool isMoveTarget = plan.method == CleaningMethod::Move;
@@ -85,14 +83,17 @@ void addPlanOptions(QCommandLineParser &parser)
 {
     parser.addOptions({
         {keepOption,
-         QStringLiteral("Which file of each group stays: newest, oldest, shallowest or deepest; the first of equals."),
+         QStringLiteral(
+             "Which file of each group to keep: newest, oldest, shallowest or deepest. On a tie, the first one "
+             "listed. Required."),
          QStringLiteral("RULE")},
         {methodOption,
-         QStringLiteral("What happens to the others: recycle, delete, move, backup, or symlink or hardlink, which put "
-                        "a link to the kept file in their place."),
+         QStringLiteral("What to do with the other files: recycle, delete (permanently), move, backup, symlink or "
+                        "hardlink (replace each with a link to the kept file). Required."),
          QStringLiteral("METHOD")},
         {targetOption,
-         QStringLiteral("Where move puts the files; else the backup folder (default: as in the settings)."),
+         QStringLiteral("Destination folder for move (required), or the backup folder for backup (default: from the "
+                        "settings)."),
          QStringLiteral("DIR")},
         {compareOption,
          QStringLiteral("Compare whole contents before every removal, not only before those that destroy a file.")},

@@ -35,10 +35,10 @@ struct Command
 const std::array<Command, 6> &commands()
 {
     static const std::array<Command, 6> table = {{
-        {QStringLiteral("scan"), QStringLiteral("find duplicate files below folders"), addScanOptions, runScan},
+        {QStringLiteral("scan"), QStringLiteral("find duplicate files in folders"), addScanOptions, runScan},
         {QStringLiteral("clean"), QStringLiteral("remove surplus copies of identical files"), addCleanOptions,
          runClean},
-        {QStringLiteral("restore"), QStringLiteral("list or put back backed-up files"), addRestoreOptions, runRestore},
+        {QStringLiteral("restore"), QStringLiteral("list or restore backed-up files"), addRestoreOptions, runRestore},
         {QStringLiteral("history"), QStringLiteral("list the cleaning runs, or the files of one"), addHistoryOptions,
          runHistory},
         {QStringLiteral("log"), QStringLiteral("print what was done"), addLogOptions, runLog},
@@ -52,7 +52,7 @@ QString usageText()
     QString text = QStringLiteral("Usage: mirrix-cli COMMAND [OPTIONS] ...\n\nCommands:\n");
     for (const Command &command : commands())
         text += QStringLiteral("  %1  %2\n").arg(command.name, -8).arg(command.summary);
-    return text + QStringLiteral("\n\"mirrix-cli COMMAND --help\" tells the options of a command.\n"
+    return text + QStringLiteral("\nRun \"mirrix-cli COMMAND --help\" for the options of a command.\n"
                                  "Exit status: 0 done, 1 some files failed, 2 wrong usage, 3 cancelled.\n");
 }
 
@@ -68,7 +68,8 @@ ExitStatus runParsed(const Command &command, const QStringList &arguments)
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help."));
     const QCommandLineOption version(QStringLiteral("version"), QStringLiteral("Show the version."));
     command.addOptions(parser);
-    parser.addOption({dataDirOption, QStringLiteral("Folder of settings and caches (default: the program's own)."),
+    parser.addOption({dataDirOption,
+                      QStringLiteral("Folder of settings, caches and records (default: the program's own)."),
                       QStringLiteral("DIR")});
     parser.addOption({portableOption, QStringLiteral("Keep settings and caches beside the program.")});
     parser.addOptions({version, help});
@@ -121,6 +122,14 @@ ExitStatus runCommandLine(const QStringList &arguments)
         printError(QString::fromLocal8Bit(error.what()));
         return ExitStatus::SomeFailed;
     }
+}
+
+QString choiceProblem(const QString &option, const QStringList &choices, const QString &value)
+{
+    const QString known =
+        choices.mid(0, choices.size() - 1).join(QStringLiteral(", ")) + QStringLiteral(" or ") + choices.constLast();
+    return value.isEmpty() ? QStringLiteral("--%1 is missing; it must be %2").arg(option, known)
+                           : QStringLiteral("--%1 must be %2, not \"%3\"").arg(option, known, value);
 }
 
 QString dataDirectoryOf(const QCommandLineParser &parser)

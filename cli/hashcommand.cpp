@@ -62,15 +62,17 @@ FileHash hashOf(const QString &algorithm, const QString &window)
     const QStringList known = {QStringLiteral("md5"), QStringLiteral("sha1"), QStringLiteral("sha256"),
                                QStringLiteral("blake3")};
     if (!known.contains(algorithm))
-        throw UsageError{QStringLiteral("--algorithm needs md5, sha1, sha256 or blake3, not \"%1\"").arg(algorithm)};
+        throw UsageError{choiceProblem(algorithmOption, known, algorithm)};
+    const QStringList windows = {QStringLiteral("full"), QStringLiteral("quick"), QStringLiteral("sample"),
+                                 QStringLiteral("prefix:N")};
     if (window == QLatin1String("full"))
         return wholeFileHash(algorithm);
     const qint64 prefixLength = prefixLengthOf(window);
     const bool isSample = window == QLatin1String("sample");
     if (window != QLatin1String("quick") && !isSample && prefixLength < 0)
-        throw UsageError{QStringLiteral("--window needs full, quick, sample or prefix:N, not \"%1\"").arg(window)};
+        throw UsageError{choiceProblem(windowOption, windows, window)};
     if (algorithm.startsWith(QLatin1String("sha")) || (isSample && algorithm != QLatin1String("md5")))
-        throw UsageError{QStringLiteral("the window %1 is not made with %2").arg(window, algorithm)};
+        throw UsageError{QStringLiteral("--window %1 cannot be used with --algorithm %2").arg(window, algorithm)};
     setContentHashAlgorithm(contentHashAlgorithmFrom(algorithm));
     if (isSample)
         return [](const QString &path, HashNotes &notes) { return sampleHash(path, &notes); };
@@ -113,14 +115,14 @@ QByteArray checksumLine(const QByteArray &digest, const QString &path)
 void addHashOptions(QCommandLineParser &parser)
 {
     parser.addOptions({
-        {algorithmOption, QStringLiteral("md5 (default), sha1, sha256 or blake3."), QStringLiteral("NAME"),
+        {algorithmOption, QStringLiteral("Digest: md5 (default), sha1, sha256 or blake3."), QStringLiteral("NAME"),
          QStringLiteral("md5")},
         {windowOption,
-         QStringLiteral("What is read: full (default), or a fingerprint as scans use it: quick (md5, blake3), sample "
-                        "(md5), prefix:N with N bytes, 0 = all (md5, blake3)."),
+         QStringLiteral("Part of the file to hash: full (default), or one of the scan fingerprints: quick (md5, "
+                        "blake3), sample (md5), prefix:N (first N bytes, 0 = all; md5, blake3)."),
          QStringLiteral("WINDOW"), QStringLiteral("full")},
     });
-    parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Files, and folders with all below them."),
+    parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Files, and folders including subfolders."),
                                  QStringLiteral("FILE|FOLDER..."));
 }
 

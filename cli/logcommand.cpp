@@ -41,15 +41,15 @@ void writeJson(const QList<LogEntry> &entries, Output &output)
 
 void addLogOptions(QCommandLineParser &parser)
 {
-    parser.addOption(
-        {formatOption, QStringLiteral("text (default) or json."), QStringLiteral("FORMAT"), QStringLiteral("text")});
+    parser.addOption({formatOption, QStringLiteral("Output format: text (default) or json."), QStringLiteral("FORMAT"),
+                      QStringLiteral("text")});
 }
 
 ExitStatus runLog(const QCommandLineParser &parser)
 {
     const QString format = parser.value(formatOption);
     if (format != QLatin1String("text") && format != QLatin1String("json"))
-        throw UsageError{QStringLiteral("--format needs text or json, not \"%1\"").arg(format)};
+        throw UsageError{choiceProblem(formatOption, {QStringLiteral("text"), QStringLiteral("json")}, format)};
     if (!parser.positionalArguments().isEmpty())
         throw UsageError{QStringLiteral("log takes no files")};
     const QList<LogEntry> entries = OperationsLog(operationsLogPath(dataDirectoryOf(parser))).readAll();

@@ -169,21 +169,22 @@ ExitStatus restoreChosen(const QCommandLineParser &parser, const QString &folder
 void addRestoreOptions(QCommandLineParser &parser)
 {
     parser.addOptions({
-        {targetOption, QStringLiteral("The backup folder (default: as in the settings)."), QStringLiteral("DIR")},
-        {listOption, QStringLiteral("List what can be put back (this is also what happens without any choice).")},
-        {allOption, QStringLiteral("Put everything back.")},
+        {targetOption, QStringLiteral("The backup folder (default: from the settings)."), QStringLiteral("DIR")},
+        {listOption, QStringLiteral("List what can be restored. This is also what happens without options.")},
+        {allOption, QStringLiteral("Restore everything.")},
         {verifyOption, QStringLiteral("Check that all backups are there and as they were, and change nothing.")},
     });
-    parser.addPositionalArgument(QStringLiteral("ENTRY"),
-                                 QStringLiteral("Files to put back: old path, or path or name in the backup folder."),
-                                 QStringLiteral("[ENTRY...]"));
+    parser.addPositionalArgument(
+        QStringLiteral("ENTRY"),
+        QStringLiteral("Files to restore, given by original path, or by path or name in the backup folder."),
+        QStringLiteral("[ENTRY...]"));
 }
 
 ExitStatus runRestore(const QCommandLineParser &parser)
 {
     const bool hasWords = !parser.positionalArguments().isEmpty();
     if (parser.isSet(listOption) + parser.isSet(allOption) + parser.isSet(verifyOption) + hasWords > 1)
-        throw UsageError{QStringLiteral("--list, --all, --verify and entries exclude each other")};
+        throw UsageError{QStringLiteral("--list, --all, --verify and ENTRY cannot be combined")};
     const QString dataDirectory = dataDirectoryOf(parser);
     const QString given = parser.value(targetOption);
     const QString folder = backupFolderPath(given.isEmpty() ? readSettings(dataDirectory).backupRoot : given);

@@ -20,6 +20,8 @@
 #include <QJsonDocument>
 #include <QTemporaryFile>
 
+#include <array>
+
 namespace MirrixCli {
 
 namespace {
@@ -93,7 +95,7 @@ void applyAssignment(const QString &assignment, ScanOptions &options)
 {
     const qsizetype equals = assignment.indexOf(QLatin1Char('='));
     if (equals < 1)
-        throw UsageError{QStringLiteral("--set needs NAME=VALUE, not \"%1\"").arg(assignment)};
+        throw UsageError{QStringLiteral("--set takes NAME=VALUE, not \"%1\"").arg(assignment)};
     const QString problem = setScanOption(options, assignment.left(equals), assignment.mid(equals + 1));
     if (!problem.isEmpty())
         throw UsageError{problem};
@@ -105,7 +107,7 @@ int threadsOf(const QString &text)
     const int threads = text.toInt(&isNumber);
     if (!isNumber || threads < 0 || threads > mostThreads)
         throw UsageError{
-            QStringLiteral("--threads needs a number from 0 to %1, not \"%2\"").arg(mostThreads).arg(text)};
+            QStringLiteral("--threads must be a number from 0 to %1, not \"%2\"").arg(mostThreads).arg(text)};
     return threads;
 }
 
@@ -140,25 +142,77 @@ void applyMode(const QString &name, ScanOptions &options)
         options.contentMatch = static_cast<qint32>(mode.content);
         return;
     }
-    throw UsageError{QStringLiteral("--mode needs one of %1, not \"%2\"").arg(names.join(QStringLiteral(", ")), name)};
+    throw UsageError{choiceProblem(modeOption, names, name)};
 }
 
-/// Whether `value` is one of the numbers 0..`largest`.
-bool isChoice(qint32 value, qint32 largest)
+struct Range
 {
-    return value >= 0 && value <= largest;
+    const char *option;
+    qint32 ScanOptions::*value;
+    qint32 least;
+    qint32 most;
+};
+
+constexpr std::array ranges = {
+    Range{"searchMode", &ScanOptions::searchMode, 0, 3},
+    Range{"contentMatch", &ScanOptions::contentMatch, 0, 2},
+    Range{"mediaCompareDepth", &ScanOptions::mediaCompareDepth, 0, 4},
+    Range{"mediaCompareDepthAlt", &ScanOptions::mediaCompareDepthAlt, 0, 2},
+    Range{"similarPercent", &ScanOptions::similarPercent, 1, 100},
+    Range{"imageSimilarityLevel", &ScanOptions::imageSimilarityLevel, 0, 4},
+    Range{"imageMaxDistance", &ScanOptions::imageMaxDistance, 0, 64},
+};
+
+void refuseOutside(const char *option, qint32 value, qint32 least, qint32 most)
+{
+    if (value < least || value > most)
+        throw UsageError{QStringLiteral("%1 must be from %2 to %3, not %4")
+                             .arg(QLatin1String(option))
+                             .arg(least)
+                             .arg(most)
+                             .arg(value)};
+}
+
+void refuseWildcards(const QStringList &extensions)
+{
+    for (const QString &extension : extensions) {
+        if (extension.contains(QLatin1Char('*')))
+            throw UsageError{QStringLiteral("an extension is given as jpg, not as \"%1\"").arg(extension)};
+    }
+}
+
+/// Whether files are grouped by rules alone.
+bool groupsByRules(const ScanOptions &options)
+{
+    switch (static_cast<SearchMode>(options.searchMode)) {
+    case SearchMode::Files:
+        return options.contentMatch == static_cast<qint32>(ContentMatch::Ignore);
+    case SearchMode::Images:
+        return false;
+    case SearchMode::Audio:
+        return options.mediaCompareDepth == ranges[2].most;
+    case SearchMode::Video:
+        return options.mediaCompareDepthAlt == ranges[3].most;
+    }
+    return false;
 }
 
 /// Refuses what would be answered with an empty result.
 void refuseUnsupported(const ScanOptions &options)
 {
-    if (!isChoice(options.searchMode, 3) || !isChoice(options.contentMatch, 2) ||
-        !isChoice(options.mediaCompareDepth, 4) || !isChoice(options.mediaCompareDepthAlt, 2))
-        throw UsageError{QStringLiteral("no such choice for searchMode, contentMatch or mediaCompareDepth")};
-    const bool groupsByRules = options.searchMode == static_cast<qint32>(SearchMode::Files) &&
-                               options.contentMatch == static_cast<qint32>(ContentMatch::Ignore);
-    if (groupsByRules && !hasRefiningRule(options))
-        throw UsageError{QStringLiteral("the mode rules needs a rule, for example --set sameName=true")};
+    for (const Range &range : ranges)
+        refuseOutside(range.option, options.*range.value, range.least, range.most);
+    bool hasLocationRule = false;
+    for (const ScanLocation &location : options.locations) {
+        refuseOutside("findKind", location.findKind, 0, 2);
+        hasLocationRule = hasLocationRule || location.findKind != static_cast<qint32>(FindKind::ContentDuplicates);
+    }
+    refuseWildcards(options.includeExtensions + options.excludeExtensions);
+    const bool hasRule = hasRefiningRule(options) || hasLocationRule || options.audioMatchDuration ||
+                         options.videoMatchDuration || !options.audioTags.isEmpty() || !options.videoTags.isEmpty();
+    if (groupsByRules(options) && !hasRule)
+        throw UsageError{
+            QStringLiteral("without comparing contents a rule is needed, for example --set sameName=true")};
 }
 
 void applyHash(const QCommandLineParser &parser, const QString &dataDirectory)
@@ -169,7 +223,7 @@ void applyHash(const QCommandLineParser &parser, const QString &dataDirectory)
         return;
     }
     if (name != QLatin1String("md5") && name != QLatin1String("blake3"))
-        throw UsageError{QStringLiteral("--hash needs md5 or blake3, not \"%1\"").arg(name)};
+        throw UsageError{choiceProblem(hashOption, {QStringLiteral("md5"), QStringLiteral("blake3")}, name)};
     setContentHashAlgorithm(contentHashAlgorithmFrom(name));
 }
 
@@ -181,7 +235,8 @@ ReportFormat formatOf(const QString &name)
         return ReportFormat::Json;
     if (name == QLatin1String("csv"))
         return ReportFormat::Csv;
-    throw UsageError{QStringLiteral("--format needs text, json or csv, not \"%1\"").arg(name)};
+    throw UsageError{
+        choiceProblem(formatOption, {QStringLiteral("text"), QStringLiteral("json"), QStringLiteral("csv")}, name)};
 }
 
 /// Finds out before a long scan whether its report can be written. The file is not left open: its temporary name would
@@ -203,7 +258,7 @@ void useCache(const QString &dataDirectory)
     const QString folder = dataDirectory + QLatin1Char('/') + fingerprintCacheName;
     QTemporaryFile probe(folder + QLatin1String("/probe"));
     if (!QDir().mkpath(folder) || !probe.open())
-        printError(QStringLiteral("cannot write to %1: digests are not remembered for the next scan").arg(folder));
+        printError(QStringLiteral("cannot write to %1; digests will not be cached").arg(folder));
 }
 
 ScanResult scanWithProgress(const ScanOptions &options)
@@ -218,15 +273,15 @@ ScanResult scanWithProgress(const ScanOptions &options)
 void addSelectionOptions(QCommandLineParser &parser)
 {
     parser.addOptions({
-        {hashOption, QStringLiteral("Digest to compare by: md5 or blake3 (default: as in the settings)."),
+        {hashOption, QStringLiteral("Digest used for comparing: md5 or blake3 (default: from the settings)."),
          QStringLiteral("NAME")},
         {setOption, QStringLiteral("Set a scan option. May be repeated."), QStringLiteral("NAME=VALUE")},
-        {excludeOption, QStringLiteral("Do not enter this folder. May be repeated."), QStringLiteral("DIR")},
-        {noCacheOption, QStringLiteral("Neither use nor store remembered digests.")},
-        {threadsOption, QStringLiteral("Worker threads; 0 = as many as the machine has, at most 8."),
+        {excludeOption, QStringLiteral("Skip this folder. May be repeated."), QStringLiteral("DIR")},
+        {noCacheOption, QStringLiteral("Do not read or write the digest cache.")},
+        {threadsOption, QStringLiteral("Number of worker threads, 0 to 256; 0 = one per processor, up to 8."),
          QStringLiteral("N")},
     });
-    parser.addPositionalArgument(QStringLiteral("FOLDER"), QStringLiteral("Folders to scan, with all below them."),
+    parser.addPositionalArgument(QStringLiteral("FOLDER"), QStringLiteral("Folders to scan, including subfolders."),
                                  QStringLiteral("FOLDER..."));
 }
 
@@ -269,14 +324,13 @@ void addScanOptions(QCommandLineParser &parser)
     addSelectionOptions(parser);
     parser.addOptions({
         {modeOption,
-         QStringLiteral("What makes files duplicates: content (default); similar-content: samples that agree to "
-                        "similarPercent; images: how pictures look, up to imageMaxDistance; audio, video: samples and "
-                        "openings, as deep as mediaCompareDepth (audio) and "
-                        "mediaCompareDepthAlt (video) say; rules: names, sizes, dates and paths as set, whatever the "
-                        "content."),
+         QStringLiteral("How files are compared: content (default): identical bytes; similar-content: at least "
+                        "similarPercent of samples agree; images: visual similarity, within imageMaxDistance; audio, "
+                        "video: content samples, then the opening or the whole file, depending on mediaCompareDepth "
+                        "(audio) or mediaCompareDepthAlt (video); rules: names, sizes, dates and paths only."),
          QStringLiteral("MODE")},
         {optionsOption, QStringLiteral("Read scan options from a JSON file."), QStringLiteral("FILE")},
-        {formatOption, QStringLiteral("Form of the report: text (default), json or csv."), QStringLiteral("FORMAT"),
+        {formatOption, QStringLiteral("Report format: text (default), json or csv."), QStringLiteral("FORMAT"),
          QStringLiteral("text")},
         {outputOption, QStringLiteral("Write the report to a file."), QStringLiteral("FILE")},
     });

@@ -24,16 +24,26 @@ QString counted(qint64 count, const QString &noun)
 QString agreement(const QString &key)
 {
     const qsizetype end = key.indexOf(QLatin1Char('%'));
-    return key.startsWith(QLatin1String("SIM:")) ? QStringLiteral(", %1 alike").arg(key.mid(4, end - 3)) : QString();
+    return key.startsWith(QLatin1String("SIM:")) ? QStringLiteral(", %1 similar").arg(key.mid(4, end - 3)) : QString();
+}
+
+/// "of 3 MB each", or "of 1 MB to 3 MB" where the members differ.
+QString sizes(const QList<FileEntry> &files)
+{
+    const auto [least, most] = std::minmax_element(
+        files.begin(), files.end(), [](const FileEntry &a, const FileEntry &b) { return a.size < b.size; });
+    if (least->size == most->size)
+        return QStringLiteral("of %1 each").arg(Mirrix::sizeText(most->size));
+    return QStringLiteral("of %1 to %2").arg(Mirrix::sizeText(least->size), Mirrix::sizeText(most->size));
 }
 
 QString heading(const DuplicateGroup &group)
 {
     if (group.wastedBytes == 0)
         return counted(group.files.size(), QStringLiteral("empty file"));
-    return QStringLiteral("%1 of %2%3, %4 to free")
-        .arg(counted(group.files.size(), QStringLiteral("file")), Mirrix::sizeText(group.files.constFirst().size),
-             agreement(group.key), Mirrix::sizeText(group.wastedBytes));
+    return QStringLiteral("%1 %2%3, %4 reclaimable")
+        .arg(counted(group.files.size(), QStringLiteral("file")), sizes(group.files), agreement(group.key),
+             Mirrix::sizeText(group.wastedBytes));
 }
 
 QString heading(const FolderGroup &group)
@@ -82,7 +92,7 @@ void writeText(const ScanResult &result, Output &output)
     const QString found = result.groups.isEmpty()
                               ? QStringLiteral("No duplicates found")
                               : counted(result.groups.size(), QStringLiteral("group")) +
-                                    QStringLiteral(", %1 to free").arg(Mirrix::sizeText(result.wastedBytes));
+                                    QStringLiteral(", %1 reclaimable").arg(Mirrix::sizeText(result.wastedBytes));
     output.write(QStringLiteral("%1; %2 (%3) scanned in %4 s\n")
                      .arg(found, counted(result.filesScanned, QStringLiteral("file")),
                           Mirrix::sizeText(result.totalBytes),

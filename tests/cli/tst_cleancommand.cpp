@@ -80,9 +80,9 @@ void CleanCommandTest::onlyTellsWithoutApply()
     QList<QByteArray> lines = told.output.split('\n');
     std::sort(lines.begin() + 1, lines.begin() + 3);
     const QByteArray folder = m_tree->path(u"src/"_s).toUtf8();
-    QCOMPARE(lines,
-             (QList<QByteArray>{"keep " + folder + "b", "  delete " + folder + "a", "  delete " + folder + "deep/日本",
-                                "2 files, 14 B (frees 14 B); nothing was done (--apply does it)", ""}));
+    QCOMPARE(lines, (QList<QByteArray>{
+                        "keep " + folder + "b", "  delete " + folder + "a", "  delete " + folder + "deep/日本",
+                        "2 files, 14 B (frees 14 B). Nothing was changed; run again with --apply to do this.", ""}));
     QCOMPARE(source(), before);
     QCOMPARE(logged(), QStringList());
 }
@@ -124,7 +124,7 @@ void CleanCommandTest::methods()
              (QStringList{u"scan_start: "_s + m_tree->path(u"src"_s), u"scan_done: groups=1 wasted=14 candidates=4"_s,
                           u"auto_keep: rule=1 count=2"_s, record}));
     const ProgramRun again = clean(method, more);
-    QCOMPARE(again.output, QByteArray("0 of 0 files done (" + method.toLatin1() + ")\n"));
+    QCOMPARE(again.output, QByteArray("0 of 0 files processed (" + method.toLatin1() + ")\n"));
 }
 
 void CleanCommandTest::backUpAndRestoreAll()
@@ -167,7 +167,7 @@ void CleanCommandTest::failuresAreNamed()
     m_tree->write(u"away/a"_s, "in the way");
     const ProgramRun done = clean(u"move"_s, {u"--apply"_s, u"--target"_s, m_tree->path(u"away"_s)});
     QCOMPARE(done.errors, "mirrix-cli: Destination already exists: " + m_tree->path(u"away/a"_s).toUtf8() + '\n');
-    QCOMPARE(done.output, QByteArray("1 of 2 files done (move); frees 0 B\n"));
+    QCOMPARE(done.output, QByteArray("1 of 2 files processed (move); frees 0 B\n"));
     QCOMPARE(done.status, 1);
     QCOMPARE(source().keys(), (QStringList{u"a"_s, u"b"_s, u"other"_s}));
 }
@@ -256,7 +256,7 @@ void CleanCommandTest::twoAtOnce()
         const ProgramRun done = Program::ended(process);
         QCOMPARE(done.errors, QByteArray());
         QCOMPARE(done.output, QByteArray::number(pairs) + " of " + QByteArray::number(pairs) +
-                                  " files done (backup); frees 0 B, 590 B held in the backup folder\n");
+                                  " files processed (backup); frees 0 B, 590 B held in the backup folder\n");
     }
     QCOMPARE(run({u"restore"_s, u"--list"_s}).output.count('\n'), 2 * pairs);
     QCOMPARE(logged().filter(u"backup_batch: count=60"_s).size(), 2);
@@ -287,8 +287,8 @@ void CleanCommandTest::rememberedDigestsDestroyNothing()
     const DiskTree before = source();
     const bool isKeeper = written == u"src/b"_s;
     const ProgramRun done = clean(method, {u"--apply"_s});
-    QCOMPARE(done.output, QByteArray(isKeeper ? "0" : "1") + " of 2 files done (" + method.toLatin1() + "); frees " +
-                              (isKeeper ? "0" : "7") + " B\n");
+    QCOMPARE(done.output, QByteArray(isKeeper ? "0" : "1") + " of 2 files processed (" + method.toLatin1() +
+                              "); frees " + (isKeeper ? "0" : "7") + " B\n");
     QCOMPARE(done.status, 1);
     DiskTree expected = before;
     if (!isKeeper && method == u"delete"_s)
@@ -339,17 +339,17 @@ void CleanCommandTest::mistakes_data()
     const auto row = [](const QString &arguments, const QString &message) {
         QTest::newRow(qPrintable(arguments)) << arguments.split(u' ') << message;
     };
-    row(u"clean --method delete /a"_s, u"--keep is missing; it takes newest, oldest, shallowest, deepest"_s);
+    row(u"clean --method delete /a"_s, u"--keep is missing; it must be newest, oldest, shallowest or deepest"_s);
     row(u"clean --keep newest --method burn /a"_s,
-        u"--method takes recycle, delete, move, symlink, hardlink, backup, not \"burn\""_s);
+        u"--method must be recycle, delete, move, symlink, hardlink or backup, not \"burn\""_s);
     row(u"clean --keep newest --method delete"_s, u"no folder to scan"_s);
     row(u"clean --keep newest --method move /a"_s, u"--method move needs --target DIR"_s);
-    row(u"clean --keep newest --method delete --target /b /a"_s, u"--target does not go with --method delete"_s);
+    row(u"clean --keep newest --method delete --target /b /a"_s, u"--target cannot be used with --method delete"_s);
     for (const QString &loose : {u"contentMatch=2"_s, u"searchMode=1"_s})
         row(u"clean --keep newest --method delete --set "_s + loose + u" /a"_s,
             u"clean acts on files of identical content only"_s);
-    row(u"restore --all x"_s, u"--list, --all, --verify and entries exclude each other"_s);
-    row(u"log --format csv"_s, u"--format needs text or json, not \"csv\""_s);
+    row(u"restore --all x"_s, u"--list, --all, --verify and ENTRY cannot be combined"_s);
+    row(u"log --format csv"_s, u"--format must be text or json, not \"csv\""_s);
 }
 
 void CleanCommandTest::mistakes()

@@ -212,12 +212,12 @@ void HashCommandTest::mistakes_data()
     const auto row = [](const QString &arguments, const QString &message) {
         QTest::newRow(qPrintable(arguments)) << arguments << message;
     };
-    const QString window = u"--window needs full, quick, sample or prefix:N, not \"%1\""_s;
-    const QString notMade = u"the window %1 is not made with %2"_s;
+    const QString window = u"--window must be full, quick, sample or prefix:N, not \"%1\""_s;
+    const QString notMade = u"--window %1 cannot be used with --algorithm %2"_s;
     row(u"--window full"_s, u"no file to hash"_s);
     row(u"abc "_s, u"an empty file name"_s);
-    row(u"--algorithm MD5 abc"_s, u"--algorithm needs md5, sha1, sha256 or blake3, not \"MD5\""_s);
-    row(u"--algorithm sha512 abc"_s, u"--algorithm needs md5, sha1, sha256 or blake3, not \"sha512\""_s);
+    row(u"--algorithm MD5 abc"_s, u"--algorithm must be md5, sha1, sha256 or blake3, not \"MD5\""_s);
+    row(u"--algorithm sha512 abc"_s, u"--algorithm must be md5, sha1, sha256 or blake3, not \"sha512\""_s);
     for (const QString &name : {u"half"_s, u"Quick"_s, u"prefix"_s, u"prefix:"_s, u"prefix:-1"_s, u"prefix:1k"_s,
                                 u"prefix:9223372036854775808"_s})
         row(u"abc --window "_s + name, window.arg(name));

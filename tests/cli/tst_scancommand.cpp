@@ -151,8 +151,8 @@ void ScanCommandTest::init()
 void ScanCommandTest::textReport()
 {
     const ProgramRun run = scan({m_tree->path(u"one"_s), m_tree->path(u"two"_s)});
-    const QString expected = u"2 files of 3 B, 3 B to free\n  %1/one/a.txt\n  %1/two/b.dat\n\n"
-                             u"1 group, 3 B to free; 3 files (11 B) scanned in T s\n"_s.arg(m_tree->path());
+    const QString expected = u"2 files of 3 B each, 3 B reclaimable\n  %1/one/a.txt\n  %1/two/b.dat\n\n"
+                             u"1 group, 3 B reclaimable; 3 files (11 B) scanned in T s\n"_s.arg(m_tree->path());
     QCOMPARE(withoutTime(run.output), expected.toUtf8());
     QCOMPARE(run.errors, "");
     QCOMPARE(run.status, 0);
@@ -163,7 +163,7 @@ void ScanCommandTest::textReportOfEmptyFiles()
     const QString empty = m_tree->write(u"two/sub/empty"_s, {});
     const QString location = u"locations=[{\"path\":\"%1\",\"findKind\":2}]"_s.arg(m_tree->path(u"two"_s));
     const ProgramRun run = scan({u"--set"_s, location, m_tree->path(u"one"_s), m_tree->path(u"two"_s)});
-    const QString expected = u"1 empty file\n  %1\n\n1 group, 0 B to free; 4 files (11 B) scanned in T s\n"_s;
+    const QString expected = u"1 empty file\n  %1\n\n1 group, 0 B reclaimable; 4 files (11 B) scanned in T s\n"_s;
     QCOMPARE(withoutTime(run.output), expected.arg(empty).toUtf8());
 }
 
@@ -185,10 +185,11 @@ void ScanCommandTest::textReportOfFolders()
     m_tree->write(u"three/sub/a.txt"_s, "abc");
     const ProgramRun run = scan({u"--set"_s, u"showRemaining=true"_s, m_tree->path(u"one"_s), m_tree->path(u"two"_s),
                                  m_tree->path(u"three"_s)});
-    const QString expected = u"3 files of 3 B, 6 B to free\n  %1/one/a.txt\n  %1/two/b.dat\n  %1/three/sub/a.txt\n\n"
-                             u"2 equal folders of 1 file (3 B) each\n  %1/one\n  %1/three/sub\n\n"
-                             u"1 file in no group\n  %1/two/sub/other.txt\n\n"
-                             u"1 group, 6 B to free; 4 files (14 B) scanned in T s\n"_s;
+    const QString expected =
+        u"3 files of 3 B each, 6 B reclaimable\n  %1/one/a.txt\n  %1/two/b.dat\n  %1/three/sub/a.txt\n\n"
+        u"2 equal folders of 1 file (3 B) each\n  %1/one\n  %1/three/sub\n\n"
+        u"1 file in no group\n  %1/two/sub/other.txt\n\n"
+        u"1 group, 6 B reclaimable; 4 files (14 B) scanned in T s\n"_s;
     QCOMPARE(withoutTime(run.output), expected.arg(m_tree->path()).toUtf8());
 }
 
@@ -391,12 +392,12 @@ void ScanCommandTest::mistakes_data()
     const auto row = [](const QStringList &arguments, const QString &message) {
         QTest::newRow(arguments.isEmpty() ? "nothing" : qPrintable(arguments.join(u' '))) << arguments << message;
     };
-    const QString threads = u"--threads needs a number from 0 to 256, not \"%1\""_s;
+    const QString threads = u"--threads must be a number from 0 to 256, not \"%1\""_s;
     row({}, u"no folder to scan"_s);
     row({u"/a"_s, QString()}, u"an empty folder name"_s);
     row({u"--exclude"_s, QString(), u"/a"_s}, u"an empty folder name"_s);
-    row({u"--set"_s, u"minSize"_s, u"/a"_s}, u"--set needs NAME=VALUE, not \"minSize\""_s);
-    row({u"--set"_s, u"=5"_s, u"/a"_s}, u"--set needs NAME=VALUE, not \"=5\""_s);
+    row({u"--set"_s, u"minSize"_s, u"/a"_s}, u"--set takes NAME=VALUE, not \"minSize\""_s);
+    row({u"--set"_s, u"=5"_s, u"/a"_s}, u"--set takes NAME=VALUE, not \"=5\""_s);
     row({u"--set"_s, u"noSuch=5"_s, u"/a"_s}, u"unknown option \"noSuch\""_s);
     row({u"--set"_s, u"minSize=1k"_s, u"/a"_s}, u"option \"minSize\" needs a whole number, not \"1k\""_s);
     row({u"--set"_s, u"skipHidden=yes"_s, u"/a"_s}, u"option \"skipHidden\" needs true or false, not \"yes\""_s);
@@ -406,13 +407,21 @@ void ScanCommandTest::mistakes_data()
     row({u"--threads"_s, u"two"_s, u"/a"_s}, threads.arg(u"two"_s));
     row({u"--threads"_s, QString(), u"/a"_s}, threads.arg(QString()));
     row({u"--mode"_s, u"sound"_s, u"/a"_s},
-        u"--mode needs one of content, similar-content, rules, images, audio, video, not \"sound\""_s);
-    row({u"--hash"_s, u"BLAKE3"_s, u"/a"_s}, u"--hash needs md5 or blake3, not \"BLAKE3\""_s);
-    row({u"--format"_s, u"xml"_s, u"/a"_s}, u"--format needs text, json or csv, not \"xml\""_s);
+        u"--mode must be content, similar-content, rules, images, audio or video, not \"sound\""_s);
+    row({u"--hash"_s, u"BLAKE3"_s, u"/a"_s}, u"--hash must be md5 or blake3, not \"BLAKE3\""_s);
+    row({u"--format"_s, u"xml"_s, u"/a"_s}, u"--format must be text, json or csv, not \"xml\""_s);
     row({u"--recursive"_s, u"/a"_s}, u"Unknown option 'recursive'."_s);
-    row({u"--mode"_s, u"rules"_s, u"/a"_s}, u"the mode rules needs a rule, for example --set sameName=true"_s);
-    for (const QString &rule : {u"searchMode=4"_s, u"contentMatch=-1"_s, u"mediaCompareDepth=5"_s})
-        row({u"--set"_s, rule, u"/a"_s}, u"no such choice for searchMode, contentMatch or mediaCompareDepth"_s);
+    row({u"--mode"_s, u"rules"_s, u"/a"_s},
+        u"without comparing contents a rule is needed, for example --set sameName=true"_s);
+    const QMap<QString, QString> outside = {
+        {u"searchMode=4"_s, u"searchMode must be from 0 to 3, not 4"_s},
+        {u"contentMatch=-1"_s, u"contentMatch must be from 0 to 2, not -1"_s},
+        {u"mediaCompareDepth=5"_s, u"mediaCompareDepth must be from 0 to 4, not 5"_s},
+        {u"similarPercent=0"_s, u"similarPercent must be from 1 to 100, not 0"_s},
+        {u"locations=[{\"path\":\"/a\",\"findKind\":7}]"_s, u"findKind must be from 0 to 2, not 7"_s},
+        {u"includeExtensions=*.txt"_s, u"an extension is given as jpg, not as \"*.txt\""_s}};
+    for (auto each = outside.begin(); each != outside.end(); ++each)
+        row({u"--set"_s, each.key(), u"/a"_s}, each.value());
 }
 
 void ScanCommandTest::mistakes()
@@ -562,7 +571,7 @@ void ScanCommandTest::unwritableDataFolder()
     const ProgramRun run =
         m_program->run({u"scan"_s, u"--data-dir"_s, inTheWay, u"--format"_s, u"json"_s, m_tree->path()});
     const QString warning =
-        u"mirrix-cli: cannot write to %1/fingerprint_cache: digests are not remembered for the next scan\n"_s;
+        u"mirrix-cli: cannot write to %1/fingerprint_cache; digests will not be cached\n"_s;
     QCOMPARE(QString::fromUtf8(run.errors), warning.arg(inTheWay));
     QCOMPARE(groupsIn(run.output).size(), 1);
     QCOMPARE(run.status, 0);
