@@ -1,6 +1,7 @@
 #include "actions/cleaning/discard.h"
 
 #include "actions/backupcheck.h"
+#include "actions/cleaning/folderaliases.h"
 #include "actions/cleaning/itemchecks.h"
 #include "actions/fileoperations.h"
 #include "actions/movefile.h"
@@ -34,15 +35,18 @@ public:
     /// What speaks against removing the file; everything up to the flush.
     [[nodiscard]] QString proofProblem(DurableFiles &durable, const StopQuery &isStopped)
     {
-        QString problem = keptProblem(m_item, m_asidePath);
+        QString problem = isBesideKept() ? sameFileText(m_item.file.path) : keptProblem(m_item);
         if (!problem.isEmpty())
             return problem;
         if (!m_surplus.open(m_asidePath, HeldFile::Purpose::Remove))
             return m_surplus.isInUse() ? inUseText(m_item.file.path) : undeletableText(m_item);
+        if (!isAsScanned(m_surplus.state(), m_item.file)) // replaced just before it was set aside
+            return changedText(m_item.file.path);
         if (!m_item.hasKept())
             return {};
-        if (!m_kept.open(m_item.kept.path, HeldFile::Purpose::Keep))
-            return m_kept.isInUse() ? inUseText(m_item.kept.path) : keptProblem(m_item, m_asidePath);
+        const bool isKeptOpen = m_kept.open(m_item.kept.path, HeldFile::Purpose::Keep);
+        if (!isKeptOpen || !isAsScanned(m_kept.state(), m_item.kept))
+            return m_kept.isInUse() ? inUseText(m_item.kept.path) : keptChangedText(m_item);
         problem = comparisonProblem(isStopped);
         if (problem.isEmpty() && !durable.ensure(m_kept, m_item.kept.path))
             problem = text(QT_TRANSLATE_NOOP("Mirrix", "无法确保要保留的文件已写入磁盘，未处理: %1"), m_item.file.path);
@@ -78,6 +82,16 @@ public:
     }
 
 private:
+    /// Whether the name under which the file is set aside shows in the kept file's folder, too: then both folders are
+    /// one, and so are files of one name. A file system on top of another may remember a name that is gone, but not one
+    /// that it has never seen.
+    [[nodiscard]] bool isBesideKept() const
+    {
+        const QString keptFolder = folderOf(m_item.kept.path);
+        return m_item.hasKept() && haveSameNameElsewhere(m_item.file.path, m_item.kept.path) &&
+               pathState(joinedPath(keptFolder, fileNameOf(m_asidePath))).kind != PathState::Kind::Missing;
+    }
+
     [[nodiscard]] QString comparisonProblem(const StopQuery &isStopped)
     {
         if (!m_item.isEqualContent)
@@ -98,7 +112,7 @@ private:
         if (!m_surplus.isUnchanged())
             return changedText(m_item.file.path);
         if (!m_kept.isUnchanged() || !m_kept.isAt(m_item.kept.path))
-            return text(QT_TRANSLATE_NOOP("Mirrix", "要保留的文件已更改，未处理: %1"), m_item.file.path);
+            return keptChangedText(m_item);
         return {};
     }
 
@@ -113,7 +127,7 @@ private:
             return {};
         if (isMade)
             static_cast<void>(removeFile(m_item.file.path));
-        return isMade ? text(QT_TRANSLATE_NOOP("Mirrix", "要保留的文件已更改，未处理: %1"), m_item.file.path) : problem;
+        return isMade ? keptChangedText(m_item) : problem;
     }
 
     [[nodiscard]] QString linkTarget() const { return m_item.kept.path; }

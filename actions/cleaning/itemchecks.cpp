@@ -1,6 +1,5 @@
 #include "actions/cleaning/itemchecks.h"
 
-#include "actions/cleaning/folderaliases.h"
 #include "actions/fileaccess.h"
 #include "actions/movefile.h"
 #include "core/hash/filereader.h"
@@ -17,18 +16,6 @@ QString text(const char *source, const QString &path)
     return QCoreApplication::translate("Mirrix", source).arg(path);
 }
 
-bool isAsScanned(const PathState &state, const ScannedFile &file)
-{
-    return state.kind == PathState::Kind::File && state.sizeBytes == file.sizeBytes &&
-           state.modifiedMs == file.modifiedMs &&
-           (!state.identity.isOtherThan(file.identity) || mayNumberAnew(file.path));
-}
-
-QString keptChangedText(const CleaningItem &item)
-{
-    return text(QT_TRANSLATE_NOOP("Mirrix", "要保留的文件已更改，未处理: %1"), item.file.path);
-}
-
 /// Both files open; false with the reason when one cannot be had.
 bool openBoth(const CleaningItem &item, HeldFile &file, HeldFile &kept, QString &problem)
 {
@@ -40,6 +27,13 @@ bool openBoth(const CleaningItem &item, HeldFile &file, HeldFile &kept, QString 
 }
 
 } // namespace
+
+bool isAsScanned(const PathState &state, const ScannedFile &file)
+{
+    return state.kind == PathState::Kind::File && state.sizeBytes == file.sizeBytes &&
+           state.modifiedMs == file.modifiedMs &&
+           (!state.identity.isOtherThan(file.identity) || mayNumberAnew(file.path));
+}
 
 QString itemProblem(const CleaningItem &item)
 {
@@ -58,17 +52,14 @@ QString itemProblem(const CleaningItem &item)
     return {};
 }
 
-QString keptProblem(const CleaningItem &item, const QString &newPath)
+QString keptProblem(const CleaningItem &item)
 {
     if (!item.hasKept())
         return {};
     const PathState kept = pathState(item.kept.path);
     const bool isGone = kept.kind == PathState::Kind::Missing ||
                         (mayNumberAnew(item.kept.path) && !MirrixCore::FileReader().open(item.kept.path));
-    const bool isOneFolder =
-        haveSameNameElsewhere(item.file.path, item.kept.path) && folderOf(newPath) != folderOf(item.kept.path) &&
-        pathState(joinedPath(folderOf(item.kept.path), fileNameOf(newPath))).kind != PathState::Kind::Missing;
-    if (isGone || isOneFolder)
+    if (isGone)
         return sameFileText(item.file.path);
     return isAsScanned(kept, item.kept) ? QString() : keptChangedText(item);
 }
@@ -102,6 +93,11 @@ QString accessProblem(const QString &file, const QString &target)
 QString sameFileText(const QString &path)
 {
     return text(QT_TRANSLATE_NOOP("Mirrix", "要保留的文件已不在原处，或经由另一路径就是该文件本身，未处理: %1"), path);
+}
+
+QString keptChangedText(const CleaningItem &item)
+{
+    return text(QT_TRANSLATE_NOOP("Mirrix", "要保留的文件已更改，未处理: %1"), item.file.path);
 }
 
 QString changedText(const QString &path)

@@ -11,15 +11,16 @@ namespace Mirrix {
 // What a scan found may no longer be so when it is acted on. Texts are translated and name the file; empty means that
 // nothing speaks against acting. Nothing is changed on the disk. Thread-safe.
 
+/// Whether `state` is that of the plain file that the scan saw.
+[[nodiscard]] bool isAsScanned(const PathState &state, const ScannedFile &file);
+
 /// Whether the surplus file is a plain file of the size, time and (where the scan noted it) number that the scan saw,
 /// and so is the kept one, and both are two files as far as the system can tell. Two looks at the disk.
 [[nodiscard]] QString itemProblem(const CleaningItem &item);
 
-/// Whether the kept file stands where it should once the surplus file has left its place for `newPath`: had both paths
-/// led to one file by way of mounts, links or letter case, it is gone now. File systems on top of others may remember a
-/// name that is gone, but not one they have never seen: the new name must not show in the kept file's folder. Empty for
-/// an item without a kept file.
-[[nodiscard]] QString keptProblem(const CleaningItem &item, const QString &newPath);
+/// Whether the kept file stands where it should once the surplus file has left its place: had both paths led to one file
+/// by way of mounts, links or letter case, it is gone now. Empty for an item without a kept file.
+[[nodiscard]] QString keptProblem(const CleaningItem &item);
 
 /// Whether both, still at their places, agree in their sample blocks, at most 20 KiB each, or in all bytes. Nothing is
 /// looked at where the group is not one of equal contents.
@@ -29,7 +30,8 @@ namespace Mirrix {
 /// gain or lose access.
 [[nodiscard]] QString accessProblem(const QString &file, const QString &target);
 
-// Messages about `path` that several steps share.
+// Messages that several steps share.
+[[nodiscard]] QString keptChangedText(const CleaningItem &item);
 [[nodiscard]] QString sameFileText(const QString &path);
 [[nodiscard]] QString changedText(const QString &path);
 [[nodiscard]] QString differsText(const QString &path);

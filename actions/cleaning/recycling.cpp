@@ -29,7 +29,7 @@ CleaningOutcome outcomeOf(const RecycleBin &bin, const CleaningItem &item, const
 {
     if (pathState(item.file.path).kind != PathState::Kind::Missing)
         return {text(QT_TRANSLATE_NOOP("Mirrix", "未移入回收站，仍在原处: %1"), item.file.path), {}};
-    const QString problem = keptProblem(item, placed);
+    const QString problem = keptProblem(item);
     if (problem.isEmpty())
         return {{}, placed};
     if (bin.putBack && bin.putBack(item.file.path, placed))

@@ -63,7 +63,7 @@ CleaningOutcome transfer(const CleaningItem &item, CleaningMethod method, const 
         return {text(QT_TRANSLATE_NOOP("Mirrix", "目标已存在: %1"), to), {}};
     if (fault != FileFault::None)
         return {failureText(item, method), {}};
-    problem = keptProblem(item, to);
+    problem = keptProblem(item);
     const bool wantsLink = problem.isEmpty() && isLinking(method);
     if (wantsLink && method == CleaningMethod::BackupAndHardLink)
         static_cast<void>(createHardLink(item.file.path, linkTarget(item), &problem));

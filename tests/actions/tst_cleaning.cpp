@@ -73,7 +73,7 @@ class CleaningTest : public QObject
 
 private slots:
     void init();
-    void byMethod_data() { methods(); }
+    void byMethod_data();
     void byMethod();
     void anotherProgramMeanwhile_data();
     void anotherProgramMeanwhile();
@@ -131,24 +131,39 @@ void CleaningTest::init()
     m_comparesWholeContents = true;
 }
 
+void CleaningTest::byMethod_data()
+{
+    QTest::addColumn<CleaningMethod>("method");
+    QTest::addColumn<QString>("keptName");
+    for (const CleaningMethod method : allMethods) {
+        QTest::addRow("%s", qPrintable(methodName(method))) << method << u"kept"_s;
+        QTest::addRow("%s of one name", qPrintable(methodName(method))) << method << u"other/copy"_s;
+    }
+}
+
 void CleaningTest::byMethod()
 {
     QFETCH(CleaningMethod, method);
+    QFETCH(QString, keptName);
     if (!canLink(method))
         QSKIP("no symbolic links");
+    m_tree->makeFolder(u"src/other"_s);
+    QVERIFY(keptName == u"kept" || QFile::rename(path("src/kept"), m_tree->path(u"src/"_s + keptName)));
     const DiskTree before = treeBelow(path("src"));
     DiskTree expected = before;
     const QByteArray copy = expected.take(u"copy"_s);
     const bool isSymbolic = methodName(method).endsWith(u"symlink"_s);
     if (isLinking(method))
-        expected[u"copy"_s] = (isSymbolic ? "link to " : "") + expected[u"kept"_s];
-    const CleaningResult result = run(plan(method));
+        expected[u"copy"_s] = (isSymbolic ? "link to " : "") + expected[keptName];
+    CleaningPlan made = plan(method);
+    made.items[0].kept = scanned(m_tree->path(u"src/"_s + keptName));
+    const CleaningResult result = run(made);
     QCOMPARE(result.errors, QStringList());
     QCOMPARE(result.count, 1);
     QCOMPARE(treeBelow(path("src")), expected);
     if (method == CleaningMethod::SymbolicLink && namesAreBytes)
         QCOMPARE(QString::fromStdString(std::filesystem::read_symlink(exactNative(path("src/copy"))).string()),
-                 u"kept"_s);
+                 keptName);
     QCOMPARE(treeBelow(path("bin")).value(u"copy"_s), method == CleaningMethod::Recycle ? copy : QByteArray());
     QCOMPARE(treeBelow(path("target")).value(u"copy"_s), method == CleaningMethod::Move ? copy : QByteArray());
     const QList<BackupEntry> kept = restorableEntries(path("store"));
