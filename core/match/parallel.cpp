@@ -1,6 +1,7 @@
 #include "core/match/parallel.h"
 
-#include <latch>
+#include <condition_variable>
+#include <mutex>
 #include <system_error>
 #include <thread>
 #include <vector>
@@ -9,15 +10,25 @@ namespace MirrixCore {
 
 int creatableThreads(int wanted)
 {
-    std::latch mayEnd(1); // all at once, as they will be needed
+    // All at once, as they will be needed. Not by std::latch, with which the MinGW library sometimes waits for ever.
+    std::mutex mutex;
+    std::condition_variable changed;
+    bool mayEnd = false;
     std::vector<std::thread> threads;
     threads.reserve(static_cast<size_t>(std::max(wanted, 0)));
     try {
         while (std::ssize(threads) < wanted)
-            threads.emplace_back([&mayEnd] { mayEnd.wait(); });
+            threads.emplace_back([&] {
+                std::unique_lock lock(mutex);
+                changed.wait(lock, [&] { return mayEnd; });
+            });
     } catch (const std::system_error &) { // what there is will do
     }
-    mayEnd.count_down();
+    {
+        const std::lock_guard lock(mutex);
+        mayEnd = true;
+    }
+    changed.notify_all();
     for (std::thread &thread : threads)
         thread.join();
     return static_cast<int>(threads.size());
