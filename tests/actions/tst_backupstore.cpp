@@ -351,7 +351,7 @@ void BackupStoreTest::hostileEntries_data()
     QTest::newRow("out of the store by dots") << u"src/new"_s << u"store/deep/../../src/victim"_s;
     QTest::newRow("from below the store") << u"src/new"_s << u"store/deep/sub/other"_s;
     QTest::newRow("the index") << u"src/new"_s << u"store/deep/backup_index.json"_s;
-    QTest::newRow("its lock") << u"src/new"_s << u"store/deep/Backup_Index.lock"_s;
+    QTest::newRow("its lock") << u"src/new"_s << u"store/deep/Backup_Index.damaged1.json"_s;
     QTest::newRow("a begun copy") << u"src/new"_s << u"store/deep/.mirrix-1.part"_s;
     QTest::newRow("aside name from elsewhere") << u"new"_s << u"src/.mirrix-1.aside"_s;
     QTest::newRow("dots in the old path") << u"src/../new"_s << u"store/deep/file"_s;
@@ -370,7 +370,7 @@ void BackupStoreTest::hostileEntries()
     QFETCH(QString, backup);
     for (const QString &name :
          {u"src/victim"_s, u"src/.mirrix-1.aside"_s, u"store/deep/file"_s, u"store/deep/sub/other"_s,
-          u"store/deep/Backup_Index.lock"_s, u"store/deep/.mirrix-1.part"_s})
+          u"store/deep/Backup_Index.damaged1.json"_s, u"store/deep/.mirrix-1.part"_s})
         m_tree->write(name, name.toUtf8());
     if (backup.endsWith(u"link"_s) && !m_tree->symbolicLink(u"src/victim"_s, backup))
         QSKIP("no symbolic links");
