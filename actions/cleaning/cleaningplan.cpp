@@ -71,9 +71,8 @@ QString methodName(CleaningMethod method)
 std::optional<CleaningMethod> methodNamed(const QString &name)
 {
     const auto found = std::find(methodNames().begin(), methodNames().end(), name);
-    return found == methodNames().end()
-               ? std::nullopt
-               : std::optional(static_cast<CleaningMethod>(found - methodNames().begin()));
+    return found == methodNames().end() ? std::nullopt
+                                        : std::optional(static_cast<CleaningMethod>(found - methodNames().begin()));
 }
 
 bool isDestroying(CleaningMethod method)

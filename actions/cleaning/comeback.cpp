@@ -98,8 +98,8 @@ private:
 
     [[nodiscard]] QString place()
     {
-        const FileFault fault = pathState(m_item.original).kind == PathState::Kind::Missing ? moveIn()
-                                                                                            : FileFault::Occupied;
+        const FileFault fault =
+            pathState(m_item.original).kind == PathState::Kind::Missing ? moveIn() : FileFault::Occupied;
         if (fault == FileFault::Occupied)
             return occupiedText(m_item.original);
         return fault == FileFault::None ? QString() : notBackText(m_item.original);

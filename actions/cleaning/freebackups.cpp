@@ -43,7 +43,8 @@ QHash<QString, BackupEntry> entriesByName(const QString &folder)
 bool deleteBackup(const QString &path, const RunItem &item, const QHash<QString, BackupEntry> &listed)
 {
     const auto entry = listed.constFind(fileNameOf(path));
-    return entry != listed.cend() && entry->original == MirrixCore::cleanedPath(MirrixCore::absolutePath(item.original)) &&
+    return entry != listed.cend() &&
+           entry->original == MirrixCore::cleanedPath(MirrixCore::absolutePath(item.original)) &&
            pathState(path).kind == PathState::Kind::File && removeOwnCopy(path) == FileFault::None;
 }
 

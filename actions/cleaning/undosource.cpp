@@ -41,8 +41,8 @@ UndoSource UndoSources::of(qsizetype index)
         return {isOpen || (!outcome.now.isEmpty() && isFile(outcome.now)) ? Way::None : Way::Home, {}};
     UndoSource source = isOpen ? whereInterrupted(index) : whereIs(index);
     if (!isLink && there.kind != PathState::Kind::Missing && source.problem.isEmpty())
-        source.problem = there.kind == PathState::Kind::Unknown ? notBackText(item.original)
-                                                                : occupiedText(item.original);
+        source.problem =
+            there.kind == PathState::Kind::Unknown ? notBackText(item.original) : occupiedText(item.original);
     return source;
 }
 
@@ -81,8 +81,7 @@ UndoSource UndoSources::whereInterrupted(qsizetype index)
         if (recycled.problem.isEmpty())
             return recycled;
     } else if (*m_method == CleaningMethod::Move) {
-        const UndoSource moved =
-            inFolder(index, joinedPath(m_run.summary.header.target, fileNameOf(item.original)));
+        const UndoSource moved = inFolder(index, joinedPath(m_run.summary.header.target, fileNameOf(item.original)));
         if (moved.problem.isEmpty())
             return moved;
     }
@@ -142,8 +141,7 @@ bool isAsRecorded(const PathState &state, const RunItem &item)
     if (state.kind != PathState::Kind::File || state.sizeBytes != item.sizeBytes)
         return false;
     constexpr qint64 coarsestMs = 2000; // FAT
-    const bool isRounded =
-        state.modifiedMs % 1000 == 0 && std::abs(state.modifiedMs - item.modifiedMs) < coarsestMs;
+    const bool isRounded = state.modifiedMs % 1000 == 0 && std::abs(state.modifiedMs - item.modifiedMs) < coarsestMs;
     return state.modifiedExact == item.modifiedExact || isRounded;
 }
 

@@ -50,8 +50,8 @@ private:
     static void methods()
     {
         QTest::addColumn<CleaningMethod>("method");
-        for (const char *name : {"recycle", "delete", "move", "symlink", "hardlink", "backup", "backup+symlink",
-                                 "backup+hardlink"})
+        for (const char *name :
+             {"recycle", "delete", "move", "symlink", "hardlink", "backup", "backup+symlink", "backup+hardlink"})
             QTest::newRow(name) << methodNamed(QLatin1String(name)).value();
     }
     [[nodiscard]] QString path(const char *name) const { return m_tree->path(QLatin1String(name)); }
@@ -67,7 +67,10 @@ private:
         plan.targetFolder = path("target");
         plan.backupFolder = path("store");
         for (const char *name : {"src/one", "src/deep/two"})
-            plan.items.append({scanned(path(name)), scanned(path("src/kept")), {}, isEqualContent ? digest : QString(),
+            plan.items.append({scanned(path(name)),
+                               scanned(path("src/kept")),
+                               {},
+                               isEqualContent ? digest : QString(),
                                isEqualContent});
         return runCleaning(plan, {m_log, path("data"), u"test"_s});
     }
@@ -160,7 +163,7 @@ void UndoTest::interrupted()
 void UndoTest::cannotComeBack_data()
 {
     QTest::addColumn<QString>("method");
-    QTest::addColumn<QString>("change"); // verb and file
+    QTest::addColumn<QString>("change");  // verb and file
     QTest::addColumn<QString>("message"); // %1 the old path
     const QString occupied = u"原路径已存在文件，已取消恢复: %1"_s;
     const QString gone = u"无法重新生成，要保留的文件不存在或已更改: %1"_s;
@@ -179,8 +182,7 @@ void UndoTest::cannotComeBack_data()
     QTest::newRow("backup, one byte") << u"backup"_s << u"sneak store/*one"_s << u"备份文件已损坏，未恢复: %1"_s;
     QTest::newRow("backup, gone") << u"backup"_s << u"rm store/*one"_s << notThere;
     QTest::newRow("move, other time") << u"move"_s << u"touch target/one"_s << notThere;
-    QTest::newRow("move, folder gone")
-        << u"move"_s << u"rename target"_s << u"文件夹或磁盘不存在，未恢复: %1"_s;
+    QTest::newRow("move, folder gone") << u"move"_s << u"rename target"_s << u"文件夹或磁盘不存在，未恢复: %1"_s;
 }
 
 /// Named in the plan or by the undo; what is there stays as it is, and the other file comes back unless it has the
@@ -197,9 +199,8 @@ void UndoTest::cannotComeBack()
     const CleaningResult cleaned = clean(methodNamed(method).value(), verb != u"loose");
     QCOMPARE(cleaned.count, 2);
     const QDir folder(m_tree->path(file.section(u'/', 0, -2)));
-    const QString changed = file.contains(u'*')
-                                ? folder.filePath(folder.entryList({file.section(u'/', -1)}).value(0))
-                                : m_tree->path(file);
+    const QString changed =
+        file.contains(u'*') ? folder.filePath(folder.entryList({file.section(u'/', -1)}).value(0)) : m_tree->path(file);
     const qint64 modifiedMs = MirrixCore::fileStatus(changed).modifiedMs;
     if (verb == u"rename")
         QVERIFY(QDir().rename(changed, changed + u"2"_s));
