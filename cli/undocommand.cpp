@@ -74,7 +74,8 @@ ExitStatus printPlan(const UndoPlan &plan)
             continue;
         }
         ++possible;
-        const QString line = backupLine({plan.run.items[step.item].original, step.from});
+        const QString &original = plan.run.items[step.item].original;
+        const QString line = step.from.isEmpty() ? original : backupLine({original, step.from});
         output.write(shownPath(line, output.isTerminal()) + '\n');
     }
     output.write(QStringLiteral("%1 of %2 files of run %3 (%4) can be undone; nothing was done (--apply does it)\n")

@@ -50,7 +50,7 @@ QList<UndoStep> redoSteps(const StoredRun &undo, const BatchProgress &progress)
         const bool isCut = undo.outcomes[i].state == ItemState::Planned && !undo.summary.isComplete &&
                            isAsRecorded(pathState(item.original), item) && !MadeLink(item, method).isInPlace();
         if (undo.outcomes[i].state == ItemState::Done || isCut)
-            steps.append({i, redoProblem(item, method), item.original});
+            steps.append({i, redoProblem(item, method)});
     }
     return steps;
 }
