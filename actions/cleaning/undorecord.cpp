@@ -17,6 +17,11 @@ QString text(const char *source, const QString &path)
     return QCoreApplication::translate("Mirrix", source).arg(path);
 }
 
+QString unwrittenText(const QString &path)
+{
+    return text(QT_TRANSLATE_NOOP("Mirrix", "无法写入操作日志: %1"), path);
+}
+
 } // namespace
 
 UndoRecord::UndoRecord(const UndoPlan &plan, const CleaningServices &services)
@@ -88,14 +93,18 @@ bool UndoRecord::noteHome(qsizetype item)
 QStringList UndoRecord::end()
 {
     QStringList problems;
-    if (!writePending() || (!m_items.isEmpty() && !m_own.finish()) || !m_undone.finish())
-        problems.append(m_own.errorText().isEmpty() ? m_undone.errorText() : m_own.errorText());
+    if (!writePending())
+        problems.append(unwrittenText(m_services.dataDirectory));
+    if (!m_items.isEmpty() && !m_own.finish())
+        problems.append(m_own.errorText());
+    if (!m_undone.finish())
+        problems.append(m_undone.errorText());
     for (const auto &[folder, store] : m_stores) {
         if (!store->gone.isEmpty() && !store->session.remove(store->gone))
             problems.append(text(QT_TRANSLATE_NOOP("Mirrix", "备份索引无法写入: %1"), folder));
     }
     if (!m_events.isEmpty() && !m_services.log.append(m_events))
-        problems.append(text(QT_TRANSLATE_NOOP("Mirrix", "无法写入操作日志: %1"), m_services.log.filePath()));
+        problems.append(unwrittenText(m_services.log.filePath()));
     return problems;
 }
 
