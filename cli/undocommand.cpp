@@ -34,7 +34,7 @@ QString runMeant(const QCommandLineParser &parser)
     if (words.constFirst() == lastWord) {
         const QList<RunSummary> runs = listRuns(dataDirectory);
         const auto found = std::find_if(runs.begin(), runs.end(), [](const RunSummary &run) {
-            return run.isReadable && !run.header.method.startsWith(QLatin1String("undo "));
+            return methodNamed(run.header.method).has_value(); // nor one that was killed before it began
         });
         if (found == runs.end())
             printError(QStringLiteral("there is no run to undo"));

@@ -115,8 +115,8 @@ qsizetype undo(const QString &root)
 {
     OperationsLog log(root + u"/log"_s);
     for (const RunSummary &run : listRuns(root + u"/data"_s)) {
-        if (run.header.method.startsWith(u"undo"_s))
-            continue;
+        if (!methodNamed(run.header.method))
+            continue; // an undo, or one that was killed before it began
         const UndoPlan plan = planUndo(root + u"/data"_s, run.header.id);
         const UndoResult result = undoRun(plan, plan.steps, {log, root + u"/data"_s, u"test"_s});
         return result.errors.isEmpty() ? plan.steps.size() : -1;
