@@ -53,16 +53,30 @@ BackupState backupState(const BackupEntry &entry, const MirrixCore::CancelQuery 
         return BackupState::Refused;
     if (entry.sizeBytes > 0 && file.sizeBytes != entry.sizeBytes)
         return BackupState::Damaged;
-    const std::optional<ContentHashAlgorithm> algorithm = algorithmOf(entry.digest);
-    if (!algorithm)
-        return BackupState::Intact;
-    const QByteArray digest = *algorithm == ContentHashAlgorithm::Md5
-                                  ? MirrixCore::hashFileWith(entry.backup, QCryptographicHash::Md5, cancelled)
-                                  : MirrixCore::fullContentHashBlake3(entry.backup, cancelled);
-    if (digest.isEmpty())
+    switch (checkDigest(entry.backup, entry.digest, cancelled)) {
+    case DigestCheck::Different:
+        return BackupState::Damaged;
+    case DigestCheck::Unreadable:
         return BackupState::Unreadable;
-    const bool isSame = backupDigest(digest, *algorithm).compare(entry.digest, Qt::CaseInsensitive) == 0;
-    return isSame ? BackupState::Intact : BackupState::Damaged;
+    case DigestCheck::Equal:
+    case DigestCheck::UnknownKind:
+        break;
+    }
+    return BackupState::Intact;
+}
+
+DigestCheck checkDigest(const QString &path, const QString &digest, const MirrixCore::CancelQuery &cancelled)
+{
+    const std::optional<ContentHashAlgorithm> algorithm = algorithmOf(digest);
+    if (!algorithm)
+        return DigestCheck::UnknownKind;
+    const QByteArray found = *algorithm == ContentHashAlgorithm::Md5
+                                 ? MirrixCore::hashFileWith(path, QCryptographicHash::Md5, cancelled)
+                                 : MirrixCore::fullContentHashBlake3(path, cancelled);
+    if (found.isEmpty())
+        return DigestCheck::Unreadable;
+    const bool isSame = backupDigest(found, *algorithm).compare(digest, Qt::CaseInsensitive) == 0;
+    return isSame ? DigestCheck::Equal : DigestCheck::Different;
 }
 
 QString backupDigest(const QByteArray &digest, ContentHashAlgorithm algorithm)

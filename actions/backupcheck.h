@@ -24,6 +24,18 @@ enum class BackupState
 /// taken for unknown. Thread-safe.
 [[nodiscard]] BackupState backupState(const BackupEntry &entry, const MirrixCore::CancelQuery &cancelled = {});
 
+enum class DigestCheck
+{
+    Equal,
+    Different,
+    Unreadable, ///< also when cancelled
+    UnknownKind ///< no digest, or one that another version of the program has written; the file was not read
+};
+
+/// Compares a file's whole content with a digest as BackupEntry::digest has it. Thread-safe.
+[[nodiscard]] DigestCheck checkDigest(const QString &path, const QString &digest,
+                                      const MirrixCore::CancelQuery &cancelled = {});
+
 /// A digest of a whole content as BackupEntry::digest has it: "md5:" or "blake3:" and lower-case hex digits. Empty for
 /// an empty one.
 [[nodiscard]] QString backupDigest(const QByteArray &digest, MirrixCore::ContentHashAlgorithm algorithm);

@@ -125,19 +125,32 @@ void copyExtendedAttributes(int from, int to)
     }
 }
 
-bool copyAttributes(int from, int to, const struct stat &info)
+timespec timeFrom(qint64 nanoseconds)
+{
+    constexpr qint64 second = 1000000000;
+    const qint64 rest = (nanoseconds % second + second) % second;
+    return {static_cast<time_t>((nanoseconds - rest) / second), static_cast<long>(rest)};
+}
+
+/// `marked`, with the bits that lend rights only where `present` has them, too.
+mode_t harmlessMode(quint32 marked, mode_t present)
+{
+    return (marked & 0777) | (marked & present & 07000);
+}
+
+bool copyAttributes(int from, int to, const struct stat &info, const FileMarks *marks)
 {
     copyExtendedAttributes(from, to);
     // Before the mode, since it takes away the set-user-id bits. Only root may give files to others.
     const bool isOwnerKept = fchown(to, info.st_uid, info.st_gid) == 0;
-    const mode_t mode = info.st_mode & (isOwnerKept ? 07777 : 0777);
-    const std::array<timespec, 2> times = {info.st_atim, info.st_mtim};
+    const mode_t mode = harmlessMode(marks ? marks->mode : info.st_mode, isOwnerKept ? info.st_mode : 0);
+    const std::array<timespec, 2> times = {info.st_atim, marks ? timeFrom(marks->modifiedExact) : info.st_mtim};
     return isSetOrUnsupported(fchmod(to, mode)) && isSetOrUnsupported(futimens(to, times.data()));
 }
 
 } // namespace
 
-FileFault copyToNewFile(const QString &from, const QString &to)
+FileFault copyToNewFile(const QString &from, const QString &to, const FileMarks *marks)
 {
     const Descriptor source(open(pathBytes(from).constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
     struct stat info = {};
@@ -147,14 +160,24 @@ FileFault copyToNewFile(const QString &from, const QString &to)
     Descriptor target(open(path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
     if (target.get() < 0)
         return errno == EEXIST ? FileFault::Occupied : FileFault::Failed;
-    bool isWhole = copyContent(source.get(), target.get(), info) && copyAttributes(source.get(), target.get(), info) &&
-                   fsync(target.get()) == 0;
+    bool isWhole = copyContent(source.get(), target.get(), info) &&
+                   copyAttributes(source.get(), target.get(), info, marks) && fsync(target.get()) == 0;
     // So that whoever compares the two reads what the disk has got.
     posix_fadvise(target.get(), 0, 0, POSIX_FADV_DONTNEED);
     isWhole = target.close() && isWhole;
     if (!isWhole)
         unlink(path.constData());
     return isWhole ? FileFault::None : FileFault::Failed;
+}
+
+bool setFileMarks(const QString &path, const FileMarks &marks)
+{
+    const Descriptor file(open(pathBytes(path).constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
+    struct stat info = {};
+    if (file.get() < 0 || fstat(file.get(), &info) != 0 || !S_ISREG(info.st_mode))
+        return false;
+    const std::array<timespec, 2> times = {timespec{0, UTIME_OMIT}, timeFrom(marks.modifiedExact)};
+    return fchmod(file.get(), harmlessMode(marks.mode, info.st_mode)) == 0 && futimens(file.get(), times.data()) == 0;
 }
 
 } // namespace Mirrix

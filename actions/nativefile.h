@@ -28,7 +28,7 @@ struct PathState
     qint64 modifiedExact = 0;   ///< the same time in the system's own finest unit
     qint64 changedExact = 0;    ///< last change of content or attributes, in the same unit; 0 = unknown
     bool isUndeletable = false; ///< marked read-only where that forbids deleting (Windows)
-    quint32 mode = 0;           ///< permission bits, 07777 at most; 0 on Windows
+    quint32 mode = 0;           ///< permission bits, 07777 at most; on Windows the attributes that can be set
     quint32 owner = 0;          ///< user and group numbers; 0 on Windows
     quint32 group = 0;
     MirrixCore::FileIdentity identity;
@@ -70,10 +70,22 @@ enum class FileFault
 /// Makes `link` a further name of the file `target`.
 [[nodiscard]] FileFault makeHardLink(const QString &target, const QString &link);
 
+/// What a file has besides its content; the members are those of PathState.
+struct FileMarks
+{
+    qint64 modifiedExact = 0;
+    quint32 mode = 0;
+};
+
 /// Copies the plain file `from` with times and attributes to the free path `to` and waits until it is on the disk.
-/// Attributes that the file system of `to` does not have are left out; holes stay holes (POSIX). Leaves nothing behind
-/// on failure.
-[[nodiscard]] FileFault copyToNewFile(const QString &from, const QString &to);
+/// Attributes that the file system of `to` does not have are left out; holes stay holes (POSIX). `marks`, where given,
+/// are set instead of those of `from`, but for the bits that lend the owner's rights: these have to be set on both.
+/// Leaves nothing behind on failure.
+[[nodiscard]] FileFault copyToNewFile(const QString &from, const QString &to, const FileMarks *marks = nullptr);
+
+/// Gives a plain file these marks, not to wait until they are on the disk. Bits that lend the owner's rights are never
+/// added. False when the file has not got them.
+[[nodiscard]] bool setFileMarks(const QString &path, const FileMarks &marks);
 
 /// Makes an empty file at the free path `path`.
 [[nodiscard]] FileFault makeEmptyFile(const QString &path);

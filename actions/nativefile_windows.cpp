@@ -80,6 +80,7 @@ PathState pathStateOf(HANDLE file)
     state.modifiedMs = epochMsFrom(info.ftLastWriteTime);
     state.modifiedExact =
         static_cast<qint64>(joined(info.ftLastWriteTime.dwHighDateTime, info.ftLastWriteTime.dwLowDateTime));
+    state.mode = info.dwFileAttributes & settableAttributes;
     FILE_BASIC_INFO basic = {};
     if (GetFileInformationByHandleEx(file, FileBasicInfo, &basic, sizeof basic))
         state.changedExact = basic.ChangeTime.QuadPart;

@@ -8,6 +8,7 @@
 #include "cli/output.h"
 #include "cli/restorecommand.h"
 #include "cli/scancommand.h"
+#include "cli/undocommand.h"
 #include "core/platform/nativepath.h"
 #include "core/walk/pathrules.h"
 
@@ -32,15 +33,16 @@ struct Command
     ExitStatus (*run)(const QCommandLineParser &);
 };
 
-const std::array<Command, 6> &commands()
+const std::array<Command, 7> &commands()
 {
-    static const std::array<Command, 6> table = {{
+    static const std::array<Command, 7> table = {{
         {QStringLiteral("scan"), QStringLiteral("find duplicate files in folders"), addScanOptions, runScan},
         {QStringLiteral("clean"), QStringLiteral("remove surplus copies of identical files"), addCleanOptions,
          runClean},
         {QStringLiteral("restore"), QStringLiteral("list or restore backed-up files"), addRestoreOptions, runRestore},
         {QStringLiteral("history"), QStringLiteral("list the cleaning runs, or the files of one"), addHistoryOptions,
          runHistory},
+        {QStringLiteral("undo"), QStringLiteral("bring back what a cleaning run took away"), addUndoOptions, runUndo},
         {QStringLiteral("log"), QStringLiteral("print what was done"), addLogOptions, runLog},
         {QStringLiteral("hash"), QStringLiteral("print digests of files"), addHashOptions, runHash},
     }};

@@ -2,6 +2,7 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -50,16 +51,28 @@ QString digestIn(const DuplicateGroup &group)
                                         : QString();
 }
 
-} // namespace
-
-QString methodName(CleaningMethod method)
+const std::array<QString, 8> &methodNames()
 {
     static const std::array<QString, 8> names = {
         QStringLiteral("recycle"),        QStringLiteral("delete"),          QStringLiteral("move"),
         QStringLiteral("symlink"),        QStringLiteral("hardlink"),        QStringLiteral("backup"),
         QStringLiteral("backup+symlink"), QStringLiteral("backup+hardlink"),
     };
-    return names[static_cast<size_t>(method)];
+    return names;
+}
+
+} // namespace
+
+QString methodName(CleaningMethod method)
+{
+    return methodNames()[static_cast<size_t>(method)];
+}
+
+std::optional<CleaningMethod> methodNamed(const QString &name)
+{
+    const auto found = std::find(methodNames().begin(), methodNames().end(), name);
+    return found == methodNames().end() ? std::nullopt
+                                        : std::optional(static_cast<CleaningMethod>(found - methodNames().begin()));
 }
 
 bool isDestroying(CleaningMethod method)

@@ -7,6 +7,8 @@
 #include <QList>
 #include <QString>
 
+#include <optional>
+
 namespace Mirrix {
 
 /// The ways in which a surplus copy is given up.
@@ -24,6 +26,9 @@ enum class CleaningMethod
 
 /// The name of a method in journals and on the command line: "recycle", "backup+symlink", ...
 [[nodiscard]] QString methodName(CleaningMethod method);
+
+/// The method of that name; nothing for any other text.
+[[nodiscard]] std::optional<CleaningMethod> methodNamed(const QString &name);
 
 /// Whether the surplus copy is gone for good afterwards, so that equal content has to be proved first.
 [[nodiscard]] bool isDestroying(CleaningMethod method);
@@ -69,6 +74,7 @@ struct CleaningPlan
     bool comparesWholeContents = false; ///< before moving, too, not only before destroying
     QString rule;                       ///< what chose the files, for the record; may be empty
     bool isBackupBeforeRemoval = false; ///< backed up because the user asked for that in the removal dialog
+    QString undoOf = {};                ///< id of the run that this one takes back, for the record; usually empty
     QList<CleaningItem> items;
 };
 

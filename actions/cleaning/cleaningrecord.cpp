@@ -54,6 +54,7 @@ bool CleaningRecord::beginJournal()
     header.method = methodName(m_plan.method);
     header.target = takingFolder(m_plan);
     header.rule = m_plan.rule;
+    header.undoOf = m_plan.undoOf;
     return m_journal.create(m_services.dataDirectory, header, plannedItems());
 }
 
@@ -73,6 +74,7 @@ QList<RunItem> CleaningRecord::plannedItems() const
         planned.mode = state.mode;
         planned.digest = item.digest;
         planned.aside = placeOf(i);
+        planned.linkTarget = item.linkTarget;
         items.append(planned);
     }
     return items;

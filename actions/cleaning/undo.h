@@ -15,19 +15,25 @@ struct UndoStep
 {
     qsizetype item = 0; ///< index in the run's list
     QString problem;    ///< why the file cannot come back, translated; empty when it can, as far as a look tells
+    QString from = {};  ///< the file that comes back, or the kept copy of which it is made again; may be empty
 };
 
 /// What undoing a run would do. A plain value: nothing has been done yet.
 struct UndoPlan
 {
     StoredRun run;
-    QList<UndoStep> steps; ///< for each file that is not at its place because of the run, in the run's order
+    QList<UndoStep> steps;      ///< for each file that is not at its place because of the run, in the run's order
+    QList<qsizetype> home = {}; ///< files that are back though the run's record does not say so
+    QString backupFolder = {};  ///< as given to planUndo
 };
 
 /// Reads a run and looks where its files are; contents are not read. Files that the run did not touch, that are back
-/// already or that stand at their place have no step. What a run that was cut short did with a file, the disk tells. Not
-/// for journals that cannot be read: see run.summary. Blocks; cancelled by `progress`.
-[[nodiscard]] UndoPlan planUndo(const QString &dataDirectory, const QString &runId, const BatchProgress &progress = {});
+/// already or that stand at their place have no step. What a run that was cut short did with a file, the disk tells.
+/// For a run that was an undo itself the steps are to put the files away again, if nothing has changed since. Not for
+/// journals that cannot be read: see run.summary. `backupFolder` is that of the settings, where backups are looked for,
+/// too, when the run's own folder is gone. Blocks; cancelled by `progress`: then the steps are not all.
+[[nodiscard]] UndoPlan planUndo(const QString &dataDirectory, const QString &runId, const BatchProgress &progress = {},
+                                const QString &backupFolder = {});
 
 struct UndoResult : BatchResult
 {
@@ -36,9 +42,10 @@ struct UndoResult : BatchResult
 };
 
 /// Brings files of a run back to their old paths with the old times and permissions, never over anything that stands
-/// there: from the backup folder, the folder they were moved to, or the bin; what was replaced by a link or deleted for good
-/// is made again from the kept copy when that still has the content that was proved equal. `steps` are those of planUndo, or
-/// some of them. Recorded as a run of its own, and refused where that is not possible. No failure ends it. Blocks.
+/// there: from the backup folder, the folder they were moved to, or the bin; what was replaced by a link or deleted for
+/// good is made again from the kept copy when that still has the content that was proved equal. `steps` are those of
+/// planUndo, or some of them. Recorded as a run of its own, with "undo " before the method, and refused where that is
+/// not possible. What an undo brought back is put away by runCleaning, with its proof. No failure ends it. Blocks.
 [[nodiscard]] UndoResult undoRun(const UndoPlan &plan, const QList<UndoStep> &steps, const CleaningServices &services,
                                  const BatchProgress &progress = {});
 

@@ -127,6 +127,7 @@ QByteArray rowText(const RunItem &item)
         .add(item.digest)
         .add(item.reason)
         .add(item.aside)
+        .add(item.linkTarget)
         .row();
 }
 
@@ -180,7 +181,8 @@ RunItem itemOf(const QJsonArray &row)
 {
     return {row[0].toString(),  row[1].toString(),  row[2].toInteger(),
             row[3].toInteger(), row[4].toInteger(), static_cast<quint32>(row[5].toInteger()),
-            row[6].toString(),  row[7].toString(),  row[8].toString()};
+            row[6].toString(),  row[7].toString(),  row[8].toString(),
+            row[9].toString()};
 }
 
 ItemOutcome outcomeOf(const QJsonArray &row)

@@ -364,6 +364,34 @@
         <translation>Das Protokoll der Bereinigung konnte nicht gelesen werden (beschädigt oder von einem anderen Computer): %1</translation>
     </message>
     <message>
+        <source>无法重新生成，当时未与要保留的文件比较内容: %1</source>
+        <translation>Lässt sich nicht neu erstellen; der Inhalt wurde nicht mit der zu behaltenden Datei verglichen: %1</translation>
+    </message>
+    <message>
+        <source>无法重新生成，要保留的文件不存在或已更改: %1 (%2)</source>
+        <translation>Lässt sich nicht neu erstellen; die zu behaltende Datei fehlt oder hat sich geändert: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>已不在回收站中，无法恢复: %1</source>
+        <translation>Nicht mehr im Papierkorb; nicht wiederherstellbar: %1</translation>
+    </message>
+    <message>
+        <source>文件已不在此处或已更改，未恢复: %1 (%2)</source>
+        <translation>Nicht mehr dort oder geändert; nicht wiederhergestellt: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>文件夹或磁盘不存在，未恢复: %1 (%2)</source>
+        <translation>Der Ordner oder das Laufwerk fehlt; nicht wiederhergestellt: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>已恢复，但原链接无法删除: %1</source>
+        <translation>Wiederhergestellt, aber die Verknüpfung konnte nicht entfernt werden: %1</translation>
+    </message>
+    <message>
+        <source>已恢复，但无法还原修改时间或权限: %1</source>
+        <translation>Wiederhergestellt, aber Zeit oder Rechte konnten nicht gesetzt werden: %1</translation>
+    </message>
+    <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
         <translation>Verschieben in den Papierkorb fehlgeschlagen (Code %1, Dateien: %2)</translation>
     </message>

@@ -364,6 +364,34 @@
         <translation>Could not read the cleaning journal (damaged, or from another computer): %1</translation>
     </message>
     <message>
+        <source>无法重新生成，当时未与要保留的文件比较内容: %1</source>
+        <translation>Cannot be made again; its content was not compared with the file to keep: %1</translation>
+    </message>
+    <message>
+        <source>无法重新生成，要保留的文件不存在或已更改: %1 (%2)</source>
+        <translation>Cannot be made again; the file to keep is gone or has changed: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>已不在回收站中，无法恢复: %1</source>
+        <translation>No longer in the Recycle Bin; cannot be restored: %1</translation>
+    </message>
+    <message>
+        <source>文件已不在此处或已更改，未恢复: %1 (%2)</source>
+        <translation>No longer there or changed; not restored: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>文件夹或磁盘不存在，未恢复: %1 (%2)</source>
+        <translation>The folder or drive is missing; not restored: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>已恢复，但原链接无法删除: %1</source>
+        <translation>Restored, but the link could not be removed: %1</translation>
+    </message>
+    <message>
+        <source>已恢复，但无法还原修改时间或权限: %1</source>
+        <translation>Restored, but its time or permissions could not be set: %1</translation>
+    </message>
+    <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
         <translation>Failed to send files to Recycle Bin (code %1, %2 files)</translation>
     </message>

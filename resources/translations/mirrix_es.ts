@@ -364,6 +364,34 @@
         <translation>No se pudo leer el registro de la limpieza (dañado o de otro equipo): %1</translation>
     </message>
     <message>
+        <source>无法重新生成，当时未与要保留的文件比较内容: %1</source>
+        <translation>No se puede volver a crear; su contenido no se comparó con el archivo que se debe conservar: %1</translation>
+    </message>
+    <message>
+        <source>无法重新生成，要保留的文件不存在或已更改: %1 (%2)</source>
+        <translation>No se puede volver a crear; el archivo que se debe conservar no existe o ha cambiado: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>已不在回收站中，无法恢复: %1</source>
+        <translation>Ya no está en la Papelera de reciclaje; no se puede restaurar: %1</translation>
+    </message>
+    <message>
+        <source>文件已不在此处或已更改，未恢复: %1 (%2)</source>
+        <translation>Ya no está allí o ha cambiado; no se ha restaurado: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>文件夹或磁盘不存在，未恢复: %1 (%2)</source>
+        <translation>Falta la carpeta o la unidad; no se ha restaurado: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>已恢复，但原链接无法删除: %1</source>
+        <translation>Restaurado, pero no se pudo eliminar el enlace: %1</translation>
+    </message>
+    <message>
+        <source>已恢复，但无法还原修改时间或权限: %1</source>
+        <translation>Restaurado, pero no se pudieron restablecer la fecha o los permisos: %1</translation>
+    </message>
+    <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
         <translation>Error al enviar a la Papelera de reciclaje (código %1, archivos: %2)</translation>
     </message>

@@ -364,6 +364,34 @@
         <translation>Impossible de lire le journal du nettoyage (endommagé ou d’un autre ordinateur) : %1</translation>
     </message>
     <message>
+        <source>无法重新生成，当时未与要保留的文件比较内容: %1</source>
+        <translation>Impossible à recréer ; son contenu n’a pas été comparé au fichier à conserver : %1</translation>
+    </message>
+    <message>
+        <source>无法重新生成，要保留的文件不存在或已更改: %1 (%2)</source>
+        <translation>Impossible à recréer ; le fichier à conserver a disparu ou a changé : %1 (%2)</translation>
+    </message>
+    <message>
+        <source>已不在回收站中，无法恢复: %1</source>
+        <translation>N’est plus dans la Corbeille ; restauration impossible : %1</translation>
+    </message>
+    <message>
+        <source>文件已不在此处或已更改，未恢复: %1 (%2)</source>
+        <translation>N’est plus là ou a changé ; non restauré : %1 (%2)</translation>
+    </message>
+    <message>
+        <source>文件夹或磁盘不存在，未恢复: %1 (%2)</source>
+        <translation>Le dossier ou le lecteur est absent ; non restauré : %1 (%2)</translation>
+    </message>
+    <message>
+        <source>已恢复，但原链接无法删除: %1</source>
+        <translation>Restauré, mais le lien n’a pas pu être supprimé : %1</translation>
+    </message>
+    <message>
+        <source>已恢复，但无法还原修改时间或权限: %1</source>
+        <translation>Restauré, mais la date ou les permissions n’ont pas pu être rétablies : %1</translation>
+    </message>
+    <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
         <translation>Échec de la mise à la Corbeille (code %1, fichiers : %2)</translation>
     </message>

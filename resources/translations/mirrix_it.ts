@@ -364,6 +364,34 @@
         <translation>Impossibile leggere il registro della pulizia (danneggiato o di un altro computer): %1</translation>
     </message>
     <message>
+        <source>无法重新生成，当时未与要保留的文件比较内容: %1</source>
+        <translation>Impossibile ricreare; il contenuto non è stato confrontato con il file da conservare: %1</translation>
+    </message>
+    <message>
+        <source>无法重新生成，要保留的文件不存在或已更改: %1 (%2)</source>
+        <translation>Impossibile ricreare; il file da conservare non esiste più o è stato modificato: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>已不在回收站中，无法恢复: %1</source>
+        <translation>Non è più nel Cestino; impossibile ripristinare: %1</translation>
+    </message>
+    <message>
+        <source>文件已不在此处或已更改，未恢复: %1 (%2)</source>
+        <translation>Non è più lì o è stato modificato; non ripristinato: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>文件夹或磁盘不存在，未恢复: %1 (%2)</source>
+        <translation>La cartella o l’unità non esiste; non ripristinato: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>已恢复，但原链接无法删除: %1</source>
+        <translation>Ripristinato, ma non è stato possibile rimuovere il collegamento: %1</translation>
+    </message>
+    <message>
+        <source>已恢复，但无法还原修改时间或权限: %1</source>
+        <translation>Ripristinato, ma non è stato possibile reimpostare data o autorizzazioni: %1</translation>
+    </message>
+    <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
         <translation>Impossibile spostare nel Cestino (codice %1, file: %2)</translation>
     </message>

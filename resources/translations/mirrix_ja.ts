@@ -364,6 +364,34 @@
         <translation>クリーンアップの記録を読み込めません（破損、または別のコンピューターのもの）: %1</translation>
     </message>
     <message>
+        <source>无法重新生成，当时未与要保留的文件比较内容: %1</source>
+        <translation>作り直せません。保持するファイルと内容を比較していませんでした: %1</translation>
+    </message>
+    <message>
+        <source>无法重新生成，要保留的文件不存在或已更改: %1 (%2)</source>
+        <translation>作り直せません。保持するファイルがないか変更されています: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>已不在回收站中，无法恢复: %1</source>
+        <translation>ごみ箱にないため復元できません: %1</translation>
+    </message>
+    <message>
+        <source>文件已不在此处或已更改，未恢复: %1 (%2)</source>
+        <translation>元の置き場所にないか変更されているため、復元しませんでした: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>文件夹或磁盘不存在，未恢复: %1 (%2)</source>
+        <translation>フォルダーまたはドライブがないため、復元しませんでした: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>已恢复，但原链接无法删除: %1</source>
+        <translation>復元しましたが、リンクを削除できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>已恢复，但无法还原修改时间或权限: %1</source>
+        <translation>復元しましたが、更新日時または権限を設定できませんでした: %1</translation>
+    </message>
+    <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
         <translation>ごみ箱に移動できませんでした (コード %1、%2 個のファイル)</translation>
     </message>

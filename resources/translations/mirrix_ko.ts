@@ -364,6 +364,34 @@
         <translation>정리 기록을 읽을 수 없습니다(손상되었거나 다른 컴퓨터의 기록): %1</translation>
     </message>
     <message>
+        <source>无法重新生成，当时未与要保留的文件比较内容: %1</source>
+        <translation>다시 만들 수 없음, 보존할 파일과 내용을 비교하지 않았음: %1</translation>
+    </message>
+    <message>
+        <source>无法重新生成，要保留的文件不存在或已更改: %1 (%2)</source>
+        <translation>다시 만들 수 없음, 보존할 파일이 없거나 변경됨: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>已不在回收站中，无法恢复: %1</source>
+        <translation>휴지통에 더 이상 없어 복원할 수 없음: %1</translation>
+    </message>
+    <message>
+        <source>文件已不在此处或已更改，未恢复: %1 (%2)</source>
+        <translation>그 위치에 없거나 변경되어 복원하지 않음: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>文件夹或磁盘不存在，未恢复: %1 (%2)</source>
+        <translation>폴더나 드라이브가 없어 복원하지 않음: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>已恢复，但原链接无法删除: %1</source>
+        <translation>복원했지만 링크를 제거할 수 없음: %1</translation>
+    </message>
+    <message>
+        <source>已恢复，但无法还原修改时间或权限: %1</source>
+        <translation>복원했지만 수정 시간이나 권한을 설정할 수 없음: %1</translation>
+    </message>
+    <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
         <translation>휴지통으로 이동하지 못함(코드 %1, 파일 %2개)</translation>
     </message>

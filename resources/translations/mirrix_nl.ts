@@ -364,6 +364,34 @@
         <translation>Kan het logboek van de opruiming niet lezen (beschadigd of van een andere computer): %1</translation>
     </message>
     <message>
+        <source>无法重新生成，当时未与要保留的文件比较内容: %1</source>
+        <translation>Kan niet opnieuw worden gemaakt; de inhoud is niet met het te behouden bestand vergeleken: %1</translation>
+    </message>
+    <message>
+        <source>无法重新生成，要保留的文件不存在或已更改: %1 (%2)</source>
+        <translation>Kan niet opnieuw worden gemaakt; het te behouden bestand ontbreekt of is gewijzigd: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>已不在回收站中，无法恢复: %1</source>
+        <translation>Niet meer in de Prullenbak; kan niet worden teruggezet: %1</translation>
+    </message>
+    <message>
+        <source>文件已不在此处或已更改，未恢复: %1 (%2)</source>
+        <translation>Niet meer daar of gewijzigd; niet teruggezet: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>文件夹或磁盘不存在，未恢复: %1 (%2)</source>
+        <translation>De map of schijf ontbreekt; niet teruggezet: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>已恢复，但原链接无法删除: %1</source>
+        <translation>Teruggezet, maar de koppeling kon niet worden verwijderd: %1</translation>
+    </message>
+    <message>
+        <source>已恢复，但无法还原修改时间或权限: %1</source>
+        <translation>Teruggezet, maar tijd of rechten konden niet worden ingesteld: %1</translation>
+    </message>
+    <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
         <translation>Verplaatsen naar prullenbak mislukt (code %1, bestanden: %2)</translation>
     </message>

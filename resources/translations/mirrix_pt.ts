@@ -364,6 +364,34 @@
         <translation>Não foi possível ler o registro da limpeza (danificado ou de outro computador): %1</translation>
     </message>
     <message>
+        <source>无法重新生成，当时未与要保留的文件比较内容: %1</source>
+        <translation>Não é possível recriar; o conteúdo não foi comparado com o arquivo a manter: %1</translation>
+    </message>
+    <message>
+        <source>无法重新生成，要保留的文件不存在或已更改: %1 (%2)</source>
+        <translation>Não é possível recriar; o arquivo a manter não existe ou foi alterado: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>已不在回收站中，无法恢复: %1</source>
+        <translation>Não está mais na Lixeira; não é possível restaurar: %1</translation>
+    </message>
+    <message>
+        <source>文件已不在此处或已更改，未恢复: %1 (%2)</source>
+        <translation>Não está mais lá ou foi alterado; não restaurado: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>文件夹或磁盘不存在，未恢复: %1 (%2)</source>
+        <translation>A pasta ou unidade não existe; não restaurado: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>已恢复，但原链接无法删除: %1</source>
+        <translation>Restaurado, mas não foi possível remover o link: %1</translation>
+    </message>
+    <message>
+        <source>已恢复，但无法还原修改时间或权限: %1</source>
+        <translation>Restaurado, mas não foi possível definir a data ou as permissões: %1</translation>
+    </message>
+    <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
         <translation>Falha ao enviar para a Lixeira (código %1, arquivos: %2)</translation>
     </message>

@@ -364,6 +364,34 @@
         <translation>無法讀取清理記錄（已損壞或來自另一台電腦）: %1</translation>
     </message>
     <message>
+        <source>无法重新生成，当时未与要保留的文件比较内容: %1</source>
+        <translation>無法重新產生，當時未與要保留的檔案比對內容：%1</translation>
+    </message>
+    <message>
+        <source>无法重新生成，要保留的文件不存在或已更改: %1 (%2)</source>
+        <translation>無法重新產生，要保留的檔案不存在或已變更：%1 (%2)</translation>
+    </message>
+    <message>
+        <source>已不在回收站中，无法恢复: %1</source>
+        <translation>已不在資源回收筒中，無法還原：%1</translation>
+    </message>
+    <message>
+        <source>文件已不在此处或已更改，未恢复: %1 (%2)</source>
+        <translation>檔案已不在此處或已變更，未還原：%1 (%2)</translation>
+    </message>
+    <message>
+        <source>文件夹或磁盘不存在，未恢复: %1 (%2)</source>
+        <translation>資料夾或磁碟機不存在，未還原：%1 (%2)</translation>
+    </message>
+    <message>
+        <source>已恢复，但原链接无法删除: %1</source>
+        <translation>已還原，但無法刪除原連結：%1</translation>
+    </message>
+    <message>
+        <source>已恢复，但无法还原修改时间或权限: %1</source>
+        <translation>已還原，但無法還原修改時間或權限：%1</translation>
+    </message>
+    <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
         <translation>無法將檔案移至資源回收筒（代碼 %1，%2 個檔案）</translation>
     </message>

@@ -1,5 +1,6 @@
 #include "actions/backupstore.h"
 #include "actions/cleaning/cleaningrun.h"
+#include "actions/cleaning/undo.h"
 #include "actions/nativefile.h"
 #include "actions/operationslog.h"
 #include "app/settings.h"
@@ -26,6 +27,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QStringList names = {u"one"_s, u"two"_s};
+
+const QByteArray copies = "the same content";
+const QString md5OfCopies = u"md5:a9288fa382861ff3dcb8c9f759c15f56"_s;
 
 constexpr qint64 sizeBytes = 5;
 constexpr qint64 modifiedMs = 7;
@@ -94,15 +98,30 @@ void clean(const QString &name, const QString &root, const QString &store, const
     const bool isSymbolic = name.contains(u"symbolic"_s);
     CleaningPlan plan;
     plan.backupFolder = store;
-    plan.method = name.startsWith(u"delete"_s) ? CleaningMethod::Delete
+    plan.method = name.contains(u"delete"_s)   ? CleaningMethod::Delete
+                  : name.contains(u"backup"_s) ? CleaningMethod::Backup
                   : name.contains(u"keep"_s)
                       ? (isSymbolic ? CleaningMethod::BackupAndSymbolicLink : CleaningMethod::BackupAndHardLink)
                   : isSymbolic ? CleaningMethod::SymbolicLink
                                : CleaningMethod::HardLink;
     for (const QString &path : paths)
-        plan.items.append({scanned(path), scanned(root + u"/keeper"_s), {}, {}, true});
+        plan.items.append({scanned(path), scanned(root + u"/keeper"_s), {}, md5OfCopies, true});
     OperationsLog log(root + u"/log"_s);
     static_cast<void>(runCleaning(plan, {log, root + u"/data"_s, u"test"_s}));
+}
+
+/// Undoes the only cleaning run; how many steps there were.
+qsizetype undo(const QString &root)
+{
+    OperationsLog log(root + u"/log"_s);
+    for (const RunSummary &run : listRuns(root + u"/data"_s)) {
+        if (!methodNamed(run.header.method))
+            continue; // an undo, or one that was killed before it began
+        const UndoPlan plan = planUndo(root + u"/data"_s, run.header.id);
+        const UndoResult result = undoRun(plan, plan.steps, {log, root + u"/data"_s, u"test"_s});
+        return result.errors.isEmpty() ? plan.steps.size() : -1;
+    }
+    return 0;
 }
 
 /// What the killed process does; all of it below `root`, the store at `store`.
@@ -112,6 +131,8 @@ void act(const QString &name, const QString &root, const QString &store)
     const QStringList paths = {source + names[0], source + names[1]};
     if (name == u"back up")
         static_cast<void>(backupFiles(store, paths));
+    else if (name.startsWith(u"undo"_s))
+        undo(root);
     else if (name.startsWith(u"restore"))
         static_cast<void>(restoreBackups(store, loadBackupIndex(store)));
     else if (name == u"log")
@@ -136,6 +157,7 @@ private:
     void prepare(const QString &name, bool isOnOtherVolume);
     void sweep(const QString &call, const QString &action, bool isOnOtherVolume);
     void check(const QString &action) const;
+    void checkUndo() const;
     [[nodiscard]] static bool runsThrough(const QString &call, int number, const QStringList &arguments);
 
     std::unique_ptr<TempTree> m_tree;
@@ -156,6 +178,9 @@ void CrashesTest::killedAnywhere_data()
     QTest::newRow("hard link, keep") << false;
     QTest::newRow("delete") << false;
     QTest::newRow("log") << false;
+    for (const char *action : {"undo delete", "undo symbolic link", "undo backup", "delete, then undo",
+                               "symbolic link, then undo", "hard link, keep, then undo"})
+        QTest::newRow(action) << false;
 }
 
 /// Kills the process before its n-th call of each kind that changes a file system, n rising until it runs through.
@@ -181,12 +206,14 @@ void CrashesTest::prepare(const QString &name, bool isOnOtherVolume)
     m_tree = std::make_unique<TempTree>();
     m_other = isOnOtherVolume ? folderOnOtherVolume(m_tree->path()) : nullptr;
     m_store = m_other ? m_other->path() : m_tree->path(u"store"_s);
-    const bool areCopies = name.contains(u"link"_s) || name == u"delete";
-    m_tree->write(u"keeper"_s, "the same content");
+    const bool areCopies = name.contains(u"link"_s) || name.contains(u"delete"_s) || name.contains(u"undo"_s);
+    m_tree->write(u"keeper"_s, copies);
     for (const QString &file : names)
-        m_tree->write(u"src/"_s + file, areCopies ? "the same content" : "content of " + file.toLatin1());
+        m_tree->write(u"src/"_s + file, areCopies ? copies : "content of " + file.toLatin1());
     m_before = treeBelow(m_tree->path(u"src"_s));
     OperationsLog(m_tree->path(u"log"_s)).append({{1, u"first"_s, u"old"_s}});
+    if (name.startsWith(u"undo"_s))
+        clean(name, m_tree->path(), m_store, {m_tree->path(u"src/one"_s), m_tree->path(u"src/two"_s)});
     if (name.startsWith(u"restore"))
         act(u"back up"_s, m_tree->path(), m_store);
     if (name == u"restore, killed before") // when the first copy was in place and its source still there
@@ -211,7 +238,7 @@ void CrashesTest::sweep(const QString &call, const QString &action, bool isOnOth
     for (int when = 1; when < 200; ++when) {
         prepare(action, isOnOtherVolume);
         const bool isThrough = runsThrough(call, when, {u"--act"_s, action, m_tree->path(), m_store});
-        check(action);
+        action.contains(u"undo"_s) ? checkUndo() : check(action);
         if (QTest::currentTestFailed()) {
             qWarning("killed at %s %d", qPrintable(call), when);
             return;
@@ -247,7 +274,17 @@ void CrashesTest::check(const QString &action) const
     after.removeIf([](const auto &file) { return file.key().endsWith(u".part"_s); }); // begun copies may stay behind
     if (!action.contains(u"link"_s) && action != u"delete")
         QCOMPARE(after, m_before);
-    QCOMPARE(contentOf(m_tree->path(u"keeper"_s)), QByteArray("the same content"));
+    QCOMPARE(contentOf(m_tree->path(u"keeper"_s)), copies);
+}
+
+/// Whatever was killed, the next undo leaves everything as it was before the cleaning, and nothing else behind.
+void CrashesTest::checkUndo() const
+{
+    QVERIFY(undo(m_tree->path()) >= 0);
+    QCOMPARE(treeBelow(m_tree->path(u"src"_s)), m_before);
+    QCOMPARE(contentOf(m_tree->path(u"keeper"_s)), copies);
+    QVERIFY(restorableEntries(m_store).isEmpty());
+    QCOMPARE(undo(m_tree->path()), 0);
 }
 
 void CrashesTest::ownFilesStayWhole_data()

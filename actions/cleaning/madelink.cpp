@@ -1,0 +1,89 @@
+#include "actions/cleaning/madelink.h"
+
+#include "actions/backupindex.h"
+#include "actions/fileoperations.h"
+#include "actions/movefile.h"
+#include "core/platform/nativepath.h"
+
+#include <QCryptographicHash>
+
+#include <filesystem>
+
+namespace Mirrix {
+
+namespace {
+
+/// Whether the text of a symbolic link names `target`, which may be gone.
+bool names(const QString &link, const QString &target)
+{
+    std::error_code error;
+    const std::filesystem::path text = std::filesystem::read_symlink(MirrixCore::filesystemPath(link), error);
+    if (error)
+        return false;
+    const std::filesystem::path folder = MirrixCore::filesystemPath(folderOf(link));
+    const std::filesystem::path named = std::filesystem::weakly_canonical(folder / text, error);
+    return !error && named == std::filesystem::weakly_canonical(MirrixCore::filesystemPath(target), error) && !error;
+}
+
+/// A name of our own that stays the same for one file of one run, so that what a crash left can be found again.
+QString ownPath(const RunItem &item, const QString &suffix)
+{
+    const QString seed = item.original + QLatin1Char('\n') + item.aside;
+    const QByteArray digest = QCryptographicHash::hash(MirrixCore::pathBytes(seed), QCryptographicHash::Sha256);
+    return joinedPath(folderOf(item.original),
+                      QLatin1String(".mirrix-") + QString::fromLatin1(digest.toHex().left(16)) + suffix);
+}
+
+} // namespace
+
+MadeLink::MadeLink(const RunItem &item, CleaningMethod method)
+    : m_item(item)
+    , m_method(method)
+    , m_target(item.linkTarget.isEmpty() ? item.kept : item.linkTarget)
+{}
+
+bool MadeLink::isOurs(const QString &path) const
+{
+    if (!isLinking(m_method) || m_target.isEmpty() || path == m_target)
+        return false;
+    const PathState there = pathState(path);
+    const bool isHard = m_method == CleaningMethod::HardLink || m_method == CleaningMethod::BackupAndHardLink;
+    if (isHard)
+        return there.kind == PathState::Kind::File && there.identity.isSameAs(pathState(m_target).identity);
+    return there.kind == PathState::Kind::Link && (leadsTo(path, m_target) || names(path, m_target));
+}
+
+bool MadeLink::setAside() const
+{
+    if (!isInPlace())
+        return true;
+    if (!removeAside() || renameExclusively(m_item.original, asidePath()) != FileFault::None)
+        return false;
+    if (isOurs(asidePath()))
+        return true;
+    putBack();
+    return false;
+}
+
+void MadeLink::putBack() const
+{
+    if (isLinking(m_method))
+        static_cast<void>(renameExclusively(asidePath(), m_item.original));
+}
+
+bool MadeLink::removeAside() const
+{
+    return !isLinking(m_method) || !isOurs(asidePath()) || removeFile(asidePath()) == FileFault::None;
+}
+
+QString MadeLink::partPath() const
+{
+    return ownPath(m_item, QStringLiteral(".part"));
+}
+
+QString MadeLink::asidePath() const
+{
+    return ownPath(m_item, QStringLiteral(".aside"));
+}
+
+} // namespace Mirrix

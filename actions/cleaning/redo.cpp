@@ -1,0 +1,83 @@
+#include "actions/cleaning/redo.h"
+
+#include "actions/cleaning/itemchecks.h"
+#include "actions/cleaning/madelink.h"
+#include "actions/cleaning/undorecord.h"
+#include "actions/cleaning/undosource.h"
+#include "actions/cleaning/undotexts.h"
+#include "actions/records/runjournal.h"
+
+namespace Mirrix {
+
+namespace {
+
+CleaningMethod methodOf(const StoredRun &undo)
+{
+    return methodNamed(undoneMethodName(undo.summary.header.method)).value_or(CleaningMethod::Backup);
+}
+
+ScannedFile asItIs(const QString &path)
+{
+    if (path.isEmpty())
+        return {};
+    const PathState state = pathState(path);
+    return {path, state.sizeBytes, state.modifiedMs, state.identity};
+}
+
+CleaningItem cleaningItem(const RunItem &item)
+{
+    return {asItIs(item.original), asItIs(item.kept), item.linkTarget, item.digest, !item.digest.isEmpty()};
+}
+
+/// Without a proof nothing is destroyed a second time.
+QString redoProblem(const RunItem &item, CleaningMethod method)
+{
+    if (!isAsRecorded(pathState(item.original), item))
+        return changedText(item.original);
+    if (isDestroying(method) && (item.kept.isEmpty() || item.digest.isEmpty()))
+        return notComparedText(item.original);
+    return itemProblem(cleaningItem(item));
+}
+
+} // namespace
+
+QList<UndoStep> redoSteps(const StoredRun &undo, const BatchProgress &progress)
+{
+    QList<UndoStep> steps;
+    const CleaningMethod method = methodOf(undo);
+    for (qsizetype i = 0; i < undo.items.size() && (!progress || progress(i, undo.items.size())); ++i) {
+        const RunItem &item = undo.items[i];
+        const bool isCut = undo.outcomes[i].state == ItemState::Planned && !undo.summary.isComplete &&
+                           isAsRecorded(pathState(item.original), item) && !MadeLink(item, method).isInPlace();
+        if (undo.outcomes[i].state == ItemState::Done || isCut)
+            steps.append({i, redoProblem(item, method)});
+    }
+    return steps;
+}
+
+UndoResult redo(const UndoPlan &plan, const QList<qsizetype> &items, const CleaningServices &services,
+                const BatchProgress &progress)
+{
+    const RunHeader &header = plan.run.summary.header;
+    CleaningPlan cleaning;
+    cleaning.method = methodOf(plan.run);
+    cleaning.targetFolder = header.target;
+    cleaning.backupFolder = isBackingUp(cleaning.method) ? header.target : plan.backupFolder;
+    cleaning.undoOf = header.id;
+    for (const qsizetype item : items)
+        cleaning.items.append(cleaningItem(plan.run.items[item]));
+    const CleaningResult cleaned = runCleaning(cleaning, services, progress);
+    UndoResult result{{cleaned.count, cleaned.errors, cleaned.isCancelled}, {}, cleaned.runId};
+    if (cleaned.runId.isEmpty())
+        return result;
+    QList<ItemOutcome> undone = readRun(runJournalPath(services.dataDirectory, cleaned.runId)).outcomes;
+    undone.removeIf([](const ItemOutcome &outcome) { return outcome.state != ItemState::Done; });
+    for (ItemOutcome &outcome : undone)
+        outcome = {items[outcome.item], ItemState::Undone, {}, {}, {}, 0, 0};
+    QString error;
+    if (!appendUndone(services.dataDirectory, header.id, undone, &error))
+        result.notes.append(error);
+    return result;
+}
+
+} // namespace Mirrix

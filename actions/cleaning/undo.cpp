@@ -1,0 +1,129 @@
+#include "actions/cleaning/undo.h"
+
+#include "actions/cleaning/comeback.h"
+#include "actions/cleaning/madelink.h"
+#include "actions/cleaning/redo.h"
+#include "actions/cleaning/undorecord.h"
+#include "actions/cleaning/undosource.h"
+#include "actions/records/runjournal.h"
+
+namespace Mirrix {
+
+namespace {
+
+bool isUndo(const UndoPlan &plan)
+{
+    return !undoneMethodName(plan.run.summary.header.method).isEmpty();
+}
+
+/// An undo under way.
+class Undo
+{
+public:
+    Undo(const UndoPlan &plan, const CleaningServices &services, const BatchProgress &progress)
+        : m_plan(plan)
+        , m_progress(progress)
+        , m_method(methodNamed(plan.run.summary.header.method).value_or(CleaningMethod::Backup))
+        , m_sources(plan.run, plan.backupFolder)
+        , m_record(plan, services)
+    {}
+
+    [[nodiscard]] UndoResult run(const QList<qsizetype> &items)
+    {
+        m_result.errors = m_record.begin(items);
+        if (!m_result.errors.isEmpty())
+            return m_result;
+        m_result.runId = m_record.runId();
+        bool isNoted = noteHomes();
+        for (qsizetype i = 0; isNoted && i < items.size(); ++i) {
+            m_result.isCancelled = m_progress && !m_progress(i, items.size());
+            if (m_result.isCancelled)
+                break;
+            isNoted = bringBack(i, items); // what cannot be recorded is not done; the end of the record says why
+        }
+        m_result.errors += m_record.end();
+        return m_result;
+    }
+
+private:
+    [[nodiscard]] bool bringBack(qsizetype position, const QList<qsizetype> &items)
+    {
+        const RunItem &item = m_plan.run.items[items[position]];
+        const UndoSource source = m_sources.of(items[position]);
+        ComeBack back{source.problem};
+        if (source.problem.isEmpty() && source.way != UndoSource::Way::None && source.way != UndoSource::Way::Home) {
+            m_record.reserve(source);
+            const qsizetype total = items.size();
+            back = comeBack(item, m_method, source, [&] { return m_progress && !m_progress(position, total); });
+        }
+        if (!back.problem.isEmpty())
+            m_result.errors.append(back.problem);
+        else
+            ++m_result.count;
+        if (!back.note.isEmpty())
+            m_result.notes.append(back.note);
+        return m_record.note(position, source, back);
+    }
+
+    /// Files that an undo brought back before it was killed.
+    [[nodiscard]] bool noteHomes()
+    {
+        bool isNoted = true;
+        for (qsizetype i = 0; isNoted && i < m_plan.home.size(); ++i) {
+            MadeLink(m_plan.run.items[m_plan.home[i]], m_method).removeAside();
+            isNoted = m_record.noteHome(m_plan.home[i]);
+        }
+        return isNoted;
+    }
+
+    const UndoPlan &m_plan;
+    const BatchProgress &m_progress;
+    CleaningMethod m_method;
+    UndoSources m_sources;
+    UndoRecord m_record;
+    UndoResult m_result;
+};
+
+} // namespace
+
+UndoPlan planUndo(const QString &dataDirectory, const QString &runId, const BatchProgress &progress,
+                  const QString &backupFolder)
+{
+    UndoPlan plan{readRun(runJournalPath(dataDirectory, runId)), {}, {}, backupFolder};
+    if (isUndo(plan)) {
+        plan.steps = redoSteps(plan.run, progress);
+        return plan;
+    }
+    UndoSources sources(plan.run, backupFolder);
+    const qsizetype total = plan.run.items.size();
+    for (qsizetype i = 0; i < total && (!progress || progress(i, total)); ++i) {
+        const UndoSource source = sources.of(i);
+        if (source.way == UndoSource::Way::Home)
+            plan.home.append(i);
+        else if (source.way != UndoSource::Way::None)
+            plan.steps.append({i, source.problem, source.from});
+    }
+    return plan;
+}
+
+UndoResult undoRun(const UndoPlan &plan, const QList<UndoStep> &steps, const CleaningServices &services,
+                   const BatchProgress &progress)
+{
+    QList<qsizetype> items;
+    QStringList problems;
+    for (const UndoStep &step : steps) {
+        if (step.problem.isEmpty())
+            items.append(step.item);
+        else
+            problems.append(step.problem);
+    }
+    UndoResult result;
+    if (!items.isEmpty() && isUndo(plan))
+        result = redo(plan, items, services, progress);
+    else if (!items.isEmpty() || !plan.home.isEmpty())
+        result = Undo(plan, services, progress).run(items);
+    result.errors = problems + result.errors;
+    return result;
+}
+
+} // namespace Mirrix
