@@ -25,15 +25,17 @@ def write_file(path, size, seed, modified):
     os.utime(path, (modified, modified))
 
 
-def make_pairs(root, count, size_bytes):
-    """`count` pairs, the copies newer than what they were copied from, and all of it on the disk."""
+def make_pairs(root, count, size_bytes, is_fresh):
+    """`count` pairs, the copies newer than what they were copied from. Either in folders of their own and all of it on
+    the disk, or side by side and still in memory."""
     for number in range(count):
         for side, modified in (("kept", 1_500_000_000), ("copies", 1_600_000_000)):
-            folder = root / side / str(number // FILES_IN_FOLDER)
+            folder = root / ("" if is_fresh else side) / str(number // FILES_IN_FOLDER)
             folder.mkdir(parents=True, exist_ok=True)
             size = size_bytes or 200 + number % 4000
-            write_file(folder / f"{number}.bin", size, number, modified)
-    os.sync()
+            write_file(folder / f"{number}-{side}.bin" if is_fresh else folder / f"{number}.bin", size, number, modified)
+    if not is_fresh:
+        os.sync()
 
 
 def run_clean(cli, work, method, *more):
@@ -50,10 +52,10 @@ def run_clean(cli, work, method, *more):
     return seconds, done.stdout.strip().rsplit("\n", 1)[-1]
 
 
-def acting_seconds(cli, folder, method, count, size_bytes):
+def acting_seconds(cli, folder, method, count, size_bytes, is_fresh):
     with tempfile.TemporaryDirectory(prefix="mirrix-cleaning-", dir=folder) as name:
         work = pathlib.Path(name)
-        make_pairs(work / "src", count, size_bytes)
+        make_pairs(work / "src", count, size_bytes, is_fresh)
         (work / "home").mkdir()
         run_clean(cli, work, method)  # fills the cache
         planning, _ = run_clean(cli, work, method)
@@ -72,6 +74,7 @@ def main():
     parser.add_argument("--small", type=int, default=50000, help="pairs of 200 to 4,199 bytes; 0 leaves them out")
     parser.add_argument("--large", type=int, default=50, help="pairs of --large-mb; 0 leaves them out")
     parser.add_argument("--large-mb", type=int, default=100)
+    parser.add_argument("--fresh", action="store_true", help="copies beside the kept files, nothing flushed before")
     parser.add_argument("--runs", type=int, default=1, help="the quickest counts")
     given = parser.parse_args()
     builds = [build.resolve() for build in (given.before, given.cli) if build]
@@ -81,7 +84,7 @@ def main():
         for folder in given.work if count else []:
             kind = f"{count:,} of {given.large_mb} MB" if size else f"{count:,} small"
             for method in given.methods:
-                runs = [[acting_seconds(build, folder, method, count, size) for build in builds]
+                runs = [[acting_seconds(build, folder, method, count, size, given.fresh) for build in builds]
                         for _ in range(given.runs)]
                 best = [min(column) for column in zip(*runs)]
                 ratio = f" {best[1] / best[0]:.2f} |" if given.before else ""

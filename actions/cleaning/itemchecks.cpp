@@ -65,9 +65,11 @@ QString keptProblem(const CleaningItem &item, const QString &newPath)
     const PathState kept = pathState(item.kept.path);
     const bool isGone = kept.kind == PathState::Kind::Missing ||
                         (mayNumberAnew(item.kept.path) && !MirrixCore::FileReader().open(item.kept.path));
-    const bool isOneFolder =
-        haveSameNameElsewhere(item.file.path, item.kept.path) && folderOf(newPath) != folderOf(item.kept.path) &&
-        pathState(joinedPath(folderOf(item.kept.path), fileNameOf(newPath))).kind != PathState::Kind::Missing;
+    const QString newName = fileNameOf(newPath);
+    const bool isFreshName = newName.compare(fileNameOf(item.kept.path), Qt::CaseInsensitive) != 0;
+    const bool isOneFolder = isFreshName && haveSameNameElsewhere(item.file.path, item.kept.path) &&
+                             folderOf(newPath) != folderOf(item.kept.path) &&
+                             pathState(joinedPath(folderOf(item.kept.path), newName)).kind != PathState::Kind::Missing;
     if (isGone || isOneFolder)
         return sameFileText(item.file.path);
     return isAsScanned(kept, item.kept) ? QString() : keptChangedText(item);

@@ -24,7 +24,7 @@ namespace {
 const QMap<QString, QString> &keepers()
 {
     static const QMap<QString, QString> table = {
-        {u"src/x/a1"_s, u"src/keep/a"_s}, {u"src/x/a2"_s, u"src/keep/a"_s}, {u"src/y/b1"_s, u"src/keep/b"_s}};
+        {u"src/x/a1"_s, u"src/keep/a"_s}, {u"src/x/a2"_s, u"src/keep/a"_s}, {u"src/y/b1"_s, u"src/keep/b1"_s}};
     return table;
 }
 
@@ -50,7 +50,7 @@ Scene::Scene(const QString &method, bool isOnOtherVolume)
     , m_store(method == u"delete" || method == u"move" ? m_tree.path(u"data/Backup"_s) : m_target)
 {
     const QByteArray large = patternBytes(70000);
-    const QMap<QString, QByteArray> files = {{u"src/keep/a"_s, "alpha"},    {u"src/keep/b"_s, large},
+    const QMap<QString, QByteArray> files = {{u"src/keep/a"_s, "alpha"},    {u"src/keep/b1"_s, large},
                                              {u"src/x/a1"_s, "alpha"},      {u"src/x/a2"_s, "alpha"},
                                              {u"src/y/b1"_s, large},        {u"src/x/alone"_s, "alphb"},
                                              {u"src/y/mine"_s, "not yours"}};

@@ -153,7 +153,7 @@ void FaultsTest::cleaning_data()
     rows(" by links", false, "MIRRIX_FAULT_PLAIN_RENAME=1", {"recycle", "move", "symlink", "backup", "restore"});
     rows(" by claims", false, "MIRRIX_FAULT_PLAIN_RENAME=2", {"recycle", "delete", "backup"});
     rows(" without leases", false, "MIRRIX_FAULT_NO_LEASES=1", {"delete", "symlink"});
-    rows(" what was copied just now", false, "MIRRIX_FAULT_UNFLUSHED=ROOT/src/keep/a:ROOT/src/keep/b",
+    rows(" what was copied just now", false, "MIRRIX_FAULT_UNFLUSHED=ROOT/src/keep/a:ROOT/src/keep/b1",
          {"delete", "symlink", "hardlink"});
 }
 
