@@ -46,6 +46,8 @@ public:
     }
 
 private:
+    static constexpr qsizetype flushedAhead = 256; ///< items whose kept files are flushed together
+
     [[nodiscard]] bool mayGoOn(qsizetype done) const { return !m_progress || m_progress(done, m_plan.items.size()); }
 
     /// False when what was done could not be written down.
@@ -70,12 +72,26 @@ private:
         return recycle(m_services.bin, items, {m_plan.comparesWholeContents, isStopped, isAlias}, m_result.errors);
     }
 
+    /// A folder from which copies go changes with each; flushing it for each would wait for the disk as often.
+    void flushAhead(qsizetype first, const StopQuery &isStopped)
+    {
+        QStringList kept;
+        for (const CleaningItem &item : m_plan.items.mid(first, flushedAhead)) {
+            if (item.hasKept())
+                kept.append(item.kept.path);
+        }
+        m_durable.prepare(kept, isStopped);
+    }
+
     [[nodiscard]] CleaningOutcome clean(const CleaningItem &item, qsizetype index, const StopQuery &isStopped)
     {
         if (m_target.holds(item.file.path))
             return {QCoreApplication::translate("Mirrix", "目标文件夹包含该文件，未处理: %1").arg(item.file.path), {}};
-        if (isDestroying(m_plan.method))
+        if (isDestroying(m_plan.method)) {
+            if (index % flushedAhead == 0)
+                flushAhead(index, isStopped);
             return discard(item, m_plan.method, m_record.placeOf(index), m_durable, isStopped);
+        }
         if (m_aliases.isSameFile(item))
             return {sameFileText(item.file.path), {}};
         if (m_plan.method != CleaningMethod::Move)

@@ -27,7 +27,10 @@ QString obstacle(const RecycleBin &bin, const CleaningItem &item, const Recyclin
 /// What has become of a file that was handed to the bin.
 CleaningOutcome outcomeOf(const RecycleBin &bin, const CleaningItem &item, const QString &placed)
 {
-    if (pathState(item.file.path).kind != PathState::Kind::Missing)
+    const PathState::Kind left = pathState(item.file.path).kind;
+    const bool isInBin = left == PathState::Kind::Missing ||
+                         (left == PathState::Kind::Unknown && pathState(placed).kind == PathState::Kind::File);
+    if (!isInBin)
         return {text(QT_TRANSLATE_NOOP("Mirrix", "未移入回收站，仍在原处: %1"), item.file.path), {}};
     const QString problem = keptProblem(item);
     if (problem.isEmpty())

@@ -30,6 +30,15 @@ private slots:
     void rememberedDigestsDestroyNothing();
     void twoPathsToOneFolder_data();
     void twoPathsToOneFolder();
+    void keptFileIsOnTheDiskFirst();
+    void onlyCopiesInPlaceAreKept_data();
+    void onlyCopiesInPlaceAreKept();
+    void exclusionThroughLink();
+    void linksNeedEqualAccess_data();
+    void linksNeedEqualAccess();
+    void targetHoldsTheFolder_data();
+    void targetHoldsTheFolder();
+    void planIsPrintedWholeOrFails();
     void mistakes_data();
     void mistakes();
 
@@ -42,6 +51,20 @@ private:
     {
         return run(QStringList{u"clean"_s, u"--keep"_s, u"oldest"_s, u"--method"_s, method} + more +
                    QStringList{m_tree->path(u"src"_s)});
+    }
+    /// The same as clean with --apply, under strace with `options`. False where nothing can be traced.
+    [[nodiscard]] bool traced(const QString &method, const QStringList &options, ProgramRun &done) const
+    {
+        QProcess process;
+        m_program->prepare(process, QStringList{u"-E"_s, u"ASAN_OPTIONS=detect_leaks=0"_s, u"-f"_s, u"-qq"_s} +
+                                        options +
+                                        QStringList{Program::builtExecutable(), u"clean"_s, u"--data-dir"_s,
+                                                    m_program->dataFolder(), u"--keep"_s, u"oldest"_s, u"--method"_s,
+                                                    method, u"--apply"_s, m_tree->path(u"src"_s)});
+        process.setProgram(u"strace"_s);
+        process.start();
+        done = Program::ended(process);
+        return process.error() != QProcess::FailedToStart;
     }
     [[nodiscard]] DiskTree source() const { return treeBelow(m_tree->path(u"src"_s)); }
     /// The log's records behind `skipped` ones, as "action: detail".
@@ -175,31 +198,11 @@ void CleanCommandTest::failuresAreNamed()
 /// A polite request to end that arrives while the first file moves: that one is finished, listed and logged.
 void CleanCommandTest::interrupted()
 {
-    QProcess process;
-    m_program->prepare(process, {u"-E"_s,
-                                 u"ASAN_OPTIONS=detect_leaks=0"_s,
-                                 u"-f"_s,
-                                 u"-qq"_s,
-                                 u"-o"_s,
-                                 u"/dev/null"_s,
-                                 u"-e"_s,
-                                 u"trace=renameat2"_s,
-                                 u"-e"_s,
-                                 u"inject=renameat2:signal=SIGTERM:when=1"_s,
-                                 Program::builtExecutable(),
-                                 u"clean"_s,
-                                 u"--data-dir"_s,
-                                 m_program->dataFolder(),
-                                 u"--keep"_s,
-                                 u"oldest"_s,
-                                 u"--method"_s,
-                                 u"backup"_s,
-                                 u"--apply"_s,
-                                 m_tree->path(u"src"_s)});
-    process.setProgram(u"strace"_s);
-    process.start();
-    const ProgramRun done = Program::ended(process);
-    if (process.error() == QProcess::FailedToStart)
+    ProgramRun done;
+    if (!traced(u"backup"_s,
+                {u"-o"_s, u"/dev/null"_s, u"-e"_s, u"trace=renameat2"_s, u"-e"_s,
+                 u"inject=renameat2:signal=SIGTERM:when=1"_s},
+                done))
         QSKIP("cannot trace processes");
     QCOMPARE(done.errors, QByteArray("mirrix-cli: cancelled\n"));
     QCOMPARE(done.status, 3);
@@ -217,15 +220,8 @@ void CleanCommandTest::unreadableIndexStays()
     const QString index = m_program->dataFolder() + u"/Backup/backup_index.json"_s;
     const QByteArray before = contentOf(index);
     const DiskTree source = this->source();
-    QProcess process;
-    m_program->prepare(process, {u"-f"_s, u"-qq"_s, u"-o"_s, u"/dev/null"_s, u"-P"_s, index, u"-e"_s,
-                                 u"inject=openat:error=EIO"_s, Program::builtExecutable(), u"clean"_s, u"--data-dir"_s,
-                                 m_program->dataFolder(), u"--keep"_s, u"oldest"_s, u"--method"_s, u"backup"_s,
-                                 u"--apply"_s, m_tree->path(u"src"_s)});
-    process.setProgram(u"strace"_s);
-    process.start();
-    const ProgramRun done = Program::ended(process);
-    if (process.error() == QProcess::FailedToStart)
+    ProgramRun done;
+    if (!traced(u"backup"_s, {u"-o"_s, u"/dev/null"_s, u"-P"_s, index, u"-e"_s, u"inject=openat:error=EIO"_s}, done))
         QSKIP("cannot trace processes");
     QCOMPARE(done.status, 1);
     QCOMPARE(this->source(), source);
@@ -332,6 +328,133 @@ void CleanCommandTest::twoPathsToOneFolder()
     QCOMPARE(kept, method == u"delete"_s ? 1 : 3);
 }
 
+/// The kept file and its name are flushed before a copy of it goes, and no user's file is opened for writing.
+void CleanCommandTest::keptFileIsOnTheDiskFirst()
+{
+    const QString trace = m_tree->path(u"trace"_s);
+    ProgramRun done;
+    if (!traced(u"delete"_s,
+                {u"-y"_s, u"-o"_s, trace, u"-e"_s,
+                 u"trace=fsync,fdatasync,unlink,unlinkat,rename,renameat2,open,openat,creat,truncate"_s},
+                done))
+        QSKIP("cannot trace processes");
+    QCOMPARE(done.status, 0);
+    const QByteArray folder = m_tree->path(u"src"_s).toUtf8();
+    bool isContentFlushed = false;
+    bool isNameFlushed = false;
+    int removed = 0;
+    for (const QByteArray &call : contentOf(trace).split('\n')) {
+        const bool isFlush = call.contains(" fsync(") && call.endsWith("= 0");
+        isContentFlushed = isContentFlushed || (isFlush && call.contains('<' + folder + "/b>)"));
+        isNameFlushed = isNameFlushed || (isFlush && call.contains('<' + folder + ">)"));
+        if (call.contains(" unlink") && call.contains('"' + folder)) {
+            QVERIFY2(isContentFlushed && isNameFlushed, call.constData());
+            ++removed;
+        }
+        const bool isOpening = call.contains(" open") || call.contains(" creat(") || call.contains(" truncate(");
+        QVERIFY2(!isOpening || !call.contains('"' + folder) || call.contains("O_RDONLY"), call.constData());
+    }
+    QCOMPARE(removed, 2);
+}
+
+void CleanCommandTest::onlyCopiesInPlaceAreKept_data()
+{
+    QTest::addColumn<QString>("place");
+    QTest::newRow("recycle bin") << u"src/further/down/.Trash-1000/files/z"_s;
+    QTest::newRow("backup folder") << u"src/further/down/store/z"_s;
+    QTest::newRow("snapshots") << u"src/further/down/.snapshots/1/z"_s;
+}
+
+/// The rule wants the copy that was put away: one in place stays all the same, however often the run is repeated.
+void CleanCommandTest::onlyCopiesInPlaceAreKept()
+{
+    QFETCH(QString, place);
+    m_tree->write(place, "content");
+    if (place.contains(u"store"_s))
+        m_tree->write(u"src/further/down/store/backup_index.json"_s, "[]");
+    const QByteArray away = source()[place.mid(4)];
+    for (int repeat = 0; repeat < 2; ++repeat) {
+        const ProgramRun done = run(
+            {u"clean"_s, u"--keep"_s, u"deepest"_s, u"--method"_s, u"delete"_s, u"--apply"_s, m_tree->path(u"src"_s)});
+        QCOMPARE(done.errors, QByteArray());
+        QVERIFY(source().contains(u"deep/日本"_s));
+        QVERIFY(!source().contains(u"a"_s) && !source().contains(u"b"_s));
+        QCOMPARE(source()[place.mid(4)], away);
+    }
+}
+
+void CleanCommandTest::exclusionThroughLink()
+{
+    if (!m_tree->symbolicLink(u"src/deep"_s, u"link"_s))
+        QSKIP("no symbolic links");
+    QCOMPARE(clean(u"delete"_s, {u"--apply"_s, u"--exclude"_s, m_tree->path(u"link"_s)}).status, 0);
+    QCOMPARE(source().keys(), (QStringList{u"b"_s, u"deep/日本"_s, u"other"_s}));
+}
+
+void CleanCommandTest::linksNeedEqualAccess_data()
+{
+    QTest::addColumn<QString>("method");
+    QTest::newRow("symbolic") << u"symlink"_s;
+    QTest::newRow("hard") << u"hardlink"_s;
+}
+
+/// A link from a private file to a public one, or the other way round, changes who may read.
+void CleanCommandTest::linksNeedEqualAccess()
+{
+    QFETCH(QString, method);
+    const QString kept = m_tree->path(u"src/b"_s);
+    if (!QFile::setPermissions(kept, QFile::ReadOwner | QFile::WriteOwner) ||
+        QFileInfo(kept).permissions() == QFileInfo(m_tree->path(u"src/a"_s)).permissions())
+        QSKIP("no permissions here");
+    const DiskTree before = source();
+    const ProgramRun done = clean(method, {u"--apply"_s});
+    QCOMPARE(done.status, 1);
+    for (const QString &name : {u"src/a"_s, u"src/deep/日本"_s})
+        QVERIFY2(done.errors.contains(": " + m_tree->path(name).toUtf8() + '\n'), done.errors.constData());
+    QCOMPARE(done.errors.count('\n'), 2);
+    QCOMPARE(source(), before);
+}
+
+void CleanCommandTest::targetHoldsTheFolder_data()
+{
+    QTest::addColumn<QString>("method");
+    QTest::addColumn<QString>("target");
+    for (const char *method : {"move", "backup"}) {
+        QTest::addRow("%s, the folder", method) << QString::fromLatin1(method) << u"src"_s;
+        QTest::addRow("%s, its parent", method) << QString::fromLatin1(method) << QString();
+    }
+}
+
+void CleanCommandTest::targetHoldsTheFolder()
+{
+    QFETCH(QString, method);
+    QFETCH(QString, target);
+    const DiskTree before = source();
+    const ProgramRun done = clean(method, {u"--apply"_s, u"--target"_s, m_tree->path(target)});
+    QCOMPARE(done.errors, usageErrorText(u"the target %1 is the scanned folder %2 or holds it"_s.arg(
+                              QDir::cleanPath(m_tree->path(target)), m_tree->path(u"src"_s))));
+    QCOMPARE(done.status, 2);
+    QCOMPARE(source(), before);
+}
+
+/// No name forges a line, and a list that was cut is no success.
+void CleanCommandTest::planIsPrintedWholeOrFails()
+{
+    if (!takesNothing(u"/dev/full"_s))
+        QSKIP("no device that takes nothing");
+    m_tree->write(u"src/c\n  delete \x1b[2J"_s, "content");
+    const ProgramRun told = clean(u"delete"_s);
+    QCOMPARE(told.output.count('\n'), 5);
+    QCOMPARE(told.output.count("\n  delete "), 3);
+    QVERIFY(!told.output.contains('\x1b'));
+    QProcess process;
+    m_program->prepare(process, {u"clean"_s, u"--data-dir"_s, m_program->dataFolder(), u"--keep"_s, u"oldest"_s,
+                                 u"--method"_s, u"delete"_s, m_tree->path(u"src"_s)});
+    process.setStandardOutputFile(u"/dev/full"_s);
+    process.start();
+    QCOMPARE(Program::ended(process).status, 1);
+}
+
 void CleanCommandTest::mistakes_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -348,6 +471,7 @@ void CleanCommandTest::mistakes_data()
     for (const QString &loose : {u"contentMatch=2"_s, u"searchMode=1"_s})
         row(u"clean --keep newest --method delete --set "_s + loose + u" /a"_s,
             u"clean acts on files of identical content only"_s);
+    row(u"clean --keep newest --method delete --exclude /a/typo /a"_s, u"cannot exclude /a/typo: no such folder"_s);
     row(u"restore --all x"_s, u"--list, --all, --verify and ENTRY cannot be combined"_s);
     row(u"log --format csv"_s, u"--format must be text or json, not \"csv\""_s);
 }

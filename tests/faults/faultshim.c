@@ -2,10 +2,12 @@
    from 1, that concerns something below one of the folders MIRRIX_FAULT_FOLDERS (with colons between them) fails with
    the error number MIRRIX_FAULT_ERRNO; error 0 stands for a read or write of half the length. With MIRRIX_FAULT_STICKY
    all later calls fail too, as on a drive that has gone. With MIRRIX_FAULT_CUT the power fails at that call: what was
-   written into files there and not flushed is gone, as file systems have it that keep names in order but not contents.
+   written into files there and not flushed is gone, as file systems have it that keep names in order but not contents;
+   so is the content of the files MIRRIX_FAULT_UNFLUSHED (with colons between them), written before the program began.
    With MIRRIX_FAULT_PLAIN_RENAME the file systems cannot rename without replacing, with the value "2" hard links
-   neither. With MIRRIX_FAULT_NO_THREADS the system refuses every further thread. The name of the call is written to
-   MIRRIX_FAULT_REPORT, which is not made when the program ended before. */
+   neither; with MIRRIX_FAULT_NO_LEASES they have no leases. With MIRRIX_FAULT_NO_THREADS the system refuses every
+   further thread. The name of the call is written to MIRRIX_FAULT_REPORT, which is not made when the program ended
+   before. */
 
 #include <dirent.h>
 #include <dlfcn.h>
@@ -19,6 +21,7 @@
 #include <stdlib.h>
 #include <string.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/types.h>
 #include <unistd.h>
 
@@ -33,9 +36,11 @@ static int failure;
 static int isSticky;
 static int isCut;
 static int plainness;
+static int hasNoLeases;
 static atomic_long calls;
 
-/* The files with content that a power failure would take: an own descriptor of each. */
+/* The files with content that a power failure would take: an own descriptor of each, which does not count as open for
+   writing. */
 static struct
 {
     dev_t device;
@@ -44,6 +49,20 @@ static struct
 } unflushed[1024];
 static size_t unflushedCount;
 static pthread_mutex_t unflushedLock = PTHREAD_MUTEX_INITIALIZER;
+
+static void noteContent(int file, int isFlushed);
+
+static void noteEarlierContents(void)
+{
+    const char *paths = getenv("MIRRIX_FAULT_UNFLUSHED");
+    char *list = paths ? strdup(paths) : NULL;
+    for (char *rest, *path = list ? strtok_r(list, ":", &rest) : NULL; path; path = strtok_r(NULL, ":", &rest)) {
+        const int file = (int)syscall(SYS_openat, AT_FDCWD, path, O_PATH | O_CLOEXEC);
+        noteContent(file, 0);
+        syscall(SYS_close, file);
+    }
+    free(list);
+}
 
 __attribute__((constructor)) static void readPlan(void)
 {
@@ -56,6 +75,8 @@ __attribute__((constructor)) static void readPlan(void)
     const char *plain = getenv("MIRRIX_FAULT_PLAIN_RENAME");
     plainness = plain ? atoi(plain) : 0;
     isCut = getenv("MIRRIX_FAULT_CUT") != NULL;
+    hasNoLeases = getenv("MIRRIX_FAULT_NO_LEASES") != NULL;
+    noteEarlierContents();
 }
 
 static int isBelow(const char *path)
@@ -104,6 +125,7 @@ static void noteContent(int file, int isFlushed)
 {
     NEXT(fstat64);
     struct stat64 info;
+    char path[64];
     if (!isCut || next(file, &info) != 0)
         return;
     pthread_mutex_lock(&unflushedLock);
@@ -117,7 +139,8 @@ static void noteContent(int file, int isFlushed)
             abort();
         unflushed[at].device = info.st_dev;
         unflushed[at].number = info.st_ino;
-        unflushed[at].file = fcntl(file, F_DUPFD_CLOEXEC, 0);
+        snprintf(path, sizeof path, "/proc/self/fd/%d", file);
+        unflushed[at].file = (int)syscall(SYS_openat, AT_FDCWD, path, O_PATH | O_CLOEXEC);
         ++unflushedCount;
     }
     pthread_mutex_unlock(&unflushedLock);
@@ -125,10 +148,15 @@ static void noteContent(int file, int isFlushed)
 
 static void cutPower(void)
 {
-    NEXT(ftruncate64);
     pthread_mutex_lock(&unflushedLock);
-    for (size_t at = 0; at < unflushedCount; ++at)
-        next(unflushed[at].file, 0);
+    for (int file = 0; file < 1024; ++file) /* the program's own leases would make the truncating wait */
+        syscall(SYS_fcntl, file, F_SETLEASE, F_UNLCK);
+    for (size_t at = 0; at < unflushedCount; ++at) {
+        char path[64];
+        snprintf(path, sizeof path, "/proc/self/fd/%d", unflushed[at].file);
+        if (syscall(SYS_truncate, path, 0L) != 0)
+            abort();
+    }
     _exit(137);
 }
 
@@ -266,6 +294,25 @@ WRAP(int, futimens, (int file, const struct timespec times[2]), (file, times), i
 WRAP(int, utimensat, (int folder, const char *path, const struct timespec times[2], int flags),
      (folder, path, times, flags), isAtBelow(folder, path))
 WRAP(int, fchmod, (int file, mode_t mode), (file, mode), isOpenBelow(file))
+
+/* The third argument is a number or an address, or there is none. */
+#define WRAP_CONTROL(name)                                                                                             \
+    int name(int file, int command, ...)                                                                               \
+    {                                                                                                                  \
+        NEXT(name);                                                                                                    \
+        va_list rest;                                                                                                  \
+        va_start(rest, command);                                                                                       \
+        void *argument = va_arg(rest, void *);                                                                         \
+        va_end(rest);                                                                                                  \
+        if (hasNoLeases && command == F_SETLEASE) {                                                                    \
+            errno = EINVAL;                                                                                            \
+            return -1;                                                                                                 \
+        }                                                                                                              \
+        return next(file, command, argument);                                                                          \
+    }
+
+WRAP_CONTROL(fcntl)
+WRAP_CONTROL(fcntl64)
 
 DIR *fdopendir(int file)
 {

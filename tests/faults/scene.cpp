@@ -24,7 +24,7 @@ namespace {
 const QMap<QString, QString> &keepers()
 {
     static const QMap<QString, QString> table = {
-        {u"src/x/a1"_s, u"src/keep/a"_s}, {u"src/x/a2"_s, u"src/keep/a"_s}, {u"src/y/b1"_s, u"src/keep/b"_s}};
+        {u"src/x/a1"_s, u"src/keep/a"_s}, {u"src/x/a2"_s, u"src/keep/a"_s}, {u"src/y/b1"_s, u"src/keep/b1"_s}};
     return table;
 }
 
@@ -47,9 +47,10 @@ Scene::Scene(const QString &method, bool isOnOtherVolume)
     : m_method(method)
     , m_other(isOnOtherVolume ? folderOnOtherVolume(m_tree.path()) : nullptr)
     , m_target(m_other ? m_other->path() : m_tree.path(u"target"_s))
+    , m_store(method == u"delete" || method == u"move" ? m_tree.path(u"data/Backup"_s) : m_target)
 {
     const QByteArray large = patternBytes(70000);
-    const QMap<QString, QByteArray> files = {{u"src/keep/a"_s, "alpha"},    {u"src/keep/b"_s, large},
+    const QMap<QString, QByteArray> files = {{u"src/keep/a"_s, "alpha"},    {u"src/keep/b1"_s, large},
                                              {u"src/x/a1"_s, "alpha"},      {u"src/x/a2"_s, "alpha"},
                                              {u"src/y/b1"_s, large},        {u"src/x/alone"_s, "alphb"},
                                              {u"src/y/mine"_s, "not yours"}};
@@ -68,7 +69,7 @@ Scene::Scene(const QString &method, bool isOnOtherVolume)
         QStringList paths;
         for (const QString &victim : victims())
             paths.append(path(victim));
-        static_cast<void>(backupFiles(m_target, paths));
+        static_cast<void>(backupFiles(m_store, paths));
     }
 }
 
@@ -130,7 +131,7 @@ QString Scene::problem(int status, const QByteArray &output, bool mayMiss, bool 
             return u"lost: "_s + victim;
         handled += place == Place::Gone ? 1 : 0;
     }
-    const QString others = problemOfOthers();
+    const QString others = hasWholeCopies() ? problemOfOthers() : u"no whole copy left"_s;
     if (!others.isEmpty())
         return others;
     if (!mayLeave && !leftover().isEmpty())
@@ -150,7 +151,7 @@ QString Scene::problem(int status, const QByteArray &output, bool mayMiss, bool 
 
 QString Scene::problemAfterRecovery() const
 {
-    static_cast<void>(restoreBackups(m_target, restorableEntries(m_target)));
+    static_cast<void>(restoreBackups(m_store, restorableEntries(m_store)));
     for (const QString &victim : victims()) {
         const bool isDone = m_method == u"backup" || m_method == u"restore" ? false : isHandled(victim);
         if (!isDone && !isAtHome(victim))
@@ -226,7 +227,7 @@ QList<std::pair<QString, QString>> Scene::binned() const
 
 bool Scene::isListed(const QString &victim) const
 {
-    const QList<BackupEntry> entries = loadBackupIndex(m_target);
+    const QList<BackupEntry> entries = loadBackupIndex(m_store);
     return std::any_of(entries.begin(), entries.end(), [&](const BackupEntry &entry) {
         return entry.original == path(victim) && isAsBefore(entry.backup, victim);
     });
@@ -242,11 +243,28 @@ bool Scene::isAsBefore(const QString &path, const QString &relative) const
     return exists(path) && stateOf(path) == m_before.value(relative.mid(4));
 }
 
+/// Whether a plain file below "src", be it one set aside, still holds the content of each of the surplus files, where
+/// the method destroys them.
+bool Scene::hasWholeCopies() const
+{
+    if (m_method != u"delete" && !m_method.endsWith(u"link"))
+        return true;
+    const QList<QByteArray> left = treeBelow(path(u"src"_s)).values();
+    const QStringList all = victims();
+    return std::all_of(all.begin(), all.end(), [&](const QString &victim) {
+        const QByteArray before = m_before.value(victim.mid(4));
+        const QByteArray content = before.left(before.lastIndexOf(" @") + 2);
+        return std::any_of(left.begin(), left.end(), [&](const QByteArray &file) { return file.startsWith(content); });
+    });
+}
+
 /// Files that nobody may touch, and the program's own.
 QString Scene::problemOfOthers() const
 {
     for (auto file = m_before.begin(); file != m_before.end(); ++file) {
-        if (!keepers().contains(u"src/"_s + file.key()) && !isAtHome(u"src/"_s + file.key()))
+        const QString name = u"src/"_s + file.key();
+        const bool mayBeLost = m_mayLoseKeepers && keepers().values().contains(name);
+        if (!keepers().contains(name) && !mayBeLost && !isAtHome(name))
             return u"touched: "_s + file.key();
     }
     const QList<LogEntry> log = OperationsLog(path(u"data/ops.log.enc"_s)).readAll();
@@ -254,7 +272,7 @@ QString Scene::problemOfOthers() const
         return u"log lost"_s;
     if (contentOf(path(u"data/settings.json"_s)) != R"({"keepRule":1})")
         return u"settings lost"_s;
-    const QByteArray index = contentOf(m_target + u"/backup_index.json"_s);
+    const QByteArray index = contentOf(m_store + u"/backup_index.json"_s);
     return index.isEmpty() || QJsonDocument::fromJson(index).isArray() ? QString() : u"index damaged"_s;
 }
 
@@ -262,7 +280,7 @@ QString Scene::problemOfOthers() const
 QString Scene::leftover() const
 {
     QStringList listed;
-    for (const BackupEntry &entry : loadBackupIndex(m_target))
+    for (const BackupEntry &entry : loadBackupIndex(m_store))
         listed.append(entry.backup);
     for (const QString &folder : {path(u"src"_s), m_target}) {
         const QStringList found = treeBelow(folder).keys();

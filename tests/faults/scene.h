@@ -32,6 +32,10 @@ public:
     /// power failure may take what they say.
     void acceptEmptyNotes() { m_mayLoseNotes = true; }
 
+    /// The files that stay were not flushed before the run, so a power failure may take them as long as other copies
+    /// of what they hold are left.
+    void acceptLossOfKeepers() { m_mayLoseKeepers = true; }
+
     /// Command line of the flow.
     [[nodiscard]] QStringList arguments() const;
 
@@ -67,6 +71,7 @@ private:
     [[nodiscard]] bool isListed(const QString &victim) const;
     [[nodiscard]] bool isAtHome(const QString &relative) const;
     [[nodiscard]] bool isAsBefore(const QString &path, const QString &relative) const;
+    [[nodiscard]] bool hasWholeCopies() const;
     [[nodiscard]] QString problemOfOthers() const;
     [[nodiscard]] QString leftover() const;
 
@@ -74,8 +79,10 @@ private:
     TempTree m_tree;
     std::unique_ptr<QTemporaryDir> m_other;
     QString m_target;
+    QString m_store; ///< holds the index of backups and of files set aside
     DiskTree m_before;
     bool m_mayLoseNotes = false;
+    bool m_mayLoseKeepers = false;
 };
 
 } // namespace MirrixTest

@@ -77,7 +77,7 @@ private:
                const std::function<QString(const Scene &, const Run &, const Fault &)> &check);
     [[nodiscard]] Run run(const Scene &scene, const QString &action, const Fault &fault, int number) const;
 
-    int m_plainness = 0; ///< 1: nothing can be renamed without replacing, 2: nor linked
+    QString m_world; ///< a variable for the shim, "NAME=value", which tells of the file systems
 };
 
 Run FaultsTest::run(const Scene &scene, const QString &action, const Fault &fault, int number) const
@@ -94,8 +94,9 @@ Run FaultsTest::run(const Scene &scene, const QString &action, const Fault &faul
     environment.insert(u"MIRRIX_FAULT_REPORT"_s, report);
     if (fault.isSticky)
         environment.insert(u"MIRRIX_FAULT_STICKY"_s, u"1"_s);
-    if (m_plainness > 0)
-        environment.insert(u"MIRRIX_FAULT_PLAIN_RENAME"_s, QString::number(m_plainness));
+    if (!m_world.isEmpty())
+        environment.insert(m_world.section(u'=', 0, 0),
+                           QString(m_world.section(u'=', 1)).replace(u"ROOT"_s, scene.path({})));
     if (fault.isCut)
         environment.insert(u"MIRRIX_FAULT_CUT"_s, u"1"_s);
     process.setProcessEnvironment(environment);
@@ -115,11 +116,15 @@ void FaultsTest::sweep(const QString &method, bool isOnOtherVolume, const QStrin
     int runs = 0;
     QStringList problems;
     for (const Fault &fault : faults) {
+        if (!fault.isCut && m_world.contains(u"UNFLUSHED"_s))
+            continue;
         start = start % stride + 1;
         for (int number = start;; number += stride) {
             Scene scene(method, isOnOtherVolume);
             if (fault.isCut)
                 scene.acceptEmptyNotes();
+            if (m_world.contains(u"UNFLUSHED"_s))
+                scene.acceptLossOfKeepers();
             const Run result = run(scene, action, fault, number);
             ++runs;
             QString problem = result.program.status < 0 ? u"crashed or hung"_s : check(scene, result, fault);
@@ -138,15 +143,18 @@ void FaultsTest::sweep(const QString &method, bool isOnOtherVolume, const QStrin
 void FaultsTest::cleaning_data()
 {
     QTest::addColumn<bool>("isOnOtherVolume");
-    QTest::addColumn<int>("plainness");
-    for (const char *method : {"recycle", "delete", "move", "symlink", "hardlink", "backup", "restore"})
-        QTest::newRow(method) << false << 0;
-    for (const char *method : {"move", "backup", "restore"})
-        QTest::addRow("%s to another volume", method) << true << 0;
-    for (const char *method : {"recycle", "move", "symlink", "backup", "restore"})
-        QTest::addRow("%s by links", method) << false << 1;
-    for (const char *method : {"recycle", "backup"})
-        QTest::addRow("%s by claims", method) << false << 2;
+    QTest::addColumn<QString>("world");
+    const auto rows = [](const char *kind, bool isOnOtherVolume, const char *world, const QByteArrayList &methods) {
+        for (const QByteArray &method : methods)
+            QTest::addRow("%s%s", method.constData(), kind) << isOnOtherVolume << QString::fromLatin1(world);
+    };
+    rows("", false, "", {"recycle", "delete", "move", "symlink", "hardlink", "backup", "restore"});
+    rows(" to another volume", true, "", {"move", "backup", "restore"});
+    rows(" by links", false, "MIRRIX_FAULT_PLAIN_RENAME=1", {"recycle", "move", "symlink", "backup", "restore"});
+    rows(" by claims", false, "MIRRIX_FAULT_PLAIN_RENAME=2", {"recycle", "delete", "backup"});
+    rows(" without leases", false, "MIRRIX_FAULT_NO_LEASES=1", {"delete", "symlink"});
+    rows(" what was copied just now", false, "MIRRIX_FAULT_UNFLUSHED=ROOT/src/keep/a:ROOT/src/keep/b1",
+         {"delete", "symlink", "hardlink"});
 }
 
 void FaultsTest::cleaning()
@@ -154,9 +162,9 @@ void FaultsTest::cleaning()
     QFETCH(bool, isOnOtherVolume);
     if (isOnOtherVolume && !folderOnOtherVolume(QDir::tempPath()))
         QSKIP("no second volume");
-    QFETCH(int, plainness);
-    m_plainness = plainness;
-    const auto reset = qScopeGuard([this] { m_plainness = 0; });
+    QFETCH(QString, world);
+    m_world = world;
+    const auto reset = qScopeGuard([this] { m_world.clear(); });
     const QString method = QString::fromLatin1(QTest::currentDataTag()).section(u' ', 0, 0);
     sweep(method, isOnOtherVolume, {}, [](const Scene &scene, const Run &run, const Fault &fault) {
         // A file that is not there any more is no failure of a scan.

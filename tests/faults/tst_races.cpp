@@ -7,6 +7,9 @@
 #include <QSet>
 #include <QTest>
 
+#include <atomic>
+#include <future>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -143,22 +146,29 @@ Findings lookAt(const TempTree &tree)
     return found;
 }
 
-QStringList commandFor(const QString &method, const TempTree &tree)
+/// `side` tells two programs apart that share nothing but the files.
+QStringList commandFor(const QString &method, const TempTree &tree, const QString &keep = u"newest"_s,
+                       const QString &side = {})
 {
-    const QStringList common = {u"--data-dir"_s, tree.path(u"data"_s), tree.path(u"src"_s)};
+    const QStringList common = {u"--data-dir"_s, tree.path(u"data"_s + side), tree.path(u"src"_s)};
     if (method == u"scan")
         return QStringList{u"scan"_s} + common;
-    const QStringList clean =
-        QStringList{u"clean"_s, u"--keep"_s, u"newest"_s, u"--apply"_s, u"--method"_s, method} + common;
+    const QStringList clean = QStringList{u"clean"_s, u"--keep"_s, keep, u"--apply"_s, u"--method"_s, method} + common;
     const bool needsTarget = method != u"delete" && method != u"recycle";
-    return needsTarget ? clean + QStringList{u"--target"_s, tree.path(u"target"_s)} : clean;
+    return needsTarget ? clean + QStringList{u"--target"_s, tree.path(u"target"_s + side)} : clean;
+}
+
+/// How many files the program says it dealt with.
+qsizetype toldCount(const QByteArray &output)
+{
+    static const QRegularExpression claim(u"(\\d+) of (\\d+) files"_s);
+    return claim.match(QString::fromUtf8(output)).captured(1).toInt();
 }
 
 /// What is wrong after a run that printed `output`; empty when all is well.
 QString problemOf(const QString &method, const Findings &found, const QByteArray &output)
 {
-    static const QRegularExpression claim(u"(\\d+) of (\\d+) files"_s);
-    const qsizetype told = claim.match(QString::fromUtf8(output)).captured(1).toInt();
+    const qsizetype told = toldCount(output);
     if (!found.areWhole)
         return u"a file was cut or mixed"_s;
     if (found.contents.size() != kindCount)
@@ -171,6 +181,82 @@ QString problemOf(const QString &method, const Findings &found, const QByteArray
     return {};
 }
 
+constexpr int pairCount = 6;
+constexpr int stampBytes = 8;
+
+/// Equal pairs for programs that fight over them: "N-old" and "N-new", beginning with room for a stamp.
+class Pairs
+{
+public:
+    explicit Pairs(qsizetype sizeBytes)
+    {
+        for (int pair = 0; pair < pairCount; ++pair) {
+            const QByteArray content =
+                QByteArray(stampBytes, '.') + char('A' + pair) + patternBytes(int(sizeBytes), char(pair));
+            m_contents.append(content);
+            for (const QString &age : {u"-old"_s, u"-new"_s}) {
+                const QString name = u"src/"_s + QString::number(pair) + age;
+                m_tree.write(name, content);
+                m_tree.setModified(name, age == u"-old" ? 1000000000000 : 1100000000000);
+                m_paths.append(m_tree.path(name));
+            }
+        }
+    }
+
+    [[nodiscard]] const TempTree &tree() const { return m_tree; }
+    [[nodiscard]] const QStringList &paths() const { return m_paths; }
+    [[nodiscard]] const QByteArray &contentOf(qsizetype path) const { return m_contents[path / 2]; }
+
+    /// What differs on the disk from `told` files dealt with; empty when nothing does.
+    [[nodiscard]] QString problem(const QString &method, qsizetype told) const
+    {
+        QSet<ino_t> files;
+        qsizetype links = 0;
+        for (const QString &path : m_paths) {
+            struct stat status = {};
+            const bool isThere = lstat(path.toUtf8().constData(), &status) == 0;
+            links += isThere && S_ISLNK(status.st_mode) && QFile::exists(path) ? 1 : 0;
+            if (isThere && S_ISREG(status.st_mode))
+                files.insert(status.st_ino);
+        }
+        if (m_paths.size() - files.size() != told || (method == u"symlink" && links != told))
+            return u"%1 files and %2 links left, %3 told"_s.arg(files.size()).arg(links).arg(told);
+        const QStringList names = treeBelow(m_tree.path(u"src"_s)).keys();
+        return names.filter(u".mirrix-"_s).isEmpty() ? QString() : u"left behind: "_s + names.join(u' ');
+    }
+
+private:
+    TempTree m_tree;
+    QStringList m_paths;
+    QByteArrayList m_contents;
+};
+
+/// Writes a stamp into one file after the other until it is told to end; what each file, by its number, was given last.
+QHash<ino_t, QByteArray> stampUntil(const QStringList &paths, const std::atomic_bool &isOver, quint32 seed)
+{
+    QRandomGenerator random(seed);
+    QHash<ino_t, QByteArray> stamps;
+    for (int count = 0; !isOver; ++count) {
+        const QByteArray path = paths[random.bounded(int(paths.size()))].toUtf8();
+        const QByteArray stamp = QByteArray::number(count).rightJustified(stampBytes, '0');
+        const int file = open(path.constData(), O_WRONLY | O_NOFOLLOW | O_CLOEXEC);
+        struct stat status = {};
+        if (file >= 0 && fstat(file, &status) == 0 && pwrite(file, stamp.constData(), stampBytes, 0) == stampBytes)
+            stamps.insert(status.st_ino, stamp);
+        if (file >= 0)
+            close(file);
+        usleep(random.bounded(8000));
+    }
+    return stamps;
+}
+
+void addMethods(const QByteArrayList &methods)
+{
+    QTest::addColumn<QString>("method");
+    for (const QByteArray &method : methods)
+        QTest::newRow(method.constData()) << QString::fromLatin1(method);
+}
+
 } // namespace
 
 class RacesTest : public QObject
@@ -180,13 +266,15 @@ class RacesTest : public QObject
 private slots:
     void everyContentStays_data();
     void everyContentStays();
+    void contraryRules_data();
+    void contraryRules();
+    void editsMeanwhile_data() { contraryRules_data(); }
+    void editsMeanwhile();
 };
 
 void RacesTest::everyContentStays_data()
 {
-    QTest::addColumn<QString>("method");
-    for (const char *method : {"scan", "delete", "move", "recycle", "symlink", "hardlink", "backup"})
-        QTest::newRow(method) << QString::fromLatin1(method);
+    addMethods({"scan", "delete", "move", "recycle", "symlink", "hardlink", "backup"});
 }
 
 /// Whatever another process does meanwhile, a whole copy of each content is left, what was moved is whole, and the
@@ -216,6 +304,92 @@ void RacesTest::everyContentStays()
         const QString problem = problemOf(method, lookAt(tree), run.output);
         QVERIFY2(problem.isEmpty(),
                  qPrintable(u"seed %1: %2\n"_s.arg(seed).arg(problem) + QString::fromUtf8(run.output + run.errors)));
+    }
+    qInfo("%d of %d runs disturbed", disturbed, rounds);
+}
+
+void RacesTest::contraryRules_data()
+{
+    addMethods({"delete", "move", "recycle", "symlink", "hardlink", "backup"});
+}
+
+/// Each of two programs takes the other's kept files for surplus.
+void RacesTest::contraryRules()
+{
+    QFETCH(QString, method);
+    const int rounds = std::max(34, qEnvironmentVariableIntValue("MIRRIX_RACE_ROUNDS") / 6);
+    int disturbed = 0;
+    for (int round = 0; round < rounds; ++round) {
+        const Pairs pairs(round % 2 ? 300 : 90000);
+        const Program programs[2];
+        QProcess processes[2];
+        for (int side = 0; side < 2; ++side)
+            programs[side].prepare(processes[side], commandFor(method, pairs.tree(), side ? u"newest"_s : u"oldest"_s,
+                                                               QString::number(side)));
+        for (QProcess &process : processes)
+            process.start();
+        qsizetype told = 0;
+        QByteArray said;
+        for (QProcess &process : processes) {
+            const ProgramRun run = Program::ended(process);
+            said += run.output + run.errors;
+            QVERIFY2(run.status == 0 || run.status == 1, said.constData());
+            disturbed += run.status;
+            told += toldCount(run.output);
+        }
+        QString problem = pairs.problem(method, told);
+        for (qsizetype i = 0; i < pairs.paths().size(); i += 2) {
+            if (contentOf(pairs.paths()[i]) != pairs.contentOf(i) &&
+                contentOf(pairs.paths()[i + 1]) != pairs.contentOf(i))
+                problem += u" lost: "_s + pairs.paths()[i];
+        }
+        QVERIFY2(problem.isEmpty(), problem.toUtf8() + '\n' + said);
+    }
+    qInfo("%d runs disturbed in %d rounds", disturbed, rounds);
+}
+
+/// Another program writes into files while they are compared and taken away: what it wrote last stays, and so does what
+/// it left alone.
+void RacesTest::editsMeanwhile()
+{
+    QFETCH(QString, method);
+    const int rounds = std::max(34, qEnvironmentVariableIntValue("MIRRIX_RACE_ROUNDS") / 6);
+    int disturbed = 0;
+    for (int round = 0; round < rounds; ++round) {
+        const Pairs pairs(200000);
+        const Program program;
+        QHash<QString, ino_t> numbers;
+        for (const QString &path : pairs.paths()) {
+            struct stat status = {};
+            QVERIFY(lstat(path.toUtf8().constData(), &status) == 0);
+            numbers.insert(path, status.st_ino);
+        }
+        std::atomic_bool isOver = false;
+        auto editor = std::async(std::launch::async, [&, seed = QRandomGenerator::global()->generate()] {
+            return stampUntil(pairs.paths(), isOver, seed);
+        });
+        QProcess process;
+        program.prepare(process, commandFor(method, pairs.tree()));
+        process.start();
+        const ProgramRun run = Program::ended(process);
+        isOver = true;
+        const QHash<ino_t, QByteArray> stamps = editor.get();
+        QVERIFY2(run.status == 0 || run.status == 1, run.errors.constData());
+        disturbed += run.status;
+        QString problem = pairs.problem(method, toldCount(run.output));
+        QSet<QByteArray> left;
+        for (const DiskTree &tree : {treeBelow(pairs.tree().path()), treeBelow(program.dataFolder() + u"/.."_s)}) {
+            for (const QByteArray &file : tree)
+                left.insert(file.left(file.lastIndexOf(" @")));
+        }
+        for (qsizetype i = 0; i < pairs.paths().size(); ++i) {
+            const ino_t number = numbers[pairs.paths()[i]];
+            const bool isPairWritten = stamps.contains(number) || stamps.contains(numbers[pairs.paths()[i ^ 1]]);
+            const QByteArray content = stamps.value(number) + pairs.contentOf(i).mid(stamps.value(number).size());
+            if ((stamps.contains(number) || !isPairWritten) && !left.contains(content))
+                problem += u" lost: "_s + pairs.paths()[i];
+        }
+        QVERIFY2(problem.isEmpty(), problem.toUtf8() + '\n' + run.output + run.errors);
     }
     qInfo("%d of %d runs disturbed", disturbed, rounds);
 }
