@@ -68,6 +68,9 @@ signals:
 
     void stopRequested();
 
+    /// The user wants to see this run among the earlier ones. Comes after `finished`.
+    void historyRequested(const QString &runId);
+
 private:
     using MarkChange = std::function<void(SelectionMarks &, const QList<MirrixCore::DuplicateGroup> &)>;
     using Batch = std::function<BatchResult(const BatchControl &)>;
@@ -85,6 +88,9 @@ private:
     [[nodiscard]] CleaningResult clean(const QString &label, CleaningPlan plan, const ItemMaker &makeItems);
     [[nodiscard]] CleaningPlan planFor(CleaningMethod method) const;
 
+    /// The box at the end of a run.
+    void tellDone(const QString &text, const CleaningResult &result);
+
     /// The ticked files once the user has said what is to happen to groups of which no copy would stay. Nothing when
     /// there are none, which the user is told with `noneText`, or when the user gives up.
     [[nodiscard]] std::optional<CheckedFiles> filesToClean(const QString &noneText);
@@ -100,6 +106,7 @@ private:
     OperationsLog &m_log;
     QWidget *m_window;
     QString m_backupFolder;
+    QString m_runToShow; ///< once the command is over
     bool m_isBusy = false;
 };
 
