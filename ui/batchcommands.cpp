@@ -283,37 +283,46 @@ BatchResult BatchCommands::linkAtFreePaths(const CheckedFiles &files, const Remo
 void BatchCommands::restoreByChoice()
 {
     const QString folder = m_settings.backupRoot;
-    QList<BackupEntry> entries;
-    QStringList lines;
+    RestoreList list;
     const BatchResult reading = run(Text::tr("正在读取备份索引…"), [&](const BatchControl &control) {
-        entries = restorableEntries(folder);
-        for (const BackupEntry &entry : std::as_const(entries))
-            lines.append(backupLine(entry));
+        list.entries = restorableEntries(folder);
+        for (const BackupEntry &entry : std::as_const(list.entries))
+            list.lines.append(backupLine(entry));
         return BatchResult{0, {}, !control.mayGoOn(0, 0)};
     });
-    if (reading.isCancelled)
-        return;
-    if (entries.isEmpty()) {
+    if (!reading.isCancelled && list.entries.isEmpty())
         m_prompts.inform(m_window, Text::tr("提示"), Text::tr("备份索引为空。"));
-        return;
+    else if (!reading.isCancelled && chooseBackups(list) &&
+             m_prompts.ask(m_window, Text::tr("确认恢复"), list.question))
+        restore(folder, list.chosen);
+    discardAside(std::move(list));
+}
+
+bool BatchCommands::chooseBackups(RestoreList &list)
+{
+    QList<qsizetype> rows;
+    {
+        RestoreDialog dialog(list.lines, m_window);
+        if (!m_prompts.run(dialog))
+            return false;
+        rows = dialog.chosen();
     }
-    RestoreDialog dialog(lines, m_window);
-    if (!m_prompts.run(dialog))
-        return;
-    QList<BackupEntry> chosen;
-    QStringList chosenLines;
-    for (const qsizetype row : dialog.chosen()) {
-        chosen.append(entries[row]);
-        chosenLines.append(lines[row]);
-    }
-    if (!chosen.isEmpty() && m_prompts.ask(m_window, Text::tr("确认恢复"),
-                                           Text::tr("将恢复：\n%1").arg(chosenLines.join(QLatin1Char('\n')))))
-        restore(folder, chosen);
+    static_cast<void>(run(Text::tr("正在处理"), [&](const BatchControl &) {
+        QStringList lines;
+        for (const qsizetype row : std::as_const(rows)) {
+            list.chosen.append(list.entries[row]);
+            lines.append(list.lines[row]);
+        }
+        list.question = Text::tr("将恢复：\n%1").arg(lines.join(QLatin1Char('\n')));
+        return BatchResult();
+    }));
+    return !list.chosen.isEmpty();
 }
 
 void BatchCommands::restore(const QString &folder, const QList<BackupEntry> &chosen)
 {
     RestoreResult result;
+    QString text;
     static_cast<void>(run(Text::tr("正在恢复文件… (%1/%2)"), [&](const BatchControl &control) {
         result = restoreBackups(folder, chosen, control);
         // Here, too, since a record for each of very many files takes a second.
@@ -322,15 +331,18 @@ void BatchCommands::restore(const QString &folder, const QList<BackupEntry> &cho
             records.append(restoredEvent(entry));
         if (!records.isEmpty())
             m_log.append(records);
+        text = Text::tr("已恢复 %1 个文件。").arg(result.count) + failureText(result);
         return static_cast<const BatchResult &>(result);
     }));
-    const QString count = Text::tr("已恢复 %1 个文件。").arg(result.count);
-    const QString notes = result.notes.isEmpty() ? QString() : QLatin1Char('\n') + result.notes.join(QLatin1Char('\n'));
-    if (!result.errors.isEmpty())
-        m_prompts.warn(m_window, Text::tr("失败"),
-                       chosen.size() == 1 ? result.errors.first() : count + failureText(result) + notes);
+    if (chosen.size() == 1)
+        text = result.errors.isEmpty() ? Text::tr("文件已恢复。") : result.errors.first();
+    if (!result.notes.isEmpty() && (chosen.size() > 1 || result.errors.isEmpty()))
+        text += QLatin1Char('\n') + result.notes.join(QLatin1Char('\n'));
+    if (result.errors.isEmpty())
+        m_prompts.inform(m_window, Text::tr("完成"), text);
     else
-        m_prompts.inform(m_window, Text::tr("完成"), (chosen.size() == 1 ? Text::tr("文件已恢复。") : count) + notes);
+        m_prompts.warn(m_window, Text::tr("失败"), text);
+    discardAside(std::move(result));
 }
 
 } // namespace Mirrix

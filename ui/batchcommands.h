@@ -1,5 +1,6 @@
 #pragma once
 
+#include "actions/backupindex.h"
 #include "actions/batch.h"
 #include "actions/cleaning/cleaningrun.h"
 #include "ui/logic/checkedfiles.h"
@@ -15,7 +16,6 @@ namespace Mirrix {
 
 class OperationsLog;
 class Prompts;
-struct BackupEntry;
 struct RemovalChoice;
 struct Settings;
 
@@ -98,6 +98,18 @@ private:
     void backUpAndRemove(const CheckedFiles &files, const RemovalChoice &choice);
     void removeDirectly(const CheckedFiles &files, const RemovalChoice &choice);
     [[nodiscard]] BatchResult linkAtFreePaths(const CheckedFiles &files, const RemovalChoice &choice);
+    /// What may be put back, and what of it the user wants. Large, so made and freed off the interface thread.
+    struct RestoreList
+    {
+        QList<BackupEntry> entries;
+        QStringList lines; ///< of each
+        QList<BackupEntry> chosen;
+        QString question;
+    };
+
+    /// False when nothing is to be put back.
+    [[nodiscard]] bool chooseBackups(RestoreList &list);
+
     void restore(const QString &folder, const QList<BackupEntry> &chosen);
 
     ResultSet &m_results;

@@ -279,8 +279,7 @@ QList<qsizetype> HistoryDialog::selectedItems() const
         if (run.isValid() && run != range.parent())
             return {};
         run = range.parent();
-        for (int row = range.top(); row <= range.bottom(); ++row)
-            items.append(m_model->itemOf(m_model->index(row, 0, run)));
+        items += m_model->itemsIn(run, range.top(), range.bottom());
     }
     return items;
 }
@@ -319,10 +318,8 @@ void HistoryDialog::copyPaths()
 {
     QStringList paths;
     const QItemSelection ranges = m_tree->selectionModel()->selection();
-    for (const QItemSelectionRange &range : ranges) {
-        for (int row = range.top(); row <= range.bottom(); ++row)
-            paths.append(m_model->index(row, HistoryModel::NameColumn, range.parent()).data().toString());
-    }
+    for (const QItemSelectionRange &range : ranges)
+        paths += m_model->namesIn(range.parent(), range.top(), range.bottom());
     if (!paths.isEmpty())
         QGuiApplication::clipboard()->setText(paths.join(QLatin1Char('\n')));
 }

@@ -160,7 +160,7 @@ void AdvancedBox::retranslate()
     m_backupBeforeDelete->setText(Text::tr("删除前自动备份"));
     m_backupLabel->setText(Text::tr("备份目录"));
     m_heldLabel->setText(Text::tr("备份中保留：%1").arg(formatSize(m_heldBytes)));
-    m_history->setText(Text::tr("清理历史…"));
+    m_history->setText(Text::tr("清理历史"));
     m_chooseBackup->setToolTip(Text::tr("选择备份目录"));
     m_chooseBackup->setAccessibleName(m_chooseBackup->toolTip());
 }

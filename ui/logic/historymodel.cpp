@@ -117,10 +117,28 @@ QModelIndex HistoryModel::runIndex(const QString &runId) const
     return {};
 }
 
-qsizetype HistoryModel::itemOf(const QModelIndex &file) const
+qsizetype HistoryModel::itemAt(size_t run, int row) const
 {
-    const auto row = static_cast<size_t>(file.row());
-    return m_matches ? m_matches->constFind(run(file).header.id).value()[row] : file.row();
+    return m_matches ? m_matches->constFind(m_runs[run].summary.header.id).value()[static_cast<size_t>(row)] : row;
+}
+
+QList<qsizetype> HistoryModel::itemsIn(const QModelIndex &run, int top, int bottom) const
+{
+    QList<qsizetype> items;
+    items.reserve(bottom - top + 1);
+    for (int row = top; row <= bottom; ++row)
+        items.append(itemAt(runOf(run), row));
+    return items;
+}
+
+QStringList HistoryModel::namesIn(const QModelIndex &run, int top, int bottom) const
+{
+    QStringList names;
+    names.reserve(bottom - top + 1);
+    for (int row = top; row <= bottom; ++row)
+        names.append(run.isValid() ? fileText(*m_runs[runOf(run)].files, itemAt(runOf(run), row), NameColumn)
+                                   : runText(m_runs[m_shown[size_t(row)]].summary, NameColumn));
+    return names;
 }
 
 int HistoryModel::fileCount(const Run &run) const
@@ -212,7 +230,7 @@ QVariant HistoryModel::data(const QModelIndex &index, int role) const
             return tip(run.summary.message);
         return role == Qt::DisplayRole ? QVariant(runText(run.summary, index.column())) : QVariant();
     }
-    const qsizetype item = itemOf(index);
+    const qsizetype item = itemAt(runOf(index), index.row());
     if (role == pathRole) {
         const ItemOutcome &outcome = run.files->outcomes[item];
         const bool isElsewhere = outcome.state != ItemState::Undone && !outcome.now.isEmpty();

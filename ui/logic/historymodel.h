@@ -64,8 +64,11 @@ public:
     /// Invalid when the run is not shown.
     [[nodiscard]] QModelIndex runIndex(const QString &runId) const;
 
-    /// The index in its run's list of the file in this row.
-    [[nodiscard]] qsizetype itemOf(const QModelIndex &file) const;
+    /// The indices in their run's list of the files in these rows below it.
+    [[nodiscard]] QList<qsizetype> itemsIn(const QModelIndex &run, int top, int bottom) const;
+
+    /// The names of the same; those of the runs in these rows when `run` is invalid.
+    [[nodiscard]] QStringList namesIn(const QModelIndex &run, int top, int bottom) const;
 
     void retranslate();
 
@@ -95,6 +98,7 @@ private:
     };
 
     [[nodiscard]] size_t runOf(const QModelIndex &index) const { return index.internalId() & ~fileBit; }
+    [[nodiscard]] qsizetype itemAt(size_t run, int row) const;
     [[nodiscard]] int fileCount(const Run &run) const;
     void showAll();
     [[nodiscard]] QString runText(const RunSummary &run, int column) const;
