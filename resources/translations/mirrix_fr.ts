@@ -37,11 +37,11 @@
     </message>
     <message>
         <source>[%1] %2  已枚举 %3  已处理 %4/%5</source>
-        <translation>[%1] %2  Énumérés&#xa0;: %3  Traités&#xa0;: %4/%5</translation>
+        <translation>[%1] %2  Énumérés : %3  Traités : %4/%5</translation>
     </message>
     <message>
         <source>文件 %1 · 重复组 %2 · 文件夹组 %3 · 其余 %4 · 可回收约 %5 · 耗时 %6 秒</source>
-        <translation>Fichiers&#xa0;: %1 · Groupes de doublons&#xa0;: %2 · Groupes de dossiers&#xa0;: %3 · Restants&#xa0;: %4 · Récupérable&#xa0;: ~%5 · %6 s</translation>
+        <translation>Fichiers : %1 · Groupes de doublons : %2 · Groupes de dossiers : %3 · Restants : %4 · Récupérable : ~%5 · %6 s</translation>
     </message>
     <message>
         <source>文件(&amp;F)</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>%1 · 本地运行 · 零广告 · 图片哈希: %2</source>
-        <translation>%1 · Local · Sans publicité · Hachage d’images&#xa0;: %2</translation>
+        <translation>%1 · Local · Sans publicité · Hachage d’images : %2</translation>
     </message>
     <message>
         <source>① 选择位置 → ② 匹配规则 → ③ 预览并清理</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>选好后点击左侧「开始扫描」</source>
-        <translation>Cliquez ensuite sur «&#xa0;Lancer l’analyse&#xa0;» à gauche</translation>
+        <translation>Cliquez ensuite sur « Lancer l’analyse » à gauche</translation>
     </message>
     <message>
         <source>配置匹配规则</source>
@@ -109,15 +109,15 @@
     </message>
     <message>
         <source>勾选要移除的副本，建议先备份再删除</source>
-        <translation>Cochez les copies à supprimer&#xa0;; en cas de doute, sauvegardez-les d’abord</translation>
+        <translation>Cochez les copies à supprimer ; en cas de doute, sauvegardez-les d’abord</translation>
     </message>
     <message>
         <source>请选择要扫描的位置</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished" />
     </message>
     <message>
         <source>配置规则后点击「开始扫描」</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished" />
     </message>
     <message>
         <source>勾选重复项并进行清理</source>
@@ -133,7 +133,7 @@
     </message>
     <message>
         <source>扫描进行中：已锁定规则与位置页，请勿修改扫描参数。</source>
-        <translation>Analyse en cours&#xa0;: règles et emplacements verrouillés.</translation>
+        <translation>Analyse en cours : règles et emplacements verrouillés.</translation>
     </message>
     <message>
         <source>确认开始扫描</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>%1 · 本地运行 · 图片哈希: %2</source>
-        <translation>%1 · Local · Hachage d’images&#xa0;: %2</translation>
+        <translation>%1 · Local · Hachage d’images : %2</translation>
     </message>
     <message>
         <source>正在取消...</source>
@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>扫描完成 · 图片哈希后端: %1</source>
-        <translation>Analyse terminée · Moteur de hachage d’images&#xa0;: %1</translation>
+        <translation>Analyse terminée · Moteur de hachage d’images : %1</translation>
     </message>
     <message>
         <source>位于回收站中</source>
@@ -177,7 +177,7 @@
     </message>
     <message>
         <source>未能读取 %1 项：%2</source>
-        <translation>Illisibles (%1)&#xa0;: %2</translation>
+        <translation>Illisibles (%1) : %2</translation>
     </message>
     <message>
         <source>扫描失败</source>
@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>恢复失败: %1</source>
-        <translation>Échec de la restauration&#xa0;: %1</translation>
+        <translation>Échec de la restauration : %1</translation>
     </message>
     <message>
         <source>备份文件已损坏，未恢复: %1</source>
@@ -277,75 +277,75 @@
     </message>
     <message>
         <source>原路径已存在文件，已取消恢复: %1</source>
-        <translation>Un fichier existe déjà à l’emplacement d’origine&#xa0;; restauration annulée&#xa0;: %1</translation>
+        <translation>Un fichier existe déjà à l’emplacement d’origine ; restauration annulée : %1</translation>
     </message>
     <message>
         <source>无法移动到备份目录: %1</source>
-        <translation>Déplacement vers le dossier de sauvegarde impossible&#xa0;: %1</translation>
+        <translation>Déplacement vers le dossier de sauvegarde impossible : %1</translation>
     </message>
     <message>
         <source>文件在扫描后已更改，已保留: %1</source>
-        <translation>Modifié depuis l’analyse, conservé&#xa0;: %1</translation>
+        <translation>Modifié depuis l’analyse, conservé : %1</translation>
     </message>
     <message>
         <source>要保留的文件已更改，未处理: %1</source>
-        <translation>Le fichier à conserver a changé&#xa0;; cette copie n’a pas été traitée&#xa0;: %1</translation>
+        <translation>Le fichier à conserver a changé ; cette copie n’a pas été traitée : %1</translation>
     </message>
     <message>
         <source>与要保留的文件可能是同一个文件，未处理: %1</source>
-        <translation>Peut-être le même fichier que celui à conserver&#xa0;; non traité&#xa0;: %1</translation>
+        <translation>Peut-être le même fichier que celui à conserver ; non traité : %1</translation>
     </message>
     <message>
         <source>无法创建目标目录: %1</source>
-        <translation>Création du dossier de destination impossible&#xa0;: %1</translation>
+        <translation>Création du dossier de destination impossible : %1</translation>
     </message>
     <message>
         <source>目标已存在: %1</source>
-        <translation>La destination existe déjà&#xa0;: %1</translation>
+        <translation>La destination existe déjà : %1</translation>
     </message>
     <message>
         <source>链接路径已存在: %1</source>
-        <translation>Le chemin du lien existe déjà&#xa0;: %1</translation>
+        <translation>Le chemin du lien existe déjà : %1</translation>
     </message>
     <message>
         <source>没有创建符号链接的权限（请启用开发人员模式或以管理员身份运行）: %1</source>
-        <translation>Droits insuffisants pour créer des liens symboliques (activez le mode développeur ou exécutez le programme en tant qu’administrateur)&#xa0;: %1</translation>
+        <translation>Droits insuffisants pour créer des liens symboliques (activez le mode développeur ou exécutez le programme en tant qu’administrateur) : %1</translation>
     </message>
     <message>
         <source>无法删除: %1</source>
-        <translation>Suppression impossible&#xa0;: %1</translation>
+        <translation>Suppression impossible : %1</translation>
     </message>
     <message>
         <source>无法移动: %1</source>
-        <translation>Déplacement impossible&#xa0;: %1</translation>
+        <translation>Déplacement impossible : %1</translation>
     </message>
     <message>
         <source>无法复制: %1</source>
-        <translation>Copie impossible&#xa0;: %1</translation>
+        <translation>Copie impossible : %1</translation>
     </message>
     <message>
         <source>无法创建硬链接: %1</source>
-        <translation>Création du lien physique impossible&#xa0;: %1</translation>
+        <translation>Création du lien physique impossible : %1</translation>
     </message>
     <message>
         <source>无法创建符号链接: %1</source>
-        <translation>Création du lien symbolique impossible&#xa0;: %1</translation>
+        <translation>Création du lien symbolique impossible : %1</translation>
     </message>
     <message>
         <source>文件不存在: %1</source>
-        <translation>Fichier introuvable&#xa0;: %1</translation>
+        <translation>Fichier introuvable : %1</translation>
     </message>
     <message>
         <source>链接目标不是可用的文件: %1</source>
-        <translation>La cible du lien n’est pas un fichier utilisable&#xa0;: %1</translation>
+        <translation>La cible du lien n’est pas un fichier utilisable : %1</translation>
     </message>
     <message>
         <source>原文件未能放回，可从备份中恢复: %1</source>
-        <translation>Le fichier n’a pas pu être remis en place&#xa0;; il peut être restauré depuis la sauvegarde&#xa0;: %1</translation>
+        <translation>Le fichier n’a pas pu être remis en place ; il peut être restauré depuis la sauvegarde : %1</translation>
     </message>
     <message>
         <source>无法放入回收站，已保留: %1</source>
-        <translation>Mise à la Corbeille impossible&#xa0;; fichier conservé&#xa0;: %1</translation>
+        <translation>Mise à la Corbeille impossible ; fichier conservé : %1</translation>
     </message>
     <message>
         <source>无法写入清理记录: %1 (%2)</source>
@@ -365,11 +365,11 @@
     </message>
     <message>
         <source>批量移入回收站失败 (code %1, %2 个文件)</source>
-        <translation>Échec de la mise à la Corbeille (code %1, fichiers&#xa0;: %2)</translation>
+        <translation>Échec de la mise à la Corbeille (code %1, fichiers : %2)</translation>
     </message>
     <message>
         <source>未移入回收站，仍在原处: %1</source>
-        <translation>Non mis à la Corbeille, toujours à sa place&#xa0;: %1</translation>
+        <translation>Non mis à la Corbeille, toujours à sa place : %1</translation>
     </message>
     <message>
         <source>保留最新文件</source>
@@ -435,13 +435,13 @@ Les dossiers système restent exclus. Évitez si possible d’analyser tout le d
     </message>
     <message>
         <source>系统盘确认</source>
-        <translation>Analyser le disque système&#xa0;?</translation>
+        <translation>Analyser le disque système ?</translation>
     </message>
     <message>
         <source>您选择了系统盘。整盘扫描耗时较长，系统目录仍会排除。
 是否加入扫描列表？</source>
-        <translation>Vous avez coché un disque système. L’analyse d’un disque entier est plus longue&#xa0;; les dossiers système restent exclus.
-L’ajouter à la liste d’analyse&#xa0;?</translation>
+        <translation>Vous avez coché un disque système. L’analyse d’un disque entier est plus longue ; les dossiers système restent exclus.
+L’ajouter à la liste d’analyse ?</translation>
     </message>
     <message>
         <source>确认添加</source>
@@ -450,7 +450,7 @@ L’ajouter à la liste d’analyse&#xa0;?</translation>
     <message>
         <source>将 %1 个分区加入扫描列表（不会立即开始扫描）：
 %2</source>
-        <translation>Partitions à ajouter à la liste d’analyse (sans lancer l’analyse)&#xa0;: %1
+        <translation>Partitions à ajouter à la liste d’analyse (sans lancer l’analyse) : %1
 %2</translation>
     </message>
     <message>
@@ -488,7 +488,7 @@ L’ajouter à la liste d’analyse&#xa0;?</translation>
     <message>
         <source>浏览文件夹，用右侧的 → 加入扫描位置；
 也可以从资源管理器把文件夹拖入扫描列表。</source>
-        <translation>Parcourez les dossiers, puis ajoutez-les aux emplacements d’analyse avec le bouton → à droite&#xa0;;
+        <translation>Parcourez les dossiers, puis ajoutez-les aux emplacements d’analyse avec le bouton → à droite ;
 vous pouvez aussi faire glisser des dossiers depuis l’Explorateur vers la liste d’analyse.</translation>
     </message>
     <message>
@@ -501,7 +501,7 @@ vous pouvez aussi faire glisser des dossiers depuis l’Explorateur vers la list
     </message>
     <message>
         <source>每行一个扫描位置，状态列=启用/停用，已保护=不扫描。</source>
-        <translation>Un emplacement par ligne&#xa0;; État = activé/désactivé, Protégé = non analysé.</translation>
+        <translation>Un emplacement par ligne ; État = activé/désactivé, Protégé = non analysé.</translation>
     </message>
     <message>
         <source>+文件夹</source>
@@ -623,15 +623,15 @@ Ce dossier est introuvable pour le moment.</translation>
     </message>
     <message>
         <source>扫描进行中，批量操作已暂停。</source>
-        <translation>Analyse en cours&#xa0;; actions groupées suspendues.</translation>
+        <translation>Analyse en cours ; actions groupées suspendues.</translation>
     </message>
     <message>
         <source>「重复文件夹」为只读视图；删除/导出请切换到「重复文件」Tab。</source>
-        <translation>L’onglet «&#xa0;Dossiers en double&#xa0;» est en lecture seule&#xa0;; supprimez ou exportez depuis l’onglet «&#xa0;Fichiers en double&#xa0;».</translation>
+        <translation>L’onglet « Dossiers en double » est en lecture seule ; supprimez ou exportez depuis l’onglet « Fichiers en double ».</translation>
     </message>
     <message>
         <source>「其余文件」为只读视图；请切换到「重复文件」Tab 勾选处理。</source>
-        <translation>L’onglet «&#xa0;Fichiers restants&#xa0;» est en lecture seule&#xa0;; cochez les fichiers dans l’onglet «&#xa0;Fichiers en double&#xa0;».</translation>
+        <translation>L’onglet « Fichiers restants » est en lecture seule ; cochez les fichiers dans l’onglet « Fichiers en double ».</translation>
     </message>
     <message>
         <source>扫描完成后，在左侧勾选重复项再执行批量操作。</source>
@@ -639,7 +639,7 @@ Ce dossier est introuvable pour le moment.</translation>
     </message>
     <message>
         <source>已勾选 %1 个文件</source>
-        <translation>Fichiers cochés&#xa0;: %1</translation>
+        <translation>Fichiers cochés : %1</translation>
     </message>
     <message>
         <source>分组</source>
@@ -647,7 +647,7 @@ Ce dossier est introuvable pour le moment.</translation>
     </message>
     <message>
         <source>文件夹组 #%1</source>
-        <translation>Groupe de dossiers n°&#xa0;%1</translation>
+        <translation>Groupe de dossiers n° %1</translation>
     </message>
     <message>
         <source>文件夹路径</source>
@@ -707,51 +707,51 @@ Ce dossier est introuvable pour le moment.</translation>
     </message>
     <message>
         <source>分组 #%1  (%2 个文件, 可回收 %3)</source>
-        <translation>Groupe n°&#xa0;%1  (fichiers&#xa0;: %2, récupérable&#xa0;: %3)</translation>
+        <translation>Groupe n° %1  (fichiers : %2, récupérable : %3)</translation>
     </message>
     <message>
         <source>本组所有文件均已勾选，处理后将不保留任何副本。</source>
-        <translation>Tous les fichiers de ce groupe sont cochés&#xa0;; aucun ne sera conservé.</translation>
+        <translation>Tous les fichiers de ce groupe sont cochés ; aucun ne sera conservé.</translation>
     </message>
     <message>
         <source>路径: %1
 大小: %2
 修改: %3
 后缀: %4</source>
-        <translation>Chemin&#xa0;: %1
-Taille&#xa0;: %2
-Modifié le&#xa0;: %3
-Extension&#xa0;: %4</translation>
+        <translation>Chemin : %1
+Taille : %2
+Modifié le : %3
+Extension : %4</translation>
     </message>
     <message>
         <source>
 尺寸: %1 × %2</source>
         <translation>
-Dimensions&#xa0;: %1 × %2</translation>
+Dimensions : %1 × %2</translation>
     </message>
     <message>
         <source>
 相机: %1 %2</source>
         <translation>
-Appareil photo&#xa0;: %1 %2</translation>
+Appareil photo : %1 %2</translation>
     </message>
     <message>
         <source>
 拍摄: %1</source>
         <translation>
-Prise de vue&#xa0;: %1</translation>
+Prise de vue : %1</translation>
     </message>
     <message>
         <source>
 艺术家: %1</source>
         <translation>
-Artiste&#xa0;: %1</translation>
+Artiste : %1</translation>
     </message>
     <message>
         <source>
 标题: %1</source>
         <translation>
-Titre&#xa0;: %1</translation>
+Titre : %1</translation>
     </message>
     <message>
         <source>常规模式</source>
@@ -839,7 +839,7 @@ Titre&#xa0;: %1</translation>
     </message>
     <message>
         <source>• 图像相似度：%1</source>
-        <translation>• Similarité des images&#xa0;: %1</translation>
+        <translation>• Similarité des images : %1</translation>
     </message>
     <message>
         <source>旋转</source>
@@ -851,31 +851,31 @@ Titre&#xa0;: %1</translation>
     </message>
     <message>
         <source>• 变体：%1</source>
-        <translation>• Variantes&#xa0;: %1</translation>
+        <translation>• Variantes : %1</translation>
     </message>
     <message>
         <source>• 匹配：相同内容（字节级）</source>
-        <translation>• Correspondance&#xa0;: contenu identique (octet par octet)</translation>
+        <translation>• Correspondance : contenu identique (octet par octet)</translation>
     </message>
     <message>
         <source>• 匹配：相似内容（采样一致 ≥ %1%）</source>
-        <translation>• Correspondance&#xa0;: contenu similaire (échantillons identiques ≥ %1&#xa0;%)</translation>
+        <translation>• Correspondance : contenu similaire (échantillons identiques ≥ %1 %)</translation>
     </message>
     <message>
         <source>• 匹配：忽略内容（名称/大小/日期规则）</source>
-        <translation>• Correspondance&#xa0;: contenu ignoré (règles de nom, taille, date)</translation>
+        <translation>• Correspondance : contenu ignoré (règles de nom, taille, date)</translation>
     </message>
     <message>
         <source>• 音频比对：%1</source>
-        <translation>• Comparaison audio&#xa0;: %1</translation>
+        <translation>• Comparaison audio : %1</translation>
     </message>
     <message>
         <source>• 视频比对：%1</source>
-        <translation>• Comparaison vidéo&#xa0;: %1</translation>
+        <translation>• Comparaison vidéo : %1</translation>
     </message>
     <message>
         <source>• 扫描位置：%1</source>
-        <translation>• Emplacements d’analyse&#xa0;: %1</translation>
+        <translation>• Emplacements d’analyse : %1</translation>
     </message>
     <message>
         <source>    … 另有 %1 个</source>
@@ -883,19 +883,19 @@ Titre&#xa0;: %1</translation>
     </message>
     <message>
         <source>• 排除目录：%1</source>
-        <translation>• Dossiers exclus&#xa0;: %1</translation>
+        <translation>• Dossiers exclus : %1</translation>
     </message>
     <message>
         <source>• 大小限制：%1 ~ %2</source>
-        <translation>• Limites de taille&#xa0;: %1 – %2</translation>
+        <translation>• Limites de taille : %1 – %2</translation>
     </message>
     <message>
         <source>• 包含扩展名：%1</source>
-        <translation>• Extensions incluses&#xa0;: %1</translation>
+        <translation>• Extensions incluses : %1</translation>
     </message>
     <message>
         <source>• 排除扩展名：%1</source>
-        <translation>• Extensions exclues&#xa0;: %1</translation>
+        <translation>• Extensions exclues : %1</translation>
     </message>
     <message>
         <source>隐藏文件</source>
@@ -907,19 +907,19 @@ Titre&#xa0;: %1</translation>
     </message>
     <message>
         <source>• 跳过：%1</source>
-        <translation>• Ignorer&#xa0;: %1</translation>
+        <translation>• Ignorer : %1</translation>
     </message>
     <message>
         <source>请确认以下扫描设置：</source>
-        <translation>Vérifiez les paramètres de l’analyse&#xa0;:</translation>
+        <translation>Vérifiez les paramètres de l’analyse :</translation>
     </message>
     <message>
         <source>• 模式：%1</source>
-        <translation>• Mode&#xa0;: %1</translation>
+        <translation>• Mode : %1</translation>
     </message>
     <message>
         <source>扫描在本地执行，文件不会上传到网络。</source>
-        <translation>L’analyse est locale&#xa0;; aucun fichier n’est envoyé sur le réseau.</translation>
+        <translation>L’analyse est locale ; aucun fichier n’est envoyé sur le réseau.</translation>
     </message>
     <message>
         <source>拍摄时间</source>
@@ -1051,7 +1051,7 @@ Titre&#xa0;: %1</translation>
     </message>
     <message>
         <source>文件夹: %1</source>
-        <translation>Dossier&#xa0;: %1</translation>
+        <translation>Dossier : %1</translation>
     </message>
     <message>
         <source>无图像预览
@@ -1081,11 +1081,11 @@ Titre&#xa0;: %1</translation>
     </message>
     <message>
         <source>尚未扫描。请选择扫描模式，添加目录后点击“立即扫描”。</source>
-        <translation>Aucune analyse pour l’instant. Choisissez un mode, ajoutez des dossiers, puis cliquez sur «&#xa0;Lancer l’analyse&#xa0;».</translation>
+        <translation>Aucune analyse pour l’instant. Choisissez un mode, ajoutez des dossiers, puis cliquez sur « Lancer l’analyse ».</translation>
     </message>
     <message>
         <source>视图：</source>
-        <translation>Affichage&#xa0;:</translation>
+        <translation>Affichage :</translation>
     </message>
     <message>
         <source>列表</source>
@@ -1133,7 +1133,7 @@ Titre&#xa0;: %1</translation>
     </message>
     <message>
         <source>音频指纹基于采样，并非 Chromaprint 级别。</source>
-        <translation>L’empreinte audio repose sur des échantillons&#xa0;; elle n’a pas la précision de Chromaprint.</translation>
+        <translation>L’empreinte audio repose sur des échantillons ; elle n’a pas la précision de Chromaprint.</translation>
     </message>
     <message>
         <source> 毫秒</source>
@@ -1157,7 +1157,7 @@ Titre&#xa0;: %1</translation>
     </message>
     <message>
         <source>勾选时按当前扫描模式扩展名扫描；取消勾选则仅扫描「已包含」列表中的扩展名。</source>
-        <translation>Coché&#xa0;: l’analyse porte sur les extensions du mode actuel&#xa0;; décoché&#xa0;: seulement sur celles de la liste «&#xa0;Inclus&#xa0;».</translation>
+        <translation>Coché : l’analyse porte sur les extensions du mode actuel ; décoché : seulement sur celles de la liste « Inclus ».</translation>
     </message>
     <message>
         <source>已排除</source>
@@ -1165,11 +1165,11 @@ Titre&#xa0;: %1</translation>
     </message>
     <message>
         <source>例如：jpg, png</source>
-        <translation>Par exemple&#xa0;: jpg, png</translation>
+        <translation>Par exemple : jpg, png</translation>
     </message>
     <message>
         <source>用逗号、分号或空格分隔；* 或 *.* 表示全部</source>
-        <translation>Séparées par des virgules, des points-virgules ou des espaces&#xa0;; * ou *.* signifie toutes</translation>
+        <translation>Séparées par des virgules, des points-virgules ou des espaces ; * ou *.* signifie toutes</translation>
     </message>
     <message>
         <source>图片模式包含更多 RAW 格式</source>
@@ -1178,8 +1178,8 @@ Titre&#xa0;: %1</translation>
     <message>
         <source>图片模式下还扫描 arw、dng、rw2、orf、srw 等相机 RAW 文件；
 raw、cr2、nef 始终扫描。仅在「已包含」列表为空时有效。</source>
-        <translation>En mode image, analyser aussi les fichiers RAW d’appareils photo tels que arw, dng, rw2, orf et srw&#xa0;;
-raw, cr2 et nef sont toujours analysés. Valable seulement si la liste «&#xa0;Inclus&#xa0;» est vide.</translation>
+        <translation>En mode image, analyser aussi les fichiers RAW d’appareils photo tels que arw, dng, rw2, orf et srw ;
+raw, cr2 et nef sont toujours analysés. Valable seulement si la liste « Inclus » est vide.</translation>
     </message>
     <message>
         <source>文件大小</source>
@@ -1242,7 +1242,7 @@ raw, cr2 et nef sont toujours analysés. Valable seulement si la liste «&#xa0;I
 • 相同内容 = 逐字节一致（默认）
 • 相似内容 = 字节近似匹配
 • 忽略内容 = 仅按元数据规则</source>
-        <translation>Modes exclusifs&#xa0;:
+        <translation>Modes exclusifs :
 • Contenu identique = octet par octet (par défaut)
 • Contenu similaire = comparaison approchée des octets
 • Ignorer le contenu = règles de métadonnées uniquement</translation>
@@ -1253,7 +1253,7 @@ raw, cr2 et nef sont toujours analysés. Valable seulement si la liste «&#xa0;I
     </message>
     <message>
         <source>不读文件内容，仅用下方「更多判断重复的选项」分组（名称/大小/日期等）。</source>
-        <translation>Ne lit pas le contenu des fichiers&#xa0;; regroupe selon les critères de doublon ci-dessous (nom, taille, date).</translation>
+        <translation>Ne lit pas le contenu des fichiers ; regroupe selon les critères de doublon ci-dessous (nom, taille, date).</translation>
     </message>
     <message>
         <source>文件名</source>
@@ -1273,7 +1273,7 @@ raw, cr2 et nef sont toujours analysés. Valable seulement si la liste «&#xa0;I
     </message>
     <message>
         <source>忽略文件名中「副本」字样</source>
-        <translation>Ignorer «&#xa0;Copy&#xa0;», «&#xa0;(2)&#xa0;», etc. dans les noms de fichiers</translation>
+        <translation>Ignorer « Copy », « (2) », etc. dans les noms de fichiers</translation>
     </message>
     <message>
         <source>相同文件大小</source>
@@ -1441,7 +1441,7 @@ raw, cr2 et nef sont toujours analysés. Valable seulement si la liste «&#xa0;I
     </message>
     <message>
         <source>仅按标签匹配时，请至少将一个标签设为「必须匹配」</source>
-        <translation>Pour comparer par étiquettes uniquement, réglez au moins une étiquette sur «&#xa0;Doit correspondre&#xa0;»</translation>
+        <translation>Pour comparer par étiquettes uniquement, réglez au moins une étiquette sur « Doit correspondre »</translation>
     </message>
     <message>
         <source>时长</source>
@@ -1457,7 +1457,7 @@ raw, cr2 et nef sont toujours analysés. Valable seulement si la liste «&#xa0;I
     </message>
     <message>
         <source>硬链接只是同一份数据的另一个名称，移除它不会释放空间。</source>
-        <translation>Un lien physique est un autre nom des mêmes données&#xa0;; le supprimer ne libère pas d’espace.</translation>
+        <translation>Un lien physique est un autre nom des mêmes données ; le supprimer ne libère pas d’espace.</translation>
     </message>
     <message>
         <source>标签</source>
@@ -1469,7 +1469,7 @@ raw, cr2 et nef sont toujours analysés. Valable seulement si la liste «&#xa0;I
     </message>
     <message>
         <source>勾选=启用标签匹配；取消=忽略本组标签，仅用其它条件分组</source>
-        <translation>Coché = étiquettes comparées&#xa0;; décoché = étiquettes de ce groupe ignorées</translation>
+        <translation>Coché = étiquettes comparées ; décoché = étiquettes de ce groupe ignorées</translation>
     </message>
     <message>
         <source>+ 添加</source>
@@ -1493,7 +1493,7 @@ raw, cr2 et nef sont toujours analysés. Valable seulement si la liste «&#xa0;I
     </message>
     <message>
         <source>已复制 %1 个文件</source>
-        <translation>Fichiers copiés&#xa0;: %1</translation>
+        <translation>Fichiers copiés : %1</translation>
     </message>
     <message>
         <source>无法写入文件。</source>
@@ -1509,7 +1509,7 @@ raw, cr2 et nef sont toujours analysés. Valable seulement si la liste «&#xa0;I
     </message>
     <message>
         <source>批处理脚本无法准确指明该文件，已写为注释: %1</source>
-        <translation>Un script de commandes ne peut pas désigner exactement ce fichier&#xa0;; écrit en commentaire&#xa0;: %1</translation>
+        <translation>Un script de commandes ne peut pas désigner exactement ce fichier ; écrit en commentaire : %1</translation>
     </message>
     <message>
         <source>Mirrix 重复文件扫描报告</source>
@@ -1517,19 +1517,19 @@ raw, cr2 et nef sont toujours analysés. Valable seulement si la liste «&#xa0;I
     </message>
     <message>
         <source>生成时间: %1</source>
-        <translation>Généré le&#xa0;: %1</translation>
+        <translation>Généré le : %1</translation>
     </message>
     <message>
         <source>扫描模式: %1</source>
-        <translation>Mode d’analyse&#xa0;: %1</translation>
+        <translation>Mode d’analyse : %1</translation>
     </message>
     <message>
         <source>范围: 仅已勾选文件</source>
-        <translation>Portée&#xa0;: fichiers cochés uniquement</translation>
+        <translation>Portée : fichiers cochés uniquement</translation>
     </message>
     <message>
         <source>说明: 路径已脱敏（用户名已隐藏）</source>
-        <translation>Remarque&#xa0;: chemins anonymisés (nom d’utilisateur masqué)</translation>
+        <translation>Remarque : chemins anonymisés (nom d’utilisateur masqué)</translation>
     </message>
     <message>
         <source>[组 %1]</source>
@@ -1537,18 +1537,18 @@ raw, cr2 et nef sont toujours analysés. Valable seulement si la liste «&#xa0;I
     </message>
     <message>
         <source> 键: %1</source>
-        <translation> Clé&#xa0;: %1</translation>
+        <translation> Clé : %1</translation>
     </message>
     <message>
         <source>  (%1 个文件)</source>
-        <translation>  (fichiers&#xa0;: %1)</translation>
+        <translation>  (fichiers : %1)</translation>
     </message>
     <message>
         <source>
 部分失败：
 </source>
         <translation>
-Échecs&#xa0;:
+Échecs :
 </translation>
     </message>
     <message>
@@ -1569,7 +1569,7 @@ raw, cr2 et nef sont toujours analysés. Valable seulement si la liste «&#xa0;I
     </message>
     <message>
         <source>已停止，其余文件未处理</source>
-        <translation>Arrêté&#xa0;; les autres fichiers n’ont pas été traités</translation>
+        <translation>Arrêté ; les autres fichiers n’ont pas été traités</translation>
     </message>
     <message>
         <source>请先勾选要处理的文件。</source>
@@ -1579,9 +1579,9 @@ raw, cr2 et nef sont toujours analysés. Valable seulement si la liste «&#xa0;I
         <source>将把 %1 个文件移动到备份目录：
 %2
 是否继续？</source>
-        <translation>Déplacer les fichiers (%1) vers le dossier de sauvegarde&#xa0;:
+        <translation>Déplacer les fichiers (%1) vers le dossier de sauvegarde :
 %2
-Continuer&#xa0;?</translation>
+Continuer ?</translation>
     </message>
     <message>
         <source>确认备份移动</source>
@@ -1598,7 +1598,7 @@ Continuer&#xa0;?</translation>
     <message>
         <source>已备份移动 %1 个文件。%2
 请重新扫描以刷新结果。</source>
-        <translation>Fichiers déplacés vers la sauvegarde&#xa0;: %1. %2
+        <translation>Fichiers déplacés vers la sauvegarde : %1. %2
 Relancez l’analyse pour actualiser.</translation>
     </message>
     <message>
@@ -1616,12 +1616,12 @@ Relancez l’analyse pour actualiser.</translation>
     <message>
         <source>部分文件备份失败：
 %1</source>
-        <translation>Certains fichiers n’ont pas pu être sauvegardés&#xa0;:
+        <translation>Certains fichiers n’ont pas pu être sauvegardés :
 %1</translation>
     </message>
     <message>
         <source>已备份并移除 %1 个文件。请重新扫描以刷新结果。</source>
-        <translation>Fichiers sauvegardés et supprimés&#xa0;: %1. Relancez l’analyse pour actualiser.</translation>
+        <translation>Fichiers sauvegardés et supprimés : %1. Relancez l’analyse pour actualiser.</translation>
     </message>
     <message>
         <source>永久删除确认</source>
@@ -1629,7 +1629,7 @@ Relancez l’analyse pour actualiser.</translation>
     </message>
     <message>
         <source>即将永久删除 %1 个文件，此操作不可撤销。是否继续？</source>
-        <translation>Fichiers à supprimer définitivement&#xa0;: %1. Cette action est irréversible. Continuer&#xa0;?</translation>
+        <translation>Fichiers à supprimer définitivement : %1. Cette action est irréversible. Continuer ?</translation>
     </message>
     <message>
         <source>正在移除文件… (%1/%2)</source>
@@ -1641,7 +1641,7 @@ Relancez l’analyse pour actualiser.</translation>
     </message>
     <message>
         <source>已处理 %1 个文件。%2</source>
-        <translation>Fichiers traités&#xa0;: %1. %2</translation>
+        <translation>Fichiers traités : %1. %2</translation>
     </message>
     <message>
         <source>正在读取备份索引…</source>
@@ -1658,7 +1658,7 @@ Relancez l’analyse pour actualiser.</translation>
     <message>
         <source>将恢复：
 %1</source>
-        <translation>À restaurer&#xa0;:
+        <translation>À restaurer :
 %1</translation>
     </message>
     <message>
@@ -1667,7 +1667,7 @@ Relancez l’analyse pour actualiser.</translation>
     </message>
     <message>
         <source>已恢复 %1 个文件。</source>
-        <translation>Fichiers restaurés&#xa0;: %1.</translation>
+        <translation>Fichiers restaurés : %1.</translation>
     </message>
     <message>
         <source>失败</source>
@@ -1679,7 +1679,7 @@ Relancez l’analyse pour actualiser.</translation>
     </message>
     <message>
         <source>快速、安全的重复文件查找与清理工具，支持常规内容、图片相似、音频指纹与视频缩略图模式。</source>
-        <translation>Recherche et nettoyage rapides et sûrs des fichiers en double. Modes&#xa0;: contenu général, images similaires, empreinte audio et miniatures vidéo.</translation>
+        <translation>Recherche et nettoyage rapides et sûrs des fichiers en double. Modes : contenu général, images similaires, empreinte audio et miniatures vidéo.</translation>
     </message>
     <message>
         <source>便携模式（数据位于程序旁的 \Data）</source>
@@ -1695,7 +1695,7 @@ Relancez l’analyse pour actualiser.</translation>
     </message>
     <message>
         <source>数据文件夹：%1</source>
-        <translation>Dossier de données&#xa0;: %1</translation>
+        <translation>Dossier de données : %1</translation>
     </message>
     <message>
         <source>开源致谢</source>
@@ -1755,11 +1755,11 @@ Relancez l’analyse pour actualiser.</translation>
     </message>
     <message>
         <source>运行脚本会删除其中列出的每个文件，包括要保留的副本；如只删除已勾选的文件，请勾选“仅导出已勾选的文件”</source>
-        <translation>L’exécution du script supprime tous les fichiers qu’il contient, y compris ceux à conserver&#xa0;; pour ne supprimer que les fichiers cochés, activez «&#xa0;Exporter uniquement les fichiers cochés&#xa0;»</translation>
+        <translation>L’exécution du script supprime tous les fichiers qu’il contient, y compris ceux à conserver ; pour ne supprimer que les fichiers cochés, activez « Exporter uniquement les fichiers cochés »</translation>
     </message>
     <message>
         <source>输出路径：</source>
-        <translation>Chemin de sortie&#xa0;:</translation>
+        <translation>Chemin de sortie :</translation>
     </message>
     <message>
         <source>浏览...</source>
@@ -1779,7 +1779,7 @@ Relancez l’analyse pour actualiser.</translation>
     </message>
     <message>
         <source>脱敏后的批处理脚本只供阅读，不会删除被隐藏用户名的文件</source>
-        <translation>Un script anonymisé est destiné à la lecture&#xa0;: il ne supprime pas les fichiers dont le chemin masque le nom d’utilisateur</translation>
+        <translation>Un script anonymisé est destiné à la lecture : il ne supprime pas les fichiers dont le chemin masque le nom d’utilisateur</translation>
     </message>
     <message>
         <source>正在停止…</source>
@@ -1823,7 +1823,7 @@ Relancez l’analyse pour actualiser.</translation>
     </message>
     <message>
         <source>即将处理 %1 个文件。请选择移除方式：</source>
-        <translation>Fichiers à traiter&#xa0;: %1. Choisissez le mode de suppression&#xa0;:</translation>
+        <translation>Fichiers à traiter : %1. Choisissez le mode de suppression :</translation>
     </message>
     <message>
         <source>移除方式</source>
@@ -1831,11 +1831,11 @@ Relancez l’analyse pour actualiser.</translation>
     </message>
     <message>
         <source>目标文件夹：</source>
-        <translation>Dossier de destination&#xa0;:</translation>
+        <translation>Dossier de destination :</translation>
     </message>
     <message>
         <source>链接目标：</source>
-        <translation>Cible du lien&#xa0;:</translation>
+        <translation>Cible du lien :</translation>
     </message>
     <message>
         <source>保留的文件路径（用于创建链接）</source>
@@ -1843,7 +1843,7 @@ Relancez l’analyse pour actualiser.</translation>
     </message>
     <message>
         <source>先备份再创建链接时可留空：每个链接指向本组中未勾选的文件</source>
-        <translation>Facultatif en cas de sauvegarde préalable&#xa0;: chaque lien pointe alors vers le fichier non coché de son groupe</translation>
+        <translation>Facultatif en cas de sauvegarde préalable : chaque lien pointe alors vers le fichier non coché de son groupe</translation>
     </message>
     <message>
         <source>移除前先备份</source>
@@ -1927,7 +1927,7 @@ Relancez l’analyse pour actualiser.</translation>
     </message>
     <message>
         <source>显示 %1 条，共 %2 条</source>
-        <translation>Entrées affichées&#xa0;: %1 sur %2</translation>
+        <translation>Entrées affichées : %1 sur %2</translation>
     </message>
     <message>
         <source>操作日志</source>
@@ -1954,10 +1954,10 @@ Relancez l’analyse pour actualiser.</translation>
 %1
 
 下次图片扫描会重新计算，可能稍慢。是否继续？</source>
-        <translation>Supprimer tout le cache de hachages et d’histogrammes d’images dans&#xa0;:
+        <translation>Supprimer tout le cache de hachages et d’histogrammes d’images dans :
 %1
 
-La prochaine analyse d’images sera plus lente. Continuer&#xa0;?</translation>
+La prochaine analyse d’images sera plus lente. Continuer ?</translation>
     </message>
     <message>
         <source>清空图片特征缓存</source>
@@ -2017,7 +2017,7 @@ La prochaine analyse d’images sera plus lente. Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>关闭后点击「开始扫描」将立即执行；也可在确认对话框中勾选「不再显示此确认」。</source>
-        <translation>Si l’option est désactivée, «&#xa0;Lancer l’analyse&#xa0;» la démarre aussitôt&#xa0;; vous pouvez aussi cocher «&#xa0;Ne plus afficher ce message&#xa0;» dans la confirmation.</translation>
+        <translation>Si l’option est désactivée, « Lancer l’analyse » la démarre aussitôt ; vous pouvez aussi cocher « Ne plus afficher ce message » dans la confirmation.</translation>
     </message>
     <message>
         <source>内容指纹算法</source>
@@ -2029,11 +2029,11 @@ La prochaine analyse d’images sera plus lente. Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>BLAKE3（更快、更强；切换后重建缓存）</source>
-        <translation>BLAKE3 (plus rapide et plus robuste&#xa0;; le cache est recréé après le changement)</translation>
+        <translation>BLAKE3 (plus rapide et plus robuste ; le cache est recréé après le changement)</translation>
     </message>
     <message>
         <source>仅影响「相同内容」精确查重的 quick/full 哈希；相似内容采样仍使用 MD5。</source>
-        <translation>Ne concerne que les hachages rapide et complet de la recherche de contenu identique&#xa0;; l’échantillonnage de contenu similaire reste en MD5.</translation>
+        <translation>Ne concerne que les hachages rapide et complet de la recherche de contenu identique ; l’échantillonnage de contenu similaire reste en MD5.</translation>
     </message>
     <message>
         <source>缓存与数据</source>
@@ -2041,11 +2041,11 @@ La prochaine analyse d’images sera plus lente. Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>图片特征缓存可加快重复图片的扫描。位置：</source>
-        <translation>Le cache des caractéristiques d’images accélère la recherche d’images en double. Emplacement&#xa0;:</translation>
+        <translation>Le cache des caractéristiques d’images accélère la recherche d’images en double. Emplacement :</translation>
     </message>
     <message>
         <source>清除已缓存的感知哈希与直方图，下次扫描会重新计算</source>
-        <translation>Efface les hachages perceptuels et les histogrammes en cache&#xa0;; la prochaine analyse les recalculera</translation>
+        <translation>Efface les hachages perceptuels et les histogrammes en cache ; la prochaine analyse les recalculera</translation>
     </message>
     <message>
         <source>主题</source>
@@ -2069,11 +2069,321 @@ La prochaine analyse d’images sera plus lente. Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>选择要恢复的文件：</source>
-        <translation>Fichiers à restaurer&#xa0;:</translation>
+        <translation>Fichiers à restaurer :</translation>
     </message>
     <message>
         <source>按路径筛选</source>
         <translation>Filtrer par chemin</translation>
+    </message>
+    <message>
+        <source>
+无法放回的文件（%1 个）：
+</source>
+        <translation>
+Fichiers impossibles à remettre en place (%1) :
+</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
+        <translation>Fichiers non supprimés : %1 (%2). Un lien n’est créé que si le chemin est libre. Pour remplacer les fichiers par des liens, sauvegardez d’abord.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将永久删除，不进回收站，无法找回。</source>
+        <translation>Fichiers à supprimer définitivement : %1 (%2). Ils ne vont pas dans la Corbeille et sont irrécupérables.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将永久删除，不进回收站；可以用保留的副本重新生成。</source>
+        <translation>Fichiers à supprimer définitivement : %1 (%2). Ils ne vont pas dans la Corbeille, mais peuvent être recréés à partir des fichiers conservés.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移入回收站，清空回收站后才释放空间。</source>
+        <translation>Fichiers à placer dans la Corbeille : %1 (%2). L’espace n’est libéré que lorsqu’elle est vidée.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不会永久删除。</source>
+        <translation>Fichiers à déplacer vers le dossier de sauvegarde : %1 (%2). Rien n’est supprimé définitivement.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不使用回收站。</source>
+        <translation>Fichiers à déplacer vers le dossier de sauvegarde : %1 (%2). La Corbeille n’est pas utilisée.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不使用目标文件夹。</source>
+        <translation>Fichiers à déplacer vers le dossier de sauvegarde : %1 (%2). Le dossier cible n’est pas utilisé.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，原位置由链接代替。</source>
+        <translation>Fichiers à déplacer vers le dossier de sauvegarde : %1 (%2). Des liens les remplacent.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到目标文件夹。</source>
+        <translation>Fichiers à déplacer vers le dossier cible : %1 (%2).</translation>
+    </message>
+    <message>
+        <source>不勾选时，回收、移动和备份前只比较抽样内容；永久删除和创建链接前总是比较全部内容</source>
+        <translation>Si la case n’est pas cochée, seuls des échantillons sont comparés avant la mise à la Corbeille, le déplacement et la sauvegarde ; avant la suppression définitive et la création de liens, tout le contenu l’est toujours</translation>
+    </message>
+    <message>
+        <source>仍占用</source>
+        <translation>Occupé</translation>
+    </message>
+    <message>
+        <source>保留记录（天）：</source>
+        <translation>Garder l’historique (jours) :</translation>
+    </message>
+    <message>
+        <source>全部处理</source>
+        <translation>Tout traiter</translation>
+    </message>
+    <message>
+        <source>内容与要保留的文件不同，已保留: %1</source>
+        <translation>Contenu différent du fichier à conserver ; non traité : %1</translation>
+    </message>
+    <message>
+        <source>决定移除对话框打开时是否已勾选「移除前先备份」；备份的文件移入备份文件夹，不会删除</source>
+        <translation>Détermine si « Sauvegarder avant de supprimer » est coché à l’ouverture de la boîte de suppression ; les fichiers sauvegardés vont dans le dossier de sauvegarde et ne sont pas supprimés</translation>
+    </message>
+    <message>
+        <source>删除更早的记录</source>
+        <translation>Effacer les plus anciens</translation>
+    </message>
+    <message>
+        <source>删除记录</source>
+        <translation>Effacer l’entrée</translation>
+    </message>
+    <message>
+        <source>回收站中保留 %1</source>
+        <translation>Occupé dans la Corbeille : %1</translation>
+    </message>
+    <message>
+        <source>在历史中显示</source>
+        <translation>Voir dans l’historique</translation>
+    </message>
+    <message>
+        <source>备份中保留：%1</source>
+        <translation>Occupé par les sauvegardes : %1</translation>
+    </message>
+    <message>
+        <source>备份文件夹中保留 %1</source>
+        <translation>Occupé dans le dossier de sauvegarde : %1</translation>
+    </message>
+    <message>
+        <source>失败：%1</source>
+        <translation>Échec : %1</translation>
+    </message>
+    <message>
+        <source>将删除 %1 条清理记录。文件不受影响，但之后无法在此撤销这些清理。是否继续？</source>
+        <translation>Entrées de l’historique à effacer : %1. Les fichiers ne sont pas touchés, mais ces nettoyages ne pourront plus être annulés ici. Continuer ?</translation>
+    </message>
+    <message>
+        <source>将把 %1 个文件放回原处。是否继续？</source>
+        <translation>Fichiers à remettre en place : %1. Continuer ?</translation>
+    </message>
+    <message>
+        <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
+        <translation>Les fichiers de ce nettoyage dans le dossier de sauvegarde (%1) seront supprimés définitivement et ne pourront plus être restaurés. Continuer ?</translation>
+    </message>
+    <message>
+        <source>已中断</source>
+        <translation>Interrompu</translation>
+    </message>
+    <message>
+        <source>已停止，未处理: %1</source>
+        <translation>Arrêté ; non traité : %1</translation>
+    </message>
+    <message>
+        <source>已删除 %1 个备份文件。</source>
+        <translation>Fichiers de sauvegarde supprimés : %1.</translation>
+    </message>
+    <message>
+        <source>已完成</source>
+        <translation>Terminé</translation>
+    </message>
+    <message>
+        <source>已撤销</source>
+        <translation>Annulé</translation>
+    </message>
+    <message>
+        <source>已放回原处</source>
+        <translation>Remis en place</translation>
+    </message>
+    <message>
+        <source>已移除</source>
+        <translation>Supprimé</translation>
+    </message>
+    <message>
+        <source>已释放</source>
+        <translation>Libéré</translation>
+    </message>
+    <message>
+        <source>已释放 %1</source>
+        <translation>Libéré : %1</translation>
+    </message>
+    <message>
+        <source>所有者或权限与链接目标不同，未处理: %1</source>
+        <translation>Propriétaire ou droits différents de ceux de la cible du lien ; non traité : %1</translation>
+    </message>
+    <message>
+        <source>撤销了 %1</source>
+        <translation>Annulation de %1</translation>
+    </message>
+    <message>
+        <source>撤销所选文件</source>
+        <translation>Annuler la sélection</translation>
+    </message>
+    <message>
+        <source>撤销此次清理</source>
+        <translation>Annuler ce nettoyage</translation>
+    </message>
+    <message>
+        <source>撤销清理</source>
+        <translation>Annuler le nettoyage</translation>
+    </message>
+    <message>
+        <source>文件仍在回收站中，可从那里恢复: %1</source>
+        <translation>Le fichier est encore dans la Corbeille et peut en être restauré : %1</translation>
+    </message>
+    <message>
+        <source>文件已存在，是否替换？
+%1</source>
+        <translation>Le fichier existe. Le remplacer ?
+%1</translation>
+    </message>
+    <message>
+        <source>文件数 / 保留的副本</source>
+        <translation>Fichiers / conservé</translation>
+    </message>
+    <message>
+        <source>文件正被其他程序使用，未处理: %1</source>
+        <translation>Fichier utilisé par un autre programme ; non traité : %1</translation>
+    </message>
+    <message>
+        <source>方式 / 现在位置</source>
+        <translation>Méthode / emplacement</translation>
+    </message>
+    <message>
+        <source>无法写入操作日志: %1</source>
+        <translation>Impossible d’écrire le journal des opérations : %1</translation>
+    </message>
+    <message>
+        <source>无法写入操作记录，未处理任何文件: %1</source>
+        <translation>Impossible d’écrire l’historique du nettoyage ; aucun fichier traité : %1</translation>
+    </message>
+    <message>
+        <source>无法更新备份索引: %1</source>
+        <translation>Impossible de mettre à jour l’index de sauvegarde : %1</translation>
+    </message>
+    <message>
+        <source>无法确保要保留的文件已写入磁盘，未处理: %1</source>
+        <translation>Impossible de garantir que le fichier à conserver est sur le disque ; non traité : %1</translation>
+    </message>
+    <message>
+        <source>无法读取</source>
+        <translation>Illisible</translation>
+    </message>
+    <message>
+        <source>无结果记录</source>
+        <translation>Résultat non enregistré</translation>
+    </message>
+    <message>
+        <source>时间 / 文件</source>
+        <translation>Date / fichier</translation>
+    </message>
+    <message>
+        <source>有 %1 条记录无法删除。</source>
+        <translation>Entrées impossibles à effacer : %1.</translation>
+    </message>
+    <message>
+        <source>有 %1 组将不会留下任何副本。</source>
+        <translation>Groupes dont il ne resterait aucun fichier : %1.</translation>
+    </message>
+    <message>
+        <source>正在删除备份… (%1/%2)</source>
+        <translation>Suppression des sauvegardes… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>正在检查文件… (%1/%2)</source>
+        <translation>Vérification des fichiers… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>每次移除前比较全部内容</source>
+        <translation>Comparer tout le contenu avant chaque suppression</translation>
+    </message>
+    <message>
+        <source>每组取消勾选一个</source>
+        <translation>Décocher un fichier par groupe</translation>
+    </message>
+    <message>
+        <source>永久</source>
+        <translation>Toujours</translation>
+    </message>
+    <message>
+        <source>没有保留的副本</source>
+        <translation>Aucun fichier conservé</translation>
+    </message>
+    <message>
+        <source>没有可以放回的文件。</source>
+        <translation>Aucun fichier à remettre en place.</translation>
+    </message>
+    <message>
+        <source>没有更早的记录。</source>
+        <translation>Aucune entrée plus ancienne.</translation>
+    </message>
+    <message>
+        <source>没有清理记录。</source>
+        <translation>Aucun nettoyage enregistré.</translation>
+    </message>
+    <message>
+        <source>清理历史</source>
+        <translation>Historique des nettoyages</translation>
+    </message>
+    <message>
+        <source>清理历史(&amp;C)…</source>
+        <translation>&amp;Historique des nettoyages…</translation>
+    </message>
+    <message>
+        <source>目标文件夹包含该文件，未处理: %1</source>
+        <translation>Le dossier cible contient le fichier ; non traité : %1</translation>
+    </message>
+    <message>
+        <source>硬链接</source>
+        <translation>Lien physique</translation>
+    </message>
+    <message>
+        <source>确认替换</source>
+        <translation>Confirmer le remplacement</translation>
+    </message>
+    <message>
+        <source>移入回收站</source>
+        <translation>Placé dans la Corbeille</translation>
+    </message>
+    <message>
+        <source>移动到文件夹</source>
+        <translation>Déplacé vers un dossier</translation>
+    </message>
+    <message>
+        <source>符号链接</source>
+        <translation>Lien symbolique</translation>
+    </message>
+    <message>
+        <source>要保留的文件已不在原处，或经由另一路径就是该文件本身，未处理: %1</source>
+        <translation>Le fichier à conserver n’est plus là, ou c’est ce fichier par un autre chemin ; non traité : %1</translation>
+    </message>
+    <message>
+        <source>部分已撤销</source>
+        <translation>Annulé en partie</translation>
+    </message>
+    <message>
+        <source>部分组不是按内容匹配的，处理前不会比较这些文件的内容。</source>
+        <translation>Certains groupes ne correspondent pas par le contenu ; leurs fichiers ne sont pas comparés avant d’être supprimés.</translation>
+    </message>
+    <message>
+        <source>释放 %1</source>
+        <translation>Libérer %1</translation>
+    </message>
+    <message>
+        <source>释放备份</source>
+        <translation>Libérer les sauvegardes</translation>
     </message>
     <message>
         <source>恢复所选</source>
@@ -2102,18 +2412,18 @@ La prochaine analyse d’images sera plus lente. Continuer&#xa0;?</translation>
     <message>
         <source>部分文件未能导出：
 %1</source>
-        <translation>Certains fichiers n’ont pas été exportés&#xa0;:
+        <translation>Certains fichiers n’ont pas été exportés :
 %1</translation>
     </message>
     <message>
         <source>已复制文件到：%1
 %2</source>
-        <translation>Fichiers copiés vers&#xa0;: %1
+        <translation>Fichiers copiés vers : %1
 %2</translation>
     </message>
     <message>
         <source>已导出：%1</source>
-        <translation>Exporté&#xa0;: %1</translation>
+        <translation>Exporté : %1</translation>
     </message>
     <message>
         <source>没有可导出的结果。</source>
@@ -2125,41 +2435,41 @@ La prochaine analyse d’images sera plus lente. Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>…… 另有 %1 行，见详细信息</source>
-        <translation>… autres lignes&#xa0;: %1, voir les détails</translation>
+        <translation>… autres lignes : %1, voir les détails</translation>
     </message>
     <message>
         <source>…… 另有 %1 行未显示</source>
-        <translation>… autres lignes non affichées&#xa0;: %1</translation>
+        <translation>… autres lignes non affichées : %1</translation>
     </message>
     <message>
         <source>链接目标属于另一组，未处理: %1</source>
-        <translation>La cible du lien appartient à un autre groupe&#xa0;; non traité&#xa0;: %1</translation>
+        <translation>La cible du lien appartient à un autre groupe ; non traité : %1</translation>
     </message>
     <message>
         <source>没有可链接的保留文件，未处理: %1</source>
-        <translation>Aucun fichier conservé à lier&#xa0;; non traité&#xa0;: %1</translation>
+        <translation>Aucun fichier conservé à lier ; non traité : %1</translation>
     </message>
     <message>
         <source>共 %1 个文件</source>
-        <translation>Fichiers&#xa0;: %1</translation>
+        <translation>Fichiers : %1</translation>
     </message>
     <message>
         <source>共 %1 个文件 @ %2.%3 秒</source>
-        <translation>Fichiers&#xa0;: %1 en %2,%3 s</translation>
+        <translation>Fichiers : %1 en %2,%3 s</translation>
     </message>
     <message>
         <source>路径: %1
 大小: %2 字节
 修改: %3</source>
-        <translation>Chemin&#xa0;: %1
-Taille&#xa0;: %2 octets
-Modifié le&#xa0;: %3</translation>
+        <translation>Chemin : %1
+Taille : %2 octets
+Modifié le : %3</translation>
     </message>
     <message>
         <source>
 GPS: %1, %2</source>
         <translation>
-GPS&#xa0;: %1, %2</translation>
+GPS : %1, %2</translation>
     </message>
     <message>
         <source>时间</source>
@@ -2229,7 +2539,7 @@ GPS&#xa0;: %1, %2</translation>
         <source>还没有扫描位置。
 点击“+文件夹”，在左侧选择，或把文件夹拖放、粘贴到这里。</source>
         <translation>Aucun emplacement à analyser.
-Cliquez sur «&#xa0;+ Dossier&#xa0;», choisissez à gauche, ou déposez ou collez des dossiers ici.</translation>
+Cliquez sur « + Dossier », choisissez à gauche, ou déposez ou collez des dossiers ici.</translation>
     </message>
     <message>
         <source>扫描后在这里显示结果。</source>
@@ -2247,321 +2557,11 @@ Cliquez sur «&#xa0;+ Dossier&#xa0;», choisissez à gauche, ou déposez ou coll
         <source>没有列出其余文件。
 要查看它们，请在扫描位置中打开“显示其余文件”，然后重新扫描。</source>
         <translation>Aucun fichier restant n’est affiché.
-Pour les voir, activez «&#xa0;Afficher les fichiers restants&#xa0;» pour un emplacement et relancez l’analyse.</translation>
+Pour les voir, activez « Afficher les fichiers restants » pour un emplacement et relancez l’analyse.</translation>
     </message>
     <message>
         <source>筛选只改变列表中显示的内容，勾选与批量操作仍针对全部结果。</source>
-        <translation>Le filtre ne change que ce que les listes affichent&#xa0;; les coches et les actions groupées portent toujours sur tous les résultats.</translation>
-    </message>
-    <message>
-        <source>无法写入操作记录，未处理任何文件: %1</source>
-        <translation>Impossible d’écrire l’historique du nettoyage ; aucun fichier traité : %1</translation>
-    </message>
-    <message>
-        <source>无法更新备份索引: %1</source>
-        <translation>Impossible de mettre à jour l’index de sauvegarde : %1</translation>
-    </message>
-    <message>
-        <source>无法写入操作日志: %1</source>
-        <translation>Impossible d’écrire le journal des opérations : %1</translation>
-    </message>
-    <message>
-        <source>目标文件夹包含该文件，未处理: %1</source>
-        <translation>Le dossier cible contient le fichier ; non traité : %1</translation>
-    </message>
-    <message>
-        <source>无法确保要保留的文件已写入磁盘，未处理: %1</source>
-        <translation>Impossible de garantir que le fichier à conserver est sur le disque ; non traité : %1</translation>
-    </message>
-    <message>
-        <source>所有者或权限与链接目标不同，未处理: %1</source>
-        <translation>Propriétaire ou droits différents de ceux de la cible du lien ; non traité : %1</translation>
-    </message>
-    <message>
-        <source>要保留的文件已不在原处，或经由另一路径就是该文件本身，未处理: %1</source>
-        <translation>Le fichier à conserver n’est plus là, ou c’est ce fichier par un autre chemin ; non traité : %1</translation>
-    </message>
-    <message>
-        <source>内容与要保留的文件不同，已保留: %1</source>
-        <translation>Contenu différent du fichier à conserver ; non traité : %1</translation>
-    </message>
-    <message>
-        <source>文件正被其他程序使用，未处理: %1</source>
-        <translation>Fichier utilisé par un autre programme ; non traité : %1</translation>
-    </message>
-    <message>
-        <source>已停止，未处理: %1</source>
-        <translation>Arrêté ; non traité : %1</translation>
-    </message>
-    <message>
-        <source>文件仍在回收站中，可从那里恢复: %1</source>
-        <translation>Le fichier est encore dans la Corbeille et peut en être restauré : %1</translation>
-    </message>
-    <message>
-        <source>部分组不是按内容匹配的，处理前不会比较这些文件的内容。</source>
-        <translation>Certains groupes ne correspondent pas par le contenu ; leurs fichiers ne sont pas comparés avant d’être supprimés.</translation>
-    </message>
-    <message>
-        <source>在历史中显示</source>
-        <translation>Voir dans l’historique</translation>
-    </message>
-    <message>
-        <source>没有保留的副本</source>
-        <translation>Aucun fichier conservé</translation>
-    </message>
-    <message>
-        <source>有 %1 组将不会留下任何副本。</source>
-        <translation>Groupes dont il ne resterait aucun fichier : %1.</translation>
-    </message>
-    <message>
-        <source>每组取消勾选一个</source>
-        <translation>Décocher un fichier par groupe</translation>
-    </message>
-    <message>
-        <source>全部处理</source>
-        <translation>Tout traiter</translation>
-    </message>
-    <message>
-        <source>%1 个文件（%2）将移动到备份文件夹，不使用回收站。</source>
-        <translation>Fichiers à déplacer vers le dossier de sauvegarde : %1 (%2). La Corbeille n’est pas utilisée.</translation>
-    </message>
-    <message>
-        <source>%1 个文件（%2）将移入回收站，清空回收站后才释放空间。</source>
-        <translation>Fichiers à placer dans la Corbeille : %1 (%2). L’espace n’est libéré que lorsqu’elle est vidée.</translation>
-    </message>
-    <message>
-        <source>%1 个文件（%2）将移动到备份文件夹，不会永久删除。</source>
-        <translation>Fichiers à déplacer vers le dossier de sauvegarde : %1 (%2). Rien n’est supprimé définitivement.</translation>
-    </message>
-    <message>
-        <source>%1 个文件（%2）将永久删除，不进回收站；可以用保留的副本重新生成。</source>
-        <translation>Fichiers à supprimer définitivement : %1 (%2). Ils ne vont pas dans la Corbeille, mais peuvent être recréés à partir des fichiers conservés.</translation>
-    </message>
-    <message>
-        <source>%1 个文件（%2）将永久删除，不进回收站，无法找回。</source>
-        <translation>Fichiers à supprimer définitivement : %1 (%2). Ils ne vont pas dans la Corbeille et sont irrécupérables.</translation>
-    </message>
-    <message>
-        <source>%1 个文件（%2）将移动到备份文件夹，不使用目标文件夹。</source>
-        <translation>Fichiers à déplacer vers le dossier de sauvegarde : %1 (%2). Le dossier cible n’est pas utilisé.</translation>
-    </message>
-    <message>
-        <source>%1 个文件（%2）将移动到目标文件夹。</source>
-        <translation>Fichiers à déplacer vers le dossier cible : %1 (%2).</translation>
-    </message>
-    <message>
-        <source>%1 个文件（%2）将移动到备份文件夹，原位置由链接代替。</source>
-        <translation>Fichiers à déplacer vers le dossier de sauvegarde : %1 (%2). Des liens les remplacent.</translation>
-    </message>
-    <message>
-        <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
-        <translation>Fichiers non supprimés : %1 (%2). Un lien n’est créé que si le chemin est libre. Pour remplacer les fichiers par des liens, sauvegardez d’abord.</translation>
-    </message>
-    <message>
-        <source>没有清理记录。</source>
-        <translation>Aucun nettoyage enregistré.</translation>
-    </message>
-    <message>
-        <source>释放 %1</source>
-        <translation>Libérer %1</translation>
-    </message>
-    <message>
-        <source>释放备份</source>
-        <translation>Libérer les sauvegardes</translation>
-    </message>
-    <message>
-        <source>清理历史</source>
-        <translation>Historique des nettoyages</translation>
-    </message>
-    <message>
-        <source>撤销此次清理</source>
-        <translation>Annuler ce nettoyage</translation>
-    </message>
-    <message>
-        <source>撤销所选文件</source>
-        <translation>Annuler la sélection</translation>
-    </message>
-    <message>
-        <source>删除记录</source>
-        <translation>Effacer l’entrée</translation>
-    </message>
-    <message>
-        <source>保留记录（天）：</source>
-        <translation>Garder l’historique (jours) :</translation>
-    </message>
-    <message>
-        <source>永久</source>
-        <translation>Toujours</translation>
-    </message>
-    <message>
-        <source>删除更早的记录</source>
-        <translation>Effacer les plus anciens</translation>
-    </message>
-    <message>
-        <source>每次移除前比较全部内容</source>
-        <translation>Comparer tout le contenu avant chaque suppression</translation>
-    </message>
-    <message>
-        <source>不勾选时，回收、移动和备份前只比较抽样内容；永久删除和创建链接前总是比较全部内容</source>
-        <translation>Si la case n’est pas cochée, seuls des échantillons sont comparés avant la mise à la Corbeille, le déplacement et la sauvegarde ; avant la suppression définitive et la création de liens, tout le contenu l’est toujours</translation>
-    </message>
-    <message>
-        <source>确认替换</source>
-        <translation>Confirmer le remplacement</translation>
-    </message>
-    <message>
-        <source>文件已存在，是否替换？
-%1</source>
-        <translation>Le fichier existe. Le remplacer ?
-%1</translation>
-    </message>
-    <message>
-        <source>
-无法放回的文件（%1 个）：
-</source>
-        <translation>
-Fichiers impossibles à remettre en place (%1) :
-</translation>
-    </message>
-    <message>
-        <source>撤销清理</source>
-        <translation>Annuler le nettoyage</translation>
-    </message>
-    <message>
-        <source>正在检查文件… (%1/%2)</source>
-        <translation>Vérification des fichiers… (%1/%2)</translation>
-    </message>
-    <message>
-        <source>将把 %1 个文件放回原处。是否继续？</source>
-        <translation>Fichiers à remettre en place : %1. Continuer ?</translation>
-    </message>
-    <message>
-        <source>没有可以放回的文件。</source>
-        <translation>Aucun fichier à remettre en place.</translation>
-    </message>
-    <message>
-        <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
-        <translation>Les fichiers de ce nettoyage dans le dossier de sauvegarde (%1) seront supprimés définitivement et ne pourront plus être restaurés. Continuer ?</translation>
-    </message>
-    <message>
-        <source>正在删除备份… (%1/%2)</source>
-        <translation>Suppression des sauvegardes… (%1/%2)</translation>
-    </message>
-    <message>
-        <source>已删除 %1 个备份文件。</source>
-        <translation>Fichiers de sauvegarde supprimés : %1.</translation>
-    </message>
-    <message>
-        <source>没有更早的记录。</source>
-        <translation>Aucune entrée plus ancienne.</translation>
-    </message>
-    <message>
-        <source>将删除 %1 条清理记录。文件不受影响，但之后无法在此撤销这些清理。是否继续？</source>
-        <translation>Entrées de l’historique à effacer : %1. Les fichiers ne sont pas touchés, mais ces nettoyages ne pourront plus être annulés ici. Continuer ?</translation>
-    </message>
-    <message>
-        <source>有 %1 条记录无法删除。</source>
-        <translation>Entrées impossibles à effacer : %1.</translation>
-    </message>
-    <message>
-        <source>备份中保留：%1</source>
-        <translation>Occupé par les sauvegardes : %1</translation>
-    </message>
-    <message>
-        <source>已释放 %1</source>
-        <translation>Libéré : %1</translation>
-    </message>
-    <message>
-        <source>备份文件夹中保留 %1</source>
-        <translation>Occupé dans le dossier de sauvegarde : %1</translation>
-    </message>
-    <message>
-        <source>回收站中保留 %1</source>
-        <translation>Occupé dans la Corbeille : %1</translation>
-    </message>
-    <message>
-        <source>时间 / 文件</source>
-        <translation>Date / fichier</translation>
-    </message>
-    <message>
-        <source>方式 / 现在位置</source>
-        <translation>Méthode / emplacement</translation>
-    </message>
-    <message>
-        <source>文件数 / 保留的副本</source>
-        <translation>Fichiers / conservé</translation>
-    </message>
-    <message>
-        <source>已释放</source>
-        <translation>Libéré</translation>
-    </message>
-    <message>
-        <source>仍占用</source>
-        <translation>Occupé</translation>
-    </message>
-    <message>
-        <source>移入回收站</source>
-        <translation>Placé dans la Corbeille</translation>
-    </message>
-    <message>
-        <source>移动到文件夹</source>
-        <translation>Déplacé vers un dossier</translation>
-    </message>
-    <message>
-        <source>符号链接</source>
-        <translation>Lien symbolique</translation>
-    </message>
-    <message>
-        <source>硬链接</source>
-        <translation>Lien physique</translation>
-    </message>
-    <message>
-        <source>无法读取</source>
-        <translation>Illisible</translation>
-    </message>
-    <message>
-        <source>撤销了 %1</source>
-        <translation>Annulation de %1</translation>
-    </message>
-    <message>
-        <source>部分已撤销</source>
-        <translation>Annulé en partie</translation>
-    </message>
-    <message>
-        <source>已撤销</source>
-        <translation>Annulé</translation>
-    </message>
-    <message>
-        <source>已完成</source>
-        <translation>Terminé</translation>
-    </message>
-    <message>
-        <source>已中断</source>
-        <translation>Interrompu</translation>
-    </message>
-    <message>
-        <source>无结果记录</source>
-        <translation>Résultat non enregistré</translation>
-    </message>
-    <message>
-        <source>已移除</source>
-        <translation>Supprimé</translation>
-    </message>
-    <message>
-        <source>已放回原处</source>
-        <translation>Remis en place</translation>
-    </message>
-    <message>
-        <source>失败：%1</source>
-        <translation>Échec : %1</translation>
-    </message>
-    <message>
-        <source>清理历史(&amp;C)…</source>
-        <translation>&amp;Historique des nettoyages…</translation>
-    </message>
-    <message>
-        <source>决定移除对话框打开时是否已勾选「移除前先备份」；备份的文件移入备份文件夹，不会删除</source>
-        <translation>Détermine si « Sauvegarder avant de supprimer » est coché à l’ouverture de la boîte de suppression ; les fichiers sauvegardés vont dans le dossier de sauvegarde et ne sont pas supprimés</translation>
+        <translation>Le filtre ne change que ce que les listes affichent ; les coches et les actions groupées portent toujours sur tous les résultats.</translation>
     </message>
 </context>
 </TS>

@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>前缀采样哈希</source>
-        <translation>Hash dell&apos;inizio</translation>
+        <translation>Hash dell'inizio</translation>
     </message>
     <message>
         <source>采样指纹哈希</source>
@@ -113,11 +113,11 @@
     </message>
     <message>
         <source>请选择要扫描的位置</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished" />
     </message>
     <message>
         <source>配置规则后点击「开始扫描」</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished" />
     </message>
     <message>
         <source>勾选重复项并进行清理</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>程序仍在托盘运行。可通过托盘菜单一键完整退出。</source>
-        <translation>Mirrix è ancora attivo nell&apos;area di notifica. Per uscire del tutto usa il menu dell&apos;icona.</translation>
+        <translation>Mirrix è ancora attivo nell'area di notifica. Per uscire del tutto usa il menu dell'icona.</translation>
     </message>
     <message>
         <source>显示主窗口</source>
@@ -422,12 +422,12 @@
     <message>
         <source>勾选分区后加入扫描列表（不会立即开始扫描）。
 系统目录仍会默认排除。建议慎选系统盘整盘扫描。</source>
-        <translation>Spunta le unità da aggiungere all&apos;elenco (la scansione non parte ancora).
-Le cartelle di sistema restano escluse. Rifletti bene prima di scansionare tutta l&apos;unità di sistema.</translation>
+        <translation>Spunta le unità da aggiungere all'elenco (la scansione non parte ancora).
+Le cartelle di sistema restano escluse. Rifletti bene prima di scansionare tutta l'unità di sistema.</translation>
     </message>
     <message>
         <source>加入扫描列表</source>
-        <translation>Aggiungi all&apos;elenco</translation>
+        <translation>Aggiungi all'elenco</translation>
     </message>
     <message>
         <source>未勾选任何磁盘。</source>
@@ -435,13 +435,13 @@ Le cartelle di sistema restano escluse. Rifletti bene prima di scansionare tutta
     </message>
     <message>
         <source>系统盘确认</source>
-        <translation>Scansionare l&apos;unità di sistema?</translation>
+        <translation>Scansionare l'unità di sistema?</translation>
     </message>
     <message>
         <source>您选择了系统盘。整盘扫描耗时较长，系统目录仍会排除。
 是否加入扫描列表？</source>
-        <translation>Hai spuntato un&apos;unità di sistema. Scansionarla tutta richiede più tempo; le cartelle di sistema restano escluse.
-Aggiungerla all&apos;elenco?</translation>
+        <translation>Hai spuntato un'unità di sistema. Scansionarla tutta richiede più tempo; le cartelle di sistema restano escluse.
+Aggiungerla all'elenco?</translation>
     </message>
     <message>
         <source>确认添加</source>
@@ -450,7 +450,7 @@ Aggiungerla all&apos;elenco?</translation>
     <message>
         <source>将 %1 个分区加入扫描列表（不会立即开始扫描）：
 %2</source>
-        <translation>Unità da aggiungere all&apos;elenco: %1 (la scansione non parte ancora)
+        <translation>Unità da aggiungere all'elenco: %1 (la scansione non parte ancora)
 %2</translation>
     </message>
     <message>
@@ -489,7 +489,7 @@ Aggiungerla all&apos;elenco?</translation>
         <source>浏览文件夹，用右侧的 → 加入扫描位置；
 也可以从资源管理器把文件夹拖入扫描列表。</source>
         <translation>Sfoglia le cartelle e aggiungile con → ai percorsi di scansione;
-oppure trascinale da Esplora file nell&apos;elenco.</translation>
+oppure trascinale da Esplora file nell'elenco.</translation>
     </message>
     <message>
         <source>将选中的文件夹加入扫描位置</source>
@@ -513,7 +513,7 @@ oppure trascinale da Esplora file nell&apos;elenco.</translation>
     </message>
     <message>
         <source>移除所选</source>
-        <translation>Togli dall&apos;elenco</translation>
+        <translation>Togli dall'elenco</translation>
     </message>
     <message>
         <source>清空列表</source>
@@ -683,7 +683,7 @@ Al momento questa cartella non è reperibile.</translation>
     </message>
     <message>
         <source>图片过大，无法预览</source>
-        <translation>L&apos;immagine è troppo grande per l&apos;anteprima</translation>
+        <translation>L'immagine è troppo grande per l'anteprima</translation>
     </message>
     <message>
         <source>无法读取此图片</source>
@@ -803,7 +803,7 @@ Titolo: %1</translation>
     </message>
     <message>
         <source>全文件精确哈希</source>
-        <translation>Hash esatto dell&apos;intero file</translation>
+        <translation>Hash esatto dell'intero file</translation>
     </message>
     <message>
         <source>仅按标签匹配</source>
@@ -811,11 +811,11 @@ Titolo: %1</translation>
     </message>
     <message>
         <source>开头采样哈希</source>
-        <translation>Hash dell&apos;inizio</translation>
+        <translation>Hash dell'inizio</translation>
     </message>
     <message>
         <source>全文件多点哈希（较慢）</source>
-        <translation>Campioni dell&apos;intero file (più lento)</translation>
+        <translation>Campioni dell'intero file (più lento)</translation>
     </message>
     <message>
         <source>仅显示</source>
@@ -1047,7 +1047,7 @@ Titolo: %1</translation>
     </message>
     <message>
         <source>选择文件以预览</source>
-        <translation>Seleziona un file per l&apos;anteprima</translation>
+        <translation>Seleziona un file per l'anteprima</translation>
     </message>
     <message>
         <source>文件夹: %1</source>
@@ -1133,7 +1133,7 @@ Titolo: %1</translation>
     </message>
     <message>
         <source>音频指纹基于采样，并非 Chromaprint 级别。</source>
-        <translation>L&apos;impronta audio si basa su campioni ed è meno fine di Chromaprint.</translation>
+        <translation>L'impronta audio si basa su campioni ed è meno fine di Chromaprint.</translation>
     </message>
     <message>
         <source> 毫秒</source>
@@ -1157,7 +1157,7 @@ Titolo: %1</translation>
     </message>
     <message>
         <source>勾选时按当前扫描模式扩展名扫描；取消勾选则仅扫描「已包含」列表中的扩展名。</source>
-        <translation>Se spuntato valgono le estensioni della modalità attuale, altrimenti solo l&apos;elenco “Incluso”.</translation>
+        <translation>Se spuntato valgono le estensioni della modalità attuale, altrimenti solo l'elenco “Incluso”.</translation>
     </message>
     <message>
         <source>已排除</source>
@@ -1179,7 +1179,7 @@ Titolo: %1</translation>
         <source>图片模式下还扫描 arw、dng、rw2、orf、srw 等相机 RAW 文件；
 raw、cr2、nef 始终扫描。仅在「已包含」列表为空时有效。</source>
         <translation>Tra le immagini scansiona anche file RAW come arw, dng, rw2, orf e srw;
-raw, cr2 e nef vengono sempre scansionati. Vale solo se l&apos;elenco “Incluso” è vuoto.</translation>
+raw, cr2 e nef vengono sempre scansionati. Vale solo se l'elenco “Incluso” è vuoto.</translation>
     </message>
     <message>
         <source>文件大小</source>
@@ -1329,7 +1329,7 @@ raw, cr2 e nef vengono sempre scansionati. Vale solo se l&apos;elenco “Incluso
     </message>
     <message>
         <source>忽略在同一文件夹的重复组别</source>
-        <translation>Ignora gruppi in un&apos;unica cartella</translation>
+        <translation>Ignora gruppi in un'unica cartella</translation>
     </message>
     <message>
         <source>文本匹配选项</source>
@@ -1481,7 +1481,7 @@ raw, cr2 e nef vengono sempre scansionati. Vale solo se l&apos;elenco “Incluso
     </message>
     <message>
         <source>字节采样近似比对，并非逐帧视频指纹。</source>
-        <translation>Approssimazione da campioni di byte, non un&apos;impronta fotogramma per fotogramma.</translation>
+        <translation>Approssimazione da campioni di byte, non un'impronta fotogramma per fotogramma.</translation>
     </message>
     <message>
         <source>时:分:秒.毫秒</source>
@@ -1629,7 +1629,7 @@ Ripeti la scansione.</translation>
     </message>
     <message>
         <source>即将永久删除 %1 个文件，此操作不可撤销。是否继续？</source>
-        <translation>Eliminare definitivamente (file: %1)? L&apos;operazione non si può annullare.</translation>
+        <translation>Eliminare definitivamente (file: %1)? L'operazione non si può annullare.</translation>
     </message>
     <message>
         <source>正在移除文件… (%1/%2)</source>
@@ -1645,11 +1645,11 @@ Ripeti la scansione.</translation>
     </message>
     <message>
         <source>正在读取备份索引…</source>
-        <translation>Lettura dell&apos;indice di backup…</translation>
+        <translation>Lettura dell'indice di backup…</translation>
     </message>
     <message>
         <source>备份索引为空。</source>
-        <translation>L&apos;indice di backup è vuoto.</translation>
+        <translation>L'indice di backup è vuoto.</translation>
     </message>
     <message>
         <source>确认恢复</source>
@@ -1687,7 +1687,7 @@ Ripeti la scansione.</translation>
     </message>
     <message>
         <source>标准模式（数据位于用户 AppData）</source>
-        <translation>Modalità standard (dati in AppData dell&apos;utente)</translation>
+        <translation>Modalità standard (dati in AppData dell'utente)</translation>
     </message>
     <message>
         <source>版本 %1 · %2 · %3</source>
@@ -1997,7 +1997,7 @@ La prossima scansione delle immagini sarà più lenta. Continuare?</translation>
     </message>
     <message>
         <source>最小化到系统托盘（推荐）</source>
-        <translation>Riduci nell&apos;area di notifica (consigliato)</translation>
+        <translation>Riduci nell'area di notifica (consigliato)</translation>
     </message>
     <message>
         <source>退出程序</source>
@@ -2033,7 +2033,7 @@ La prossima scansione delle immagini sarà più lenta. Continuare?</translation>
     </message>
     <message>
         <source>仅影响「相同内容」精确查重的 quick/full 哈希；相似内容采样仍使用 MD5。</source>
-        <translation>Riguarda solo l&apos;hash rapido e quello completo nella ricerca di contenuti identici; i campioni dei contenuti simili usano ancora MD5.</translation>
+        <translation>Riguarda solo l'hash rapido e quello completo nella ricerca di contenuti identici; i campioni dei contenuti simili usano ancora MD5.</translation>
     </message>
     <message>
         <source>缓存与数据</source>
@@ -2076,6 +2076,316 @@ La prossima scansione delle immagini sarà più lenta. Continuare?</translation>
         <translation>Filtra per percorso</translation>
     </message>
     <message>
+        <source>
+无法放回的文件（%1 个）：
+</source>
+        <translation>
+File che non si possono rimettere a posto (%1):
+</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
+        <translation>File che non verranno rimossi: %1 (%2). I collegamenti si creano solo dove il percorso è libero. Per sostituire i file con collegamenti, fare prima il backup.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将永久删除，不进回收站，无法找回。</source>
+        <translation>File da eliminare definitivamente: %1 (%2). Non vanno nel Cestino e non si possono recuperare.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将永久删除，不进回收站；可以用保留的副本重新生成。</source>
+        <translation>File da eliminare definitivamente: %1 (%2). Non vanno nel Cestino, ma si possono ricreare dai file conservati.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移入回收站，清空回收站后才释放空间。</source>
+        <translation>File da spostare nel Cestino: %1 (%2). Lo spazio si libera quando viene svuotato.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不会永久删除。</source>
+        <translation>File da spostare nella cartella di backup: %1 (%2). Nulla viene eliminato definitivamente.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不使用回收站。</source>
+        <translation>File da spostare nella cartella di backup: %1 (%2). Il Cestino non viene usato.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不使用目标文件夹。</source>
+        <translation>File da spostare nella cartella di backup: %1 (%2). La cartella di destinazione non viene usata.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，原位置由链接代替。</source>
+        <translation>File da spostare nella cartella di backup: %1 (%2). Al loro posto vanno collegamenti.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到目标文件夹。</source>
+        <translation>File da spostare nella cartella di destinazione: %1 (%2).</translation>
+    </message>
+    <message>
+        <source>不勾选时，回收、移动和备份前只比较抽样内容；永久删除和创建链接前总是比较全部内容</source>
+        <translation>Senza la spunta, prima di spostare nel Cestino, spostare e fare il backup si confrontano solo campioni; prima di eliminare definitivamente e collegare, sempre tutto il contenuto</translation>
+    </message>
+    <message>
+        <source>仍占用</source>
+        <translation>Occupato</translation>
+    </message>
+    <message>
+        <source>保留记录（天）：</source>
+        <translation>Conserva le voci (giorni):</translation>
+    </message>
+    <message>
+        <source>全部处理</source>
+        <translation>Elabora tutto</translation>
+    </message>
+    <message>
+        <source>内容与要保留的文件不同，已保留: %1</source>
+        <translation>Il contenuto è diverso dal file da conservare; non toccato: %1</translation>
+    </message>
+    <message>
+        <source>决定移除对话框打开时是否已勾选「移除前先备份」；备份的文件移入备份文件夹，不会删除</source>
+        <translation>Decide se «Backup prima di rimuovere» ha la spunta all'apertura della finestra; i file vanno nella cartella di backup e non vengono eliminati</translation>
+    </message>
+    <message>
+        <source>删除更早的记录</source>
+        <translation>Elimina le voci precedenti</translation>
+    </message>
+    <message>
+        <source>删除记录</source>
+        <translation>Elimina voce</translation>
+    </message>
+    <message>
+        <source>回收站中保留 %1</source>
+        <translation>Occupato nel Cestino: %1</translation>
+    </message>
+    <message>
+        <source>在历史中显示</source>
+        <translation>Mostra nella cronologia</translation>
+    </message>
+    <message>
+        <source>备份中保留：%1</source>
+        <translation>Occupato nel backup: %1</translation>
+    </message>
+    <message>
+        <source>备份文件夹中保留 %1</source>
+        <translation>Occupato nella cartella di backup: %1</translation>
+    </message>
+    <message>
+        <source>失败：%1</source>
+        <translation>Non riuscito: %1</translation>
+    </message>
+    <message>
+        <source>将删除 %1 条清理记录。文件不受影响，但之后无法在此撤销这些清理。是否继续？</source>
+        <translation>Voci della cronologia da eliminare: %1. I file non vengono toccati, ma queste pulizie non si potranno più annullare qui. Continuare?</translation>
+    </message>
+    <message>
+        <source>将把 %1 个文件放回原处。是否继续？</source>
+        <translation>File da rimettere a posto: %1. Continuare?</translation>
+    </message>
+    <message>
+        <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
+        <translation>I file di questa pulizia nella cartella di backup (%1) verranno eliminati definitivamente e non si potranno più ripristinare. Continuare?</translation>
+    </message>
+    <message>
+        <source>已中断</source>
+        <translation>Interrotta</translation>
+    </message>
+    <message>
+        <source>已停止，未处理: %1</source>
+        <translation>Interrotto; non toccato: %1</translation>
+    </message>
+    <message>
+        <source>已删除 %1 个备份文件。</source>
+        <translation>File di backup eliminati: %1.</translation>
+    </message>
+    <message>
+        <source>已完成</source>
+        <translation>Completata</translation>
+    </message>
+    <message>
+        <source>已撤销</source>
+        <translation>Annullata</translation>
+    </message>
+    <message>
+        <source>已放回原处</source>
+        <translation>Rimesso a posto</translation>
+    </message>
+    <message>
+        <source>已移除</source>
+        <translation>Rimosso</translation>
+    </message>
+    <message>
+        <source>已释放</source>
+        <translation>Liberato</translation>
+    </message>
+    <message>
+        <source>已释放 %1</source>
+        <translation>Liberato: %1</translation>
+    </message>
+    <message>
+        <source>所有者或权限与链接目标不同，未处理: %1</source>
+        <translation>Proprietario o permessi diversi dalla destinazione del collegamento; non toccato: %1</translation>
+    </message>
+    <message>
+        <source>撤销了 %1</source>
+        <translation>Ha annullato %1</translation>
+    </message>
+    <message>
+        <source>撤销所选文件</source>
+        <translation>Annulla selezionati</translation>
+    </message>
+    <message>
+        <source>撤销此次清理</source>
+        <translation>Annulla questa pulizia</translation>
+    </message>
+    <message>
+        <source>撤销清理</source>
+        <translation>Annulla pulizia</translation>
+    </message>
+    <message>
+        <source>文件仍在回收站中，可从那里恢复: %1</source>
+        <translation>Il file è ancora nel Cestino e si può ripristinare da lì: %1</translation>
+    </message>
+    <message>
+        <source>文件已存在，是否替换？
+%1</source>
+        <translation>Il file esiste già. Sostituirlo?
+%1</translation>
+    </message>
+    <message>
+        <source>文件数 / 保留的副本</source>
+        <translation>File / conservato</translation>
+    </message>
+    <message>
+        <source>文件正被其他程序使用，未处理: %1</source>
+        <translation>Il file è in uso da un altro programma; non toccato: %1</translation>
+    </message>
+    <message>
+        <source>方式 / 现在位置</source>
+        <translation>Metodo / dove si trova</translation>
+    </message>
+    <message>
+        <source>无法写入操作日志: %1</source>
+        <translation>Impossibile scrivere il registro delle operazioni: %1</translation>
+    </message>
+    <message>
+        <source>无法写入操作记录，未处理任何文件: %1</source>
+        <translation>Impossibile scrivere la cronologia della pulizia; nessun file toccato: %1</translation>
+    </message>
+    <message>
+        <source>无法更新备份索引: %1</source>
+        <translation>Impossibile aggiornare l'indice di backup: %1</translation>
+    </message>
+    <message>
+        <source>无法确保要保留的文件已写入磁盘，未处理: %1</source>
+        <translation>Impossibile garantire che il file da conservare sia sul disco; non toccato: %1</translation>
+    </message>
+    <message>
+        <source>无法读取</source>
+        <translation>Illeggibile</translation>
+    </message>
+    <message>
+        <source>无结果记录</source>
+        <translation>Nessun esito registrato</translation>
+    </message>
+    <message>
+        <source>时间 / 文件</source>
+        <translation>Data / file</translation>
+    </message>
+    <message>
+        <source>有 %1 条记录无法删除。</source>
+        <translation>Voci che non si sono potute eliminare: %1.</translation>
+    </message>
+    <message>
+        <source>有 %1 组将不会留下任何副本。</source>
+        <translation>Gruppi in cui non resterebbe alcun file: %1.</translation>
+    </message>
+    <message>
+        <source>正在删除备份… (%1/%2)</source>
+        <translation>Eliminazione dei backup… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>正在检查文件… (%1/%2)</source>
+        <translation>Controllo dei file… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>每次移除前比较全部内容</source>
+        <translation>Confronta tutto il contenuto prima di ogni rimozione</translation>
+    </message>
+    <message>
+        <source>每组取消勾选一个</source>
+        <translation>Togli una spunta per gruppo</translation>
+    </message>
+    <message>
+        <source>永久</source>
+        <translation>Sempre</translation>
+    </message>
+    <message>
+        <source>没有保留的副本</source>
+        <translation>Nessun file conservato</translation>
+    </message>
+    <message>
+        <source>没有可以放回的文件。</source>
+        <translation>Nessun file da rimettere a posto.</translation>
+    </message>
+    <message>
+        <source>没有更早的记录。</source>
+        <translation>Nessuna voce precedente.</translation>
+    </message>
+    <message>
+        <source>没有清理记录。</source>
+        <translation>Nessuna pulizia registrata.</translation>
+    </message>
+    <message>
+        <source>清理历史</source>
+        <translation>Cronologia delle pulizie</translation>
+    </message>
+    <message>
+        <source>清理历史(&amp;C)…</source>
+        <translation>&amp;Cronologia delle pulizie…</translation>
+    </message>
+    <message>
+        <source>目标文件夹包含该文件，未处理: %1</source>
+        <translation>La cartella di destinazione contiene il file; non toccato: %1</translation>
+    </message>
+    <message>
+        <source>硬链接</source>
+        <translation>Collegamento fisico</translation>
+    </message>
+    <message>
+        <source>确认替换</source>
+        <translation>Conferma sostituzione</translation>
+    </message>
+    <message>
+        <source>移入回收站</source>
+        <translation>Spostati nel Cestino</translation>
+    </message>
+    <message>
+        <source>移动到文件夹</source>
+        <translation>Spostati in cartella</translation>
+    </message>
+    <message>
+        <source>符号链接</source>
+        <translation>Collegamento simbolico</translation>
+    </message>
+    <message>
+        <source>要保留的文件已不在原处，或经由另一路径就是该文件本身，未处理: %1</source>
+        <translation>Il file da conservare non c'è più o è questo stesso file per un altro percorso; non toccato: %1</translation>
+    </message>
+    <message>
+        <source>部分已撤销</source>
+        <translation>Annullata in parte</translation>
+    </message>
+    <message>
+        <source>部分组不是按内容匹配的，处理前不会比较这些文件的内容。</source>
+        <translation>Alcuni gruppi non corrispondono per contenuto; i loro file non vengono confrontati prima della rimozione.</translation>
+    </message>
+    <message>
+        <source>释放 %1</source>
+        <translation>Libera %1</translation>
+    </message>
+    <message>
+        <source>释放备份</source>
+        <translation>Libera i backup</translation>
+    </message>
+    <message>
         <source>恢复所选</source>
         <translation>Ripristina selezionati</translation>
     </message>
@@ -2097,7 +2407,7 @@ La prossima scansione delle immagini sarà più lenta. Continuare?</translation>
     </message>
     <message>
         <source>导出警告</source>
-        <translation>Avviso sull&apos;esportazione</translation>
+        <translation>Avviso sull'esportazione</translation>
     </message>
     <message>
         <source>部分文件未能导出：
@@ -2252,316 +2562,6 @@ Per vederli, attiva “Mostra altri file” per un percorso e ripeti la scansion
     <message>
         <source>筛选只改变列表中显示的内容，勾选与批量操作仍针对全部结果。</source>
         <translation>Il filtro cambia solo ciò che gli elenchi mostrano; spunte e azioni in blocco valgono ancora per tutti i risultati.</translation>
-    </message>
-    <message>
-        <source>无法写入操作记录，未处理任何文件: %1</source>
-        <translation>Impossibile scrivere la cronologia della pulizia; nessun file toccato: %1</translation>
-    </message>
-    <message>
-        <source>无法更新备份索引: %1</source>
-        <translation>Impossibile aggiornare l&apos;indice di backup: %1</translation>
-    </message>
-    <message>
-        <source>无法写入操作日志: %1</source>
-        <translation>Impossibile scrivere il registro delle operazioni: %1</translation>
-    </message>
-    <message>
-        <source>目标文件夹包含该文件，未处理: %1</source>
-        <translation>La cartella di destinazione contiene il file; non toccato: %1</translation>
-    </message>
-    <message>
-        <source>无法确保要保留的文件已写入磁盘，未处理: %1</source>
-        <translation>Impossibile garantire che il file da conservare sia sul disco; non toccato: %1</translation>
-    </message>
-    <message>
-        <source>所有者或权限与链接目标不同，未处理: %1</source>
-        <translation>Proprietario o permessi diversi dalla destinazione del collegamento; non toccato: %1</translation>
-    </message>
-    <message>
-        <source>要保留的文件已不在原处，或经由另一路径就是该文件本身，未处理: %1</source>
-        <translation>Il file da conservare non c&apos;è più o è questo stesso file per un altro percorso; non toccato: %1</translation>
-    </message>
-    <message>
-        <source>内容与要保留的文件不同，已保留: %1</source>
-        <translation>Il contenuto è diverso dal file da conservare; non toccato: %1</translation>
-    </message>
-    <message>
-        <source>文件正被其他程序使用，未处理: %1</source>
-        <translation>Il file è in uso da un altro programma; non toccato: %1</translation>
-    </message>
-    <message>
-        <source>已停止，未处理: %1</source>
-        <translation>Interrotto; non toccato: %1</translation>
-    </message>
-    <message>
-        <source>文件仍在回收站中，可从那里恢复: %1</source>
-        <translation>Il file è ancora nel Cestino e si può ripristinare da lì: %1</translation>
-    </message>
-    <message>
-        <source>部分组不是按内容匹配的，处理前不会比较这些文件的内容。</source>
-        <translation>Alcuni gruppi non corrispondono per contenuto; i loro file non vengono confrontati prima della rimozione.</translation>
-    </message>
-    <message>
-        <source>在历史中显示</source>
-        <translation>Mostra nella cronologia</translation>
-    </message>
-    <message>
-        <source>没有保留的副本</source>
-        <translation>Nessun file conservato</translation>
-    </message>
-    <message>
-        <source>有 %1 组将不会留下任何副本。</source>
-        <translation>Gruppi in cui non resterebbe alcun file: %1.</translation>
-    </message>
-    <message>
-        <source>每组取消勾选一个</source>
-        <translation>Togli una spunta per gruppo</translation>
-    </message>
-    <message>
-        <source>全部处理</source>
-        <translation>Elabora tutto</translation>
-    </message>
-    <message>
-        <source>%1 个文件（%2）将移动到备份文件夹，不使用回收站。</source>
-        <translation>File da spostare nella cartella di backup: %1 (%2). Il Cestino non viene usato.</translation>
-    </message>
-    <message>
-        <source>%1 个文件（%2）将移入回收站，清空回收站后才释放空间。</source>
-        <translation>File da spostare nel Cestino: %1 (%2). Lo spazio si libera quando viene svuotato.</translation>
-    </message>
-    <message>
-        <source>%1 个文件（%2）将移动到备份文件夹，不会永久删除。</source>
-        <translation>File da spostare nella cartella di backup: %1 (%2). Nulla viene eliminato definitivamente.</translation>
-    </message>
-    <message>
-        <source>%1 个文件（%2）将永久删除，不进回收站；可以用保留的副本重新生成。</source>
-        <translation>File da eliminare definitivamente: %1 (%2). Non vanno nel Cestino, ma si possono ricreare dai file conservati.</translation>
-    </message>
-    <message>
-        <source>%1 个文件（%2）将永久删除，不进回收站，无法找回。</source>
-        <translation>File da eliminare definitivamente: %1 (%2). Non vanno nel Cestino e non si possono recuperare.</translation>
-    </message>
-    <message>
-        <source>%1 个文件（%2）将移动到备份文件夹，不使用目标文件夹。</source>
-        <translation>File da spostare nella cartella di backup: %1 (%2). La cartella di destinazione non viene usata.</translation>
-    </message>
-    <message>
-        <source>%1 个文件（%2）将移动到目标文件夹。</source>
-        <translation>File da spostare nella cartella di destinazione: %1 (%2).</translation>
-    </message>
-    <message>
-        <source>%1 个文件（%2）将移动到备份文件夹，原位置由链接代替。</source>
-        <translation>File da spostare nella cartella di backup: %1 (%2). Al loro posto vanno collegamenti.</translation>
-    </message>
-    <message>
-        <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
-        <translation>File che non verranno rimossi: %1 (%2). I collegamenti si creano solo dove il percorso è libero. Per sostituire i file con collegamenti, fare prima il backup.</translation>
-    </message>
-    <message>
-        <source>没有清理记录。</source>
-        <translation>Nessuna pulizia registrata.</translation>
-    </message>
-    <message>
-        <source>释放 %1</source>
-        <translation>Libera %1</translation>
-    </message>
-    <message>
-        <source>释放备份</source>
-        <translation>Libera i backup</translation>
-    </message>
-    <message>
-        <source>清理历史</source>
-        <translation>Cronologia delle pulizie</translation>
-    </message>
-    <message>
-        <source>撤销此次清理</source>
-        <translation>Annulla questa pulizia</translation>
-    </message>
-    <message>
-        <source>撤销所选文件</source>
-        <translation>Annulla selezionati</translation>
-    </message>
-    <message>
-        <source>删除记录</source>
-        <translation>Elimina voce</translation>
-    </message>
-    <message>
-        <source>保留记录（天）：</source>
-        <translation>Conserva le voci (giorni):</translation>
-    </message>
-    <message>
-        <source>永久</source>
-        <translation>Sempre</translation>
-    </message>
-    <message>
-        <source>删除更早的记录</source>
-        <translation>Elimina le voci precedenti</translation>
-    </message>
-    <message>
-        <source>每次移除前比较全部内容</source>
-        <translation>Confronta tutto il contenuto prima di ogni rimozione</translation>
-    </message>
-    <message>
-        <source>不勾选时，回收、移动和备份前只比较抽样内容；永久删除和创建链接前总是比较全部内容</source>
-        <translation>Senza la spunta, prima di spostare nel Cestino, spostare e fare il backup si confrontano solo campioni; prima di eliminare definitivamente e collegare, sempre tutto il contenuto</translation>
-    </message>
-    <message>
-        <source>确认替换</source>
-        <translation>Conferma sostituzione</translation>
-    </message>
-    <message>
-        <source>文件已存在，是否替换？
-%1</source>
-        <translation>Il file esiste già. Sostituirlo?
-%1</translation>
-    </message>
-    <message>
-        <source>
-无法放回的文件（%1 个）：
-</source>
-        <translation>
-File che non si possono rimettere a posto (%1):
-</translation>
-    </message>
-    <message>
-        <source>撤销清理</source>
-        <translation>Annulla pulizia</translation>
-    </message>
-    <message>
-        <source>正在检查文件… (%1/%2)</source>
-        <translation>Controllo dei file… (%1/%2)</translation>
-    </message>
-    <message>
-        <source>将把 %1 个文件放回原处。是否继续？</source>
-        <translation>File da rimettere a posto: %1. Continuare?</translation>
-    </message>
-    <message>
-        <source>没有可以放回的文件。</source>
-        <translation>Nessun file da rimettere a posto.</translation>
-    </message>
-    <message>
-        <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
-        <translation>I file di questa pulizia nella cartella di backup (%1) verranno eliminati definitivamente e non si potranno più ripristinare. Continuare?</translation>
-    </message>
-    <message>
-        <source>正在删除备份… (%1/%2)</source>
-        <translation>Eliminazione dei backup… (%1/%2)</translation>
-    </message>
-    <message>
-        <source>已删除 %1 个备份文件。</source>
-        <translation>File di backup eliminati: %1.</translation>
-    </message>
-    <message>
-        <source>没有更早的记录。</source>
-        <translation>Nessuna voce precedente.</translation>
-    </message>
-    <message>
-        <source>将删除 %1 条清理记录。文件不受影响，但之后无法在此撤销这些清理。是否继续？</source>
-        <translation>Voci della cronologia da eliminare: %1. I file non vengono toccati, ma queste pulizie non si potranno più annullare qui. Continuare?</translation>
-    </message>
-    <message>
-        <source>有 %1 条记录无法删除。</source>
-        <translation>Voci che non si sono potute eliminare: %1.</translation>
-    </message>
-    <message>
-        <source>备份中保留：%1</source>
-        <translation>Occupato nel backup: %1</translation>
-    </message>
-    <message>
-        <source>已释放 %1</source>
-        <translation>Liberato: %1</translation>
-    </message>
-    <message>
-        <source>备份文件夹中保留 %1</source>
-        <translation>Occupato nella cartella di backup: %1</translation>
-    </message>
-    <message>
-        <source>回收站中保留 %1</source>
-        <translation>Occupato nel Cestino: %1</translation>
-    </message>
-    <message>
-        <source>时间 / 文件</source>
-        <translation>Data / file</translation>
-    </message>
-    <message>
-        <source>方式 / 现在位置</source>
-        <translation>Metodo / dove si trova</translation>
-    </message>
-    <message>
-        <source>文件数 / 保留的副本</source>
-        <translation>File / conservato</translation>
-    </message>
-    <message>
-        <source>已释放</source>
-        <translation>Liberato</translation>
-    </message>
-    <message>
-        <source>仍占用</source>
-        <translation>Occupato</translation>
-    </message>
-    <message>
-        <source>移入回收站</source>
-        <translation>Spostati nel Cestino</translation>
-    </message>
-    <message>
-        <source>移动到文件夹</source>
-        <translation>Spostati in cartella</translation>
-    </message>
-    <message>
-        <source>符号链接</source>
-        <translation>Collegamento simbolico</translation>
-    </message>
-    <message>
-        <source>硬链接</source>
-        <translation>Collegamento fisico</translation>
-    </message>
-    <message>
-        <source>无法读取</source>
-        <translation>Illeggibile</translation>
-    </message>
-    <message>
-        <source>撤销了 %1</source>
-        <translation>Ha annullato %1</translation>
-    </message>
-    <message>
-        <source>部分已撤销</source>
-        <translation>Annullata in parte</translation>
-    </message>
-    <message>
-        <source>已撤销</source>
-        <translation>Annullata</translation>
-    </message>
-    <message>
-        <source>已完成</source>
-        <translation>Completata</translation>
-    </message>
-    <message>
-        <source>已中断</source>
-        <translation>Interrotta</translation>
-    </message>
-    <message>
-        <source>无结果记录</source>
-        <translation>Nessun esito registrato</translation>
-    </message>
-    <message>
-        <source>已移除</source>
-        <translation>Rimosso</translation>
-    </message>
-    <message>
-        <source>已放回原处</source>
-        <translation>Rimesso a posto</translation>
-    </message>
-    <message>
-        <source>失败：%1</source>
-        <translation>Non riuscito: %1</translation>
-    </message>
-    <message>
-        <source>清理历史(&amp;C)…</source>
-        <translation>&amp;Cronologia delle pulizie…</translation>
-    </message>
-    <message>
-        <source>决定移除对话框打开时是否已勾选「移除前先备份」；备份的文件移入备份文件夹，不会删除</source>
-        <translation>Decide se «Backup prima di rimuovere» ha la spunta all&apos;apertura della finestra; i file vanno nella cartella di backup e non vengono eliminati</translation>
     </message>
 </context>
 </TS>
