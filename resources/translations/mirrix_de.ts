@@ -2125,7 +2125,7 @@ Dateien, die nicht zurückgelegt werden können (%1):
     </message>
     <message>
         <source>仍占用</source>
-        <translation>Belegt noch</translation>
+        <translation>Belegt</translation>
     </message>
     <message>
         <source>保留记录（天）：</source>
@@ -2213,7 +2213,7 @@ Dateien, die nicht zurückgelegt werden können (%1):
     </message>
     <message>
         <source>已释放</source>
-        <translation>Frei geworden</translation>
+        <translation>Frei</translation>
     </message>
     <message>
         <source>已释放 %1</source>

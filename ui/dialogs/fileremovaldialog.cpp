@@ -16,6 +16,8 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace Mirrix {
 
 namespace {
@@ -183,6 +185,8 @@ void FileRemovalDialog::showOutcome()
 {
     m_outcome->setText(
         outcomePattern(choice(), m_areContentsEqual).arg(QString::number(m_fileCount), formatSize(m_totalBytes)));
+    if (isVisible()) // a longer sentence must not squeeze the rest
+        resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
 }
 
 void FileRemovalDialog::setNote(const QString &note)

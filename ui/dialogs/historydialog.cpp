@@ -25,6 +25,9 @@
 #include <QTimer>
 #include <QTreeView>
 
+#include <algorithm>
+#include <utility>
+
 namespace Mirrix {
 
 namespace {
@@ -89,13 +92,7 @@ void HistoryDialog::buildTree()
     QHeaderView *header = m_tree->header();
     header->setStretchLastSection(false);
     header->setSectionsMovable(false);
-    const int letter = fontMetrics().averageCharWidth();
     header->setSectionResizeMode(HistoryModel::NameColumn, QHeaderView::Stretch);
-    header->resizeSection(HistoryModel::PlaceColumn, letter * 30);
-    header->resizeSection(HistoryModel::KeptColumn, letter * 30);
-    header->resizeSection(HistoryModel::StateColumn, letter * 22);
-    header->resizeSection(HistoryModel::FreedColumn, letter * 14);
-    header->resizeSection(HistoryModel::HeldColumn, letter * 14);
 
     auto *copy = new QAction(m_tree);
     copy->setShortcut(QKeySequence::Copy);
@@ -135,7 +132,7 @@ void HistoryDialog::buildLayout()
     column->addWidget(m_tree, 1);
     column->addLayout(actions);
     column->addLayout(foot);
-    resize(980, 600);
+    resize(1000, 600);
 }
 
 void HistoryDialog::connectParts()
@@ -344,6 +341,19 @@ void HistoryDialog::afterCommand(bool hasChanged)
         reload();
 }
 
+void HistoryDialog::fitColumns()
+{
+    constexpr std::pair<HistoryModel::Column, int> letters[] = {{HistoryModel::PlaceColumn, 34},
+                                                                {HistoryModel::KeptColumn, 29},
+                                                                {HistoryModel::StateColumn, 22},
+                                                                {HistoryModel::FreedColumn, 12},
+                                                                {HistoryModel::HeldColumn, 12}};
+    QHeaderView *header = m_tree->header();
+    for (const auto &[column, count] : letters)
+        header->resizeSection(column,
+                              std::max(fontMetrics().averageCharWidth() * count, header->sectionSizeHint(column)));
+}
+
 void HistoryDialog::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)
@@ -366,6 +376,7 @@ void HistoryDialog::retranslate()
     m_close->setText(Text::tr("关闭"));
     m_tree->actions().constFirst()->setText(Text::tr("复制路径"));
     m_model->retranslate();
+    fitColumns();
     updateControls();
 }
 

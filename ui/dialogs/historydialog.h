@@ -61,6 +61,7 @@ private:
     void afterCommand(bool hasChanged);
     [[nodiscard]] const RunSummary *currentRun() const;
     [[nodiscard]] QList<qsizetype> selectedItems() const;
+    void fitColumns();
     void retranslate();
 
     Settings &m_settings;

@@ -76,6 +76,10 @@ AdvancedBox::AdvancedBox(Prompts &prompts, QWidget *parent)
     backup->setSpacing(8);
     backup->addWidget(m_backupFolder, 1);
     backup->addWidget(m_chooseBackup);
+    auto *held = new QHBoxLayout;
+    held->setSpacing(8);
+    held->addWidget(m_heldLabel, 1);
+    held->addWidget(m_history);
     m_backupLabel->setBuddy(m_backupFolder);
     auto *form = new QFormLayout(this);
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
@@ -86,7 +90,7 @@ AdvancedBox::AdvancedBox(Prompts &prompts, QWidget *parent)
     form->addRow(m_skipSystemFolders);
     form->addRow(m_backupBeforeDelete);
     form->addRow(m_backupLabel, backup);
-    form->addRow(m_heldLabel, m_history);
+    form->addRow(held);
 
     connect(m_keepRule, &QComboBox::currentIndexChanged, this, &AdvancedBox::changed);
     for (const QCheckBox *box : {m_skipHidden, m_skipSystemFolders, m_backupBeforeDelete})
