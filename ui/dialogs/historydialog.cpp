@@ -343,9 +343,9 @@ void HistoryDialog::afterCommand(bool hasChanged)
 
 void HistoryDialog::fitColumns()
 {
-    constexpr std::pair<HistoryModel::Column, int> letters[] = {{HistoryModel::PlaceColumn, 34},
-                                                                {HistoryModel::KeptColumn, 29},
-                                                                {HistoryModel::StateColumn, 22},
+    constexpr std::pair<HistoryModel::Column, int> letters[] = {{HistoryModel::PlaceColumn, 32},
+                                                                {HistoryModel::KeptColumn, 27},
+                                                                {HistoryModel::StateColumn, 26},
                                                                 {HistoryModel::FreedColumn, 12},
                                                                 {HistoryModel::HeldColumn, 12}};
     QHeaderView *header = m_tree->header();
