@@ -159,6 +159,7 @@ const QList<Field> &table()
         MIRRIX_SETTING(scanDoneBeep),
         MIRRIX_SETTING(skipScanConfirm),
         MIRRIX_SETTING(compareWholeContents),
+        MIRRIX_SETTING(keepHistoryDays),
         MIRRIX_SETTING(window),
         MIRRIX_SETTING(uiLanguage),
     };

@@ -34,6 +34,7 @@ struct Settings
     bool scanDoneBeep = false;
     bool skipScanConfirm = false;
     bool compareWholeContents = false; ///< before recycling, moving and backing up, too
+    qint32 keepHistoryDays = 0;        ///< records of cleaning runs older than that may be removed; 0 = keep all
     QJsonObject window;                ///< where the main window was, as ui/windowmemory.h tells it
     QString uiLanguage;                ///< a code of languagecodes.h
     bool languageWasStored = false;    ///< whether the file named a language; not stored

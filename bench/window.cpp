@@ -34,6 +34,10 @@ public:
     int exportFormat = 0; ///< the number of the next export's form
 
     void inform(QWidget *, const QString &, const QString &, const QString &) override {}
+    bool informWithAction(QWidget *, const QString &, const QString &, const QString &, const QString &) override
+    {
+        return false;
+    }
     void warn(QWidget *, const QString &, const QString &text) override { complain(text); }
     void fail(QWidget *, const QString &, const QString &text) override { complain(text); }
     bool ask(QWidget *, const QString &, const QString &, const QString &) override { return true; }

@@ -9,7 +9,8 @@
 #include "ui/dialogs/fileprogressdialog.h"
 #include "ui/dialogs/fileremovaldialog.h"
 #include "ui/dialogs/restoredialog.h"
-#include "ui/logic/bytetext.h"
+#include "ui/logic/asidethreads.h"
+#include "ui/logic/batchtexts.h"
 #include "ui/prompts.h"
 
 #include <QDir>
@@ -21,25 +22,6 @@ namespace Mirrix {
 namespace {
 
 using MirrixCore::DuplicateGroup;
-
-/// The failures of a batch as the closing boxes list them; empty when there are none.
-QString failureText(const BatchResult &result)
-{
-    return result.errors.isEmpty() ? QString() : Text::tr("\n部分失败：\n") + result.errors.join(QLatin1Char('\n'));
-}
-
-/// What the closing box says besides the count.
-QString spaceNote(const Space &space)
-{
-    QStringList parts;
-    if (space.freedBytes > 0)
-        parts.append(Text::tr("已释放 %1").arg(formatSize(space.freedBytes)));
-    if (space.heldInBackupBytes > 0)
-        parts.append(Text::tr("备份文件夹中保留 %1").arg(formatSize(space.heldInBackupBytes)));
-    if (space.heldInBinBytes > 0)
-        parts.append(Text::tr("回收站中保留 %1").arg(formatSize(space.heldInBinBytes)));
-    return parts.join(QLatin1Char('\n'));
-}
 
 /// Said where files are given up for copies that are not known to be equal.
 QString comparisonNote(const CheckedFiles &files)
@@ -127,6 +109,8 @@ void BatchCommands::perform(const std::function<void()> &command)
     command();
     m_isBusy = false;
     emit finished();
+    if (!m_runToShow.isEmpty())
+        emit historyRequested(std::exchange(m_runToShow, {}));
 }
 
 bool BatchCommands::changeMarks(const char *status, const MarkChange &change)
@@ -179,6 +163,16 @@ CleaningResult BatchCommands::clean(const QString &label, CleaningPlan plan, con
     return result;
 }
 
+void BatchCommands::tellDone(const QString &text, const CleaningResult &result)
+{
+    const QString title = Text::tr("完成");
+    const QString note = spaceNote(result.space);
+    if (result.runId.isEmpty())
+        m_prompts.inform(m_window, title, text, note);
+    else if (m_prompts.informWithAction(m_window, title, text, note, Text::tr("在历史中显示")))
+        m_runToShow = result.runId;
+}
+
 std::optional<CheckedFiles> BatchCommands::filesToClean(const QString &noneText)
 {
     CheckedFiles files(m_results);
@@ -219,10 +213,9 @@ void BatchCommands::backUpChecked()
         return;
     const CleaningResult result = clean(Text::tr("正在备份移动文件… (%1/%2)"), planFor(CleaningMethod::Backup),
                                         [&](QStringList &) { return files->items(); });
-    m_prompts.inform(m_window, Text::tr("完成"),
-                     Text::tr("已备份移动 %1 个文件。%2\n请重新扫描以刷新结果。")
-                         .arg(QString::number(result.count), failureText(result)),
-                     spaceNote(result.space));
+    tellDone(Text::tr("已备份移动 %1 个文件。%2\n请重新扫描以刷新结果。")
+                 .arg(QString::number(result.count), failureText(result)),
+             result);
 }
 
 void BatchCommands::removeByChoice()
@@ -232,6 +225,7 @@ void BatchCommands::removeByChoice()
         return;
     FileRemovalDialog dialog(files->count(), initialRemovalChoice(m_settings), m_prompts, m_window);
     dialog.setNote(comparisonNote(*files));
+    dialog.setFiles(files->totalBytes(), files->areContentsEqual());
     if (!m_prompts.run(dialog))
         return;
     const RemovalChoice choice = dialog.choice();
@@ -251,9 +245,7 @@ void BatchCommands::backUpAndRemove(const CheckedFiles &files, const RemovalChoi
     if (!result.errors.isEmpty())
         m_prompts.warn(m_window, Text::tr("备份警告"),
                        Text::tr("部分文件备份失败：\n%1").arg(result.errors.join(QLatin1Char('\n'))));
-    m_prompts.inform(m_window, Text::tr("完成"),
-                     Text::tr("已备份并移除 %1 个文件。请重新扫描以刷新结果。").arg(result.count),
-                     spaceNote(result.space));
+    tellDone(Text::tr("已备份并移除 %1 个文件。请重新扫描以刷新结果。").arg(result.count), result);
 }
 
 void BatchCommands::removeDirectly(const CheckedFiles &files, const RemovalChoice &choice)
@@ -276,9 +268,7 @@ void BatchCommands::removeDirectly(const CheckedFiles &files, const RemovalChoic
     if (!rest.isEmpty())
         rest += QLatin1Char('\n');
     rest += Text::tr("请重新扫描以刷新结果。");
-    m_prompts.inform(m_window, Text::tr("完成"),
-                     Text::tr("已处理 %1 个文件。%2").arg(QString::number(result.count), rest),
-                     spaceNote(result.space));
+    tellDone(Text::tr("已处理 %1 个文件。%2").arg(QString::number(result.count), rest), result);
 }
 
 BatchResult BatchCommands::linkAtFreePaths(const CheckedFiles &files, const RemovalChoice &choice)
@@ -293,37 +283,46 @@ BatchResult BatchCommands::linkAtFreePaths(const CheckedFiles &files, const Remo
 void BatchCommands::restoreByChoice()
 {
     const QString folder = m_settings.backupRoot;
-    QList<BackupEntry> entries;
-    QStringList lines;
+    RestoreList list;
     const BatchResult reading = run(Text::tr("正在读取备份索引…"), [&](const BatchControl &control) {
-        entries = restorableEntries(folder);
-        for (const BackupEntry &entry : std::as_const(entries))
-            lines.append(backupLine(entry));
+        list.entries = restorableEntries(folder);
+        for (const BackupEntry &entry : std::as_const(list.entries))
+            list.lines.append(backupLine(entry));
         return BatchResult{0, {}, !control.mayGoOn(0, 0)};
     });
-    if (reading.isCancelled)
-        return;
-    if (entries.isEmpty()) {
+    if (!reading.isCancelled && list.entries.isEmpty())
         m_prompts.inform(m_window, Text::tr("提示"), Text::tr("备份索引为空。"));
-        return;
+    else if (!reading.isCancelled && chooseBackups(list) &&
+             m_prompts.ask(m_window, Text::tr("确认恢复"), list.question))
+        restore(folder, list.chosen);
+    discardAside(std::move(list));
+}
+
+bool BatchCommands::chooseBackups(RestoreList &list)
+{
+    QList<qsizetype> rows;
+    {
+        RestoreDialog dialog(list.lines, m_window);
+        if (!m_prompts.run(dialog))
+            return false;
+        rows = dialog.chosen();
     }
-    RestoreDialog dialog(lines, m_window);
-    if (!m_prompts.run(dialog))
-        return;
-    QList<BackupEntry> chosen;
-    QStringList chosenLines;
-    for (const qsizetype row : dialog.chosen()) {
-        chosen.append(entries[row]);
-        chosenLines.append(lines[row]);
-    }
-    if (!chosen.isEmpty() && m_prompts.ask(m_window, Text::tr("确认恢复"),
-                                           Text::tr("将恢复：\n%1").arg(chosenLines.join(QLatin1Char('\n')))))
-        restore(folder, chosen);
+    static_cast<void>(run(Text::tr("正在处理"), [&](const BatchControl &) {
+        QStringList lines;
+        for (const qsizetype row : std::as_const(rows)) {
+            list.chosen.append(list.entries[row]);
+            lines.append(list.lines[row]);
+        }
+        list.question = Text::tr("将恢复：\n%1").arg(lines.join(QLatin1Char('\n')));
+        return BatchResult();
+    }));
+    return !list.chosen.isEmpty();
 }
 
 void BatchCommands::restore(const QString &folder, const QList<BackupEntry> &chosen)
 {
     RestoreResult result;
+    QString text;
     static_cast<void>(run(Text::tr("正在恢复文件… (%1/%2)"), [&](const BatchControl &control) {
         result = restoreBackups(folder, chosen, control);
         // Here, too, since a record for each of very many files takes a second.
@@ -332,15 +331,18 @@ void BatchCommands::restore(const QString &folder, const QList<BackupEntry> &cho
             records.append(restoredEvent(entry));
         if (!records.isEmpty())
             m_log.append(records);
+        text = Text::tr("已恢复 %1 个文件。").arg(result.count) + failureText(result);
         return static_cast<const BatchResult &>(result);
     }));
-    const QString count = Text::tr("已恢复 %1 个文件。").arg(result.count);
-    const QString notes = result.notes.isEmpty() ? QString() : QLatin1Char('\n') + result.notes.join(QLatin1Char('\n'));
-    if (!result.errors.isEmpty())
-        m_prompts.warn(m_window, Text::tr("失败"),
-                       chosen.size() == 1 ? result.errors.first() : count + failureText(result) + notes);
+    if (chosen.size() == 1)
+        text = result.errors.isEmpty() ? Text::tr("文件已恢复。") : result.errors.first();
+    if (!result.notes.isEmpty() && (chosen.size() > 1 || result.errors.isEmpty()))
+        text += QLatin1Char('\n') + result.notes.join(QLatin1Char('\n'));
+    if (result.errors.isEmpty())
+        m_prompts.inform(m_window, Text::tr("完成"), text);
     else
-        m_prompts.inform(m_window, Text::tr("完成"), (chosen.size() == 1 ? Text::tr("文件已恢复。") : count) + notes);
+        m_prompts.warn(m_window, Text::tr("失败"), text);
+    discardAside(std::move(result));
 }
 
 } // namespace Mirrix

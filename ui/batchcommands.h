@@ -1,5 +1,6 @@
 #pragma once
 
+#include "actions/backupindex.h"
 #include "actions/batch.h"
 #include "actions/cleaning/cleaningrun.h"
 #include "ui/logic/checkedfiles.h"
@@ -15,7 +16,6 @@ namespace Mirrix {
 
 class OperationsLog;
 class Prompts;
-struct BackupEntry;
 struct RemovalChoice;
 struct Settings;
 
@@ -68,6 +68,9 @@ signals:
 
     void stopRequested();
 
+    /// The user wants to see this run among the earlier ones. Comes after `finished`.
+    void historyRequested(const QString &runId);
+
 private:
     using MarkChange = std::function<void(SelectionMarks &, const QList<MirrixCore::DuplicateGroup> &)>;
     using Batch = std::function<BatchResult(const BatchControl &)>;
@@ -85,6 +88,9 @@ private:
     [[nodiscard]] CleaningResult clean(const QString &label, CleaningPlan plan, const ItemMaker &makeItems);
     [[nodiscard]] CleaningPlan planFor(CleaningMethod method) const;
 
+    /// The box at the end of a run.
+    void tellDone(const QString &text, const CleaningResult &result);
+
     /// The ticked files once the user has said what is to happen to groups of which no copy would stay. Nothing when
     /// there are none, which the user is told with `noneText`, or when the user gives up.
     [[nodiscard]] std::optional<CheckedFiles> filesToClean(const QString &noneText);
@@ -92,6 +98,18 @@ private:
     void backUpAndRemove(const CheckedFiles &files, const RemovalChoice &choice);
     void removeDirectly(const CheckedFiles &files, const RemovalChoice &choice);
     [[nodiscard]] BatchResult linkAtFreePaths(const CheckedFiles &files, const RemovalChoice &choice);
+    /// What may be put back, and what of it the user wants. Large, so made and freed off the interface thread.
+    struct RestoreList
+    {
+        QList<BackupEntry> entries;
+        QStringList lines; ///< of each
+        QList<BackupEntry> chosen;
+        QString question;
+    };
+
+    /// False when nothing is to be put back.
+    [[nodiscard]] bool chooseBackups(RestoreList &list);
+
     void restore(const QString &folder, const QList<BackupEntry> &chosen);
 
     ResultSet &m_results;
@@ -100,6 +118,7 @@ private:
     OperationsLog &m_log;
     QWidget *m_window;
     QString m_backupFolder;
+    QString m_runToShow; ///< once the command is over
     bool m_isBusy = false;
 };
 

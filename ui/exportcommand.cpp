@@ -9,6 +9,7 @@
 #include "ui/prompts.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 namespace Mirrix {
 
@@ -75,6 +76,11 @@ void exportResults(QWidget *parent, const ResultSet &results, const QString &mod
         return;
     }
     request.path = MirrixCore::absolutePath(request.path);
+    const bool mayReplace = request.format == ExportFormat::Copies || dialog.isPathChosen();
+    if (!mayReplace && QFileInfo::exists(request.path) &&
+        !prompts.ask(parent, Text::tr("确认替换"),
+                     Text::tr("文件已存在，是否替换？\n%1").arg(QDir::toNativeSeparators(request.path))))
+        return;
     tellOutcome(parent, request, run(parent, results, request, modeName), prompts, log);
 }
 

@@ -22,6 +22,7 @@ MainMenu::MainMenu(QMenuBar *bar, const QString &language)
     };
     QMenu *file = addMenu("FileMenu", [] { return Text::tr("文件(&F)"); });
     addAction(file, &MainMenu::logRequested, [] { return Text::tr("查看操作日志"); });
+    addAction(file, &MainMenu::historyRequested, [] { return Text::tr("清理历史(&C)…"); });
     addAction(file, &MainMenu::dataFolderRequested, [] { return Text::tr("打开数据文件夹"); });
     addAction(file, &MainMenu::restoreRequested, [] { return Text::tr("恢复备份…"); });
     file->addSeparator();

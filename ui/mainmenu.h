@@ -26,6 +26,7 @@ public:
 
 signals:
     void logRequested();
+    void historyRequested();
     void restoreRequested();
     void dataFolderRequested();
     void quitRequested();

@@ -6,6 +6,7 @@
 #include "core/scan/metatypes.h"
 #include "ui/caption.h"
 #include "ui/dialogs/hashtooldialog.h"
+#include "ui/dialogs/historydialog.h"
 #include "ui/dialogs/logviewer.h"
 #include "ui/exportcommand.h"
 #include "ui/locations/locationspage.h"
@@ -57,13 +58,6 @@ QString imageHashName()
 QString translated(const QString &source)
 {
     return source.isEmpty() ? QString() : Text::tr(source.toUtf8().constData());
-}
-
-/// Frees what may be a million records without holding up the interface.
-void discard(ResultSet &&results)
-{
-    auto old = std::make_shared<ResultSet>(std::move(results));
-    asideThreads()->start([old = std::move(old)]() mutable { old.reset(); });
 }
 
 } // namespace
@@ -163,7 +157,12 @@ void Mirrix::connectPages()
         LocationsState state = m_locations->state();
         state.advanced.backupBeforeDelete = on;
         m_locations->setState(state);
+        if (m_settings.autoBackupBeforeDelete != on) {
+            m_settings.autoBackupBeforeDelete = on;
+            m_settings.save();
+        }
     });
+    connect(m_locations, &LocationsPage::historyRequested, this, [this] { openHistory(); });
     m_actions = new ResultActions(m_results, *m_resultsPage, *m_locations, m_settings, m_prompts, m_log, this);
     m_actions->commands().setBackupFolder(m_settings.backupRoot);
     connect(m_actions, &ResultActions::clearRequested, this, &Mirrix::onClearRequested);
@@ -171,6 +170,7 @@ void Mirrix::connectPages()
             [this] { exportResults(this, m_results, modeName(m_scannedMode), m_prompts, m_log); });
     connect(&m_actions->commands(), &BatchCommands::statusText, this,
             [this](const QString &source) { m_display->showStatus([source] { return translated(source); }); });
+    connect(&m_actions->commands(), &BatchCommands::historyRequested, this, &Mirrix::openHistory);
     connect(&m_actions->commands(), &BatchCommands::finished, this, [this] {
         if (m_quitWanted)
             quitCompletely();
@@ -188,6 +188,7 @@ void Mirrix::connectMenu(MainMenu *menu)
         LogViewer viewer(m_log.filePath(), this);
         m_prompts.run(viewer);
     });
+    connect(menu, &MainMenu::historyRequested, this, [this] { openHistory(); });
     connect(menu, &MainMenu::restoreRequested, this, [this] { m_actions->commands().restoreBackup(); });
     connect(menu, &MainMenu::dataFolderRequested, this, [this] { openWithSystem(m_settings.directory); });
     connect(menu, &MainMenu::hashToolRequested, this, [this] {
@@ -282,7 +283,7 @@ void Mirrix::clearResults()
 {
     ResultSet old = std::exchange(m_results, {});
     m_resultsPage->clearResults();
-    discard(std::move(old));
+    discardAside(std::move(old));
 }
 
 void Mirrix::setScanning(bool on)
@@ -357,6 +358,17 @@ void Mirrix::setLanguage(const QString &code)
 {
     m_settings.uiLanguage = loadLanguage(code);
     m_settings.save();
+}
+
+void Mirrix::openHistory(const QString &runId)
+{
+    if (m_quitting)
+        return;
+    HistoryDialog history(m_settings, m_prompts, m_log, this);
+    if (!runId.isEmpty())
+        history.showRun(runId);
+    static_cast<void>(m_prompts.run(history));
+    m_locations->refreshHeldBackups();
 }
 
 void Mirrix::openOptions(OptionsDialog::Page page)

@@ -74,6 +74,7 @@ private:
 
     void showMainWindow();
     void setLanguage(const QString &code);
+    void openHistory(const QString &runId = {});
     void openOptions(::Mirrix::OptionsDialog::Page page);
     [[nodiscard]] QString modeText() const;
     [[nodiscard]] QString idleText() const;

@@ -30,6 +30,17 @@ void DialogPrompts::inform(QWidget *parent, const QString &title, const QString 
     showBox(box, text, note);
 }
 
+bool DialogPrompts::informWithAction(QWidget *parent, const QString &title, const QString &text, const QString &note,
+                                     const QString &action)
+{
+    QMessageBox box(QMessageBox::Information, title, {}, QMessageBox::Ok, parent);
+    const QPushButton *button = box.addButton(action, QMessageBox::ActionRole);
+    box.setDefaultButton(QMessageBox::Ok);
+    box.setEscapeButton(QMessageBox::Ok);
+    showBox(box, text, note);
+    return box.clickedButton() == button;
+}
+
 void DialogPrompts::warn(QWidget *parent, const QString &title, const QString &text)
 {
     QMessageBox box(QMessageBox::Warning, title, {}, QMessageBox::Ok, parent);

@@ -43,6 +43,11 @@ public:
 
     /// `note` is set apart below the text.
     virtual void inform(QWidget *parent, const QString &title, const QString &text, const QString &note = {}) = 0;
+
+    /// The same with a second button, `action`. True when that was pressed.
+    [[nodiscard]] virtual bool informWithAction(QWidget *parent, const QString &title, const QString &text,
+                                                const QString &note, const QString &action) = 0;
+
     virtual void warn(QWidget *parent, const QString &title, const QString &text) = 0;
     virtual void fail(QWidget *parent, const QString &title, const QString &text) = 0;
 
@@ -75,6 +80,8 @@ class DialogPrompts : public Prompts
 {
 public:
     void inform(QWidget *parent, const QString &title, const QString &text, const QString &note = {}) override;
+    bool informWithAction(QWidget *parent, const QString &title, const QString &text, const QString &note,
+                          const QString &action) override;
     void warn(QWidget *parent, const QString &title, const QString &text) override;
     void fail(QWidget *parent, const QString &title, const QString &text) override;
     bool ask(QWidget *parent, const QString &title, const QString &text, const QString &note = {}) override;

@@ -1070,10 +1070,6 @@ Titel: %1</translation>
         <translation>Exportieren…</translation>
     </message>
     <message>
-        <source>删除文件前先将其移动到备份文件夹</source>
-        <translation>Verschiebt Dateien in den Sicherungsordner, statt sie zu löschen</translation>
-    </message>
-    <message>
         <source>文件预览</source>
         <translation>Dateivorschau</translation>
     </message>
@@ -2108,6 +2104,316 @@ Die nächste Bildsuche dauert länger. Fortfahren?</translation>
         <translation>Nach Pfad filtern</translation>
     </message>
     <message>
+        <source>
+无法放回的文件（%1 个）：
+</source>
+        <translation>
+Dateien, die nicht zurückgelegt werden können (%1):
+</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
+        <translation>Nicht entfernt werden (Dateien: %1, %2): Verknüpfungen entstehen nur an freien Pfaden. Um die Dateien durch Verknüpfungen zu ersetzen, zuerst sichern.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将永久删除，不进回收站，无法找回。</source>
+        <translation>Endgültig gelöscht werden (Dateien: %1, %2); sie kommen nicht in den Papierkorb und sind nicht wiederherstellbar.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将永久删除，不进回收站；可以用保留的副本重新生成。</source>
+        <translation>Endgültig gelöscht werden (Dateien: %1, %2); sie kommen nicht in den Papierkorb, lassen sich aber aus den behaltenen Dateien neu erzeugen.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移入回收站，清空回收站后才释放空间。</source>
+        <translation>In den Papierkorb kommen (Dateien: %1, %2); Platz wird erst frei, wenn er geleert wird.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不会永久删除。</source>
+        <translation>In den Sicherungsordner kommen (Dateien: %1, %2); nichts wird endgültig gelöscht.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不使用回收站。</source>
+        <translation>In den Sicherungsordner kommen (Dateien: %1, %2); der Papierkorb wird nicht benutzt.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不使用目标文件夹。</source>
+        <translation>In den Sicherungsordner kommen (Dateien: %1, %2); der Zielordner wird nicht benutzt.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，原位置由链接代替。</source>
+        <translation>In den Sicherungsordner kommen (Dateien: %1, %2); Verknüpfungen treten an ihre Stelle.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到目标文件夹。</source>
+        <translation>In den Zielordner kommen (Dateien: %1, %2).</translation>
+    </message>
+    <message>
+        <source>不勾选时，回收、移动和备份前只比较抽样内容；永久删除和创建链接前总是比较全部内容</source>
+        <translation>Nicht angekreuzt: vor dem Verschieben in Papierkorb, Ordner und Sicherung werden nur Stichproben verglichen; vor endgültigem Löschen und Verknüpfen immer der ganze Inhalt</translation>
+    </message>
+    <message>
+        <source>仍占用</source>
+        <translation>Belegt</translation>
+    </message>
+    <message>
+        <source>保留记录（天）：</source>
+        <translation>Einträge behalten (Tage):</translation>
+    </message>
+    <message>
+        <source>全部处理</source>
+        <translation>Alle verarbeiten</translation>
+    </message>
+    <message>
+        <source>内容与要保留的文件不同，已保留: %1</source>
+        <translation>Der Inhalt weicht von der zu behaltenden Datei ab; blieb unberührt: %1</translation>
+    </message>
+    <message>
+        <source>决定移除对话框打开时是否已勾选「移除前先备份」；备份的文件移入备份文件夹，不会删除</source>
+        <translation>Legt fest, ob „Vor dem Entfernen sichern“ beim Öffnen des Dialogs angekreuzt ist; gesicherte Dateien kommen in den Sicherungsordner und werden nicht gelöscht</translation>
+    </message>
+    <message>
+        <source>删除更早的记录</source>
+        <translation>Ältere Einträge löschen</translation>
+    </message>
+    <message>
+        <source>删除记录</source>
+        <translation>Eintrag löschen</translation>
+    </message>
+    <message>
+        <source>回收站中保留 %1</source>
+        <translation>Im Papierkorb belegt: %1</translation>
+    </message>
+    <message>
+        <source>在历史中显示</source>
+        <translation>Im Verlauf zeigen</translation>
+    </message>
+    <message>
+        <source>备份中保留：%1</source>
+        <translation>In der Sicherung belegt: %1</translation>
+    </message>
+    <message>
+        <source>备份文件夹中保留 %1</source>
+        <translation>Im Sicherungsordner belegt: %1</translation>
+    </message>
+    <message>
+        <source>失败：%1</source>
+        <translation>Fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>将删除 %1 条清理记录。文件不受影响，但之后无法在此撤销这些清理。是否继续？</source>
+        <translation>Einträge des Verlaufs löschen: %1. Dateien bleiben unberührt, aber diese Bereinigungen können hier nicht mehr rückgängig gemacht werden. Fortfahren?</translation>
+    </message>
+    <message>
+        <source>将把 %1 个文件放回原处。是否继续？</source>
+        <translation>Dateien an ihren Ort zurücklegen: %1. Fortfahren?</translation>
+    </message>
+    <message>
+        <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
+        <translation>Die Dateien dieser Bereinigung im Sicherungsordner (%1) werden endgültig gelöscht und können von dort nicht mehr wiederhergestellt werden. Fortfahren?</translation>
+    </message>
+    <message>
+        <source>已中断</source>
+        <translation>Abgebrochen</translation>
+    </message>
+    <message>
+        <source>已停止，未处理: %1</source>
+        <translation>Angehalten; blieb unberührt: %1</translation>
+    </message>
+    <message>
+        <source>已删除 %1 个备份文件。</source>
+        <translation>Gelöschte Sicherungsdateien: %1.</translation>
+    </message>
+    <message>
+        <source>已完成</source>
+        <translation>Vollständig</translation>
+    </message>
+    <message>
+        <source>已撤销</source>
+        <translation>Rückgängig gemacht</translation>
+    </message>
+    <message>
+        <source>已放回原处</source>
+        <translation>Zurückgelegt</translation>
+    </message>
+    <message>
+        <source>已移除</source>
+        <translation>Entfernt</translation>
+    </message>
+    <message>
+        <source>已释放</source>
+        <translation>Frei</translation>
+    </message>
+    <message>
+        <source>已释放 %1</source>
+        <translation>Frei geworden: %1</translation>
+    </message>
+    <message>
+        <source>所有者或权限与链接目标不同，未处理: %1</source>
+        <translation>Besitzer oder Rechte weichen vom Ziel der Verknüpfung ab; blieb unberührt: %1</translation>
+    </message>
+    <message>
+        <source>撤销了 %1</source>
+        <translation>Machte %1 rückgängig</translation>
+    </message>
+    <message>
+        <source>撤销所选文件</source>
+        <translation>Markierte rückgängig machen</translation>
+    </message>
+    <message>
+        <source>撤销此次清理</source>
+        <translation>Bereinigung rückgängig machen</translation>
+    </message>
+    <message>
+        <source>撤销清理</source>
+        <translation>Bereinigung rückgängig machen</translation>
+    </message>
+    <message>
+        <source>文件仍在回收站中，可从那里恢复: %1</source>
+        <translation>Die Datei liegt noch im Papierkorb und kann von dort wiederhergestellt werden: %1</translation>
+    </message>
+    <message>
+        <source>文件已存在，是否替换？
+%1</source>
+        <translation>Die Datei existiert bereits. Ersetzen?
+%1</translation>
+    </message>
+    <message>
+        <source>文件数 / 保留的副本</source>
+        <translation>Dateien / behaltene Datei</translation>
+    </message>
+    <message>
+        <source>文件正被其他程序使用，未处理: %1</source>
+        <translation>Die Datei wird von einem anderen Programm benutzt; blieb unberührt: %1</translation>
+    </message>
+    <message>
+        <source>方式 / 现在位置</source>
+        <translation>Methode / jetziger Ort</translation>
+    </message>
+    <message>
+        <source>无法写入操作日志: %1</source>
+        <translation>Das Protokoll konnte nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>无法写入操作记录，未处理任何文件: %1</source>
+        <translation>Der Verlauf konnte nicht geschrieben werden; keine Datei wurde angerührt: %1</translation>
+    </message>
+    <message>
+        <source>无法更新备份索引: %1</source>
+        <translation>Der Sicherungsindex konnte nicht aktualisiert werden: %1</translation>
+    </message>
+    <message>
+        <source>无法确保要保留的文件已写入磁盘，未处理: %1</source>
+        <translation>Es ließ sich nicht sicherstellen, dass die zu behaltende Datei auf dem Datenträger ist; blieb unberührt: %1</translation>
+    </message>
+    <message>
+        <source>无法读取</source>
+        <translation>Nicht lesbar</translation>
+    </message>
+    <message>
+        <source>无结果记录</source>
+        <translation>Kein Ergebnis vermerkt</translation>
+    </message>
+    <message>
+        <source>时间 / 文件</source>
+        <translation>Zeit / Datei</translation>
+    </message>
+    <message>
+        <source>有 %1 条记录无法删除。</source>
+        <translation>Einträge, die nicht gelöscht werden konnten: %1.</translation>
+    </message>
+    <message>
+        <source>有 %1 组将不会留下任何副本。</source>
+        <translation>Gruppen, in denen keine Datei übrig bliebe: %1.</translation>
+    </message>
+    <message>
+        <source>正在删除备份… (%1/%2)</source>
+        <translation>Sicherungen werden gelöscht… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>正在检查文件… (%1/%2)</source>
+        <translation>Dateien werden geprüft… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>每次移除前比较全部内容</source>
+        <translation>Vor jedem Entfernen den ganzen Inhalt vergleichen</translation>
+    </message>
+    <message>
+        <source>每组取消勾选一个</source>
+        <translation>Je Gruppe ein Häkchen entfernen</translation>
+    </message>
+    <message>
+        <source>永久</source>
+        <translation>Unbegrenzt</translation>
+    </message>
+    <message>
+        <source>没有保留的副本</source>
+        <translation>Keine Datei bleibt übrig</translation>
+    </message>
+    <message>
+        <source>没有可以放回的文件。</source>
+        <translation>Es gibt keine Dateien zum Zurücklegen.</translation>
+    </message>
+    <message>
+        <source>没有更早的记录。</source>
+        <translation>Es gibt keine älteren Einträge.</translation>
+    </message>
+    <message>
+        <source>没有清理记录。</source>
+        <translation>Noch keine Bereinigungen.</translation>
+    </message>
+    <message>
+        <source>清理历史</source>
+        <translation>Verlauf der Bereinigungen</translation>
+    </message>
+    <message>
+        <source>清理历史(&amp;C)…</source>
+        <translation>&amp;Verlauf der Bereinigungen…</translation>
+    </message>
+    <message>
+        <source>目标文件夹包含该文件，未处理: %1</source>
+        <translation>Der Zielordner enthält die Datei; blieb unberührt: %1</translation>
+    </message>
+    <message>
+        <source>硬链接</source>
+        <translation>Feste Verknüpfung</translation>
+    </message>
+    <message>
+        <source>确认替换</source>
+        <translation>Ersetzen bestätigen</translation>
+    </message>
+    <message>
+        <source>移入回收站</source>
+        <translation>In den Papierkorb</translation>
+    </message>
+    <message>
+        <source>移动到文件夹</source>
+        <translation>In Ordner verschoben</translation>
+    </message>
+    <message>
+        <source>符号链接</source>
+        <translation>Symbolische Verknüpfung</translation>
+    </message>
+    <message>
+        <source>要保留的文件已不在原处，或经由另一路径就是该文件本身，未处理: %1</source>
+        <translation>Die zu behaltende Datei ist nicht mehr da oder ist über einen anderen Pfad diese Datei selbst; blieb unberührt: %1</translation>
+    </message>
+    <message>
+        <source>部分已撤销</source>
+        <translation>Teils rückgängig gemacht</translation>
+    </message>
+    <message>
+        <source>部分组不是按内容匹配的，处理前不会比较这些文件的内容。</source>
+        <translation>Einige Gruppen stimmen nicht im Inhalt überein; ihre Dateien werden vor dem Entfernen nicht verglichen.</translation>
+    </message>
+    <message>
+        <source>释放 %1</source>
+        <translation>%1 freigeben</translation>
+    </message>
+    <message>
+        <source>释放备份</source>
+        <translation>Sicherung freigeben</translation>
+    </message>
+    <message>
         <source>恢复所选</source>
         <translation>Markierte wiederherstellen</translation>
     </message>
@@ -2162,10 +2468,6 @@ Die nächste Bildsuche dauert länger. Fortfahren?</translation>
     <message>
         <source>…… 另有 %1 行未显示</source>
         <translation>… weitere Zeilen, nicht angezeigt: %1</translation>
-    </message>
-    <message>
-        <source>未勾选的文件，未处理: %1</source>
-        <translation>Nicht angekreuzt; nicht verarbeitet: %1</translation>
     </message>
     <message>
         <source>链接目标属于另一组，未处理: %1</source>

@@ -1070,10 +1070,6 @@ Title: %1</translation>
         <translation>Export…</translation>
     </message>
     <message>
-        <source>删除文件前先将其移动到备份文件夹</source>
-        <translation>Moves files to the backup folder instead of deleting them</translation>
-    </message>
-    <message>
         <source>文件预览</source>
         <translation>File preview</translation>
     </message>
@@ -2108,6 +2104,316 @@ Next image scan will be slower. Continue?</translation>
         <translation>Filter by path</translation>
     </message>
     <message>
+        <source>
+无法放回的文件（%1 个）：
+</source>
+        <translation>
+Files that cannot be put back (%1):
+</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
+        <translation>%1 files, %2, will not be removed: links are only made where the path is free. To replace the files by links, back up first.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将永久删除，不进回收站，无法找回。</source>
+        <translation>%1 files, %2, will be deleted permanently; they do not go to the Recycle Bin and cannot be brought back.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将永久删除，不进回收站；可以用保留的副本重新生成。</source>
+        <translation>%1 files, %2, will be deleted permanently; they do not go to the Recycle Bin, but can be made again from the kept copies.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移入回收站，清空回收站后才释放空间。</source>
+        <translation>%1 files, %2, will be moved to the Recycle Bin; space is freed when it is emptied.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不会永久删除。</source>
+        <translation>%1 files, %2, will be moved to the backup folder; nothing is deleted permanently.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不使用回收站。</source>
+        <translation>%1 files, %2, will be moved to the backup folder; the Recycle Bin is not used.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不使用目标文件夹。</source>
+        <translation>%1 files, %2, will be moved to the backup folder; the target folder is not used.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，原位置由链接代替。</source>
+        <translation>%1 files, %2, will be moved to the backup folder; links take their place.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到目标文件夹。</source>
+        <translation>%1 files, %2, will be moved to the target folder.</translation>
+    </message>
+    <message>
+        <source>不勾选时，回收、移动和备份前只比较抽样内容；永久删除和创建链接前总是比较全部内容</source>
+        <translation>Unless checked, only samples are compared before recycling, moving and backing up; before deleting permanently and linking, whole contents always are</translation>
+    </message>
+    <message>
+        <source>仍占用</source>
+        <translation>Held</translation>
+    </message>
+    <message>
+        <source>保留记录（天）：</source>
+        <translation>Keep records (days):</translation>
+    </message>
+    <message>
+        <source>全部处理</source>
+        <translation>Process all</translation>
+    </message>
+    <message>
+        <source>内容与要保留的文件不同，已保留: %1</source>
+        <translation>Content differs from the file to keep; left alone: %1</translation>
+    </message>
+    <message>
+        <source>决定移除对话框打开时是否已勾选「移除前先备份」；备份的文件移入备份文件夹，不会删除</source>
+        <translation>Decides whether “Backup before remove” is already checked when the removal dialog opens; files backed up go to the backup folder and are not deleted</translation>
+    </message>
+    <message>
+        <source>删除更早的记录</source>
+        <translation>Remove older records</translation>
+    </message>
+    <message>
+        <source>删除记录</source>
+        <translation>Remove record</translation>
+    </message>
+    <message>
+        <source>回收站中保留 %1</source>
+        <translation>%1 held in the recycle bin</translation>
+    </message>
+    <message>
+        <source>在历史中显示</source>
+        <translation>Show in history</translation>
+    </message>
+    <message>
+        <source>备份中保留：%1</source>
+        <translation>Held in backup: %1</translation>
+    </message>
+    <message>
+        <source>备份文件夹中保留 %1</source>
+        <translation>%1 held in the backup folder</translation>
+    </message>
+    <message>
+        <source>失败：%1</source>
+        <translation>Failed: %1</translation>
+    </message>
+    <message>
+        <source>将删除 %1 条清理记录。文件不受影响，但之后无法在此撤销这些清理。是否继续？</source>
+        <translation>%1 cleaning records will be deleted. Files are not touched, but these cleanings can no longer be undone here. Continue?</translation>
+    </message>
+    <message>
+        <source>将把 %1 个文件放回原处。是否继续？</source>
+        <translation>%1 files will be put back where they were. Continue?</translation>
+    </message>
+    <message>
+        <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
+        <translation>The files of this cleaning in the backup folder (%1) will be deleted permanently and can no longer be restored from there. Continue?</translation>
+    </message>
+    <message>
+        <source>已中断</source>
+        <translation>Interrupted</translation>
+    </message>
+    <message>
+        <source>已停止，未处理: %1</source>
+        <translation>Stopped; left alone: %1</translation>
+    </message>
+    <message>
+        <source>已删除 %1 个备份文件。</source>
+        <translation>Deleted %1 backup files.</translation>
+    </message>
+    <message>
+        <source>已完成</source>
+        <translation>Complete</translation>
+    </message>
+    <message>
+        <source>已撤销</source>
+        <translation>Undone</translation>
+    </message>
+    <message>
+        <source>已放回原处</source>
+        <translation>Put back</translation>
+    </message>
+    <message>
+        <source>已移除</source>
+        <translation>Removed</translation>
+    </message>
+    <message>
+        <source>已释放</source>
+        <translation>Freed</translation>
+    </message>
+    <message>
+        <source>已释放 %1</source>
+        <translation>freed %1</translation>
+    </message>
+    <message>
+        <source>所有者或权限与链接目标不同，未处理: %1</source>
+        <translation>Owner or permissions differ from those of the link target; left alone: %1</translation>
+    </message>
+    <message>
+        <source>撤销了 %1</source>
+        <translation>Undoing of %1</translation>
+    </message>
+    <message>
+        <source>撤销所选文件</source>
+        <translation>Undo selected</translation>
+    </message>
+    <message>
+        <source>撤销此次清理</source>
+        <translation>Undo this run</translation>
+    </message>
+    <message>
+        <source>撤销清理</source>
+        <translation>Undo cleaning</translation>
+    </message>
+    <message>
+        <source>文件仍在回收站中，可从那里恢复: %1</source>
+        <translation>The file is still in the Recycle Bin and can be restored from there: %1</translation>
+    </message>
+    <message>
+        <source>文件已存在，是否替换？
+%1</source>
+        <translation>The file exists. Replace it?
+%1</translation>
+    </message>
+    <message>
+        <source>文件数 / 保留的副本</source>
+        <translation>Files / kept copy</translation>
+    </message>
+    <message>
+        <source>文件正被其他程序使用，未处理: %1</source>
+        <translation>The file is in use by another program; left alone: %1</translation>
+    </message>
+    <message>
+        <source>方式 / 现在位置</source>
+        <translation>Method / where it is now</translation>
+    </message>
+    <message>
+        <source>无法写入操作日志: %1</source>
+        <translation>Could not write the operation log: %1</translation>
+    </message>
+    <message>
+        <source>无法写入操作记录，未处理任何文件: %1</source>
+        <translation>Could not write the record of the cleaning; no file was touched: %1</translation>
+    </message>
+    <message>
+        <source>无法更新备份索引: %1</source>
+        <translation>Could not update the backup index: %1</translation>
+    </message>
+    <message>
+        <source>无法确保要保留的文件已写入磁盘，未处理: %1</source>
+        <translation>Could not make sure that the file to keep is on the disk; left alone: %1</translation>
+    </message>
+    <message>
+        <source>无法读取</source>
+        <translation>Unreadable</translation>
+    </message>
+    <message>
+        <source>无结果记录</source>
+        <translation>No outcome recorded</translation>
+    </message>
+    <message>
+        <source>时间 / 文件</source>
+        <translation>Time / file</translation>
+    </message>
+    <message>
+        <source>有 %1 条记录无法删除。</source>
+        <translation>%1 records could not be deleted.</translation>
+    </message>
+    <message>
+        <source>有 %1 组将不会留下任何副本。</source>
+        <translation>In %1 groups no copy would remain.</translation>
+    </message>
+    <message>
+        <source>正在删除备份… (%1/%2)</source>
+        <translation>Deleting backups… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>正在检查文件… (%1/%2)</source>
+        <translation>Checking files… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>每次移除前比较全部内容</source>
+        <translation>Compare whole contents before every removal</translation>
+    </message>
+    <message>
+        <source>每组取消勾选一个</source>
+        <translation>Uncheck one in each group</translation>
+    </message>
+    <message>
+        <source>永久</source>
+        <translation>Forever</translation>
+    </message>
+    <message>
+        <source>没有保留的副本</source>
+        <translation>No copy remains</translation>
+    </message>
+    <message>
+        <source>没有可以放回的文件。</source>
+        <translation>There are no files to put back.</translation>
+    </message>
+    <message>
+        <source>没有更早的记录。</source>
+        <translation>There are no older records.</translation>
+    </message>
+    <message>
+        <source>没有清理记录。</source>
+        <translation>There are no cleaning records.</translation>
+    </message>
+    <message>
+        <source>清理历史</source>
+        <translation>Cleaning history</translation>
+    </message>
+    <message>
+        <source>清理历史(&amp;C)…</source>
+        <translation>&amp;Cleaning history…</translation>
+    </message>
+    <message>
+        <source>目标文件夹包含该文件，未处理: %1</source>
+        <translation>The target folder holds the file; left alone: %1</translation>
+    </message>
+    <message>
+        <source>硬链接</source>
+        <translation>Hard link</translation>
+    </message>
+    <message>
+        <source>确认替换</source>
+        <translation>Confirm replacing</translation>
+    </message>
+    <message>
+        <source>移入回收站</source>
+        <translation>Moved to Recycle Bin</translation>
+    </message>
+    <message>
+        <source>移动到文件夹</source>
+        <translation>Moved to folder</translation>
+    </message>
+    <message>
+        <source>符号链接</source>
+        <translation>Symbolic link</translation>
+    </message>
+    <message>
+        <source>要保留的文件已不在原处，或经由另一路径就是该文件本身，未处理: %1</source>
+        <translation>The file to keep is no longer there, or is this file by another path; left alone: %1</translation>
+    </message>
+    <message>
+        <source>部分已撤销</source>
+        <translation>Partly undone</translation>
+    </message>
+    <message>
+        <source>部分组不是按内容匹配的，处理前不会比较这些文件的内容。</source>
+        <translation>Some groups do not match by content; their files are not compared before they are removed.</translation>
+    </message>
+    <message>
+        <source>释放 %1</source>
+        <translation>Free %1</translation>
+    </message>
+    <message>
+        <source>释放备份</source>
+        <translation>Free backups</translation>
+    </message>
+    <message>
         <source>恢复所选</source>
         <translation>Restore selected</translation>
     </message>
@@ -2162,10 +2468,6 @@ Next image scan will be slower. Continue?</translation>
     <message>
         <source>…… 另有 %1 行未显示</source>
         <translation>… %1 more lines not shown</translation>
-    </message>
-    <message>
-        <source>未勾选的文件，未处理: %1</source>
-        <translation>Not checked; not processed: %1</translation>
     </message>
     <message>
         <source>链接目标属于另一组，未处理: %1</source>

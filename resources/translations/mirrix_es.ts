@@ -1070,10 +1070,6 @@ Título: %1</translation>
         <translation>Exportar…</translation>
     </message>
     <message>
-        <source>删除文件前先将其移动到备份文件夹</source>
-        <translation>Mueve los archivos a la carpeta de copias de seguridad en lugar de eliminarlos</translation>
-    </message>
-    <message>
         <source>文件预览</source>
         <translation>Vista previa del archivo</translation>
     </message>
@@ -2108,6 +2104,316 @@ El próximo análisis de imágenes será más lento. ¿Continuar?</translation>
         <translation>Filtrar por ruta</translation>
     </message>
     <message>
+        <source>
+无法放回的文件（%1 个）：
+</source>
+        <translation>
+Archivos que no se pueden devolver a su lugar (%1):
+</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
+        <translation>Archivos que no se eliminarán: %1 (%2). Solo se crean enlaces donde la ruta está libre. Para sustituir los archivos por enlaces, haga antes copia de seguridad.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将永久删除，不进回收站，无法找回。</source>
+        <translation>Archivos que se eliminarán de forma permanente: %1 (%2). No van a la Papelera de reciclaje y no se pueden recuperar.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将永久删除，不进回收站；可以用保留的副本重新生成。</source>
+        <translation>Archivos que se eliminarán de forma permanente: %1 (%2). No van a la Papelera de reciclaje, pero se pueden volver a crear a partir de los conservados.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移入回收站，清空回收站后才释放空间。</source>
+        <translation>Archivos que irán a la Papelera de reciclaje: %1 (%2). El espacio se libera al vaciarla.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不会永久删除。</source>
+        <translation>Archivos que irán a la carpeta de copias de seguridad: %1 (%2). No se elimina nada de forma permanente.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不使用回收站。</source>
+        <translation>Archivos que irán a la carpeta de copias de seguridad: %1 (%2). No se usa la Papelera de reciclaje.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不使用目标文件夹。</source>
+        <translation>Archivos que irán a la carpeta de copias de seguridad: %1 (%2). No se usa la carpeta de destino.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，原位置由链接代替。</source>
+        <translation>Archivos que irán a la carpeta de copias de seguridad: %1 (%2). Los sustituyen enlaces.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到目标文件夹。</source>
+        <translation>Archivos que irán a la carpeta de destino: %1 (%2).</translation>
+    </message>
+    <message>
+        <source>不勾选时，回收、移动和备份前只比较抽样内容；永久删除和创建链接前总是比较全部内容</source>
+        <translation>Si no está marcado, antes de reciclar, mover y hacer copia de seguridad solo se comparan muestras; antes de eliminar de forma permanente y de enlazar, siempre todo el contenido</translation>
+    </message>
+    <message>
+        <source>仍占用</source>
+        <translation>Ocupado</translation>
+    </message>
+    <message>
+        <source>保留记录（天）：</source>
+        <translation>Conservar registros (días):</translation>
+    </message>
+    <message>
+        <source>全部处理</source>
+        <translation>Procesar todo</translation>
+    </message>
+    <message>
+        <source>内容与要保留的文件不同，已保留: %1</source>
+        <translation>El contenido difiere del archivo que se debe conservar; sin procesar: %1</translation>
+    </message>
+    <message>
+        <source>决定移除对话框打开时是否已勾选「移除前先备份」；备份的文件移入备份文件夹，不会删除</source>
+        <translation>Decide si «Copia de seguridad antes de eliminar» está marcado al abrir el diálogo; los archivos van a la carpeta de copias de seguridad y no se eliminan</translation>
+    </message>
+    <message>
+        <source>删除更早的记录</source>
+        <translation>Borrar los anteriores</translation>
+    </message>
+    <message>
+        <source>删除记录</source>
+        <translation>Borrar registro</translation>
+    </message>
+    <message>
+        <source>回收站中保留 %1</source>
+        <translation>Ocupado en la Papelera de reciclaje: %1</translation>
+    </message>
+    <message>
+        <source>在历史中显示</source>
+        <translation>Ver en el historial</translation>
+    </message>
+    <message>
+        <source>备份中保留：%1</source>
+        <translation>Ocupado en copias: %1</translation>
+    </message>
+    <message>
+        <source>备份文件夹中保留 %1</source>
+        <translation>Ocupado en la carpeta de copias de seguridad: %1</translation>
+    </message>
+    <message>
+        <source>失败：%1</source>
+        <translation>Error: %1</translation>
+    </message>
+    <message>
+        <source>将删除 %1 条清理记录。文件不受影响，但之后无法在此撤销这些清理。是否继续？</source>
+        <translation>Registros de limpieza que se borrarán: %1. Los archivos no se tocan, pero estas limpiezas ya no se podrán deshacer aquí. ¿Continuar?</translation>
+    </message>
+    <message>
+        <source>将把 %1 个文件放回原处。是否继续？</source>
+        <translation>Archivos que se devolverán a su lugar: %1. ¿Continuar?</translation>
+    </message>
+    <message>
+        <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
+        <translation>Los archivos de esta limpieza en la carpeta de copias de seguridad (%1) se eliminarán de forma permanente y ya no se podrán restaurar. ¿Continuar?</translation>
+    </message>
+    <message>
+        <source>已中断</source>
+        <translation>Interrumpido</translation>
+    </message>
+    <message>
+        <source>已停止，未处理: %1</source>
+        <translation>Detenido; sin procesar: %1</translation>
+    </message>
+    <message>
+        <source>已删除 %1 个备份文件。</source>
+        <translation>Archivos de copia de seguridad eliminados: %1.</translation>
+    </message>
+    <message>
+        <source>已完成</source>
+        <translation>Completo</translation>
+    </message>
+    <message>
+        <source>已撤销</source>
+        <translation>Deshecho</translation>
+    </message>
+    <message>
+        <source>已放回原处</source>
+        <translation>Devuelto a su lugar</translation>
+    </message>
+    <message>
+        <source>已移除</source>
+        <translation>Eliminado</translation>
+    </message>
+    <message>
+        <source>已释放</source>
+        <translation>Liberado</translation>
+    </message>
+    <message>
+        <source>已释放 %1</source>
+        <translation>Liberado: %1</translation>
+    </message>
+    <message>
+        <source>所有者或权限与链接目标不同，未处理: %1</source>
+        <translation>El propietario o los permisos difieren del destino del enlace; sin procesar: %1</translation>
+    </message>
+    <message>
+        <source>撤销了 %1</source>
+        <translation>Deshizo %1</translation>
+    </message>
+    <message>
+        <source>撤销所选文件</source>
+        <translation>Deshacer seleccionados</translation>
+    </message>
+    <message>
+        <source>撤销此次清理</source>
+        <translation>Deshacer esta limpieza</translation>
+    </message>
+    <message>
+        <source>撤销清理</source>
+        <translation>Deshacer limpieza</translation>
+    </message>
+    <message>
+        <source>文件仍在回收站中，可从那里恢复: %1</source>
+        <translation>El archivo sigue en la Papelera de reciclaje y se puede restaurar desde allí: %1</translation>
+    </message>
+    <message>
+        <source>文件已存在，是否替换？
+%1</source>
+        <translation>El archivo ya existe. ¿Reemplazarlo?
+%1</translation>
+    </message>
+    <message>
+        <source>文件数 / 保留的副本</source>
+        <translation>Archivos / conservado</translation>
+    </message>
+    <message>
+        <source>文件正被其他程序使用，未处理: %1</source>
+        <translation>Otro programa está usando el archivo; sin procesar: %1</translation>
+    </message>
+    <message>
+        <source>方式 / 现在位置</source>
+        <translation>Método / lugar actual</translation>
+    </message>
+    <message>
+        <source>无法写入操作日志: %1</source>
+        <translation>No se pudo escribir el registro de operaciones: %1</translation>
+    </message>
+    <message>
+        <source>无法写入操作记录，未处理任何文件: %1</source>
+        <translation>No se pudo escribir el registro de la limpieza; no se procesó ningún archivo: %1</translation>
+    </message>
+    <message>
+        <source>无法更新备份索引: %1</source>
+        <translation>No se pudo actualizar el índice de copias de seguridad: %1</translation>
+    </message>
+    <message>
+        <source>无法确保要保留的文件已写入磁盘，未处理: %1</source>
+        <translation>No se pudo asegurar que el archivo que se debe conservar esté en el disco; sin procesar: %1</translation>
+    </message>
+    <message>
+        <source>无法读取</source>
+        <translation>Ilegible</translation>
+    </message>
+    <message>
+        <source>无结果记录</source>
+        <translation>Sin resultado registrado</translation>
+    </message>
+    <message>
+        <source>时间 / 文件</source>
+        <translation>Fecha / archivo</translation>
+    </message>
+    <message>
+        <source>有 %1 条记录无法删除。</source>
+        <translation>Registros que no se pudieron borrar: %1.</translation>
+    </message>
+    <message>
+        <source>有 %1 组将不会留下任何副本。</source>
+        <translation>Grupos en los que no quedaría ningún archivo: %1.</translation>
+    </message>
+    <message>
+        <source>正在删除备份… (%1/%2)</source>
+        <translation>Eliminando copias de seguridad… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>正在检查文件… (%1/%2)</source>
+        <translation>Comprobando archivos… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>每次移除前比较全部内容</source>
+        <translation>Comparar todo el contenido antes de cada eliminación</translation>
+    </message>
+    <message>
+        <source>每组取消勾选一个</source>
+        <translation>Quitar una marca en cada grupo</translation>
+    </message>
+    <message>
+        <source>永久</source>
+        <translation>Siempre</translation>
+    </message>
+    <message>
+        <source>没有保留的副本</source>
+        <translation>No queda ningún archivo</translation>
+    </message>
+    <message>
+        <source>没有可以放回的文件。</source>
+        <translation>No hay archivos que devolver a su lugar.</translation>
+    </message>
+    <message>
+        <source>没有更早的记录。</source>
+        <translation>No hay registros anteriores.</translation>
+    </message>
+    <message>
+        <source>没有清理记录。</source>
+        <translation>No hay limpiezas registradas.</translation>
+    </message>
+    <message>
+        <source>清理历史</source>
+        <translation>Historial de limpieza</translation>
+    </message>
+    <message>
+        <source>清理历史(&amp;C)…</source>
+        <translation>&amp;Historial de limpieza…</translation>
+    </message>
+    <message>
+        <source>目标文件夹包含该文件，未处理: %1</source>
+        <translation>La carpeta de destino contiene el archivo; sin procesar: %1</translation>
+    </message>
+    <message>
+        <source>硬链接</source>
+        <translation>Enlace físico</translation>
+    </message>
+    <message>
+        <source>确认替换</source>
+        <translation>Confirmar el reemplazo</translation>
+    </message>
+    <message>
+        <source>移入回收站</source>
+        <translation>Enviado a la Papelera</translation>
+    </message>
+    <message>
+        <source>移动到文件夹</source>
+        <translation>Movido a carpeta</translation>
+    </message>
+    <message>
+        <source>符号链接</source>
+        <translation>Enlace simbólico</translation>
+    </message>
+    <message>
+        <source>要保留的文件已不在原处，或经由另一路径就是该文件本身，未处理: %1</source>
+        <translation>El archivo que se debe conservar ya no está, o es este mismo archivo por otra ruta; sin procesar: %1</translation>
+    </message>
+    <message>
+        <source>部分已撤销</source>
+        <translation>Deshecho en parte</translation>
+    </message>
+    <message>
+        <source>部分组不是按内容匹配的，处理前不会比较这些文件的内容。</source>
+        <translation>Algunos grupos no coinciden por contenido; sus archivos no se comparan antes de eliminarlos.</translation>
+    </message>
+    <message>
+        <source>释放 %1</source>
+        <translation>Liberar %1</translation>
+    </message>
+    <message>
+        <source>释放备份</source>
+        <translation>Liberar copias</translation>
+    </message>
+    <message>
         <source>恢复所选</source>
         <translation>Restaurar seleccionados</translation>
     </message>
@@ -2162,10 +2468,6 @@ El próximo análisis de imágenes será más lento. ¿Continuar?</translation>
     <message>
         <source>…… 另有 %1 行未显示</source>
         <translation>… otras líneas no mostradas: %1</translation>
-    </message>
-    <message>
-        <source>未勾选的文件，未处理: %1</source>
-        <translation>Sin marcar; no procesado: %1</translation>
     </message>
     <message>
         <source>链接目标属于另一组，未处理: %1</source>

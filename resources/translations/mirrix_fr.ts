@@ -1070,10 +1070,6 @@ Titre : %1</translation>
         <translation>Exporter…</translation>
     </message>
     <message>
-        <source>删除文件前先将其移动到备份文件夹</source>
-        <translation>Déplace les fichiers vers le dossier de sauvegarde au lieu de les supprimer</translation>
-    </message>
-    <message>
         <source>文件预览</source>
         <translation>Aperçu du fichier</translation>
     </message>
@@ -2108,6 +2104,316 @@ La prochaine analyse d’images sera plus lente. Continuer ?</translation>
         <translation>Filtrer par chemin</translation>
     </message>
     <message>
+        <source>
+无法放回的文件（%1 个）：
+</source>
+        <translation>
+Fichiers impossibles à remettre en place (%1) :
+</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
+        <translation>Fichiers non supprimés : %1 (%2). Un lien n’est créé que si le chemin est libre. Pour remplacer les fichiers par des liens, sauvegardez d’abord.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将永久删除，不进回收站，无法找回。</source>
+        <translation>Fichiers à supprimer définitivement : %1 (%2). Ils ne vont pas dans la Corbeille et sont irrécupérables.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将永久删除，不进回收站；可以用保留的副本重新生成。</source>
+        <translation>Fichiers à supprimer définitivement : %1 (%2). Ils ne vont pas dans la Corbeille, mais peuvent être recréés à partir des fichiers conservés.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移入回收站，清空回收站后才释放空间。</source>
+        <translation>Fichiers à placer dans la Corbeille : %1 (%2). L’espace n’est libéré que lorsqu’elle est vidée.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不会永久删除。</source>
+        <translation>Fichiers à déplacer vers le dossier de sauvegarde : %1 (%2). Rien n’est supprimé définitivement.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不使用回收站。</source>
+        <translation>Fichiers à déplacer vers le dossier de sauvegarde : %1 (%2). La Corbeille n’est pas utilisée.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不使用目标文件夹。</source>
+        <translation>Fichiers à déplacer vers le dossier de sauvegarde : %1 (%2). Le dossier cible n’est pas utilisé.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，原位置由链接代替。</source>
+        <translation>Fichiers à déplacer vers le dossier de sauvegarde : %1 (%2). Des liens les remplacent.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到目标文件夹。</source>
+        <translation>Fichiers à déplacer vers le dossier cible : %1 (%2).</translation>
+    </message>
+    <message>
+        <source>不勾选时，回收、移动和备份前只比较抽样内容；永久删除和创建链接前总是比较全部内容</source>
+        <translation>Si la case n’est pas cochée, seuls des échantillons sont comparés avant la mise à la Corbeille, le déplacement et la sauvegarde ; avant la suppression définitive et la création de liens, tout le contenu l’est toujours</translation>
+    </message>
+    <message>
+        <source>仍占用</source>
+        <translation>Occupé</translation>
+    </message>
+    <message>
+        <source>保留记录（天）：</source>
+        <translation>Garder l’historique (jours) :</translation>
+    </message>
+    <message>
+        <source>全部处理</source>
+        <translation>Tout traiter</translation>
+    </message>
+    <message>
+        <source>内容与要保留的文件不同，已保留: %1</source>
+        <translation>Contenu différent du fichier à conserver ; non traité : %1</translation>
+    </message>
+    <message>
+        <source>决定移除对话框打开时是否已勾选「移除前先备份」；备份的文件移入备份文件夹，不会删除</source>
+        <translation>Détermine si « Sauvegarder avant de supprimer » est coché à l’ouverture de la boîte de suppression ; les fichiers sauvegardés vont dans le dossier de sauvegarde et ne sont pas supprimés</translation>
+    </message>
+    <message>
+        <source>删除更早的记录</source>
+        <translation>Effacer les plus anciens</translation>
+    </message>
+    <message>
+        <source>删除记录</source>
+        <translation>Effacer l’entrée</translation>
+    </message>
+    <message>
+        <source>回收站中保留 %1</source>
+        <translation>Occupé dans la Corbeille : %1</translation>
+    </message>
+    <message>
+        <source>在历史中显示</source>
+        <translation>Voir dans l’historique</translation>
+    </message>
+    <message>
+        <source>备份中保留：%1</source>
+        <translation>Occupé par les sauvegardes : %1</translation>
+    </message>
+    <message>
+        <source>备份文件夹中保留 %1</source>
+        <translation>Occupé dans le dossier de sauvegarde : %1</translation>
+    </message>
+    <message>
+        <source>失败：%1</source>
+        <translation>Échec : %1</translation>
+    </message>
+    <message>
+        <source>将删除 %1 条清理记录。文件不受影响，但之后无法在此撤销这些清理。是否继续？</source>
+        <translation>Entrées de l’historique à effacer : %1. Les fichiers ne sont pas touchés, mais ces nettoyages ne pourront plus être annulés ici. Continuer ?</translation>
+    </message>
+    <message>
+        <source>将把 %1 个文件放回原处。是否继续？</source>
+        <translation>Fichiers à remettre en place : %1. Continuer ?</translation>
+    </message>
+    <message>
+        <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
+        <translation>Les fichiers de ce nettoyage dans le dossier de sauvegarde (%1) seront supprimés définitivement et ne pourront plus être restaurés. Continuer ?</translation>
+    </message>
+    <message>
+        <source>已中断</source>
+        <translation>Interrompu</translation>
+    </message>
+    <message>
+        <source>已停止，未处理: %1</source>
+        <translation>Arrêté ; non traité : %1</translation>
+    </message>
+    <message>
+        <source>已删除 %1 个备份文件。</source>
+        <translation>Fichiers de sauvegarde supprimés : %1.</translation>
+    </message>
+    <message>
+        <source>已完成</source>
+        <translation>Terminé</translation>
+    </message>
+    <message>
+        <source>已撤销</source>
+        <translation>Annulé</translation>
+    </message>
+    <message>
+        <source>已放回原处</source>
+        <translation>Remis en place</translation>
+    </message>
+    <message>
+        <source>已移除</source>
+        <translation>Supprimé</translation>
+    </message>
+    <message>
+        <source>已释放</source>
+        <translation>Libéré</translation>
+    </message>
+    <message>
+        <source>已释放 %1</source>
+        <translation>Libéré : %1</translation>
+    </message>
+    <message>
+        <source>所有者或权限与链接目标不同，未处理: %1</source>
+        <translation>Propriétaire ou droits différents de ceux de la cible du lien ; non traité : %1</translation>
+    </message>
+    <message>
+        <source>撤销了 %1</source>
+        <translation>Annulation de %1</translation>
+    </message>
+    <message>
+        <source>撤销所选文件</source>
+        <translation>Annuler la sélection</translation>
+    </message>
+    <message>
+        <source>撤销此次清理</source>
+        <translation>Annuler ce nettoyage</translation>
+    </message>
+    <message>
+        <source>撤销清理</source>
+        <translation>Annuler le nettoyage</translation>
+    </message>
+    <message>
+        <source>文件仍在回收站中，可从那里恢复: %1</source>
+        <translation>Le fichier est encore dans la Corbeille et peut en être restauré : %1</translation>
+    </message>
+    <message>
+        <source>文件已存在，是否替换？
+%1</source>
+        <translation>Le fichier existe. Le remplacer ?
+%1</translation>
+    </message>
+    <message>
+        <source>文件数 / 保留的副本</source>
+        <translation>Fichiers / conservé</translation>
+    </message>
+    <message>
+        <source>文件正被其他程序使用，未处理: %1</source>
+        <translation>Fichier utilisé par un autre programme ; non traité : %1</translation>
+    </message>
+    <message>
+        <source>方式 / 现在位置</source>
+        <translation>Méthode / emplacement</translation>
+    </message>
+    <message>
+        <source>无法写入操作日志: %1</source>
+        <translation>Impossible d’écrire le journal des opérations : %1</translation>
+    </message>
+    <message>
+        <source>无法写入操作记录，未处理任何文件: %1</source>
+        <translation>Impossible d’écrire l’historique du nettoyage ; aucun fichier traité : %1</translation>
+    </message>
+    <message>
+        <source>无法更新备份索引: %1</source>
+        <translation>Impossible de mettre à jour l’index de sauvegarde : %1</translation>
+    </message>
+    <message>
+        <source>无法确保要保留的文件已写入磁盘，未处理: %1</source>
+        <translation>Impossible de garantir que le fichier à conserver est sur le disque ; non traité : %1</translation>
+    </message>
+    <message>
+        <source>无法读取</source>
+        <translation>Illisible</translation>
+    </message>
+    <message>
+        <source>无结果记录</source>
+        <translation>Résultat non enregistré</translation>
+    </message>
+    <message>
+        <source>时间 / 文件</source>
+        <translation>Date / fichier</translation>
+    </message>
+    <message>
+        <source>有 %1 条记录无法删除。</source>
+        <translation>Entrées impossibles à effacer : %1.</translation>
+    </message>
+    <message>
+        <source>有 %1 组将不会留下任何副本。</source>
+        <translation>Groupes dont il ne resterait aucun fichier : %1.</translation>
+    </message>
+    <message>
+        <source>正在删除备份… (%1/%2)</source>
+        <translation>Suppression des sauvegardes… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>正在检查文件… (%1/%2)</source>
+        <translation>Vérification des fichiers… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>每次移除前比较全部内容</source>
+        <translation>Comparer tout le contenu avant chaque suppression</translation>
+    </message>
+    <message>
+        <source>每组取消勾选一个</source>
+        <translation>Décocher un fichier par groupe</translation>
+    </message>
+    <message>
+        <source>永久</source>
+        <translation>Toujours</translation>
+    </message>
+    <message>
+        <source>没有保留的副本</source>
+        <translation>Aucun fichier conservé</translation>
+    </message>
+    <message>
+        <source>没有可以放回的文件。</source>
+        <translation>Aucun fichier à remettre en place.</translation>
+    </message>
+    <message>
+        <source>没有更早的记录。</source>
+        <translation>Aucune entrée plus ancienne.</translation>
+    </message>
+    <message>
+        <source>没有清理记录。</source>
+        <translation>Aucun nettoyage enregistré.</translation>
+    </message>
+    <message>
+        <source>清理历史</source>
+        <translation>Historique des nettoyages</translation>
+    </message>
+    <message>
+        <source>清理历史(&amp;C)…</source>
+        <translation>&amp;Historique des nettoyages…</translation>
+    </message>
+    <message>
+        <source>目标文件夹包含该文件，未处理: %1</source>
+        <translation>Le dossier cible contient le fichier ; non traité : %1</translation>
+    </message>
+    <message>
+        <source>硬链接</source>
+        <translation>Lien physique</translation>
+    </message>
+    <message>
+        <source>确认替换</source>
+        <translation>Confirmer le remplacement</translation>
+    </message>
+    <message>
+        <source>移入回收站</source>
+        <translation>Placé dans la Corbeille</translation>
+    </message>
+    <message>
+        <source>移动到文件夹</source>
+        <translation>Déplacé vers un dossier</translation>
+    </message>
+    <message>
+        <source>符号链接</source>
+        <translation>Lien symbolique</translation>
+    </message>
+    <message>
+        <source>要保留的文件已不在原处，或经由另一路径就是该文件本身，未处理: %1</source>
+        <translation>Le fichier à conserver n’est plus là, ou c’est ce fichier par un autre chemin ; non traité : %1</translation>
+    </message>
+    <message>
+        <source>部分已撤销</source>
+        <translation>Annulé en partie</translation>
+    </message>
+    <message>
+        <source>部分组不是按内容匹配的，处理前不会比较这些文件的内容。</source>
+        <translation>Certains groupes ne correspondent pas par le contenu ; leurs fichiers ne sont pas comparés avant d’être supprimés.</translation>
+    </message>
+    <message>
+        <source>释放 %1</source>
+        <translation>Libérer %1</translation>
+    </message>
+    <message>
+        <source>释放备份</source>
+        <translation>Libérer les sauvegardes</translation>
+    </message>
+    <message>
         <source>恢复所选</source>
         <translation>Restaurer la sélection</translation>
     </message>
@@ -2162,10 +2468,6 @@ La prochaine analyse d’images sera plus lente. Continuer ?</translation>
     <message>
         <source>…… 另有 %1 行未显示</source>
         <translation>… autres lignes non affichées : %1</translation>
-    </message>
-    <message>
-        <source>未勾选的文件，未处理: %1</source>
-        <translation>Non coché ; non traité : %1</translation>
     </message>
     <message>
         <source>链接目标属于另一组，未处理: %1</source>

@@ -1070,10 +1070,6 @@ Titolo: %1</translation>
         <translation>Esporta…</translation>
     </message>
     <message>
-        <source>删除文件前先将其移动到备份文件夹</source>
-        <translation>Invece di eliminare i file, li sposta nella cartella di backup</translation>
-    </message>
-    <message>
         <source>文件预览</source>
         <translation>Anteprima del file</translation>
     </message>
@@ -2108,6 +2104,316 @@ La prossima scansione delle immagini sarà più lenta. Continuare?</translation>
         <translation>Filtra per percorso</translation>
     </message>
     <message>
+        <source>
+无法放回的文件（%1 个）：
+</source>
+        <translation>
+File che non si possono rimettere a posto (%1):
+</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
+        <translation>File che non verranno rimossi: %1 (%2). I collegamenti si creano solo dove il percorso è libero. Per sostituire i file con collegamenti, fare prima il backup.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将永久删除，不进回收站，无法找回。</source>
+        <translation>File da eliminare definitivamente: %1 (%2). Non vanno nel Cestino e non si possono recuperare.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将永久删除，不进回收站；可以用保留的副本重新生成。</source>
+        <translation>File da eliminare definitivamente: %1 (%2). Non vanno nel Cestino, ma si possono ricreare dai file conservati.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移入回收站，清空回收站后才释放空间。</source>
+        <translation>File da spostare nel Cestino: %1 (%2). Lo spazio si libera quando viene svuotato.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不会永久删除。</source>
+        <translation>File da spostare nella cartella di backup: %1 (%2). Nulla viene eliminato definitivamente.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不使用回收站。</source>
+        <translation>File da spostare nella cartella di backup: %1 (%2). Il Cestino non viene usato.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不使用目标文件夹。</source>
+        <translation>File da spostare nella cartella di backup: %1 (%2). La cartella di destinazione non viene usata.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，原位置由链接代替。</source>
+        <translation>File da spostare nella cartella di backup: %1 (%2). Al loro posto vanno collegamenti.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到目标文件夹。</source>
+        <translation>File da spostare nella cartella di destinazione: %1 (%2).</translation>
+    </message>
+    <message>
+        <source>不勾选时，回收、移动和备份前只比较抽样内容；永久删除和创建链接前总是比较全部内容</source>
+        <translation>Senza la spunta, prima di spostare nel Cestino, spostare e fare il backup si confrontano solo campioni; prima di eliminare definitivamente e collegare, sempre tutto il contenuto</translation>
+    </message>
+    <message>
+        <source>仍占用</source>
+        <translation>Occupato</translation>
+    </message>
+    <message>
+        <source>保留记录（天）：</source>
+        <translation>Conserva le voci (giorni):</translation>
+    </message>
+    <message>
+        <source>全部处理</source>
+        <translation>Elabora tutto</translation>
+    </message>
+    <message>
+        <source>内容与要保留的文件不同，已保留: %1</source>
+        <translation>Il contenuto è diverso dal file da conservare; non toccato: %1</translation>
+    </message>
+    <message>
+        <source>决定移除对话框打开时是否已勾选「移除前先备份」；备份的文件移入备份文件夹，不会删除</source>
+        <translation>Decide se «Backup prima di rimuovere» ha la spunta all'apertura della finestra; i file vanno nella cartella di backup e non vengono eliminati</translation>
+    </message>
+    <message>
+        <source>删除更早的记录</source>
+        <translation>Elimina le voci precedenti</translation>
+    </message>
+    <message>
+        <source>删除记录</source>
+        <translation>Elimina voce</translation>
+    </message>
+    <message>
+        <source>回收站中保留 %1</source>
+        <translation>Occupato nel Cestino: %1</translation>
+    </message>
+    <message>
+        <source>在历史中显示</source>
+        <translation>Mostra nella cronologia</translation>
+    </message>
+    <message>
+        <source>备份中保留：%1</source>
+        <translation>Occupato nel backup: %1</translation>
+    </message>
+    <message>
+        <source>备份文件夹中保留 %1</source>
+        <translation>Occupato nella cartella di backup: %1</translation>
+    </message>
+    <message>
+        <source>失败：%1</source>
+        <translation>Non riuscito: %1</translation>
+    </message>
+    <message>
+        <source>将删除 %1 条清理记录。文件不受影响，但之后无法在此撤销这些清理。是否继续？</source>
+        <translation>Voci della cronologia da eliminare: %1. I file non vengono toccati, ma queste pulizie non si potranno più annullare qui. Continuare?</translation>
+    </message>
+    <message>
+        <source>将把 %1 个文件放回原处。是否继续？</source>
+        <translation>File da rimettere a posto: %1. Continuare?</translation>
+    </message>
+    <message>
+        <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
+        <translation>I file di questa pulizia nella cartella di backup (%1) verranno eliminati definitivamente e non si potranno più ripristinare. Continuare?</translation>
+    </message>
+    <message>
+        <source>已中断</source>
+        <translation>Interrotta</translation>
+    </message>
+    <message>
+        <source>已停止，未处理: %1</source>
+        <translation>Interrotto; non toccato: %1</translation>
+    </message>
+    <message>
+        <source>已删除 %1 个备份文件。</source>
+        <translation>File di backup eliminati: %1.</translation>
+    </message>
+    <message>
+        <source>已完成</source>
+        <translation>Completata</translation>
+    </message>
+    <message>
+        <source>已撤销</source>
+        <translation>Annullata</translation>
+    </message>
+    <message>
+        <source>已放回原处</source>
+        <translation>Rimesso a posto</translation>
+    </message>
+    <message>
+        <source>已移除</source>
+        <translation>Rimosso</translation>
+    </message>
+    <message>
+        <source>已释放</source>
+        <translation>Liberato</translation>
+    </message>
+    <message>
+        <source>已释放 %1</source>
+        <translation>Liberato: %1</translation>
+    </message>
+    <message>
+        <source>所有者或权限与链接目标不同，未处理: %1</source>
+        <translation>Proprietario o permessi diversi dalla destinazione del collegamento; non toccato: %1</translation>
+    </message>
+    <message>
+        <source>撤销了 %1</source>
+        <translation>Ha annullato %1</translation>
+    </message>
+    <message>
+        <source>撤销所选文件</source>
+        <translation>Annulla selezionati</translation>
+    </message>
+    <message>
+        <source>撤销此次清理</source>
+        <translation>Annulla questa pulizia</translation>
+    </message>
+    <message>
+        <source>撤销清理</source>
+        <translation>Annulla pulizia</translation>
+    </message>
+    <message>
+        <source>文件仍在回收站中，可从那里恢复: %1</source>
+        <translation>Il file è ancora nel Cestino e si può ripristinare da lì: %1</translation>
+    </message>
+    <message>
+        <source>文件已存在，是否替换？
+%1</source>
+        <translation>Il file esiste già. Sostituirlo?
+%1</translation>
+    </message>
+    <message>
+        <source>文件数 / 保留的副本</source>
+        <translation>File / conservato</translation>
+    </message>
+    <message>
+        <source>文件正被其他程序使用，未处理: %1</source>
+        <translation>Il file è in uso da un altro programma; non toccato: %1</translation>
+    </message>
+    <message>
+        <source>方式 / 现在位置</source>
+        <translation>Metodo / dove si trova</translation>
+    </message>
+    <message>
+        <source>无法写入操作日志: %1</source>
+        <translation>Impossibile scrivere il registro delle operazioni: %1</translation>
+    </message>
+    <message>
+        <source>无法写入操作记录，未处理任何文件: %1</source>
+        <translation>Impossibile scrivere la cronologia della pulizia; nessun file toccato: %1</translation>
+    </message>
+    <message>
+        <source>无法更新备份索引: %1</source>
+        <translation>Impossibile aggiornare l'indice di backup: %1</translation>
+    </message>
+    <message>
+        <source>无法确保要保留的文件已写入磁盘，未处理: %1</source>
+        <translation>Impossibile garantire che il file da conservare sia sul disco; non toccato: %1</translation>
+    </message>
+    <message>
+        <source>无法读取</source>
+        <translation>Illeggibile</translation>
+    </message>
+    <message>
+        <source>无结果记录</source>
+        <translation>Nessun esito registrato</translation>
+    </message>
+    <message>
+        <source>时间 / 文件</source>
+        <translation>Data / file</translation>
+    </message>
+    <message>
+        <source>有 %1 条记录无法删除。</source>
+        <translation>Voci che non si sono potute eliminare: %1.</translation>
+    </message>
+    <message>
+        <source>有 %1 组将不会留下任何副本。</source>
+        <translation>Gruppi in cui non resterebbe alcun file: %1.</translation>
+    </message>
+    <message>
+        <source>正在删除备份… (%1/%2)</source>
+        <translation>Eliminazione dei backup… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>正在检查文件… (%1/%2)</source>
+        <translation>Controllo dei file… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>每次移除前比较全部内容</source>
+        <translation>Confronta tutto il contenuto prima di ogni rimozione</translation>
+    </message>
+    <message>
+        <source>每组取消勾选一个</source>
+        <translation>Togli una spunta per gruppo</translation>
+    </message>
+    <message>
+        <source>永久</source>
+        <translation>Sempre</translation>
+    </message>
+    <message>
+        <source>没有保留的副本</source>
+        <translation>Nessun file conservato</translation>
+    </message>
+    <message>
+        <source>没有可以放回的文件。</source>
+        <translation>Nessun file da rimettere a posto.</translation>
+    </message>
+    <message>
+        <source>没有更早的记录。</source>
+        <translation>Nessuna voce precedente.</translation>
+    </message>
+    <message>
+        <source>没有清理记录。</source>
+        <translation>Nessuna pulizia registrata.</translation>
+    </message>
+    <message>
+        <source>清理历史</source>
+        <translation>Cronologia delle pulizie</translation>
+    </message>
+    <message>
+        <source>清理历史(&amp;C)…</source>
+        <translation>&amp;Cronologia delle pulizie…</translation>
+    </message>
+    <message>
+        <source>目标文件夹包含该文件，未处理: %1</source>
+        <translation>La cartella di destinazione contiene il file; non toccato: %1</translation>
+    </message>
+    <message>
+        <source>硬链接</source>
+        <translation>Collegamento fisico</translation>
+    </message>
+    <message>
+        <source>确认替换</source>
+        <translation>Conferma sostituzione</translation>
+    </message>
+    <message>
+        <source>移入回收站</source>
+        <translation>Spostati nel Cestino</translation>
+    </message>
+    <message>
+        <source>移动到文件夹</source>
+        <translation>Spostati in cartella</translation>
+    </message>
+    <message>
+        <source>符号链接</source>
+        <translation>Collegamento simbolico</translation>
+    </message>
+    <message>
+        <source>要保留的文件已不在原处，或经由另一路径就是该文件本身，未处理: %1</source>
+        <translation>Il file da conservare non c'è più o è questo stesso file per un altro percorso; non toccato: %1</translation>
+    </message>
+    <message>
+        <source>部分已撤销</source>
+        <translation>Annullata in parte</translation>
+    </message>
+    <message>
+        <source>部分组不是按内容匹配的，处理前不会比较这些文件的内容。</source>
+        <translation>Alcuni gruppi non corrispondono per contenuto; i loro file non vengono confrontati prima della rimozione.</translation>
+    </message>
+    <message>
+        <source>释放 %1</source>
+        <translation>Libera %1</translation>
+    </message>
+    <message>
+        <source>释放备份</source>
+        <translation>Libera i backup</translation>
+    </message>
+    <message>
         <source>恢复所选</source>
         <translation>Ripristina selezionati</translation>
     </message>
@@ -2162,10 +2468,6 @@ La prossima scansione delle immagini sarà più lenta. Continuare?</translation>
     <message>
         <source>…… 另有 %1 行未显示</source>
         <translation>… altre righe non mostrate: %1</translation>
-    </message>
-    <message>
-        <source>未勾选的文件，未处理: %1</source>
-        <translation>Non spuntato; non elaborato: %1</translation>
     </message>
     <message>
         <source>链接目标属于另一组，未处理: %1</source>

@@ -1070,10 +1070,6 @@
         <translation>エクスポート…</translation>
     </message>
     <message>
-        <source>删除文件前先将其移动到备份文件夹</source>
-        <translation>ファイルを削除せずに、バックアップフォルダーへ移動します</translation>
-    </message>
-    <message>
         <source>文件预览</source>
         <translation>ファイルのプレビュー</translation>
     </message>
@@ -2108,6 +2104,316 @@ raw、cr2、nef は常にスキャンされます。「対象」リストが空�
         <translation>パスで絞り込む</translation>
     </message>
     <message>
+        <source>
+无法放回的文件（%1 个）：
+</source>
+        <translation>
+元に戻せないファイル (%1 個):
+</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
+        <translation>%1 個のファイル (%2) は削除されません。リンクはパスが空いている場合にのみ作成されます。ファイルをリンクに置き換えるには、先にバックアップしてください。</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将永久删除，不进回收站，无法找回。</source>
+        <translation>%1 個のファイル (%2) を完全に削除します。ごみ箱には入らず、元に戻せません。</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将永久删除，不进回收站；可以用保留的副本重新生成。</source>
+        <translation>%1 個のファイル (%2) を完全に削除します。ごみ箱には入りませんが、保持するファイルから作り直せます。</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移入回收站，清空回收站后才释放空间。</source>
+        <translation>%1 個のファイル (%2) をごみ箱に移動します。空き容量はごみ箱を空にすると増えます。</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不会永久删除。</source>
+        <translation>%1 個のファイル (%2) をバックアップフォルダーに移動します。完全に削除されるものはありません。</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不使用回收站。</source>
+        <translation>%1 個のファイル (%2) をバックアップフォルダーに移動します。ごみ箱は使用しません。</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不使用目标文件夹。</source>
+        <translation>%1 個のファイル (%2) をバックアップフォルダーに移動します。移動先フォルダーは使用しません。</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，原位置由链接代替。</source>
+        <translation>%1 個のファイル (%2) をバックアップフォルダーに移動し、元の場所にリンクを置きます。</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到目标文件夹。</source>
+        <translation>%1 個のファイル (%2) を移動先フォルダーに移動します。</translation>
+    </message>
+    <message>
+        <source>不勾选时，回收、移动和备份前只比较抽样内容；永久删除和创建链接前总是比较全部内容</source>
+        <translation>チェックを入れない場合、ごみ箱への移動、移動、バックアップの前には一部の内容だけを比較します。完全な削除とリンク作成の前には常に全体を比較します</translation>
+    </message>
+    <message>
+        <source>仍占用</source>
+        <translation>使用中</translation>
+    </message>
+    <message>
+        <source>保留记录（天）：</source>
+        <translation>記録の保持 (日):</translation>
+    </message>
+    <message>
+        <source>全部处理</source>
+        <translation>すべて処理</translation>
+    </message>
+    <message>
+        <source>内容与要保留的文件不同，已保留: %1</source>
+        <translation>保持するファイルと内容が異なるため残しました: %1</translation>
+    </message>
+    <message>
+        <source>决定移除对话框打开时是否已勾选「移除前先备份」；备份的文件移入备份文件夹，不会删除</source>
+        <translation>削除ダイアログを開いたとき「削除前にバックアップ」にチェックを入れておくかどうか。ファイルはバックアップフォルダーに移動し、削除されません</translation>
+    </message>
+    <message>
+        <source>删除更早的记录</source>
+        <translation>古い記録を削除</translation>
+    </message>
+    <message>
+        <source>删除记录</source>
+        <translation>記録を削除</translation>
+    </message>
+    <message>
+        <source>回收站中保留 %1</source>
+        <translation>ごみ箱で使用中: %1</translation>
+    </message>
+    <message>
+        <source>在历史中显示</source>
+        <translation>履歴に表示</translation>
+    </message>
+    <message>
+        <source>备份中保留：%1</source>
+        <translation>バックアップで使用中: %1</translation>
+    </message>
+    <message>
+        <source>备份文件夹中保留 %1</source>
+        <translation>バックアップフォルダーで使用中: %1</translation>
+    </message>
+    <message>
+        <source>失败：%1</source>
+        <translation>失敗: %1</translation>
+    </message>
+    <message>
+        <source>将删除 %1 条清理记录。文件不受影响，但之后无法在此撤销这些清理。是否继续？</source>
+        <translation>%1 件のクリーンアップの記録を削除します。ファイルはそのままですが、ここで取り消せなくなります。続行しますか？</translation>
+    </message>
+    <message>
+        <source>将把 %1 个文件放回原处。是否继续？</source>
+        <translation>%1 個のファイルを元に戻します。続行しますか？</translation>
+    </message>
+    <message>
+        <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
+        <translation>このクリーンアップでバックアップフォルダーに残したファイル (%1) を完全に削除します。バックアップから復元できなくなります。続行しますか？</translation>
+    </message>
+    <message>
+        <source>已中断</source>
+        <translation>中断</translation>
+    </message>
+    <message>
+        <source>已停止，未处理: %1</source>
+        <translation>停止したため処理しませんでした: %1</translation>
+    </message>
+    <message>
+        <source>已删除 %1 个备份文件。</source>
+        <translation>%1 個のバックアップファイルを削除しました。</translation>
+    </message>
+    <message>
+        <source>已完成</source>
+        <translation>完了</translation>
+    </message>
+    <message>
+        <source>已撤销</source>
+        <translation>取り消し済み</translation>
+    </message>
+    <message>
+        <source>已放回原处</source>
+        <translation>元に戻しました</translation>
+    </message>
+    <message>
+        <source>已移除</source>
+        <translation>削除済み</translation>
+    </message>
+    <message>
+        <source>已释放</source>
+        <translation>解放済み</translation>
+    </message>
+    <message>
+        <source>已释放 %1</source>
+        <translation>%1 を解放しました</translation>
+    </message>
+    <message>
+        <source>所有者或权限与链接目标不同，未处理: %1</source>
+        <translation>所有者またはアクセス許可がリンク先と異なるため処理しませんでした: %1</translation>
+    </message>
+    <message>
+        <source>撤销了 %1</source>
+        <translation>%1 を取り消し</translation>
+    </message>
+    <message>
+        <source>撤销所选文件</source>
+        <translation>選択したファイルを取り消す</translation>
+    </message>
+    <message>
+        <source>撤销此次清理</source>
+        <translation>このクリーンアップを取り消す</translation>
+    </message>
+    <message>
+        <source>撤销清理</source>
+        <translation>クリーンアップの取り消し</translation>
+    </message>
+    <message>
+        <source>文件仍在回收站中，可从那里恢复: %1</source>
+        <translation>ファイルはまだごみ箱にあり、そこから復元できます: %1</translation>
+    </message>
+    <message>
+        <source>文件已存在，是否替换？
+%1</source>
+        <translation>ファイルは既に存在します。置き換えますか？
+%1</translation>
+    </message>
+    <message>
+        <source>文件数 / 保留的副本</source>
+        <translation>ファイル数 / 保持するファイル</translation>
+    </message>
+    <message>
+        <source>文件正被其他程序使用，未处理: %1</source>
+        <translation>ほかのプログラムが使用中のため処理しませんでした: %1</translation>
+    </message>
+    <message>
+        <source>方式 / 现在位置</source>
+        <translation>方法 / 現在の場所</translation>
+    </message>
+    <message>
+        <source>无法写入操作日志: %1</source>
+        <translation>操作ログに書き込めません: %1</translation>
+    </message>
+    <message>
+        <source>无法写入操作记录，未处理任何文件: %1</source>
+        <translation>クリーンアップの記録を書き込めないため、ファイルを処理しませんでした: %1</translation>
+    </message>
+    <message>
+        <source>无法更新备份索引: %1</source>
+        <translation>バックアップの索引を更新できません: %1</translation>
+    </message>
+    <message>
+        <source>无法确保要保留的文件已写入磁盘，未处理: %1</source>
+        <translation>保持するファイルがディスクに書き込まれたことを確認できないため処理しませんでした: %1</translation>
+    </message>
+    <message>
+        <source>无法读取</source>
+        <translation>読み取り不可</translation>
+    </message>
+    <message>
+        <source>无结果记录</source>
+        <translation>結果の記録なし</translation>
+    </message>
+    <message>
+        <source>时间 / 文件</source>
+        <translation>日時 / ファイル</translation>
+    </message>
+    <message>
+        <source>有 %1 条记录无法删除。</source>
+        <translation>%1 件の記録を削除できませんでした。</translation>
+    </message>
+    <message>
+        <source>有 %1 组将不会留下任何副本。</source>
+        <translation>%1 個のグループにファイルが 1 つも残りません。</translation>
+    </message>
+    <message>
+        <source>正在删除备份… (%1/%2)</source>
+        <translation>バックアップを削除しています… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>正在检查文件… (%1/%2)</source>
+        <translation>ファイルを確認しています… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>每次移除前比较全部内容</source>
+        <translation>削除の前に毎回内容全体を比較する</translation>
+    </message>
+    <message>
+        <source>每组取消勾选一个</source>
+        <translation>各グループで 1 つチェックを外す</translation>
+    </message>
+    <message>
+        <source>永久</source>
+        <translation>無期限</translation>
+    </message>
+    <message>
+        <source>没有保留的副本</source>
+        <translation>残るファイルがありません</translation>
+    </message>
+    <message>
+        <source>没有可以放回的文件。</source>
+        <translation>元に戻せるファイルはありません。</translation>
+    </message>
+    <message>
+        <source>没有更早的记录。</source>
+        <translation>それより古い記録はありません。</translation>
+    </message>
+    <message>
+        <source>没有清理记录。</source>
+        <translation>クリーンアップの記録はありません。</translation>
+    </message>
+    <message>
+        <source>清理历史</source>
+        <translation>クリーンアップの履歴</translation>
+    </message>
+    <message>
+        <source>清理历史(&amp;C)…</source>
+        <translation>クリーンアップの履歴(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>目标文件夹包含该文件，未处理: %1</source>
+        <translation>移動先フォルダーがそのファイルを含むため処理しませんでした: %1</translation>
+    </message>
+    <message>
+        <source>硬链接</source>
+        <translation>ハードリンク</translation>
+    </message>
+    <message>
+        <source>确认替换</source>
+        <translation>置き換えの確認</translation>
+    </message>
+    <message>
+        <source>移入回收站</source>
+        <translation>ごみ箱に移動</translation>
+    </message>
+    <message>
+        <source>移动到文件夹</source>
+        <translation>フォルダーに移動</translation>
+    </message>
+    <message>
+        <source>符号链接</source>
+        <translation>シンボリックリンク</translation>
+    </message>
+    <message>
+        <source>要保留的文件已不在原处，或经由另一路径就是该文件本身，未处理: %1</source>
+        <translation>保持するファイルが元の場所にないか、別のパスでこのファイル自身を指しているため処理しませんでした: %1</translation>
+    </message>
+    <message>
+        <source>部分已撤销</source>
+        <translation>一部取り消し済み</translation>
+    </message>
+    <message>
+        <source>部分组不是按内容匹配的，处理前不会比较这些文件的内容。</source>
+        <translation>内容で照合していないグループがあります。それらのファイルは削除の前に比較されません。</translation>
+    </message>
+    <message>
+        <source>释放 %1</source>
+        <translation>%1 を解放</translation>
+    </message>
+    <message>
+        <source>释放备份</source>
+        <translation>バックアップを解放</translation>
+    </message>
+    <message>
         <source>恢复所选</source>
         <translation>選択項目を復元</translation>
     </message>
@@ -2162,10 +2468,6 @@ raw、cr2、nef は常にスキャンされます。「対象」リストが空�
     <message>
         <source>…… 另有 %1 行未显示</source>
         <translation>… ほか %1 行は省略</translation>
-    </message>
-    <message>
-        <source>未勾选的文件，未处理: %1</source>
-        <translation>チェックが入っていないため処理しませんでした: %1</translation>
     </message>
     <message>
         <source>链接目标属于另一组，未处理: %1</source>

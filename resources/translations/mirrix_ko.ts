@@ -1070,10 +1070,6 @@
         <translation>내보내기…</translation>
     </message>
     <message>
-        <source>删除文件前先将其移动到备份文件夹</source>
-        <translation>파일을 삭제하지 않고 백업 폴더로 이동합니다</translation>
-    </message>
-    <message>
         <source>文件预览</source>
         <translation>파일 미리 보기</translation>
     </message>
@@ -2108,6 +2104,316 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
         <translation>경로로 필터링</translation>
     </message>
     <message>
+        <source>
+无法放回的文件（%1 个）：
+</source>
+        <translation>
+원래 위치로 되돌릴 수 없는 파일(%1개):
+</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
+        <translation>파일 %1개(%2)는 제거되지 않습니다. 경로가 비어 있을 때만 링크를 만듭니다. 파일을 링크로 바꾸려면 먼저 백업하세요.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将永久删除，不进回收站，无法找回。</source>
+        <translation>파일 %1개(%2)를 영구 삭제합니다. 휴지통으로 가지 않으며 되찾을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将永久删除，不进回收站；可以用保留的副本重新生成。</source>
+        <translation>파일 %1개(%2)를 영구 삭제합니다. 휴지통으로 가지 않지만 보존할 파일로 다시 만들 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移入回收站，清空回收站后才释放空间。</source>
+        <translation>파일 %1개(%2)를 휴지통으로 옮깁니다. 휴지통을 비워야 공간이 생깁니다.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不会永久删除。</source>
+        <translation>파일 %1개(%2)를 백업 폴더로 옮깁니다. 영구 삭제하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不使用回收站。</source>
+        <translation>파일 %1개(%2)를 백업 폴더로 옮깁니다. 휴지통은 쓰지 않습니다.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不使用目标文件夹。</source>
+        <translation>파일 %1개(%2)를 백업 폴더로 옮깁니다. 대상 폴더는 쓰지 않습니다.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，原位置由链接代替。</source>
+        <translation>파일 %1개(%2)를 백업 폴더로 옮기고 그 자리에 링크를 둡니다.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到目标文件夹。</source>
+        <translation>파일 %1개(%2)를 대상 폴더로 옮깁니다.</translation>
+    </message>
+    <message>
+        <source>不勾选时，回收、移动和备份前只比较抽样内容；永久删除和创建链接前总是比较全部内容</source>
+        <translation>체크하지 않으면 휴지통 이동, 이동, 백업 전에는 일부 내용만 비교합니다. 영구 삭제와 링크 만들기 전에는 항상 전체 내용을 비교합니다</translation>
+    </message>
+    <message>
+        <source>仍占用</source>
+        <translation>사용 중</translation>
+    </message>
+    <message>
+        <source>保留记录（天）：</source>
+        <translation>기록 보존(일):</translation>
+    </message>
+    <message>
+        <source>全部处理</source>
+        <translation>모두 처리</translation>
+    </message>
+    <message>
+        <source>内容与要保留的文件不同，已保留: %1</source>
+        <translation>보존할 파일과 내용이 달라 남겨 둠: %1</translation>
+    </message>
+    <message>
+        <source>决定移除对话框打开时是否已勾选「移除前先备份」；备份的文件移入备份文件夹，不会删除</source>
+        <translation>제거 대화 상자를 열 때 ‘제거 전 백업’을 체크할지 정합니다. 백업한 파일은 백업 폴더로 옮겨지며 삭제되지 않습니다</translation>
+    </message>
+    <message>
+        <source>删除更早的记录</source>
+        <translation>오래된 기록 삭제</translation>
+    </message>
+    <message>
+        <source>删除记录</source>
+        <translation>기록 삭제</translation>
+    </message>
+    <message>
+        <source>回收站中保留 %1</source>
+        <translation>휴지통에서 사용 중: %1</translation>
+    </message>
+    <message>
+        <source>在历史中显示</source>
+        <translation>기록에서 보기</translation>
+    </message>
+    <message>
+        <source>备份中保留：%1</source>
+        <translation>백업에서 사용 중: %1</translation>
+    </message>
+    <message>
+        <source>备份文件夹中保留 %1</source>
+        <translation>백업 폴더에서 사용 중: %1</translation>
+    </message>
+    <message>
+        <source>失败：%1</source>
+        <translation>실패: %1</translation>
+    </message>
+    <message>
+        <source>将删除 %1 条清理记录。文件不受影响，但之后无法在此撤销这些清理。是否继续？</source>
+        <translation>정리 기록 %1개를 삭제합니다. 파일은 그대로이지만 여기에서 이 정리를 취소할 수 없게 됩니다. 계속하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>将把 %1 个文件放回原处。是否继续？</source>
+        <translation>파일 %1개를 원래 위치로 되돌립니다. 계속하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
+        <translation>이 정리가 백업 폴더에 남긴 파일(%1)을 영구 삭제합니다. 백업에서 복원할 수 없게 됩니다. 계속하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>已中断</source>
+        <translation>중단됨</translation>
+    </message>
+    <message>
+        <source>已停止，未处理: %1</source>
+        <translation>중지되어 처리하지 않음: %1</translation>
+    </message>
+    <message>
+        <source>已删除 %1 个备份文件。</source>
+        <translation>백업 파일 %1개를 삭제했습니다.</translation>
+    </message>
+    <message>
+        <source>已完成</source>
+        <translation>완료</translation>
+    </message>
+    <message>
+        <source>已撤销</source>
+        <translation>취소됨</translation>
+    </message>
+    <message>
+        <source>已放回原处</source>
+        <translation>되돌림</translation>
+    </message>
+    <message>
+        <source>已移除</source>
+        <translation>제거됨</translation>
+    </message>
+    <message>
+        <source>已释放</source>
+        <translation>확보됨</translation>
+    </message>
+    <message>
+        <source>已释放 %1</source>
+        <translation>%1 확보됨</translation>
+    </message>
+    <message>
+        <source>所有者或权限与链接目标不同，未处理: %1</source>
+        <translation>소유자나 권한이 링크 대상과 달라 처리하지 않음: %1</translation>
+    </message>
+    <message>
+        <source>撤销了 %1</source>
+        <translation>%1 정리를 취소함</translation>
+    </message>
+    <message>
+        <source>撤销所选文件</source>
+        <translation>선택한 파일 취소</translation>
+    </message>
+    <message>
+        <source>撤销此次清理</source>
+        <translation>이 정리 취소</translation>
+    </message>
+    <message>
+        <source>撤销清理</source>
+        <translation>정리 취소</translation>
+    </message>
+    <message>
+        <source>文件仍在回收站中，可从那里恢复: %1</source>
+        <translation>파일이 아직 휴지통에 있어 거기서 복원할 수 있음: %1</translation>
+    </message>
+    <message>
+        <source>文件已存在，是否替换？
+%1</source>
+        <translation>파일이 이미 있습니다. 바꾸시겠습니까?
+%1</translation>
+    </message>
+    <message>
+        <source>文件数 / 保留的副本</source>
+        <translation>파일 수 / 보존할 파일</translation>
+    </message>
+    <message>
+        <source>文件正被其他程序使用，未处理: %1</source>
+        <translation>다른 프로그램이 사용 중이어서 처리하지 않음: %1</translation>
+    </message>
+    <message>
+        <source>方式 / 现在位置</source>
+        <translation>방법 / 현재 위치</translation>
+    </message>
+    <message>
+        <source>无法写入操作日志: %1</source>
+        <translation>작업 로그를 쓸 수 없음: %1</translation>
+    </message>
+    <message>
+        <source>无法写入操作记录，未处理任何文件: %1</source>
+        <translation>정리 기록을 쓸 수 없어 파일을 처리하지 않음: %1</translation>
+    </message>
+    <message>
+        <source>无法更新备份索引: %1</source>
+        <translation>백업 색인을 업데이트할 수 없음: %1</translation>
+    </message>
+    <message>
+        <source>无法确保要保留的文件已写入磁盘，未处理: %1</source>
+        <translation>보존할 파일이 디스크에 기록되었는지 확인할 수 없어 처리하지 않음: %1</translation>
+    </message>
+    <message>
+        <source>无法读取</source>
+        <translation>읽을 수 없음</translation>
+    </message>
+    <message>
+        <source>无结果记录</source>
+        <translation>결과 기록 없음</translation>
+    </message>
+    <message>
+        <source>时间 / 文件</source>
+        <translation>시간 / 파일</translation>
+    </message>
+    <message>
+        <source>有 %1 条记录无法删除。</source>
+        <translation>기록 %1개를 삭제할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>有 %1 组将不会留下任何副本。</source>
+        <translation>그룹 %1개에 파일이 하나도 남지 않습니다.</translation>
+    </message>
+    <message>
+        <source>正在删除备份… (%1/%2)</source>
+        <translation>백업을 삭제하는 중… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>正在检查文件… (%1/%2)</source>
+        <translation>파일을 확인하는 중… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>每次移除前比较全部内容</source>
+        <translation>제거할 때마다 먼저 전체 내용 비교</translation>
+    </message>
+    <message>
+        <source>每组取消勾选一个</source>
+        <translation>그룹마다 하나씩 체크 해제</translation>
+    </message>
+    <message>
+        <source>永久</source>
+        <translation>무기한</translation>
+    </message>
+    <message>
+        <source>没有保留的副本</source>
+        <translation>남는 파일 없음</translation>
+    </message>
+    <message>
+        <source>没有可以放回的文件。</source>
+        <translation>되돌릴 수 있는 파일이 없습니다.</translation>
+    </message>
+    <message>
+        <source>没有更早的记录。</source>
+        <translation>더 오래된 기록이 없습니다.</translation>
+    </message>
+    <message>
+        <source>没有清理记录。</source>
+        <translation>정리 기록이 없습니다.</translation>
+    </message>
+    <message>
+        <source>清理历史</source>
+        <translation>정리 기록</translation>
+    </message>
+    <message>
+        <source>清理历史(&amp;C)…</source>
+        <translation>정리 기록(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>目标文件夹包含该文件，未处理: %1</source>
+        <translation>대상 폴더가 그 파일을 포함하여 처리하지 않음: %1</translation>
+    </message>
+    <message>
+        <source>硬链接</source>
+        <translation>하드 링크</translation>
+    </message>
+    <message>
+        <source>确认替换</source>
+        <translation>바꾸기 확인</translation>
+    </message>
+    <message>
+        <source>移入回收站</source>
+        <translation>휴지통으로 이동</translation>
+    </message>
+    <message>
+        <source>移动到文件夹</source>
+        <translation>폴더로 이동</translation>
+    </message>
+    <message>
+        <source>符号链接</source>
+        <translation>심볼릭 링크</translation>
+    </message>
+    <message>
+        <source>要保留的文件已不在原处，或经由另一路径就是该文件本身，未处理: %1</source>
+        <translation>보존할 파일이 제자리에 없거나 다른 경로로 이 파일 자신이어서 처리하지 않음: %1</translation>
+    </message>
+    <message>
+        <source>部分已撤销</source>
+        <translation>일부 취소됨</translation>
+    </message>
+    <message>
+        <source>部分组不是按内容匹配的，处理前不会比较这些文件的内容。</source>
+        <translation>일부 그룹은 내용으로 비교한 것이 아니므로 제거 전에 파일 내용을 비교하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>释放 %1</source>
+        <translation>%1 비우기</translation>
+    </message>
+    <message>
+        <source>释放备份</source>
+        <translation>백업 비우기</translation>
+    </message>
+    <message>
         <source>恢复所选</source>
         <translation>선택 항목 복원</translation>
     </message>
@@ -2162,10 +2468,6 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     <message>
         <source>…… 另有 %1 行未显示</source>
         <translation>… 외 %1줄 표시 안 함</translation>
-    </message>
-    <message>
-        <source>未勾选的文件，未处理: %1</source>
-        <translation>체크하지 않아 처리하지 않음: %1</translation>
     </message>
     <message>
         <source>链接目标属于另一组，未处理: %1</source>

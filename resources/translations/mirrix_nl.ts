@@ -1070,10 +1070,6 @@ Titel: %1</translation>
         <translation>Exporteren…</translation>
     </message>
     <message>
-        <source>删除文件前先将其移动到备份文件夹</source>
-        <translation>Verplaatst bestanden naar de back-upmap in plaats van ze te verwijderen</translation>
-    </message>
-    <message>
         <source>文件预览</source>
         <translation>Bestandsvoorbeeld</translation>
     </message>
@@ -2108,6 +2104,316 @@ De volgende beeldscan duurt langer. Doorgaan?</translation>
         <translation>Op pad filteren</translation>
     </message>
     <message>
+        <source>
+无法放回的文件（%1 个）：
+</source>
+        <translation>
+Bestanden die niet teruggeplaatst kunnen worden (%1):
+</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
+        <translation>Bestanden die niet worden verwijderd: %1 (%2). Koppelingen worden alleen gemaakt waar het pad vrij is. Maak eerst een back-up om de bestanden door koppelingen te vervangen.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将永久删除，不进回收站，无法找回。</source>
+        <translation>Bestanden die definitief worden verwijderd: %1 (%2). Ze gaan niet naar de prullenbak en zijn niet terug te halen.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将永久删除，不进回收站；可以用保留的副本重新生成。</source>
+        <translation>Bestanden die definitief worden verwijderd: %1 (%2). Ze gaan niet naar de prullenbak, maar kunnen opnieuw worden gemaakt uit de behouden bestanden.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移入回收站，清空回收站后才释放空间。</source>
+        <translation>Bestanden die naar de prullenbak gaan: %1 (%2). Ruimte komt pas vrij als die wordt geleegd.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不会永久删除。</source>
+        <translation>Bestanden die naar de back-upmap gaan: %1 (%2). Niets wordt definitief verwijderd.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不使用回收站。</source>
+        <translation>Bestanden die naar de back-upmap gaan: %1 (%2). De prullenbak wordt niet gebruikt.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不使用目标文件夹。</source>
+        <translation>Bestanden die naar de back-upmap gaan: %1 (%2). De doelmap wordt niet gebruikt.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，原位置由链接代替。</source>
+        <translation>Bestanden die naar de back-upmap gaan: %1 (%2). Koppelingen komen in hun plaats.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到目标文件夹。</source>
+        <translation>Bestanden die naar de doelmap gaan: %1 (%2).</translation>
+    </message>
+    <message>
+        <source>不勾选时，回收、移动和备份前只比较抽样内容；永久删除和创建链接前总是比较全部内容</source>
+        <translation>Niet aangevinkt: vóór prullenbak, verplaatsen en back-up worden alleen steekproeven vergeleken; vóór definitief verwijderen en koppelen altijd de hele inhoud</translation>
+    </message>
+    <message>
+        <source>仍占用</source>
+        <translation>Bezet</translation>
+    </message>
+    <message>
+        <source>保留记录（天）：</source>
+        <translation>Vermeldingen bewaren (dagen):</translation>
+    </message>
+    <message>
+        <source>全部处理</source>
+        <translation>Alles verwerken</translation>
+    </message>
+    <message>
+        <source>内容与要保留的文件不同，已保留: %1</source>
+        <translation>De inhoud verschilt van het te behouden bestand; niet verwerkt: %1</translation>
+    </message>
+    <message>
+        <source>决定移除对话框打开时是否已勾选「移除前先备份」；备份的文件移入备份文件夹，不会删除</source>
+        <translation>Bepaalt of ‘Back-up vóór verwijderen’ is aangevinkt als het venster opent; de bestanden gaan naar de back-upmap en worden niet verwijderd</translation>
+    </message>
+    <message>
+        <source>删除更早的记录</source>
+        <translation>Oudere verwijderen</translation>
+    </message>
+    <message>
+        <source>删除记录</source>
+        <translation>Vermelding verwijderen</translation>
+    </message>
+    <message>
+        <source>回收站中保留 %1</source>
+        <translation>Bezet in de prullenbak: %1</translation>
+    </message>
+    <message>
+        <source>在历史中显示</source>
+        <translation>In geschiedenis tonen</translation>
+    </message>
+    <message>
+        <source>备份中保留：%1</source>
+        <translation>Bezet in back-up: %1</translation>
+    </message>
+    <message>
+        <source>备份文件夹中保留 %1</source>
+        <translation>Bezet in de back-upmap: %1</translation>
+    </message>
+    <message>
+        <source>失败：%1</source>
+        <translation>Mislukt: %1</translation>
+    </message>
+    <message>
+        <source>将删除 %1 条清理记录。文件不受影响，但之后无法在此撤销这些清理。是否继续？</source>
+        <translation>Vermeldingen die worden verwijderd: %1. De bestanden blijven ongemoeid, maar deze opruimingen kunnen hier niet meer ongedaan worden gemaakt. Doorgaan?</translation>
+    </message>
+    <message>
+        <source>将把 %1 个文件放回原处。是否继续？</source>
+        <translation>Bestanden terugplaatsen: %1. Doorgaan?</translation>
+    </message>
+    <message>
+        <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
+        <translation>De bestanden van deze opruiming in de back-upmap (%1) worden definitief verwijderd en kunnen daar niet meer uit worden teruggezet. Doorgaan?</translation>
+    </message>
+    <message>
+        <source>已中断</source>
+        <translation>Onderbroken</translation>
+    </message>
+    <message>
+        <source>已停止，未处理: %1</source>
+        <translation>Gestopt; niet verwerkt: %1</translation>
+    </message>
+    <message>
+        <source>已删除 %1 个备份文件。</source>
+        <translation>Verwijderde back-upbestanden: %1.</translation>
+    </message>
+    <message>
+        <source>已完成</source>
+        <translation>Voltooid</translation>
+    </message>
+    <message>
+        <source>已撤销</source>
+        <translation>Ongedaan gemaakt</translation>
+    </message>
+    <message>
+        <source>已放回原处</source>
+        <translation>Teruggeplaatst</translation>
+    </message>
+    <message>
+        <source>已移除</source>
+        <translation>Verwijderd</translation>
+    </message>
+    <message>
+        <source>已释放</source>
+        <translation>Vrijgekomen</translation>
+    </message>
+    <message>
+        <source>已释放 %1</source>
+        <translation>Vrijgekomen: %1</translation>
+    </message>
+    <message>
+        <source>所有者或权限与链接目标不同，未处理: %1</source>
+        <translation>Eigenaar of rechten verschillen van het doel van de koppeling; niet verwerkt: %1</translation>
+    </message>
+    <message>
+        <source>撤销了 %1</source>
+        <translation>Maakte %1 ongedaan</translation>
+    </message>
+    <message>
+        <source>撤销所选文件</source>
+        <translation>Selectie ongedaan maken</translation>
+    </message>
+    <message>
+        <source>撤销此次清理</source>
+        <translation>Opruiming ongedaan maken</translation>
+    </message>
+    <message>
+        <source>撤销清理</source>
+        <translation>Opruiming ongedaan maken</translation>
+    </message>
+    <message>
+        <source>文件仍在回收站中，可从那里恢复: %1</source>
+        <translation>Het bestand ligt nog in de prullenbak en kan daaruit worden teruggezet: %1</translation>
+    </message>
+    <message>
+        <source>文件已存在，是否替换？
+%1</source>
+        <translation>Het bestand bestaat al. Vervangen?
+%1</translation>
+    </message>
+    <message>
+        <source>文件数 / 保留的副本</source>
+        <translation>Bestanden / behouden</translation>
+    </message>
+    <message>
+        <source>文件正被其他程序使用，未处理: %1</source>
+        <translation>Het bestand is in gebruik door een ander programma; niet verwerkt: %1</translation>
+    </message>
+    <message>
+        <source>方式 / 现在位置</source>
+        <translation>Methode / huidige plaats</translation>
+    </message>
+    <message>
+        <source>无法写入操作日志: %1</source>
+        <translation>Kan het logboek niet schrijven: %1</translation>
+    </message>
+    <message>
+        <source>无法写入操作记录，未处理任何文件: %1</source>
+        <translation>Kan de geschiedenis niet schrijven; geen bestand verwerkt: %1</translation>
+    </message>
+    <message>
+        <source>无法更新备份索引: %1</source>
+        <translation>Kan de back-upindex niet bijwerken: %1</translation>
+    </message>
+    <message>
+        <source>无法确保要保留的文件已写入磁盘，未处理: %1</source>
+        <translation>Kan niet garanderen dat het te behouden bestand op de schijf staat; niet verwerkt: %1</translation>
+    </message>
+    <message>
+        <source>无法读取</source>
+        <translation>Onleesbaar</translation>
+    </message>
+    <message>
+        <source>无结果记录</source>
+        <translation>Geen resultaat vastgelegd</translation>
+    </message>
+    <message>
+        <source>时间 / 文件</source>
+        <translation>Tijd / bestand</translation>
+    </message>
+    <message>
+        <source>有 %1 条记录无法删除。</source>
+        <translation>Vermeldingen die niet konden worden verwijderd: %1.</translation>
+    </message>
+    <message>
+        <source>有 %1 组将不会留下任何副本。</source>
+        <translation>Groepen waarvan geen bestand overblijft: %1.</translation>
+    </message>
+    <message>
+        <source>正在删除备份… (%1/%2)</source>
+        <translation>Back-ups verwijderen… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>正在检查文件… (%1/%2)</source>
+        <translation>Bestanden controleren… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>每次移除前比较全部内容</source>
+        <translation>Hele inhoud vergelijken vóór elke verwijdering</translation>
+    </message>
+    <message>
+        <source>每组取消勾选一个</source>
+        <translation>Eén per groep uitvinken</translation>
+    </message>
+    <message>
+        <source>永久</source>
+        <translation>Altijd</translation>
+    </message>
+    <message>
+        <source>没有保留的副本</source>
+        <translation>Geen bestand blijft over</translation>
+    </message>
+    <message>
+        <source>没有可以放回的文件。</source>
+        <translation>Er zijn geen bestanden om terug te plaatsen.</translation>
+    </message>
+    <message>
+        <source>没有更早的记录。</source>
+        <translation>Er zijn geen oudere vermeldingen.</translation>
+    </message>
+    <message>
+        <source>没有清理记录。</source>
+        <translation>Er zijn nog geen opruimingen.</translation>
+    </message>
+    <message>
+        <source>清理历史</source>
+        <translation>Geschiedenis van opruimingen</translation>
+    </message>
+    <message>
+        <source>清理历史(&amp;C)…</source>
+        <translation>&amp;Geschiedenis van opruimingen…</translation>
+    </message>
+    <message>
+        <source>目标文件夹包含该文件，未处理: %1</source>
+        <translation>De doelmap bevat het bestand; niet verwerkt: %1</translation>
+    </message>
+    <message>
+        <source>硬链接</source>
+        <translation>Harde koppeling</translation>
+    </message>
+    <message>
+        <source>确认替换</source>
+        <translation>Vervangen bevestigen</translation>
+    </message>
+    <message>
+        <source>移入回收站</source>
+        <translation>Naar prullenbak</translation>
+    </message>
+    <message>
+        <source>移动到文件夹</source>
+        <translation>Naar map verplaatst</translation>
+    </message>
+    <message>
+        <source>符号链接</source>
+        <translation>Symbolische koppeling</translation>
+    </message>
+    <message>
+        <source>要保留的文件已不在原处，或经由另一路径就是该文件本身，未处理: %1</source>
+        <translation>Het te behouden bestand is er niet meer, of is via een ander pad dit bestand zelf; niet verwerkt: %1</translation>
+    </message>
+    <message>
+        <source>部分已撤销</source>
+        <translation>Deels ongedaan gemaakt</translation>
+    </message>
+    <message>
+        <source>部分组不是按内容匹配的，处理前不会比较这些文件的内容。</source>
+        <translation>Sommige groepen komen niet op inhoud overeen; hun bestanden worden niet vergeleken voor ze worden verwijderd.</translation>
+    </message>
+    <message>
+        <source>释放 %1</source>
+        <translation>%1 vrijmaken</translation>
+    </message>
+    <message>
+        <source>释放备份</source>
+        <translation>Back-ups vrijmaken</translation>
+    </message>
+    <message>
         <source>恢复所选</source>
         <translation>Geselecteerde terugzetten</translation>
     </message>
@@ -2162,10 +2468,6 @@ De volgende beeldscan duurt langer. Doorgaan?</translation>
     <message>
         <source>…… 另有 %1 行未显示</source>
         <translation>… niet getoonde regels: %1</translation>
-    </message>
-    <message>
-        <source>未勾选的文件，未处理: %1</source>
-        <translation>Niet aangevinkt; niet verwerkt: %1</translation>
     </message>
     <message>
         <source>链接目标属于另一组，未处理: %1</source>

@@ -1070,10 +1070,6 @@ Título: %1</translation>
         <translation>Exportar…</translation>
     </message>
     <message>
-        <source>删除文件前先将其移动到备份文件夹</source>
-        <translation>Em vez de excluir os arquivos, move-os para a pasta de backup</translation>
-    </message>
-    <message>
         <source>文件预览</source>
         <translation>Prévia do arquivo</translation>
     </message>
@@ -2108,6 +2104,316 @@ A próxima verificação de imagens será mais lenta. Continuar?</translation>
         <translation>Filtrar por caminho</translation>
     </message>
     <message>
+        <source>
+无法放回的文件（%1 个）：
+</source>
+        <translation>
+Arquivos que não podem ser devolvidos ao lugar (%1):
+</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
+        <translation>Arquivos que não serão removidos: %1 (%2). Links só são criados onde o caminho está livre. Para trocar os arquivos por links, faça backup antes.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将永久删除，不进回收站，无法找回。</source>
+        <translation>Arquivos a excluir permanentemente: %1 (%2). Não vão para a Lixeira e não podem ser recuperados.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将永久删除，不进回收站；可以用保留的副本重新生成。</source>
+        <translation>Arquivos a excluir permanentemente: %1 (%2). Não vão para a Lixeira, mas podem ser refeitos a partir dos arquivos mantidos.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移入回收站，清空回收站后才释放空间。</source>
+        <translation>Arquivos que vão para a Lixeira: %1 (%2). O espaço só é liberado quando ela é esvaziada.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不会永久删除。</source>
+        <translation>Arquivos que vão para a pasta de backup: %1 (%2). Nada é excluído permanentemente.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不使用回收站。</source>
+        <translation>Arquivos que vão para a pasta de backup: %1 (%2). A Lixeira não é usada.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不使用目标文件夹。</source>
+        <translation>Arquivos que vão para a pasta de backup: %1 (%2). A pasta de destino não é usada.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，原位置由链接代替。</source>
+        <translation>Arquivos que vão para a pasta de backup: %1 (%2). Links ficam no lugar deles.</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到目标文件夹。</source>
+        <translation>Arquivos que vão para a pasta de destino: %1 (%2).</translation>
+    </message>
+    <message>
+        <source>不勾选时，回收、移动和备份前只比较抽样内容；永久删除和创建链接前总是比较全部内容</source>
+        <translation>Se não estiver marcado, antes da Lixeira, de mover e do backup só amostras são comparadas; antes de excluir permanentemente e de criar links, sempre todo o conteúdo</translation>
+    </message>
+    <message>
+        <source>仍占用</source>
+        <translation>Ocupado</translation>
+    </message>
+    <message>
+        <source>保留记录（天）：</source>
+        <translation>Manter registros (dias):</translation>
+    </message>
+    <message>
+        <source>全部处理</source>
+        <translation>Processar tudo</translation>
+    </message>
+    <message>
+        <source>内容与要保留的文件不同，已保留: %1</source>
+        <translation>O conteúdo difere do arquivo a manter; não processado: %1</translation>
+    </message>
+    <message>
+        <source>决定移除对话框打开时是否已勾选「移除前先备份」；备份的文件移入备份文件夹，不会删除</source>
+        <translation>Decide se “Fazer backup antes de remover” já está marcado ao abrir a janela; os arquivos vão para a pasta de backup e não são excluídos</translation>
+    </message>
+    <message>
+        <source>删除更早的记录</source>
+        <translation>Excluir os mais antigos</translation>
+    </message>
+    <message>
+        <source>删除记录</source>
+        <translation>Excluir registro</translation>
+    </message>
+    <message>
+        <source>回收站中保留 %1</source>
+        <translation>Ocupado na Lixeira: %1</translation>
+    </message>
+    <message>
+        <source>在历史中显示</source>
+        <translation>Mostrar no histórico</translation>
+    </message>
+    <message>
+        <source>备份中保留：%1</source>
+        <translation>Ocupado no backup: %1</translation>
+    </message>
+    <message>
+        <source>备份文件夹中保留 %1</source>
+        <translation>Ocupado na pasta de backup: %1</translation>
+    </message>
+    <message>
+        <source>失败：%1</source>
+        <translation>Falha: %1</translation>
+    </message>
+    <message>
+        <source>将删除 %1 条清理记录。文件不受影响，但之后无法在此撤销这些清理。是否继续？</source>
+        <translation>Registros de limpeza a excluir: %1. Os arquivos não são afetados, mas estas limpezas não poderão mais ser desfeitas aqui. Continuar?</translation>
+    </message>
+    <message>
+        <source>将把 %1 个文件放回原处。是否继续？</source>
+        <translation>Arquivos a devolver ao lugar: %1. Continuar?</translation>
+    </message>
+    <message>
+        <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
+        <translation>Os arquivos desta limpeza na pasta de backup (%1) serão excluídos permanentemente e não poderão mais ser restaurados. Continuar?</translation>
+    </message>
+    <message>
+        <source>已中断</source>
+        <translation>Interrompida</translation>
+    </message>
+    <message>
+        <source>已停止，未处理: %1</source>
+        <translation>Parado; não processado: %1</translation>
+    </message>
+    <message>
+        <source>已删除 %1 个备份文件。</source>
+        <translation>Arquivos de backup excluídos: %1.</translation>
+    </message>
+    <message>
+        <source>已完成</source>
+        <translation>Concluída</translation>
+    </message>
+    <message>
+        <source>已撤销</source>
+        <translation>Desfeita</translation>
+    </message>
+    <message>
+        <source>已放回原处</source>
+        <translation>Devolvido ao lugar</translation>
+    </message>
+    <message>
+        <source>已移除</source>
+        <translation>Removido</translation>
+    </message>
+    <message>
+        <source>已释放</source>
+        <translation>Liberado</translation>
+    </message>
+    <message>
+        <source>已释放 %1</source>
+        <translation>Liberado: %1</translation>
+    </message>
+    <message>
+        <source>所有者或权限与链接目标不同，未处理: %1</source>
+        <translation>Dono ou permissões diferentes do destino do link; não processado: %1</translation>
+    </message>
+    <message>
+        <source>撤销了 %1</source>
+        <translation>Desfez %1</translation>
+    </message>
+    <message>
+        <source>撤销所选文件</source>
+        <translation>Desfazer selecionados</translation>
+    </message>
+    <message>
+        <source>撤销此次清理</source>
+        <translation>Desfazer esta limpeza</translation>
+    </message>
+    <message>
+        <source>撤销清理</source>
+        <translation>Desfazer limpeza</translation>
+    </message>
+    <message>
+        <source>文件仍在回收站中，可从那里恢复: %1</source>
+        <translation>O arquivo ainda está na Lixeira e pode ser restaurado de lá: %1</translation>
+    </message>
+    <message>
+        <source>文件已存在，是否替换？
+%1</source>
+        <translation>O arquivo já existe. Substituir?
+%1</translation>
+    </message>
+    <message>
+        <source>文件数 / 保留的副本</source>
+        <translation>Arquivos / mantido</translation>
+    </message>
+    <message>
+        <source>文件正被其他程序使用，未处理: %1</source>
+        <translation>O arquivo está em uso por outro programa; não processado: %1</translation>
+    </message>
+    <message>
+        <source>方式 / 现在位置</source>
+        <translation>Método / lugar atual</translation>
+    </message>
+    <message>
+        <source>无法写入操作日志: %1</source>
+        <translation>Não foi possível gravar o log de operações: %1</translation>
+    </message>
+    <message>
+        <source>无法写入操作记录，未处理任何文件: %1</source>
+        <translation>Não foi possível gravar o histórico da limpeza; nenhum arquivo foi processado: %1</translation>
+    </message>
+    <message>
+        <source>无法更新备份索引: %1</source>
+        <translation>Não foi possível atualizar o índice de backup: %1</translation>
+    </message>
+    <message>
+        <source>无法确保要保留的文件已写入磁盘，未处理: %1</source>
+        <translation>Não foi possível garantir que o arquivo a manter está no disco; não processado: %1</translation>
+    </message>
+    <message>
+        <source>无法读取</source>
+        <translation>Ilegível</translation>
+    </message>
+    <message>
+        <source>无结果记录</source>
+        <translation>Sem resultado registrado</translation>
+    </message>
+    <message>
+        <source>时间 / 文件</source>
+        <translation>Data / arquivo</translation>
+    </message>
+    <message>
+        <source>有 %1 条记录无法删除。</source>
+        <translation>Registros que não puderam ser excluídos: %1.</translation>
+    </message>
+    <message>
+        <source>有 %1 组将不会留下任何副本。</source>
+        <translation>Grupos em que não restaria nenhum arquivo: %1.</translation>
+    </message>
+    <message>
+        <source>正在删除备份… (%1/%2)</source>
+        <translation>Excluindo backups… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>正在检查文件… (%1/%2)</source>
+        <translation>Conferindo arquivos… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>每次移除前比较全部内容</source>
+        <translation>Comparar todo o conteúdo antes de cada remoção</translation>
+    </message>
+    <message>
+        <source>每组取消勾选一个</source>
+        <translation>Desmarcar um em cada grupo</translation>
+    </message>
+    <message>
+        <source>永久</source>
+        <translation>Sempre</translation>
+    </message>
+    <message>
+        <source>没有保留的副本</source>
+        <translation>Nenhum arquivo mantido</translation>
+    </message>
+    <message>
+        <source>没有可以放回的文件。</source>
+        <translation>Não há arquivos a devolver ao lugar.</translation>
+    </message>
+    <message>
+        <source>没有更早的记录。</source>
+        <translation>Não há registros mais antigos.</translation>
+    </message>
+    <message>
+        <source>没有清理记录。</source>
+        <translation>Não há limpezas registradas.</translation>
+    </message>
+    <message>
+        <source>清理历史</source>
+        <translation>Histórico de limpezas</translation>
+    </message>
+    <message>
+        <source>清理历史(&amp;C)…</source>
+        <translation>&amp;Histórico de limpezas…</translation>
+    </message>
+    <message>
+        <source>目标文件夹包含该文件，未处理: %1</source>
+        <translation>A pasta de destino contém o arquivo; não processado: %1</translation>
+    </message>
+    <message>
+        <source>硬链接</source>
+        <translation>Link físico</translation>
+    </message>
+    <message>
+        <source>确认替换</source>
+        <translation>Confirmar substituição</translation>
+    </message>
+    <message>
+        <source>移入回收站</source>
+        <translation>Movidos para a Lixeira</translation>
+    </message>
+    <message>
+        <source>移动到文件夹</source>
+        <translation>Movidos para pasta</translation>
+    </message>
+    <message>
+        <source>符号链接</source>
+        <translation>Link simbólico</translation>
+    </message>
+    <message>
+        <source>要保留的文件已不在原处，或经由另一路径就是该文件本身，未处理: %1</source>
+        <translation>O arquivo a manter não está mais lá, ou é este mesmo arquivo por outro caminho; não processado: %1</translation>
+    </message>
+    <message>
+        <source>部分已撤销</source>
+        <translation>Desfeita em parte</translation>
+    </message>
+    <message>
+        <source>部分组不是按内容匹配的，处理前不会比较这些文件的内容。</source>
+        <translation>Alguns grupos não correspondem pelo conteúdo; os arquivos deles não são comparados antes de removidos.</translation>
+    </message>
+    <message>
+        <source>释放 %1</source>
+        <translation>Liberar %1</translation>
+    </message>
+    <message>
+        <source>释放备份</source>
+        <translation>Liberar backups</translation>
+    </message>
+    <message>
         <source>恢复所选</source>
         <translation>Restaurar selecionados</translation>
     </message>
@@ -2162,10 +2468,6 @@ A próxima verificação de imagens será mais lenta. Continuar?</translation>
     <message>
         <source>…… 另有 %1 行未显示</source>
         <translation>… outras linhas não exibidas: %1</translation>
-    </message>
-    <message>
-        <source>未勾选的文件，未处理: %1</source>
-        <translation>Não marcado; não processado: %1</translation>
     </message>
     <message>
         <source>链接目标属于另一组，未处理: %1</source>

@@ -1070,10 +1070,6 @@
         <translation>匯出…</translation>
     </message>
     <message>
-        <source>删除文件前先将其移动到备份文件夹</source>
-        <translation>將檔案移至備份資料夾，而不刪除</translation>
-    </message>
-    <message>
         <source>文件预览</source>
         <translation>檔案預覽</translation>
     </message>
@@ -2108,6 +2104,316 @@ raw、cr2、nef 一律會掃描。僅在「已包含」清單為空時有效。<
         <translation>依路徑篩選</translation>
     </message>
     <message>
+        <source>
+无法放回的文件（%1 个）：
+</source>
+        <translation>
+無法放回原處的檔案（%1 個）：
+</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
+        <translation>%1 個檔案（%2）不會被移除：只在路徑已空出時建立連結。要以連結取代檔案，請先備份。</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将永久删除，不进回收站，无法找回。</source>
+        <translation>%1 個檔案（%2）將永久刪除，不進資源回收筒，無法找回。</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将永久删除，不进回收站；可以用保留的副本重新生成。</source>
+        <translation>%1 個檔案（%2）將永久刪除，不進資源回收筒；可以用保留的檔案重新產生。</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移入回收站，清空回收站后才释放空间。</source>
+        <translation>%1 個檔案（%2）將移至資源回收筒，清空後才釋放空間。</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不会永久删除。</source>
+        <translation>%1 個檔案（%2）將移至備份資料夾，不會永久刪除。</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不使用回收站。</source>
+        <translation>%1 個檔案（%2）將移至備份資料夾，不使用資源回收筒。</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，不使用目标文件夹。</source>
+        <translation>%1 個檔案（%2）將移至備份資料夾，不使用目標資料夾。</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到备份文件夹，原位置由链接代替。</source>
+        <translation>%1 個檔案（%2）將移至備份資料夾，原位置由連結取代。</translation>
+    </message>
+    <message>
+        <source>%1 个文件（%2）将移动到目标文件夹。</source>
+        <translation>%1 個檔案（%2）將移至目標資料夾。</translation>
+    </message>
+    <message>
+        <source>不勾选时，回收、移动和备份前只比较抽样内容；永久删除和创建链接前总是比较全部内容</source>
+        <translation>不勾選時，回收、移動和備份前只比對抽樣內容；永久刪除和建立連結前一律比對全部內容</translation>
+    </message>
+    <message>
+        <source>仍占用</source>
+        <translation>仍占用</translation>
+    </message>
+    <message>
+        <source>保留记录（天）：</source>
+        <translation>保留記錄（天）：</translation>
+    </message>
+    <message>
+        <source>全部处理</source>
+        <translation>全部處理</translation>
+    </message>
+    <message>
+        <source>内容与要保留的文件不同，已保留: %1</source>
+        <translation>內容與要保留的檔案不同，已保留：%1</translation>
+    </message>
+    <message>
+        <source>决定移除对话框打开时是否已勾选「移除前先备份」；备份的文件移入备份文件夹，不会删除</source>
+        <translation>決定開啟移除對話方塊時是否已勾選「移除前先備份」；備份的檔案移至備份資料夾，不會刪除</translation>
+    </message>
+    <message>
+        <source>删除更早的记录</source>
+        <translation>刪除更早的記錄</translation>
+    </message>
+    <message>
+        <source>删除记录</source>
+        <translation>刪除記錄</translation>
+    </message>
+    <message>
+        <source>回收站中保留 %1</source>
+        <translation>資源回收筒中保留 %1</translation>
+    </message>
+    <message>
+        <source>在历史中显示</source>
+        <translation>在歷程中顯示</translation>
+    </message>
+    <message>
+        <source>备份中保留：%1</source>
+        <translation>備份中保留：%1</translation>
+    </message>
+    <message>
+        <source>备份文件夹中保留 %1</source>
+        <translation>備份資料夾中保留 %1</translation>
+    </message>
+    <message>
+        <source>失败：%1</source>
+        <translation>失敗：%1</translation>
+    </message>
+    <message>
+        <source>将删除 %1 条清理记录。文件不受影响，但之后无法在此撤销这些清理。是否继续？</source>
+        <translation>將刪除 %1 筆清理記錄。檔案不受影響，但之後無法在此復原這些清理。是否繼續？</translation>
+    </message>
+    <message>
+        <source>将把 %1 个文件放回原处。是否继续？</source>
+        <translation>將把 %1 個檔案放回原處。是否繼續？</translation>
+    </message>
+    <message>
+        <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
+        <translation>將永久刪除此次清理留在備份資料夾中的檔案（%1），之後無法從備份還原。是否繼續？</translation>
+    </message>
+    <message>
+        <source>已中断</source>
+        <translation>已中斷</translation>
+    </message>
+    <message>
+        <source>已停止，未处理: %1</source>
+        <translation>已停止，未處理：%1</translation>
+    </message>
+    <message>
+        <source>已删除 %1 个备份文件。</source>
+        <translation>已刪除 %1 個備份檔案。</translation>
+    </message>
+    <message>
+        <source>已完成</source>
+        <translation>已完成</translation>
+    </message>
+    <message>
+        <source>已撤销</source>
+        <translation>已復原</translation>
+    </message>
+    <message>
+        <source>已放回原处</source>
+        <translation>已放回原處</translation>
+    </message>
+    <message>
+        <source>已移除</source>
+        <translation>已移除</translation>
+    </message>
+    <message>
+        <source>已释放</source>
+        <translation>已釋放</translation>
+    </message>
+    <message>
+        <source>已释放 %1</source>
+        <translation>已釋放 %1</translation>
+    </message>
+    <message>
+        <source>所有者或权限与链接目标不同，未处理: %1</source>
+        <translation>擁有者或權限與連結目標不同，未處理：%1</translation>
+    </message>
+    <message>
+        <source>撤销了 %1</source>
+        <translation>復原了 %1</translation>
+    </message>
+    <message>
+        <source>撤销所选文件</source>
+        <translation>復原選取的檔案</translation>
+    </message>
+    <message>
+        <source>撤销此次清理</source>
+        <translation>復原此次清理</translation>
+    </message>
+    <message>
+        <source>撤销清理</source>
+        <translation>復原清理</translation>
+    </message>
+    <message>
+        <source>文件仍在回收站中，可从那里恢复: %1</source>
+        <translation>檔案仍在資源回收筒中，可從那裡還原：%1</translation>
+    </message>
+    <message>
+        <source>文件已存在，是否替换？
+%1</source>
+        <translation>檔案已存在，是否取代？
+%1</translation>
+    </message>
+    <message>
+        <source>文件数 / 保留的副本</source>
+        <translation>檔案數 / 要保留的檔案</translation>
+    </message>
+    <message>
+        <source>文件正被其他程序使用，未处理: %1</source>
+        <translation>檔案正由其他程式使用，未處理：%1</translation>
+    </message>
+    <message>
+        <source>方式 / 现在位置</source>
+        <translation>方式 / 目前位置</translation>
+    </message>
+    <message>
+        <source>无法写入操作日志: %1</source>
+        <translation>無法寫入操作記錄：%1</translation>
+    </message>
+    <message>
+        <source>无法写入操作记录，未处理任何文件: %1</source>
+        <translation>無法寫入清理記錄，未處理任何檔案：%1</translation>
+    </message>
+    <message>
+        <source>无法更新备份索引: %1</source>
+        <translation>無法更新備份索引：%1</translation>
+    </message>
+    <message>
+        <source>无法确保要保留的文件已写入磁盘，未处理: %1</source>
+        <translation>無法確認要保留的檔案已寫入磁碟，未處理：%1</translation>
+    </message>
+    <message>
+        <source>无法读取</source>
+        <translation>無法讀取</translation>
+    </message>
+    <message>
+        <source>无结果记录</source>
+        <translation>無結果記錄</translation>
+    </message>
+    <message>
+        <source>时间 / 文件</source>
+        <translation>時間 / 檔案</translation>
+    </message>
+    <message>
+        <source>有 %1 条记录无法删除。</source>
+        <translation>有 %1 筆記錄無法刪除。</translation>
+    </message>
+    <message>
+        <source>有 %1 组将不会留下任何副本。</source>
+        <translation>有 %1 個群組將不會留下任何檔案。</translation>
+    </message>
+    <message>
+        <source>正在删除备份… (%1/%2)</source>
+        <translation>正在刪除備份… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>正在检查文件… (%1/%2)</source>
+        <translation>正在檢查檔案… (%1/%2)</translation>
+    </message>
+    <message>
+        <source>每次移除前比较全部内容</source>
+        <translation>每次移除前比對全部內容</translation>
+    </message>
+    <message>
+        <source>每组取消勾选一个</source>
+        <translation>每個群組取消勾選一個</translation>
+    </message>
+    <message>
+        <source>永久</source>
+        <translation>永久</translation>
+    </message>
+    <message>
+        <source>没有保留的副本</source>
+        <translation>沒有保留的檔案</translation>
+    </message>
+    <message>
+        <source>没有可以放回的文件。</source>
+        <translation>沒有可以放回的檔案。</translation>
+    </message>
+    <message>
+        <source>没有更早的记录。</source>
+        <translation>沒有更早的記錄。</translation>
+    </message>
+    <message>
+        <source>没有清理记录。</source>
+        <translation>沒有清理記錄。</translation>
+    </message>
+    <message>
+        <source>清理历史</source>
+        <translation>清理歷程</translation>
+    </message>
+    <message>
+        <source>清理历史(&amp;C)…</source>
+        <translation>清理歷程(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>目标文件夹包含该文件，未处理: %1</source>
+        <translation>目標資料夾包含該檔案，未處理：%1</translation>
+    </message>
+    <message>
+        <source>硬链接</source>
+        <translation>硬式連結</translation>
+    </message>
+    <message>
+        <source>确认替换</source>
+        <translation>確認取代</translation>
+    </message>
+    <message>
+        <source>移入回收站</source>
+        <translation>移至資源回收筒</translation>
+    </message>
+    <message>
+        <source>移动到文件夹</source>
+        <translation>移至資料夾</translation>
+    </message>
+    <message>
+        <source>符号链接</source>
+        <translation>符號連結</translation>
+    </message>
+    <message>
+        <source>要保留的文件已不在原处，或经由另一路径就是该文件本身，未处理: %1</source>
+        <translation>要保留的檔案已不在原處，或經由另一路徑就是該檔案本身，未處理：%1</translation>
+    </message>
+    <message>
+        <source>部分已撤销</source>
+        <translation>部分已復原</translation>
+    </message>
+    <message>
+        <source>部分组不是按内容匹配的，处理前不会比较这些文件的内容。</source>
+        <translation>部分群組不是按內容比對的，處理前不會比對這些檔案的內容。</translation>
+    </message>
+    <message>
+        <source>释放 %1</source>
+        <translation>釋放 %1</translation>
+    </message>
+    <message>
+        <source>释放备份</source>
+        <translation>釋放備份</translation>
+    </message>
+    <message>
         <source>恢复所选</source>
         <translation>還原選取項目</translation>
     </message>
@@ -2162,10 +2468,6 @@ raw、cr2、nef 一律會掃描。僅在「已包含」清單為空時有效。<
     <message>
         <source>…… 另有 %1 行未显示</source>
         <translation>…… 另有 %1 行未顯示</translation>
-    </message>
-    <message>
-        <source>未勾选的文件，未处理: %1</source>
-        <translation>未勾選的檔案，未處理：%1</translation>
     </message>
     <message>
         <source>链接目标属于另一组，未处理: %1</source>

@@ -75,8 +75,6 @@ private slots:
     void init();
     void byMethod_data();
     void byMethod();
-    void copyOfTheSameName_data() { methods(); }
-    void copyOfTheSameName();
     void anotherProgramMeanwhile_data();
     void anotherProgramMeanwhile();
     void leavesAlone_data();
@@ -175,20 +173,6 @@ void CleaningTest::byMethod()
         QVERIFY(restoreBackup(path("store"), kept.constFirst()));
         QCOMPARE(treeBelow(path("src")), before);
     }
-}
-
-/// It may keep its name where it goes, which is no sign of one file by two paths.
-void CleaningTest::copyOfTheSameName()
-{
-    QFETCH(CleaningMethod, method);
-    if (!canLink(method))
-        QSKIP("no symbolic links");
-    CleaningPlan made = plan(method);
-    made.items[0].kept = scanned(m_tree->write(u"src/deep/copy"_s, contentOf(path("src/copy"))));
-    const CleaningResult result = run(made);
-    QCOMPARE(result.errors, QStringList());
-    QCOMPARE(result.count, 1);
-    QVERIFY(QFile::exists(path("src/deep/copy")));
 }
 
 void CleaningTest::anotherProgramMeanwhile_data()

@@ -74,7 +74,7 @@ private:
             "similarThreshold": 10, "largeFileMinBytes": 104857600, "trayEnabled": true,
             "autoBackupBeforeDelete": true, "appTheme": "light", "contentHashAlgorithm": "md5", "closeToTray": true,
             "scanDoneBeep": false, "skipScanConfirm": false,
-            "compareWholeContents": false, "window": {}})");
+            "compareWholeContents": false, "keepHistoryDays": 0, "window": {}})");
         expected.insert(u"backupRoot"_s, m_tree->path(u"Backup"_s));
         expected.insert(u"uiLanguage"_s, systemLanguageCode());
         return expected;
@@ -117,6 +117,7 @@ void SettingsTest::everyMemberTravels()
     settings.closeToTray = false;
     settings.scanDoneBeep = true;
     settings.compareWholeContents = true;
+    settings.keepHistoryDays = 90;
     settings.skipScanConfirm = true;
     settings.uiLanguage = u"ja"_s;
     settings.languageWasStored = true;

@@ -1,11 +1,13 @@
 #include "tests/ui/gallery.h"
 
 #include "actions/exporter.h"
-#include "actions/operationslog.h"
+#include "actions/records/runhistory.h"
+#include "actions/records/runjournal.h"
 #include "ui/dialogs/exportdialog.h"
 #include "ui/dialogs/fileprogressdialog.h"
 #include "ui/dialogs/fileremovaldialog.h"
 #include "ui/dialogs/hashtooldialog.h"
+#include "ui/dialogs/historydialog.h"
 #include "ui/dialogs/imagecomparedialog.h"
 #include "ui/dialogs/logviewer.h"
 #include "ui/dialogs/optionsdialog.h"
@@ -13,6 +15,7 @@
 #include "ui/locations/drivepicker.h"
 #include "ui/mirrix.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QLinearGradient>
@@ -69,6 +72,45 @@ void makeSample(const TempTree &tree)
     tree.write(u"Anna/Documents/notes.txt"_qs, "only here");
 }
 
+/// Runs of some months: one in the backup, one deleted for good of which a file failed, one undone, one cut short.
+void makeHistory(const QString &directory, const QString &root)
+{
+    const qint64 first = QDateTime(QDate(2026, 2, 3), QTime(18, 4, 11)).toMSecsSinceEpoch();
+    constexpr qint64 monthMs = 30LL * 24 * 3600 * 1000;
+    const auto add = [&](int number, const QString &method, int done, Mirrix::ItemState state, bool isComplete) {
+        QList<Mirrix::RunItem> items;
+        for (int i = 0; i < 4; ++i)
+            items.append({root + QStringLiteral("/Downloads/IMG_22%1 (1).jpg").arg(number * 10 + i),
+                          root + QStringLiteral("/Pictures/2025 Coast/IMG_22%1.jpg").arg(number * 10 + i),
+                          41'300'000,
+                          first,
+                          0,
+                          0,
+                          {},
+                          {},
+                          {}});
+        Mirrix::RunJournalWriter journal;
+        if (!journal.create(directory, {{}, first + number * monthMs, u"window"_qs, method, {}, {}, 4, {}}, items))
+            return;
+        for (int i = 0; i < done; ++i) {
+            const bool isHeld = method != u"delete";
+            const QString now =
+                isHeld ? directory +
+                             QStringLiteral("/Backup/20260203_180411__0c5f31ab__IMG_22%1 (1).jpg").arg(number * 10 + i)
+                       : QString();
+            journal.outcome({i, state, now, {}, {}, isHeld ? 0 : 41'300'000, isHeld ? 41'300'000 : 0});
+        }
+        if (done < 4)
+            journal.outcome({3, Mirrix::ItemState::Failed, {}, u"in use"_qs, {}, 0, 0});
+        if (isComplete)
+            static_cast<void>(journal.finish());
+    };
+    add(0, u"recycle"_qs, 4, Mirrix::ItemState::Undone, true);
+    add(1, u"backup+hardlink"_qs, 2, Mirrix::ItemState::Done, false);
+    add(2, u"delete"_qs, 3, Mirrix::ItemState::Done, true);
+    add(3, u"backup"_qs, 4, Mirrix::ItemState::Done, true);
+}
+
 QList<Mirrix::Drive> sampleDrives()
 {
     constexpr qint64 giga = qint64(1) << 30;
@@ -81,8 +123,10 @@ QList<Mirrix::Drive> sampleDrives()
 
 Gallery::Gallery(const std::function<void(Mirrix::Settings &)> &tweak)
     : m_settings(Mirrix::defaultSettings(m_tree.makeFolder(u"data"_qs)))
+    , m_log(Mirrix::operationsLogPath(m_settings.directory))
 {
     makeSample(m_tree);
+    makeHistory(m_settings.directory, sample({}));
     m_settings.trayEnabled = false;
     m_settings.skipScanConfirm = true;
     if (tweak)
@@ -143,7 +187,12 @@ std::vector<std::pair<QString, std::unique_ptr<QDialog>>> Gallery::dialogs()
     add(u"export"_qs, new Mirrix::ExportDialog({}, m_prompts, m_window.get()));
     Mirrix::RemovalChoice removal = Mirrix::initialRemovalChoice(m_settings);
     removal.targetFolder = sample(u"Duplicates"_qs);
-    add(u"removal"_qs, new Mirrix::FileRemovalDialog(12, removal, m_prompts, m_window.get()));
+    auto *removing = new Mirrix::FileRemovalDialog(12, removal, m_prompts, m_window.get());
+    removing->setFiles(172'000'000, true);
+    add(u"removal"_qs, removing);
+    auto *history = new Mirrix::HistoryDialog(m_settings, m_prompts, m_log, m_window.get());
+    history->showRun(Mirrix::listRuns(m_settings.directory).value(1).header.id);
+    add(u"history"_qs, history);
     add(u"restore"_qs, new Mirrix::RestoreDialog({sample(u"Pictures/IMG_2200.jpg"_qs)}, m_window.get()));
     add(u"log"_qs, new Mirrix::LogViewer(Mirrix::operationsLogPath(m_settings.directory), m_window.get()));
     add(u"compare"_qs, new Mirrix::ImageCompareDialog(sample(u"Pictures/2025 Coast/IMG_2200.jpg"_qs),

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "actions/operationslog.h"
 #include "app/settings.h"
 #include "tests/support/temptree.h"
 #include "tests/ui/scriptedprompts.h"
@@ -44,6 +45,7 @@ public:
 private:
     TempTree m_tree;
     Mirrix::Settings m_settings;
+    Mirrix::OperationsLog m_log;
     ScriptedPrompts m_prompts;
     std::unique_ptr<MirrixUi::Mirrix> m_window;
 };

@@ -17,6 +17,9 @@ public:
 
     QStringList notes; ///< what stood below the texts of inform and ask, in order
 
+    QStringList actions;       ///< the second buttons of informWithAction, in order
+    QList<bool> actionAnswers; ///< for informWithAction, in order
+
     QList<qsizetype> choices; ///< for choose, in order
     QList<bool> answers;      ///< for ask and run, in order
     QList<Mirrix::Confirmation> confirmations;
@@ -30,6 +33,15 @@ public:
         note(title, text);
         notes.append(below);
     }
+    /// Unanswered, the box is closed by its first button.
+    bool informWithAction(QWidget *parent, const QString &title, const QString &text, const QString &below,
+                          const QString &action) override
+    {
+        inform(parent, title, text, below);
+        actions.append(action);
+        return !actionAnswers.isEmpty() && actionAnswers.takeFirst();
+    }
+
     void warn(QWidget *, const QString &title, const QString &text) override { note(title, text); }
     void fail(QWidget *, const QString &title, const QString &text) override { note(title, text); }
 

@@ -155,7 +155,7 @@ void TestBatchCommands::restoring()
     const QString line = scene.path("b") + QStringLiteral("  <-  ") + index[1].backup;
     scene.prompts.onRun = [](QDialog &dialog) {
         dialog.findChild<QLineEdit *>()->setText(QStringLiteral("/B  <-"));
-        QCOMPARE(dialog.findChild<QListView *>()->model()->rowCount(), 1);
+        QTRY_COMPARE(dialog.findChild<QListView *>()->model()->rowCount(), 1);
     };
     scene.prompts.asked.clear();
     scene.prompts.answers = {true, false};

@@ -103,6 +103,9 @@ void ExportDialogTest::browsing()
         QTest::mouseClick(part<QPushButton>(dialog, "BrowseOutputButton"), Qt::LeftButton);
         QCOMPARE(dialog.request().path, expected);
     }
+    QVERIFY(dialog.isPathChosen());
+    part<QLineEdit>(dialog, "OutputPathEdit")->insert(QStringLiteral("x"));
+    QVERIFY(!dialog.isPathChosen());
     const QString question = prompts.asked.first();
     QVERIFY2(QRegularExpression(asked).match(question).hasMatch(), qPrintable(question));
 }
@@ -132,7 +135,16 @@ void ExportDialogTest::exports()
           std::pair(ExportFormat::DeletionScript, "@echo off")}) {
         const bool onlyChecked = format != ExportFormat::Csv;
         choose(scene, format, path, onlyChecked);
+        const QByteArray before = scene.content(path);
+        if (format != ExportFormat::Csv) { // the file is there, and its name was typed
+            run(scene);
+            QCOMPARE(scene.prompts.asked.takeLast(), text("确认替换|文件已存在，是否替换？\n%1").arg(shown));
+            QCOMPARE(scene.content(path), before);
+            choose(scene, format, path, onlyChecked);
+            scene.prompts.answers.append(true);
+        }
         run(scene);
+        scene.prompts.asked.removeIf([](const QString &asked) { return asked.startsWith(text("确认替换")); });
         const QByteArray content = scene.content(path);
         QVERIFY2(content.startsWith(start), content.constData());
         QVERIFY(content.contains("ticked.dat") && content.contains("kept.dat") != onlyChecked);

@@ -23,6 +23,7 @@ private slots:
     void untouched();
     void choices();
     void browsing();
+    void saysWhatWillHappen();
 };
 
 void TestFileRemovalDialog::untouched()
@@ -76,6 +77,33 @@ void TestFileRemovalDialog::browsing()
     QTest::mouseClick(browse, Qt::LeftButton);
     QCOMPARE(dialog.choice().targetFolder, QStringLiteral("/chosen"));
     QCOMPARE(prompts.asked.last(), QString::fromUtf8("选择目标文件夹|"));
+}
+
+/// Each method with and without the box gives a sentence of its own, but for the two kinds of links; only what is equal
+/// to a kept copy can be made again.
+void TestFileRemovalDialog::saysWhatWillHappen()
+{
+    MirrixTest::ScriptedPrompts prompts;
+    FileRemovalDialog dialog(391, {RemovalMethod::Recycle, {}, {}, true}, prompts);
+    dialog.setFiles(qint64(164) << 20, true);
+    const auto *outcome = dialog.findChild<QLabel *>(QStringLiteral("RemovalOutcome"));
+    QCOMPARE(outcome->text(), QString::fromUtf8("391 个文件（164.00 MB）将移动到备份文件夹，不使用回收站。"));
+    auto *box = dialog.findChild<QCheckBox *>();
+    QSet<QString> sentences;
+    for (QRadioButton *button : dialog.findChildren<QRadioButton *>()) {
+        button->click();
+        for (const bool backsUp : {true, false}) {
+            box->setChecked(backsUp);
+            sentences.insert(outcome->text());
+            QCOMPARE(outcome->text().contains(QString::fromUtf8("备份文件夹")), backsUp);
+        }
+    }
+    QCOMPARE(sentences.size(), 8);
+    dialog.findChildren<QRadioButton *>()[1]->click();
+    const QString remakable = outcome->text();
+    dialog.setFiles(1, false);
+    QVERIFY(remakable.contains(QString::fromUtf8("重新生成")) &&
+            outcome->text().contains(QString::fromUtf8("无法找回")));
 }
 
 QTEST_MAIN(TestFileRemovalDialog)

@@ -1,3 +1,4 @@
+#include "actions/backupindex.h"
 #include "tests/support/temptree.h"
 #include "tests/ui/scriptedprompts.h"
 #include "ui/locations/drivepicker.h"
@@ -8,6 +9,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QDragEnterEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMimeData>
@@ -305,6 +307,15 @@ void LocationsPageTest::exclusionsAndAdvanced()
     m_page->setState(state);
     QCOMPARE(m_page->state(), state);
     QCOMPARE(changed.count(), 0);
+
+    const QString held = m_tree.write(u"safe/held"_s, "abc");
+    QVERIFY(Mirrix::saveBackupIndex(expected.backupFolder, {{u"/a"_s, held, 3, 1}, {u"/b"_s, held + u'x', 9, 1}}));
+    state.advanced.backupFolder = expected.backupFolder;
+    m_page->setState(state);
+    QTRY_COMPARE(find<QLabel>(u"HeldBackupsLabel"_s)->text(), u"备份中保留：3 B"_s);
+    QSignalSpy history(m_page.get(), &LocationsPage::historyRequested);
+    click(u"OpenHistoryButton"_s);
+    QCOMPARE(history.count(), 1);
 }
 
 void LocationsPageTest::locks()

@@ -5,6 +5,7 @@
 #include "tests/ui/scriptedprompts.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QDir>
 #include <QHeaderView>
 #include <QLabel>
@@ -239,6 +240,11 @@ private slots:
     {
         Stage stage;
         stage.window->addLocation(stage.tree.path(u"in"_qs));
+        // On the page of locations and in the batch panel: kept at once, so that the removal dialog opens with it.
+        for (QCheckBox *box : stage.window->findChildren<QCheckBox *>(u"AutoBackupCheck"_qs)) {
+            box->click();
+            QCOMPARE(Mirrix::readSettings(stage.settings.directory).autoBackupBeforeDelete, box->isChecked());
+        }
         stage.window->close();
         QCOMPARE(stage.logged().last(), u"app_quit|user quit"_qs);
         QCOMPARE(stage.logged().size(), 2);

@@ -79,6 +79,10 @@ public:
     [[nodiscard]] int filesGone() const { return m_watch.gone(); }
 
     void inform(QWidget *, const QString &, const QString &, const QString &) override { look(); }
+    bool informWithAction(QWidget *, const QString &, const QString &, const QString &, const QString &) override
+    {
+        return look() && chance(4);
+    }
     void warn(QWidget *, const QString &, const QString &) override { look(); }
     void fail(QWidget *, const QString &, const QString &) override { look(); }
     bool ask(QWidget *, const QString &, const QString &, const QString &) override { return look() && chance(2); }

@@ -77,6 +77,7 @@ void OptionsDialogTest::everyControlIsStoredAtOnce_data()
     QTest::newRow("close") << u"CloseExitsRadio"_s << u"CloseToTrayRadio"_s << &Settings::closeToTray;
     QTest::newRow("beep") << u"ScanDoneBeepBox"_s << u"ScanDoneBeepBox"_s << &Settings::scanDoneBeep;
     QTest::newRow("confirm") << u"ScanConfirmBox"_s << u"ScanConfirmBox"_s << &Settings::skipScanConfirm;
+    QTest::newRow("compare") << u"CompareContentsBox"_s << u"CompareContentsBox"_s << &Settings::compareWholeContents;
 }
 
 void OptionsDialogTest::everyControlIsStoredAtOnce()

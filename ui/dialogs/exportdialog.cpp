@@ -144,6 +144,11 @@ ExportRequest ExportDialog::request() const
             {m_onlyChecked->isChecked(), m_includeKeyAndTime->isChecked(), m_redactPaths->isChecked()}};
 }
 
+bool ExportDialog::isPathChosen() const
+{
+    return request().path == m_chosenPath;
+}
+
 ExportFormat ExportDialog::format() const
 {
     return static_cast<ExportFormat>(m_formats->checkedId());
@@ -177,8 +182,10 @@ void ExportDialog::browse()
         chosen =
             m_prompts.chooseSaveFile(this, Text::tr("保存"), path.isEmpty() ? proposed : path, filterText(format()));
     }
-    if (!chosen.isEmpty())
-        m_path->setText(QDir::toNativeSeparators(chosen));
+    if (chosen.isEmpty())
+        return;
+    m_path->setText(QDir::toNativeSeparators(chosen));
+    m_chosenPath = request().path;
 }
 
 void ExportDialog::changeEvent(QEvent *event)

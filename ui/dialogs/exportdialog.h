@@ -27,6 +27,9 @@ public:
 
     [[nodiscard]] ExportRequest request() const;
 
+    /// Whether the output path is one that the user chose in the chooser, which asks before a file is replaced.
+    [[nodiscard]] bool isPathChosen() const;
+
 protected:
     void changeEvent(QEvent *event) override;
 
@@ -48,6 +51,7 @@ private:
     QCheckBox *m_onlyChecked = nullptr;
     QCheckBox *m_includeKeyAndTime = nullptr;
     QCheckBox *m_redactPaths = nullptr;
+    QString m_chosenPath;
     ExportFormat m_pathFormat; ///< what the output path is for
 };
 

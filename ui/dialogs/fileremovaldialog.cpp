@@ -1,6 +1,7 @@
 #include "ui/dialogs/fileremovaldialog.h"
 
 #include "app/text.h"
+#include "ui/logic/bytetext.h"
 #include "ui/prompts.h"
 
 #include <QButtonGroup>
@@ -14,6 +15,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace Mirrix {
 
@@ -38,6 +41,30 @@ QString methodText(int method)
     return {};
 }
 
+/// What a choice comes to; %1 stands for the number of files and %2 for their size.
+QString outcomePattern(const RemovalChoice &choice, bool areContentsEqual)
+{
+    const bool backsUp = choice.backsUpFirst;
+    switch (choice.method) {
+    case RemovalMethod::Recycle:
+        return backsUp ? Text::tr("%1 个文件（%2）将移动到备份文件夹，不使用回收站。")
+                       : Text::tr("%1 个文件（%2）将移入回收站，清空回收站后才释放空间。");
+    case RemovalMethod::Delete:
+        if (backsUp)
+            return Text::tr("%1 个文件（%2）将移动到备份文件夹，不会永久删除。");
+        return areContentsEqual ? Text::tr("%1 个文件（%2）将永久删除，不进回收站；可以用保留的副本重新生成。")
+                                : Text::tr("%1 个文件（%2）将永久删除，不进回收站，无法找回。");
+    case RemovalMethod::Move:
+        return backsUp ? Text::tr("%1 个文件（%2）将移动到备份文件夹，不使用目标文件夹。")
+                       : Text::tr("%1 个文件（%2）将移动到目标文件夹。");
+    case RemovalMethod::SymbolicLink:
+    case RemovalMethod::HardLink:
+        return backsUp ? Text::tr("%1 个文件（%2）将移动到备份文件夹，原位置由链接代替。")
+                       : Text::tr("%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。");
+    }
+    return {};
+}
+
 } // namespace
 
 RemovalChoice initialRemovalChoice(const Settings &settings)
@@ -57,6 +84,7 @@ FileRemovalDialog::FileRemovalDialog(qsizetype fileCount, const RemovalChoice &i
     , m_note(new QLabel)
     , m_methods(new QButtonGroup(this))
     , m_backUp(new QCheckBox)
+    , m_outcome(new QLabel)
 {
     constexpr int leastWidth = 480;
     setObjectName(QStringLiteral("FileRemovalDialog"));
@@ -68,6 +96,9 @@ FileRemovalDialog::FileRemovalDialog(qsizetype fileCount, const RemovalChoice &i
     m_note->hide();
     m_backUp->setObjectName(QStringLiteral("BackUpFirstBox"));
     m_backUp->setChecked(initial.backsUpFirst);
+    m_outcome->setObjectName(QStringLiteral("RemovalOutcome"));
+    m_outcome->setTextFormat(Qt::PlainText);
+    m_outcome->setWordWrap(true);
 
     auto *column = new QVBoxLayout(this);
     column->setSpacing(12);
@@ -76,10 +107,13 @@ FileRemovalDialog::FileRemovalDialog(qsizetype fileCount, const RemovalChoice &i
     column->addWidget(buildMethods(initial.method));
     column->addLayout(buildInputs(initial));
     column->addWidget(m_backUp);
+    column->addWidget(m_outcome);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     column->addWidget(buttons);
+    connect(m_methods, &QButtonGroup::idToggled, this, &FileRemovalDialog::showOutcome);
+    connect(m_backUp, &QCheckBox::toggled, this, &FileRemovalDialog::showOutcome);
     retranslate();
     m_methods->checkedButton()->setFocus();
 }
@@ -140,6 +174,21 @@ void FileRemovalDialog::browse()
         m_folder->setText(chosen);
 }
 
+void FileRemovalDialog::setFiles(qint64 totalBytes, bool areContentsEqual)
+{
+    m_totalBytes = totalBytes;
+    m_areContentsEqual = areContentsEqual;
+    showOutcome();
+}
+
+void FileRemovalDialog::showOutcome()
+{
+    m_outcome->setText(
+        outcomePattern(choice(), m_areContentsEqual).arg(QString::number(m_fileCount), formatSize(m_totalBytes)));
+    if (isVisible()) // a longer sentence must not squeeze the rest
+        resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
+}
+
 void FileRemovalDialog::setNote(const QString &note)
 {
     m_note->setText(note);
@@ -166,6 +215,7 @@ void FileRemovalDialog::retranslate()
     m_linkTarget->setPlaceholderText(Text::tr("保留的文件路径（用于创建链接）"));
     m_linkTarget->setToolTip(Text::tr("先备份再创建链接时可留空：每个链接指向本组中未勾选的文件"));
     m_backUp->setText(Text::tr("移除前先备份"));
+    showOutcome();
 }
 
 } // namespace Mirrix

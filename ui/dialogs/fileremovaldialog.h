@@ -42,6 +42,10 @@ public:
 
     [[nodiscard]] RemovalChoice choice() const;
 
+    /// What is said of the outcome: the files' sizes together, and whether each has an equal copy that stays, from
+    /// which it could be made again.
+    void setFiles(qint64 totalBytes, bool areContentsEqual);
+
     /// A line below the question; none when empty. Translated.
     void setNote(const QString &note);
 
@@ -52,10 +56,13 @@ private:
     [[nodiscard]] QGroupBox *buildMethods(RemovalMethod initial);
     [[nodiscard]] QFormLayout *buildInputs(const RemovalChoice &initial);
     void browse();
+    void showOutcome();
     void retranslate();
 
     Prompts &m_prompts;
     qsizetype m_fileCount;
+    qint64 m_totalBytes = 0;
+    bool m_areContentsEqual = true;
     QLabel *m_question;
     QLabel *m_note;
     QGroupBox *m_methodBox = nullptr;
@@ -66,6 +73,7 @@ private:
     QLabel *m_linkLabel = nullptr;
     QLineEdit *m_linkTarget = nullptr;
     QCheckBox *m_backUp;
+    QLabel *m_outcome;
 };
 
 } // namespace Mirrix

@@ -80,6 +80,7 @@ OptionsDialog::OptionsDialog(Settings &settings, Prompts &prompts, QWidget *pare
     connect(m_closeToTray, &QRadioButton::toggled, this, &OptionsDialog::onCloseActionChanged);
     connect(m_beep, &QCheckBox::toggled, this, &OptionsDialog::onBeepChanged);
     connect(m_confirm, &QCheckBox::toggled, this, &OptionsDialog::onScanConfirmChanged);
+    connect(m_compare, &QCheckBox::toggled, this, &OptionsDialog::onCompareChanged);
     connect(m_hash, &QComboBox::currentIndexChanged, this, &OptionsDialog::onContentHashAlgorithmChanged);
     connect(m_dark, &QRadioButton::toggled, this, &OptionsDialog::onThemeSelected);
     connect(m_clearCache, &QPushButton::clicked, this, &OptionsDialog::onClearImageCache);
@@ -128,6 +129,8 @@ void OptionsDialog::buildGeneralPage()
     m_hashTitle->setBuddy(m_hash);
     column->addWidget(m_hash);
     column->addWidget(m_hashHint = makeHint());
+    addSection(m_removalTitle);
+    column->addWidget(m_compare = make<QCheckBox>("CompareContentsBox"));
     addSection(m_cacheTitle);
     addCacheSection(column);
     addPage(page, m_generalTitle, column);
@@ -162,6 +165,7 @@ void OptionsDialog::showSettings()
     (m_settings.closeToTray ? m_closeToTray : m_closeExits)->setChecked(true);
     m_beep->setChecked(m_settings.scanDoneBeep);
     m_confirm->setChecked(!m_settings.skipScanConfirm);
+    m_compare->setChecked(m_settings.compareWholeContents);
     m_hash->setCurrentIndex(m_settings.contentHashAlgorithm == MirrixCore::ContentHashAlgorithm::Blake3 ? 1 : 0);
     (isDarkTheme(m_settings.appTheme) ? m_dark : m_light)->setChecked(true);
 }
@@ -186,6 +190,12 @@ void OptionsDialog::onBeepChanged(bool on)
 void OptionsDialog::onScanConfirmChanged(bool on)
 {
     m_settings.skipScanConfirm = !on;
+    m_settings.save();
+}
+
+void OptionsDialog::onCompareChanged(bool on)
+{
+    m_settings.compareWholeContents = on;
     m_settings.save();
 }
 
@@ -255,6 +265,9 @@ void OptionsDialog::retranslate()
     m_hash->setItemText(0, Text::tr("MD5（默认，沿用现有指纹缓存）"));
     m_hash->setItemText(1, Text::tr("BLAKE3（更快、更强；切换后重建缓存）"));
     m_hashHint->setText(Text::tr("仅影响「相同内容」精确查重的 quick/full 哈希；相似内容采样仍使用 MD5。"));
+    m_removalTitle->setText(Text::tr("文件移除"));
+    m_compare->setText(Text::tr("每次移除前比较全部内容"));
+    m_compare->setToolTip(Text::tr("不勾选时，回收、移动和备份前只比较抽样内容；永久删除和创建链接前总是比较全部内容"));
     m_cacheTitle->setText(Text::tr("缓存与数据"));
     m_cacheHint->setText(Text::tr("图片特征缓存可加快重复图片的扫描。位置："));
     m_clearCache->setText(Text::tr("清空图片特征缓存"));

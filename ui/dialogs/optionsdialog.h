@@ -57,6 +57,7 @@ private:
     void onCloseActionChanged();
     void onBeepChanged(bool on);
     void onScanConfirmChanged(bool on);
+    void onCompareChanged(bool on);
     void onContentHashAlgorithmChanged(int index);
     void onThemeSelected();
     void onClearImageCache();
@@ -77,6 +78,8 @@ private:
     QCheckBox *m_beep;
     QCheckBox *m_confirm;
     QLabel *m_confirmHint;
+    QLabel *m_removalTitle;
+    QCheckBox *m_compare;
     QLabel *m_hashTitle;
     QComboBox *m_hash;
     QLabel *m_hashHint;

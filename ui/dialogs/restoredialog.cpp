@@ -2,6 +2,7 @@
 
 #include "app/text.h"
 #include "ui/emptyhint.h"
+#include "ui/logic/linesmodel.h"
 
 #include <QDialogButtonBox>
 #include <QEvent>
@@ -9,8 +10,6 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
-#include <QSortFilterProxyModel>
-#include <QStringListModel>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -22,7 +21,7 @@ RestoreDialog::RestoreDialog(const QStringList &lines, QWidget *parent)
     , m_label(new QLabel)
     , m_filter(new QLineEdit)
     , m_list(new QListView)
-    , m_rows(new QSortFilterProxyModel(this))
+    , m_rows(new LinesModel(lines, this))
 {
     setObjectName(QStringLiteral("RestoreDialog"));
     m_filter->setObjectName(QStringLiteral("RestoreFilter"));
@@ -34,19 +33,18 @@ RestoreDialog::RestoreDialog(const QStringList &lines, QWidget *parent)
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->setTextElideMode(Qt::ElideMiddle);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_rows->setSourceModel(new QStringListModel(lines, m_rows));
-    m_rows->setFilterCaseSensitivity(Qt::CaseInsensitive);
     m_list->setModel(m_rows);
     m_label->setBuddy(m_list);
     new EmptyHint(m_list, [] { return Text::tr("没有匹配的文件。"); });
     buildLayout();
 
-    connect(m_filter, &QLineEdit::textChanged, this, &RestoreDialog::filter);
+    connect(m_filter, &QLineEdit::textChanged, m_rows, &LinesModel::setFilter);
+    connect(m_rows, &LinesModel::filtered, this, &RestoreDialog::chooseFirst);
     connect(m_list, &QListView::doubleClicked, this, &QDialog::accept);
     connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             [this] { m_restore->setEnabled(m_list->selectionModel()->hasSelection()); });
     retranslate();
-    filter({});
+    chooseFirst();
     m_list->setFocus();
 }
 
@@ -72,15 +70,14 @@ QList<qsizetype> RestoreDialog::chosen() const
     const QItemSelection ranges = m_list->selectionModel()->selection(); // far fewer than rows
     for (const QItemSelectionRange &range : ranges) {
         for (int row = range.top(); row <= range.bottom(); ++row)
-            rows.append(m_rows->mapToSource(m_rows->index(row, 0)).row());
+            rows.append(m_rows->lineOf(row));
     }
     std::sort(rows.begin(), rows.end());
     return rows;
 }
 
-void RestoreDialog::filter(const QString &words)
+void RestoreDialog::chooseFirst()
 {
-    m_rows->setFilterFixedString(words);
     m_list->setCurrentIndex(m_rows->index(0, 0));
     m_restore->setEnabled(m_rows->rowCount() > 0);
 }

@@ -8,9 +8,10 @@ class QLabel;
 class QLineEdit;
 class QListView;
 class QPushButton;
-class QSortFilterProxyModel;
 
 namespace Mirrix {
+
+class LinesModel;
 
 /// Lets the user choose among the files in the backup folder; the first is chosen at the start. Accepted with one or
 /// more chosen.
@@ -30,13 +31,13 @@ protected:
 
 private:
     void buildLayout();
-    void filter(const QString &words);
+    void chooseFirst();
     void retranslate();
 
     QLabel *m_label;
     QLineEdit *m_filter;
     QListView *m_list;
-    QSortFilterProxyModel *m_rows;
+    LinesModel *m_rows;
     QPushButton *m_restore = nullptr;
 };
 

@@ -1,6 +1,9 @@
 #include "ui/locations/advancedbox.h"
 
+#include "actions/backupindex.h"
 #include "app/text.h"
+#include "ui/locations/runaside.h"
+#include "ui/logic/bytetext.h"
 #include "ui/logic/locationtext.h"
 #include "ui/prompts.h"
 
@@ -11,8 +14,12 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSignalBlocker>
+#include <QTimer>
 #include <QToolButton>
+
+#include <algorithm>
 
 namespace Mirrix {
 
@@ -21,6 +28,15 @@ namespace {
 QStringList keepRuleTexts()
 {
     return {Text::tr("保留最新文件"), Text::tr("保留最旧文件"), Text::tr("保留最上层目录"), Text::tr("保留最深路径")};
+}
+
+/// The sizes of the files that a backup folder lists and holds.
+qint64 heldBytes(const QString &folder)
+{
+    qint64 sum = 0;
+    for (const BackupEntry &entry : restorableEntries(folder))
+        sum += std::max<qint64>(entry.sizeBytes, 0);
+    return sum;
 }
 
 } // namespace
@@ -36,7 +52,11 @@ AdvancedBox::AdvancedBox(Prompts &prompts, QWidget *parent)
     , m_backupLabel(new QLabel)
     , m_backupFolder(new QLineEdit)
     , m_chooseBackup(new QToolButton)
+    , m_heldLabel(new QLabel)
+    , m_history(new QPushButton)
+    , m_typing(new QTimer(this))
 {
+    constexpr int typingMs = 400;
     setObjectName(QStringLiteral("ScanAdvancedOptionsBox"));
     m_keepRule->setObjectName(QStringLiteral("KeepRuleCombo"));
     m_skipHidden->setObjectName(QStringLiteral("SkipHiddenCheck"));
@@ -45,6 +65,10 @@ AdvancedBox::AdvancedBox(Prompts &prompts, QWidget *parent)
     m_backupFolder->setObjectName(QStringLiteral("BackupFolderEdit"));
     m_chooseBackup->setObjectName(QStringLiteral("BackupFolderButton"));
     m_chooseBackup->setText(QStringLiteral("..."));
+    m_heldLabel->setObjectName(QStringLiteral("HeldBackupsLabel"));
+    m_history->setObjectName(QStringLiteral("OpenHistoryButton"));
+    m_typing->setSingleShot(true);
+    m_typing->setInterval(typingMs);
     m_keepRule->addItems(keepRuleTexts());
     setOptions({});
 
@@ -52,6 +76,10 @@ AdvancedBox::AdvancedBox(Prompts &prompts, QWidget *parent)
     backup->setSpacing(8);
     backup->addWidget(m_backupFolder, 1);
     backup->addWidget(m_chooseBackup);
+    auto *held = new QHBoxLayout;
+    held->setSpacing(8);
+    held->addWidget(m_heldLabel, 1);
+    held->addWidget(m_history);
     m_backupLabel->setBuddy(m_backupFolder);
     auto *form = new QFormLayout(this);
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
@@ -62,11 +90,15 @@ AdvancedBox::AdvancedBox(Prompts &prompts, QWidget *parent)
     form->addRow(m_skipSystemFolders);
     form->addRow(m_backupBeforeDelete);
     form->addRow(m_backupLabel, backup);
+    form->addRow(held);
 
     connect(m_keepRule, &QComboBox::currentIndexChanged, this, &AdvancedBox::changed);
     for (const QCheckBox *box : {m_skipHidden, m_skipSystemFolders, m_backupBeforeDelete})
         connect(box, &QCheckBox::toggled, this, &AdvancedBox::changed);
     connect(m_backupFolder, &QLineEdit::textChanged, this, &AdvancedBox::changed);
+    connect(m_backupFolder, &QLineEdit::textChanged, m_typing, qOverload<>(&QTimer::start));
+    connect(m_typing, &QTimer::timeout, this, &AdvancedBox::refreshHeld);
+    connect(m_history, &QPushButton::clicked, this, &AdvancedBox::historyRequested);
     connect(m_chooseBackup, &QToolButton::clicked, this, &AdvancedBox::chooseBackupFolder);
     retranslate();
 }
@@ -101,6 +133,18 @@ void AdvancedBox::chooseBackupFolder()
         m_backupFolder->setText(locationPath(folder));
 }
 
+void AdvancedBox::refreshHeld()
+{
+    runAside(
+        this, [folder = m_backupFolder->text()] { return std::pair(folder, heldBytes(folder)); },
+        [this](const std::pair<QString, qint64> &held) {
+            if (held.first != m_backupFolder->text())
+                return;
+            m_heldBytes = held.second;
+            retranslate();
+        });
+}
+
 void AdvancedBox::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)
@@ -119,6 +163,8 @@ void AdvancedBox::retranslate()
     m_skipSystemFolders->setText(Text::tr("排除系统目录"));
     m_backupBeforeDelete->setText(Text::tr("删除前自动备份"));
     m_backupLabel->setText(Text::tr("备份目录"));
+    m_heldLabel->setText(Text::tr("备份中保留：%1").arg(formatSize(m_heldBytes)));
+    m_history->setText(Text::tr("清理历史"));
     m_chooseBackup->setToolTip(Text::tr("选择备份目录"));
     m_chooseBackup->setAccessibleName(m_chooseBackup->toolTip());
 }

@@ -8,6 +8,8 @@ class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
+class QPushButton;
+class QTimer;
 class QToolButton;
 
 namespace Mirrix {
@@ -25,8 +27,13 @@ public:
     [[nodiscard]] AdvancedOptions options() const;
     void setOptions(const AdvancedOptions &options);
 
+    /// Adds up in the background what the backup folder holds, and shows it.
+    void refreshHeld();
+
 signals:
     void changed();
+
+    void historyRequested();
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -44,6 +51,10 @@ private:
     QLabel *m_backupLabel;
     QLineEdit *m_backupFolder;
     QToolButton *m_chooseBackup;
+    QLabel *m_heldLabel;
+    QPushButton *m_history;
+    QTimer *m_typing;
+    qint64 m_heldBytes = 0;
 };
 
 } // namespace Mirrix

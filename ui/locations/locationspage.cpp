@@ -119,6 +119,7 @@ void LocationsPage::connectParts()
 {
     connect(m_browser, &FolderBrowser::foldersChosen, m_table, &LocationTable::addFolders);
     connect(m_quick, &QuickLocations::folderChosen, this, &LocationsPage::addLocation);
+    connect(m_advanced, &AdvancedBox::historyRequested, this, &LocationsPage::historyRequested);
     connect(m_addFolder, &QPushButton::clicked, this, &LocationsPage::chooseFolder);
     connect(m_addDrives, &QPushButton::clicked, this, &LocationsPage::chooseDrives);
     connect(m_remove, &QPushButton::clicked, m_table, &LocationTable::removeSelected);
@@ -152,6 +153,11 @@ void LocationsPage::setLocked(bool locked)
     m_isLocked = locked;
     m_tableSide->setEnabled(!locked);
     m_browser->setLocked(locked);
+}
+
+void LocationsPage::refreshHeldBackups()
+{
+    m_advanced->refreshHeld();
 }
 
 void LocationsPage::chooseFolder()
@@ -192,6 +198,7 @@ void LocationsPage::showEvent(QShowEvent *event)
     QWidget::showEvent(event);
     readDrives();
     findMissing();
+    refreshHeldBackups();
 }
 
 void LocationsPage::changeEvent(QEvent *event)

@@ -42,8 +42,13 @@ public:
     /// While a scan runs, nothing here can be changed; browsing goes on.
     void setLocked(bool locked);
 
+    /// Adds up once more what the backup folder holds.
+    void refreshHeldBackups();
+
 signals:
     void changed();
+
+    void historyRequested();
 
 protected:
     void changeEvent(QEvent *event) override;

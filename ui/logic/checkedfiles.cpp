@@ -93,6 +93,17 @@ void CheckedFiles::forEach(Visit visit) const
     });
 }
 
+qint64 CheckedFiles::totalBytes() const
+{
+    qint64 sum = 0;
+    forEachGroup([&](qsizetype group) {
+        const QList<FileEntry> &files = m_state->groups[group].files;
+        for (qsizetype file = 0; file < files.size(); ++file)
+            sum += m_state->marks.isMarked(group, file) ? files[file].size : 0;
+    });
+    return sum;
+}
+
 QStringList CheckedFiles::paths() const
 {
     QStringList paths;

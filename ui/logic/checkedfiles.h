@@ -19,6 +19,9 @@ public:
 
     [[nodiscard]] qsizetype count() const;
 
+    /// Their sizes, as the scan saw them, together.
+    [[nodiscard]] qint64 totalBytes() const;
+
     /// Their paths in the order of groups and files.
     [[nodiscard]] QStringList paths() const;
 

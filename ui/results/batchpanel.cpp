@@ -91,7 +91,8 @@ void BatchPanel::retranslate()
     m_remove->setText(Text::tr("删除所选"));
     m_export->setText(Text::tr("导出…"));
     m_backupFirst->setText(Text::tr("删除前自动备份"));
-    m_backupFirst->setToolTip(Text::tr("删除文件前先将其移动到备份文件夹"));
+    m_backupFirst->setToolTip(
+        Text::tr("决定移除对话框打开时是否已勾选「移除前先备份」；备份的文件移入备份文件夹，不会删除"));
     m_note->setText(batchNote(m_state));
 }
 

@@ -1,0 +1,134 @@
+#include "ui/historycommands.h"
+
+#include "actions/cleaning/undo.h"
+#include "actions/records/runjournal.h"
+#include "app/settings.h"
+#include "app/text.h"
+#include "ui/dialogs/fileprogressdialog.h"
+#include "ui/logic/asidethreads.h"
+#include "ui/logic/batchtexts.h"
+#include "ui/logic/bytetext.h"
+#include "ui/prompts.h"
+
+#include <QSet>
+
+namespace Mirrix {
+
+namespace {
+
+/// A plan, and what of it is wanted, as the question before shows it.
+struct WantedUndo
+{
+    UndoPlan plan;
+    QList<UndoStep> possible;
+    QStringList problems;
+};
+
+WantedUndo wantedUndo(UndoPlan plan, const QList<qsizetype> &items)
+{
+    WantedUndo wanted;
+    const QSet<qsizetype> chosen(items.begin(), items.end());
+    for (const UndoStep &step : std::as_const(plan.steps)) {
+        if (!chosen.isEmpty() && !chosen.contains(step.item))
+            continue;
+        if (step.problem.isEmpty())
+            wanted.possible.append(step);
+        else
+            wanted.problems.append(step.problem);
+    }
+    wanted.plan = std::move(plan);
+    return wanted;
+}
+
+QString problemText(const QStringList &problems)
+{
+    return problems.isEmpty()
+               ? QString()
+               : Text::tr("\n无法放回的文件（%1 个）：\n").arg(problems.size()) + problems.join(QLatin1Char('\n'));
+}
+
+} // namespace
+
+HistoryCommands::HistoryCommands(const Settings &settings, Prompts &prompts, OperationsLog &log, QWidget *window)
+    : m_settings(settings)
+    , m_prompts(prompts)
+    , m_log(log)
+    , m_window(window)
+{}
+
+CleaningServices HistoryCommands::services() const
+{
+    return {m_log, m_settings.directory, QStringLiteral("window")};
+}
+
+bool HistoryCommands::undo(const QString &runId, const QList<qsizetype> &items)
+{
+    const QString title = Text::tr("撤销清理");
+    WantedUndo wanted;
+    QString problems;
+    FileProgressDialog planning(Text::tr("正在检查文件… (%1/%2)"), m_window);
+    runUnderProgress(planning, [&](const BatchProgress &progress) {
+        wanted = wantedUndo(planUndo(m_settings.directory, runId, progress), items);
+        problems = problemText(wanted.problems);
+    });
+    UndoResult result;
+    QString outcome;
+    const bool goesOn =
+        !planning.isStopped() && !wanted.possible.isEmpty() &&
+        m_prompts.ask(m_window, title,
+                      Text::tr("将把 %1 个文件放回原处。是否继续？").arg(wanted.possible.size()) + problems);
+    if (!planning.isStopped() && wanted.possible.isEmpty()) {
+        m_prompts.inform(m_window, title, Text::tr("没有可以放回的文件。") + problems);
+    } else if (goesOn) {
+        FileProgressDialog working(Text::tr("正在恢复文件… (%1/%2)"), m_window);
+        runUnderProgress(working, [&](const BatchProgress &progress) {
+            result = undoRun(wanted.plan, wanted.possible, services(), progress);
+            outcome = Text::tr("已恢复 %1 个文件。").arg(result.count) + failureText(result);
+            if (!result.notes.isEmpty())
+                outcome += QLatin1Char('\n') + result.notes.join(QLatin1Char('\n'));
+        });
+        m_prompts.inform(m_window, Text::tr("完成"), outcome);
+    }
+    discardAside(std::move(wanted));
+    discardAside(std::move(result));
+    return goesOn;
+}
+
+bool HistoryCommands::freeBackups(const RunSummary &run)
+{
+    const QString question = Text::tr("将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？");
+    if (!m_prompts.ask(m_window, Text::tr("释放备份"), question.arg(formatSize(heldInBackup(run)))))
+        return false;
+    BatchResult result;
+    FileProgressDialog working(Text::tr("正在删除备份… (%1/%2)"), m_window);
+    runUnderProgress(working, [&](const BatchProgress &progress) {
+        const StoredRun stored = readRun(runJournalPath(m_settings.directory, run.header.id));
+        result = Mirrix::freeBackups(stored, services(), progress);
+    });
+    m_prompts.inform(m_window, Text::tr("完成"),
+                     Text::tr("已删除 %1 个备份文件。").arg(result.count) + failureText(result));
+    return true;
+}
+
+bool HistoryCommands::removeRecords(const QStringList &runIds)
+{
+    const QString title = Text::tr("删除记录");
+    if (runIds.isEmpty()) {
+        m_prompts.inform(m_window, title, Text::tr("没有更早的记录。"));
+        return false;
+    }
+    const QString question = Text::tr("将删除 %1 条清理记录。文件不受影响，但之后无法在此撤销这些清理。是否继续？");
+    if (!m_prompts.ask(m_window, title, question.arg(runIds.size())))
+        return false;
+    qsizetype left = runIds.size();
+    FileProgressDialog working(Text::tr("正在处理"), m_window);
+    runUnderProgress(working, [&](const BatchProgress &progress) {
+        for (qsizetype i = 0; i < runIds.size() && progress(i, runIds.size()); ++i)
+            left -= removeRun(m_settings.directory, runIds[i]) ? 1 : 0;
+    });
+    if (left > 0 && !working.isStopped())
+        m_prompts.warn(m_window, title, Text::tr("有 %1 条记录无法删除。").arg(left));
+    return true;
+}
+
+} // namespace Mirrix

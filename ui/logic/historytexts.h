@@ -1,0 +1,20 @@
+#pragma once
+
+#include "actions/records/runhistory.h"
+
+#include <QString>
+
+namespace Mirrix {
+
+// What the cleaning history says of runs and files, in the current language.
+
+/// How the files of a run were given up, such as "Moved to backup + Symbolic link"; for an undoing, that it is one.
+[[nodiscard]] QString runMethodText(const RunHeader &run);
+
+/// Whether the run came to its end, was undone or undid another.
+[[nodiscard]] QString runStateText(const RunSummary &run);
+
+/// What was done with a file, and why not where it failed.
+[[nodiscard]] QString fileStateText(const ItemOutcome &outcome);
+
+} // namespace Mirrix
