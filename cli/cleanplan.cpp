@@ -63,7 +63,8 @@ void refuseRootsInside(const QString &folder, const ScanOptions &options)
     TargetFolder target(folder);
     for (const QString &root : options.roots) {
         if (target.isAtOrAbove(MirrixCore::cleanedPath(MirrixCore::absolutePath(root))))
-            throw UsageError{QStringLiteral("the target %1 is the scanned folder %2 or holds it").arg(folder, root)};
+            throw UsageError{
+                QStringLiteral("%1, where files are put away, is the scanned folder %2 or holds it").arg(folder, root)};
     }
 }
 
@@ -114,11 +115,11 @@ CleanRequest cleanRequestOf(const QCommandLineParser &parser)
     readSelection(parser, request.options);
     refuseLooseMatching(request.options);
     // What was put away is neither surplus nor a reason to put away the last copy in use.
-    request.options.excludeFolders.append(request.plan.backupFolder);
-    const QString taking = takingFolder(request.plan);
-    if (!taking.isEmpty()) {
-        refuseRootsInside(taking, request.options);
-        request.options.excludeFolders.append(taking);
+    for (const QString &folder : {request.plan.backupFolder, request.plan.targetFolder}) {
+        if (folder.isEmpty())
+            continue;
+        refuseRootsInside(folder, request.options);
+        request.options.excludeFolders.append(folder);
     }
     return request;
 }

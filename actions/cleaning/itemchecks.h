@@ -18,8 +18,8 @@ namespace Mirrix {
 /// and so is the kept one, and both are two files as far as the system can tell. Two looks at the disk.
 [[nodiscard]] QString itemProblem(const CleaningItem &item);
 
-/// Whether the kept file stands where it should once the surplus file has left its place: had both paths led to one file
-/// by way of mounts, links or letter case, it is gone now. Empty for an item without a kept file.
+/// Whether the kept file stands where it should once the surplus file has left its place: had both paths led to one
+/// file by way of mounts, links or letter case, it is gone now. Empty for an item without a kept file.
 [[nodiscard]] QString keptProblem(const CleaningItem &item);
 
 /// Whether both, still at their places, agree in their sample blocks, at most 20 KiB each, or in all bytes. Nothing is

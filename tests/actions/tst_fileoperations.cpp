@@ -174,7 +174,9 @@ void FileOperationsTest::neverReplaces()
 {
     const QString from = m_tree->write(u"from"_s, "one");
     const QString to = m_tree->write(u"to"_s, "other");
-    for (const auto act : {renameExclusively, moveFile, copyFile, copyToNewFile}) {
+    using Act = FileFault (*)(const QString &, const QString &);
+    const Act copyNew = [](const QString &from, const QString &to) { return copyToNewFile(from, to); };
+    for (const Act act : {Act(renameExclusively), Act(moveFile), Act(copyFile), copyNew}) {
         QCOMPARE(act(from, to), FileFault::Occupied);
         QCOMPARE(contentOf(from), QByteArray("one"));
         QCOMPARE(contentOf(to), QByteArray("other"));

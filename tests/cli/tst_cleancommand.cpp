@@ -419,7 +419,7 @@ void CleanCommandTest::targetHoldsTheFolder_data()
 {
     QTest::addColumn<QString>("method");
     QTest::addColumn<QString>("target");
-    for (const char *method : {"move", "backup"}) {
+    for (const char *method : {"move", "backup", "symlink"}) {
         QTest::addRow("%s, the folder", method) << QString::fromLatin1(method) << u"src"_s;
         QTest::addRow("%s, its parent", method) << QString::fromLatin1(method) << QString();
     }
@@ -431,7 +431,7 @@ void CleanCommandTest::targetHoldsTheFolder()
     QFETCH(QString, target);
     const DiskTree before = source();
     const ProgramRun done = clean(method, {u"--apply"_s, u"--target"_s, m_tree->path(target)});
-    QCOMPARE(done.errors, usageErrorText(u"the target %1 is the scanned folder %2 or holds it"_s.arg(
+    QCOMPARE(done.errors, usageErrorText(u"%1, where files are put away, is the scanned folder %2 or holds it"_s.arg(
                               QDir::cleanPath(m_tree->path(target)), m_tree->path(u"src"_s))));
     QCOMPARE(done.status, 2);
     QCOMPARE(source(), before);

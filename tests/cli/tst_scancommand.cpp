@@ -570,8 +570,7 @@ void ScanCommandTest::unwritableDataFolder()
     const QString inTheWay = m_tree->path(u"one/a.txt"_s);
     const ProgramRun run =
         m_program->run({u"scan"_s, u"--data-dir"_s, inTheWay, u"--format"_s, u"json"_s, m_tree->path()});
-    const QString warning =
-        u"mirrix-cli: cannot write to %1/fingerprint_cache; digests will not be cached\n"_s;
+    const QString warning = u"mirrix-cli: cannot write to %1/fingerprint_cache; digests will not be cached\n"_s;
     QCOMPARE(QString::fromUtf8(run.errors), warning.arg(inTheWay));
     QCOMPARE(groupsIn(run.output).size(), 1);
     QCOMPARE(run.status, 0);
