@@ -175,7 +175,7 @@ void FileOperationsTest::neverReplaces()
     const QString from = m_tree->write(u"from"_s, "one");
     const QString to = m_tree->write(u"to"_s, "other");
     using Act = FileFault (*)(const QString &, const QString &);
-    const Act copyNew = [](const QString &from, const QString &to) { return copyToNewFile(from, to); };
+    const Act copyNew = [](const QString &source, const QString &target) { return copyToNewFile(source, target); };
     for (const Act act : {Act(renameExclusively), Act(moveFile), Act(copyFile), copyNew}) {
         QCOMPARE(act(from, to), FileFault::Occupied);
         QCOMPARE(contentOf(from), QByteArray("one"));
