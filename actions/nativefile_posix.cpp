@@ -47,7 +47,10 @@ std::optional<FileFault> linkAndUnlink(const QByteArray &from, const QByteArray 
         return fault == FileFault::Failed ? std::nullopt : std::optional(fault);
     }
     // A network drive that is asked again, since its first answer got lost, says that there is no such name.
-    if (unlink(from.constData()) == 0 || errno == ENOENT)
+    struct stat left = {};
+    const bool isGone =
+        unlink(from.constData()) == 0 || (errno == ENOENT && lstat(from.constData(), &left) != 0 && errno == ENOENT);
+    if (isGone)
         return FileFault::None;
     unlink(to.constData());
     return FileFault::Failed;
