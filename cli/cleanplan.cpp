@@ -4,6 +4,7 @@
 #include "actions/cleaning/targetfolder.h"
 #include "app/settings.h"
 #include "cli/scancommand.h"
+#include "cli/selection.h"
 #include "core/platform/nativepath.h"
 #include "core/walk/pathrules.h"
 
@@ -61,9 +62,9 @@ void readFolders(const QCommandLineParser &parser, CleaningPlan &plan)
 void refuseRootsInside(const QString &folder, const ScanOptions &options)
 {
     TargetFolder target(folder);
-    for (const QString &root : options.roots) {
+    for (const QString &root : options.roots + options.files) {
         if (target.isAtOrAbove(MirrixCore::cleanedPath(MirrixCore::absolutePath(root))))
-            throw UsageError{QStringLiteral("the target %1 is the scanned folder %2 or holds it").arg(folder, root)};
+            throw UsageError{QStringLiteral("the target %1 is or holds %2, which is to be scanned").arg(folder, root)};
     }
 }
 
@@ -99,6 +100,7 @@ void addPlanOptions(QCommandLineParser &parser)
          QStringLiteral("Compare whole contents before every removal, not only before those that destroy a file.")},
     });
     addSelectionOptions(parser);
+    addPreparationOptions(parser);
 }
 
 CleanRequest cleanRequestOf(const QCommandLineParser &parser)

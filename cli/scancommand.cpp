@@ -4,6 +4,7 @@
 #include "cli/output.h"
 #include "cli/progressline.h"
 #include "cli/scanreport.h"
+#include "cli/selection.h"
 #include "cli/terminal.h"
 #include "core/cache/cacheroot.h"
 #include "core/match/rulekeys.h"
@@ -11,8 +12,6 @@
 #include "core/platform/nativepath.h"
 #include "core/scan/duplicatescanner.h"
 #include "core/scan/optiontable.h"
-#include "core/walk/filestatus.h"
-#include "core/walk/pathrules.h"
 
 #include <QDir>
 #include <QFile>
@@ -30,48 +29,10 @@ using namespace MirrixCore;
 
 const QString modeOption = QStringLiteral("mode");
 const QString hashOption = QStringLiteral("hash");
-const QString setOption = QStringLiteral("set");
 const QString optionsOption = QStringLiteral("options");
-const QString excludeOption = QStringLiteral("exclude");
 const QString noCacheOption = QStringLiteral("no-cache");
-const QString threadsOption = QStringLiteral("threads");
 const QString formatOption = QStringLiteral("format");
 const QString outputOption = QStringLiteral("output");
-
-constexpr int mostThreads = 256;
-
-/// `path` against `base`, the current folder when that is empty.
-QString absoluteFolder(const QString &path, const QString &base = {})
-{
-    if (path.isEmpty())
-        throw UsageError{QStringLiteral("an empty folder name")};
-    const bool isAgainstBase = !base.isEmpty() && QDir::isRelativePath(path);
-    return cleanedPath(absolutePath(isAgainstBase ? base + QLatin1Char('/') + path : path));
-}
-
-/// Takes the relative paths among the options against `base`, as above.
-void makeAbsolute(ScanOptions &options, const QString &base = {})
-{
-    for (QString &root : options.roots)
-        root = absoluteFolder(root, base);
-    for (QString &folder : options.excludeFolders)
-        folder = absoluteFolder(folder, base);
-    for (ScanLocation &location : options.locations)
-        location.path = absoluteFolder(location.path, base);
-}
-
-/// A folder that is to be left out and is misspelled would be scanned.
-void refuseMissingExclusions(const ScanOptions &options)
-{
-    for (const QString &folder : options.excludeFolders) {
-        const FileStatus status = fileStatus(folder);
-        if (status.kind == FileStatus::Kind::Folder)
-            continue;
-        const QString missing = status.reason.isEmpty() ? QStringLiteral("no such folder") : status.reason;
-        const QString reason = status.kind == FileStatus::Kind::Missing ? missing : QStringLiteral("not a folder");
-        throw UsageError{QStringLiteral("cannot exclude %1: %2").arg(folder, reason)};
-    }
-}
 
 void readOptionsFile(const QString &path, ScanOptions &options)
 {
@@ -89,26 +50,6 @@ void readOptionsFile(const QString &path, ScanOptions &options)
     if (!problem.isEmpty())
         throw UsageError{QStringLiteral("%1: %2").arg(path, problem)};
     makeAbsolute(options, QFileInfo(path).path());
-}
-
-void applyAssignment(const QString &assignment, ScanOptions &options)
-{
-    const qsizetype equals = assignment.indexOf(QLatin1Char('='));
-    if (equals < 1)
-        throw UsageError{QStringLiteral("--set takes NAME=VALUE, not \"%1\"").arg(assignment)};
-    const QString problem = setScanOption(options, assignment.left(equals), assignment.mid(equals + 1));
-    if (!problem.isEmpty())
-        throw UsageError{problem};
-}
-
-int threadsOf(const QString &text)
-{
-    bool isNumber = false;
-    const int threads = text.toInt(&isNumber);
-    if (!isNumber || threads < 0 || threads > mostThreads)
-        throw UsageError{
-            QStringLiteral("--threads must be a number from 0 to %1, not \"%2\"").arg(mostThreads).arg(text)};
-    return threads;
 }
 
 struct Mode
@@ -145,34 +86,6 @@ void applyMode(const QString &name, ScanOptions &options)
     throw UsageError{choiceProblem(modeOption, names, name)};
 }
 
-struct Range
-{
-    const char *option;
-    qint32 ScanOptions::*value;
-    qint32 least;
-    qint32 most;
-};
-
-constexpr std::array ranges = {
-    Range{"searchMode", &ScanOptions::searchMode, 0, 3},
-    Range{"contentMatch", &ScanOptions::contentMatch, 0, 2},
-    Range{"mediaCompareDepth", &ScanOptions::mediaCompareDepth, 0, 4},
-    Range{"mediaCompareDepthAlt", &ScanOptions::mediaCompareDepthAlt, 0, 2},
-    Range{"similarPercent", &ScanOptions::similarPercent, 1, 100},
-    Range{"imageSimilarityLevel", &ScanOptions::imageSimilarityLevel, 0, 4},
-    Range{"imageMaxDistance", &ScanOptions::imageMaxDistance, 0, 64},
-};
-
-void refuseOutside(const char *option, qint32 value, qint32 least, qint32 most)
-{
-    if (value < least || value > most)
-        throw UsageError{QStringLiteral("%1 must be from %2 to %3, not %4")
-                             .arg(QLatin1String(option))
-                             .arg(least)
-                             .arg(most)
-                             .arg(value)};
-}
-
 void refuseWildcards(const QStringList &extensions)
 {
     for (const QString &extension : extensions) {
@@ -190,9 +103,9 @@ bool groupsByRules(const ScanOptions &options)
     case SearchMode::Images:
         return false;
     case SearchMode::Audio:
-        return options.mediaCompareDepth == ranges[2].most;
+        return options.mediaCompareDepth == 4;
     case SearchMode::Video:
-        return options.mediaCompareDepthAlt == ranges[3].most;
+        return options.mediaCompareDepthAlt == 2;
     }
     return false;
 }
@@ -200,11 +113,12 @@ bool groupsByRules(const ScanOptions &options)
 /// Refuses what would be answered with an empty result.
 void refuseUnsupported(const ScanOptions &options)
 {
-    for (const Range &range : ranges)
-        refuseOutside(range.option, options.*range.value, range.least, range.most);
+    if (const QString problem = scanOptionOutOfRange(options); !problem.isEmpty())
+        throw UsageError{problem};
     bool hasLocationRule = false;
     for (const ScanLocation &location : options.locations) {
-        refuseOutside("findKind", location.findKind, 0, 2);
+        if (location.findKind < 0 || location.findKind > static_cast<qint32>(FindKind::EmptyFiles))
+            throw UsageError{QStringLiteral("findKind must be from 0 to 2, not %1").arg(location.findKind)};
         hasLocationRule = hasLocationRule || location.findKind != static_cast<qint32>(FindKind::ContentDuplicates);
     }
     refuseWildcards(options.includeExtensions + options.excludeExtensions);
@@ -270,34 +184,13 @@ ScanResult scanWithProgress(const ScanOptions &options)
 
 } // namespace
 
-void addSelectionOptions(QCommandLineParser &parser)
+void addPreparationOptions(QCommandLineParser &parser)
 {
     parser.addOptions({
         {hashOption, QStringLiteral("Digest used for comparing: md5 or blake3 (default: from the settings)."),
          QStringLiteral("NAME")},
-        {setOption, QStringLiteral("Set a scan option. May be repeated."), QStringLiteral("NAME=VALUE")},
-        {excludeOption, QStringLiteral("Skip this folder. May be repeated."), QStringLiteral("DIR")},
         {noCacheOption, QStringLiteral("Do not read or write the digest cache.")},
-        {threadsOption, QStringLiteral("Number of worker threads, 0 to 256; 0 = one per processor, up to 8."),
-         QStringLiteral("N")},
     });
-    parser.addPositionalArgument(QStringLiteral("FOLDER"), QStringLiteral("Folders to scan, including subfolders."),
-                                 QStringLiteral("FOLDER..."));
-}
-
-void readSelection(const QCommandLineParser &parser, ScanOptions &options)
-{
-    const QStringList assignments = parser.values(setOption);
-    for (const QString &assignment : assignments)
-        applyAssignment(assignment, options);
-    if (parser.isSet(threadsOption))
-        options.threads = threadsOf(parser.value(threadsOption));
-    options.excludeFolders += parser.values(excludeOption);
-    options.roots += parser.positionalArguments();
-    makeAbsolute(options);
-    refuseMissingExclusions(options);
-    if (options.roots.isEmpty())
-        throw UsageError{QStringLiteral("no folder to scan")};
 }
 
 void prepareScan(const QCommandLineParser &parser)
@@ -322,6 +215,7 @@ ScanResult scanAndReportUnread(const ScanOptions &options)
 void addScanOptions(QCommandLineParser &parser)
 {
     addSelectionOptions(parser);
+    addPreparationOptions(parser);
     parser.addOptions({
         {modeOption,
          QStringLiteral("How files are compared: content (default): identical bytes; similar-content: at least "

@@ -25,8 +25,8 @@ struct UndoPlan
 };
 
 /// Reads a run and looks where its files are; contents are not read. Files that the run did not touch, that are back
-/// already or that stand at their place have no step. What a run that was cut short did with a file, the disk tells. Not
-/// for journals that cannot be read: see run.summary. Blocks; cancelled by `progress`.
+/// already or that stand at their place have no step. What a run that was cut short did with a file, the disk tells.
+/// Not for journals that cannot be read: see run.summary. Blocks; cancelled by `progress`.
 [[nodiscard]] UndoPlan planUndo(const QString &dataDirectory, const QString &runId, const BatchProgress &progress = {});
 
 struct UndoResult : BatchResult
@@ -36,9 +36,10 @@ struct UndoResult : BatchResult
 };
 
 /// Brings files of a run back to their old paths with the old times and permissions, never over anything that stands
-/// there: from the backup folder, the folder they were moved to, or the bin; what was replaced by a link or deleted for good
-/// is made again from the kept copy when that still has the content that was proved equal. `steps` are those of planUndo, or
-/// some of them. Recorded as a run of its own, and refused where that is not possible. No failure ends it. Blocks.
+/// there: from the backup folder, the folder they were moved to, or the bin; what was replaced by a link or deleted for
+/// good is made again from the kept copy when that still has the content that was proved equal. `steps` are those of
+/// planUndo, or some of them. Recorded as a run of its own, and refused where that is not possible. No failure ends it.
+/// Blocks.
 [[nodiscard]] UndoResult undoRun(const UndoPlan &plan, const QList<UndoStep> &steps, const CleaningServices &services,
                                  const BatchProgress &progress = {});
 

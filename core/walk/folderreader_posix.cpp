@@ -72,6 +72,7 @@ bool readItem(int folder, const char *name, FolderItem &item)
                 : S_ISDIR(info.stx_mode) ? FolderItem::Kind::Folder
                                          : FolderItem::Kind::Other;
     item.sizeBytes = static_cast<qint64>(info.stx_size);
+    item.allocatedBytes = static_cast<qint64>(info.stx_blocks) * 512; // the unit of statx, whatever the volume's is
     item.modifiedMs = epochMs(info.stx_mtime);
     item.createdMs = info.stx_mask & STATX_BTIME ? epochMs(info.stx_btime) : 0;
     const auto device = static_cast<quint32>(makedev(info.stx_dev_major, info.stx_dev_minor));

@@ -336,6 +336,16 @@ void ScanCommandTest::options_data()
     row("most threads", {u"--threads"_s, u"256"_s, all}, 5, 1);
     row("without subfolders",
         {u"--set"_s, u"locations=[{\"path\":\"%1/two\",\"includeSubfolders\":false}]"_s, u"%1/two"_s}, 1, 0);
+    row("least size", {u"--min-size"_s, u"0.004K"_s, all}, 3, 0);
+    row("greatest size", {u"--set"_s, u"maxSize=1"_s, u"--max-size"_s, u"4B"_s, all}, 2, 1);
+    row("names", {u"--name"_s, u"*.TXT"_s, u"--name"_s, u"b.*"_s, all}, 3, 1);
+    row("names left out", {u"--exclude-name"_s, u"*.json"_s, u"--exclude-name"_s, u"SUB"_s, all}, 2, 1);
+    row("newer than a day", {u"--newer"_s, u"1d"_s, all}, 2, 0);
+    row("newer than a date", {u"--newer"_s, u"2009-02-13"_s, all}, 5, 1);
+    row("newer than another date", {u"--newer"_s, u"2009-02-15"_s, all}, 2, 0);
+    row("one file system", {u"--one-file-system"_s, all}, 5, 1);
+    row("listed", {u"--files-from"_s, u"%1/list"_s}, 3, 1);
+    row("listed beside a folder", {u"--files-from"_s, u"%1/list"_s, u"%1/one"_s, u"--max-size"_s, u"4"_s}, 2, 1);
     row("empty files only", {u"--set"_s, u"locations=[{\"path\":\"%1\",\"findKind\":2}]"_s, all}, 5, 0);
 }
 
@@ -347,6 +357,8 @@ void ScanCommandTest::options()
     m_tree->write(u"options.json"_s, "{\"maxSize\": 20}");
     m_tree->write(u"roots.json"_s, "{\"roots\": [\"" + m_tree->path(u"one"_s).toUtf8() + "\"]}");
     arguments.replaceInStrings(u"%1"_s, m_tree->path());
+    if (arguments.contains(m_tree->path(u"list"_s)))
+        m_tree->write(u"list"_s, u"%1/one/a.txt\r\n%1/two\n\n"_s.arg(m_tree->path()).toUtf8());
     const ProgramRun run = scanAsJson(arguments);
     QCOMPARE(run.errors, "");
     QCOMPARE(run.status, 0);
@@ -410,6 +422,13 @@ void ScanCommandTest::mistakes_data()
         u"--mode must be content, similar-content, rules, images, audio or video, not \"sound\""_s);
     row({u"--hash"_s, u"BLAKE3"_s, u"/a"_s}, u"--hash must be md5 or blake3, not \"BLAKE3\""_s);
     row({u"--format"_s, u"xml"_s, u"/a"_s}, u"--format must be text, json or csv, not \"xml\""_s);
+    const QString size = u"--min-size must be a size such as 4096, 512K or 1.5M, not \"%1\""_s;
+    for (const QString &text : {u""_s, u"1X"_s, u"-1"_s, u"1.5.1M"_s, u"99999999T"_s})
+        row({u"--min-size"_s, text, u"/a"_s}, size.arg(text));
+    const QString age = u"--newer must be an age such as 12h, 30d or 4w, or a date such as 2024-01-31, not \"%1\""_s;
+    for (const QString &text : {u""_s, u"d"_s, u"30"_s, u"-2d"_s, u"2024-13-01"_s})
+        row({u"--newer"_s, text, u"/a"_s}, age.arg(text));
+    row({u"--files-from"_s, u"/no such file"_s}, u"cannot read /no such file: No such file or directory"_s);
     row({u"--recursive"_s, u"/a"_s}, u"Unknown option 'recursive'."_s);
     row({u"--mode"_s, u"rules"_s, u"/a"_s},
         u"without comparing contents a rule is needed, for example --set sameName=true"_s);
@@ -570,8 +589,7 @@ void ScanCommandTest::unwritableDataFolder()
     const QString inTheWay = m_tree->path(u"one/a.txt"_s);
     const ProgramRun run =
         m_program->run({u"scan"_s, u"--data-dir"_s, inTheWay, u"--format"_s, u"json"_s, m_tree->path()});
-    const QString warning =
-        u"mirrix-cli: cannot write to %1/fingerprint_cache; digests will not be cached\n"_s;
+    const QString warning = u"mirrix-cli: cannot write to %1/fingerprint_cache; digests will not be cached\n"_s;
     QCOMPARE(QString::fromUtf8(run.errors), warning.arg(inTheWay));
     QCOMPARE(groupsIn(run.output).size(), 1);
     QCOMPARE(run.status, 0);
