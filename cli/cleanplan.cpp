@@ -86,11 +86,12 @@ void addPlanOptions(QCommandLineParser &parser)
         {keepOption,
          QStringLiteral(
              "Which file of each group to keep: newest, oldest, shallowest or deepest. On a tie, the first one "
-             "listed. Required."),
+             "listed. Required unless --empty-folders is given."),
          QStringLiteral("RULE")},
         {methodOption,
-         QStringLiteral("What to do with the other files: recycle, delete (permanently), move, backup, symlink or "
-                        "hardlink (replace each with a link to the kept file). Required."),
+         QStringLiteral(
+             "What to do with the other files: recycle, delete (permanently), move, backup, symlink or "
+             "hardlink (replace each with a link to the kept file). Required unless --empty-folders is given."),
          QStringLiteral("METHOD")},
         {targetOption,
          QStringLiteral("Destination folder for move (required), or the backup folder for backup (default: from the "
@@ -101,6 +102,14 @@ void addPlanOptions(QCommandLineParser &parser)
     });
     addSelectionOptions(parser);
     addPreparationOptions(parser);
+}
+
+void refusePlanOptions(const QCommandLineParser &parser)
+{
+    for (const QString &option : {keepOption, methodOption, targetOption, compareOption}) {
+        if (parser.isSet(option))
+            throw UsageError{QStringLiteral("--%1 cannot be used with --empty-folders").arg(option)};
+    }
 }
 
 CleanRequest cleanRequestOf(const QCommandLineParser &parser)

@@ -1,17 +1,21 @@
 #include "cli/scancommand.h"
 
 #include "app/settings.h"
+#include "cli/colours.h"
+#include "cli/grouporder.h"
 #include "cli/output.h"
 #include "cli/progressline.h"
 #include "cli/scanreport.h"
 #include "cli/selection.h"
 #include "cli/terminal.h"
+#include "cli/unread.h"
 #include "core/cache/cacheroot.h"
 #include "core/match/rulekeys.h"
 #include "core/media/mediakinds.h"
 #include "core/platform/nativepath.h"
 #include "core/scan/duplicatescanner.h"
 #include "core/scan/optiontable.h"
+#include "core/walk/emptyfolders.h"
 
 #include <QDir>
 #include <QFile>
@@ -19,7 +23,7 @@
 #include <QJsonDocument>
 #include <QTemporaryFile>
 
-#include <array>
+#include <algorithm>
 
 namespace MirrixCli {
 
@@ -33,6 +37,10 @@ const QString optionsOption = QStringLiteral("options");
 const QString noCacheOption = QStringLiteral("no-cache");
 const QString formatOption = QStringLiteral("format");
 const QString outputOption = QStringLiteral("output");
+const QString sortOption = QStringLiteral("sort");
+const QString quietOption = QStringLiteral("quiet");
+const QString emptyFilesOption = QStringLiteral("empty-files");
+const QString emptyFoldersOption = QStringLiteral("empty-folders");
 
 void readOptionsFile(const QString &path, ScanOptions &options)
 {
@@ -143,14 +151,32 @@ void applyHash(const QCommandLineParser &parser, const QString &dataDirectory)
 
 ReportFormat formatOf(const QString &name)
 {
-    if (name == QLatin1String("text"))
-        return ReportFormat::Text;
-    if (name == QLatin1String("json"))
-        return ReportFormat::Json;
-    if (name == QLatin1String("csv"))
-        return ReportFormat::Csv;
-    throw UsageError{
-        choiceProblem(formatOption, {QStringLiteral("text"), QStringLiteral("json"), QStringLiteral("csv")}, name)};
+    const QStringList names = {QStringLiteral("text"), QStringLiteral("json"), QStringLiteral("csv"),
+                               QStringLiteral("nul")}; // in the order of the formats
+    if (!names.contains(name))
+        throw UsageError{choiceProblem(formatOption, names, name)};
+    return static_cast<ReportFormat>(names.indexOf(name));
+}
+
+QString orderOf(const QCommandLineParser &parser)
+{
+    const QString order = parser.value(sortOption);
+    if (!groupOrders().contains(order))
+        throw UsageError{choiceProblem(sortOption, groupOrders(), order)};
+    return order;
+}
+
+/// Looks for empty files instead of duplicates.
+void seekEmptyFiles(ScanOptions &options)
+{
+    const QStringList places = options.roots + options.files.mid(0, options.roots.isEmpty() ? 1 : 0);
+    for (const QString &place : places) {
+        const auto isOf = [&](const ScanLocation &location) { return location.path == place; };
+        if (std::none_of(options.locations.begin(), options.locations.end(), isOf))
+            options.locations.append({place, true, 0, false});
+    }
+    for (ScanLocation &location : options.locations)
+        location.findKind = static_cast<qint32>(FindKind::EmptyFiles);
 }
 
 /// Finds out before a long scan whether its report can be written. The file is not left open: its temporary name would
@@ -175,9 +201,34 @@ void useCache(const QString &dataDirectory)
         printError(QStringLiteral("cannot write to %1; digests will not be cached").arg(folder));
 }
 
-ScanResult scanWithProgress(const ScanOptions &options)
+/// The folders in the order in which people read them.
+void addEmptyFolders(ScanReport &report, const ScanOptions &options)
 {
-    ProgressLine line;
+    QList<UnreadPath> unread;
+    report.emptyFolders = findEmptyFolders(options, isInterrupted, unread);
+    std::reverse(report.emptyFolders.begin(), report.emptyFolders.end());
+    if (report.hasFiles)
+        return; // the same was named before
+    printUnread(unread);
+    report.result.unread = unread;
+}
+
+/// False, with the reason told, when the report could not be written.
+bool writeTo(const QString &path, const ScanReport &report, const ReportStyle &style)
+{
+    Output output;
+    const bool isOpen = output.open(path);
+    if (isOpen)
+        writeReport(report, style, output);
+    if (isOpen && output.finish())
+        return true;
+    printError(QStringLiteral("cannot write the report: %1").arg(output.errorText()));
+    return false;
+}
+
+ScanResult scanWithProgress(const ScanOptions &options, bool isQuiet)
+{
+    ProgressLine line(!isQuiet);
     return DuplicateScanner::scan(
         options, [&line](const ScanProgress &progress) { line.show(progress); }, isInterrupted);
 }
@@ -204,12 +255,23 @@ void prepareScan(const QCommandLineParser &parser)
     catchInterrupts();
 }
 
-ScanResult scanAndReportUnread(const ScanOptions &options)
+ScanResult scanAndReportUnread(const ScanOptions &options, bool isQuiet)
 {
-    const ScanResult result = scanWithProgress(options);
-    for (const UnreadPath &unread : result.unread)
-        printError(QStringLiteral("%1: %2").arg(unread.path, unread.reason));
+    const ScanResult result = scanWithProgress(options, isQuiet);
+    printUnread(result.unread);
     return result;
+}
+
+void addOutputOptions(QCommandLineParser &parser)
+{
+    parser.addOption({{QStringLiteral("q"), quietOption},
+                      QStringLiteral("Print the result only: no progress, no summary. Errors are still printed.")});
+    addColourOption(parser);
+}
+
+bool isQuiet(const QCommandLineParser &parser)
+{
+    return parser.isSet(quietOption);
 }
 
 void addScanOptions(QCommandLineParser &parser)
@@ -224,10 +286,22 @@ void addScanOptions(QCommandLineParser &parser)
                         "(audio) or mediaCompareDepthAlt (video); rules: names, sizes, dates and paths only."),
          QStringLiteral("MODE")},
         {optionsOption, QStringLiteral("Read scan options from a JSON file."), QStringLiteral("FILE")},
-        {formatOption, QStringLiteral("Report format: text (default), json or csv."), QStringLiteral("FORMAT"),
-         QStringLiteral("text")},
+        {emptyFilesOption, QStringLiteral("List empty files instead of duplicates.")},
+        {emptyFoldersOption,
+         QStringLiteral(
+             "List folders that hold nothing, or nothing but such folders, instead of duplicates. May be used "
+             "with --empty-files.")},
+        {formatOption,
+         QStringLiteral("Report format: text (default), json, csv (groups only) or nul (paths that each end with a NUL "
+                        "byte, an empty one between groups)."),
+         QStringLiteral("FORMAT"), QStringLiteral("text")},
+        {sortOption,
+         QStringLiteral("Order of the groups: waste (default; most first), path (of the first file), size (of the "
+                        "largest file, largest first) or modified (latest change first)."),
+         QStringLiteral("ORDER"), groupOrders().constFirst()},
         {outputOption, QStringLiteral("Write the report to a file."), QStringLiteral("FILE")},
     });
+    addOutputOptions(parser);
 }
 
 ScanOptions scanOptionsOf(const QCommandLineParser &parser)
@@ -247,24 +321,27 @@ ScanOptions scanOptionsOf(const QCommandLineParser &parser)
 
 ExitStatus runScan(const QCommandLineParser &parser)
 {
-    const ScanOptions options = scanOptionsOf(parser);
-    const ReportFormat format = formatOf(parser.value(formatOption));
+    ScanOptions options = scanOptionsOf(parser);
+    const ReportStyle style = {formatOf(parser.value(formatOption)), colourChoiceOf(parser), isQuiet(parser)};
+    const QString order = orderOf(parser);
     refuseUnwritable(parser.value(outputOption));
     prepareScan(parser);
-    const ScanResult result = scanAndReportUnread(options);
+    ScanReport report;
+    report.hasFolders = parser.isSet(emptyFoldersOption);
+    report.hasFiles = parser.isSet(emptyFilesOption) || !report.hasFolders;
+    if (parser.isSet(emptyFilesOption))
+        seekEmptyFiles(options);
+    if (report.hasFiles)
+        report.result = scanAndReportUnread(options, style.isQuiet);
+    if (report.hasFolders)
+        addEmptyFolders(report, options);
     if (isInterrupted()) {
         printError(QStringLiteral("cancelled"));
         return ExitStatus::Cancelled;
     }
-    Output output;
-    const bool isOpen = output.open(parser.value(outputOption));
-    if (isOpen)
-        writeReport(result, format, output);
-    if (!isOpen || !output.finish()) {
-        printError(QStringLiteral("cannot write the report: %1").arg(output.errorText()));
-        return ExitStatus::SomeFailed;
-    }
-    return result.unread.isEmpty() ? ExitStatus::Done : ExitStatus::SomeFailed;
+    sortGroups(report.result.groups, order);
+    const bool isWritten = writeTo(parser.value(outputOption), report, style);
+    return isWritten && !isAnyWanted(report.result.unread, options) ? ExitStatus::Done : ExitStatus::SomeFailed;
 }
 
 } // namespace MirrixCli

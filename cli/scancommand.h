@@ -25,7 +25,11 @@ void addPreparationOptions(QCommandLineParser &parser);
 /// Chooses digest and cache as the command line asks, and notes Ctrl-C from now on. Throws UsageError.
 void prepareScan(const QCommandLineParser &parser);
 
-/// Scans with a progress line and names what could not be read on standard error.
-[[nodiscard]] MirrixCore::ScanResult scanAndReportUnread(const MirrixCore::ScanOptions &options);
+/// Scans, with a progress line unless `isQuiet`, and names what could not be read on standard error.
+[[nodiscard]] MirrixCore::ScanResult scanAndReportUnread(const MirrixCore::ScanOptions &options, bool isQuiet);
+
+/// Declares --quiet and --color.
+void addOutputOptions(QCommandLineParser &parser);
+[[nodiscard]] bool isQuiet(const QCommandLineParser &parser);
 
 } // namespace MirrixCli
