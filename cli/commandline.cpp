@@ -4,7 +4,9 @@
 #include "cli/cleancommand.h"
 #include "cli/hashcommand.h"
 #include "cli/historycommand.h"
+#include "cli/infocommand.h"
 #include "cli/logcommand.h"
+#include "cli/optionscommand.h"
 #include "cli/output.h"
 #include "cli/restorecommand.h"
 #include "cli/scancommand.h"
@@ -14,7 +16,6 @@
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <array>
 #include <exception>
 
 namespace MirrixCli {
@@ -32,9 +33,9 @@ struct Command
     ExitStatus (*run)(const QCommandLineParser &);
 };
 
-const std::array<Command, 6> &commands()
+const QList<Command> &commands()
 {
-    static const std::array<Command, 6> table = {{
+    static const QList<Command> table = {
         {QStringLiteral("scan"), QStringLiteral("find duplicate files in folders"), addScanOptions, runScan},
         {QStringLiteral("clean"), QStringLiteral("remove surplus copies of identical files"), addCleanOptions,
          runClean},
@@ -43,7 +44,10 @@ const std::array<Command, 6> &commands()
          runHistory},
         {QStringLiteral("log"), QStringLiteral("print what was done"), addLogOptions, runLog},
         {QStringLiteral("hash"), QStringLiteral("print digests of files"), addHashOptions, runHash},
-    }};
+        {QStringLiteral("info"), QStringLiteral("print what is known of files"), addInfoOptions, runInfo},
+        {QStringLiteral("options"), QStringLiteral("describe the scan options that --set takes"), addOptionsOptions,
+         runOptions},
+    };
     return table;
 }
 

@@ -24,9 +24,6 @@ struct UsageError
     QString message;
 };
 
-/// The message for an option that takes one of `choices` and was given `value`, or none when that is empty.
-[[nodiscard]] QString choiceProblem(const QString &option, const QStringList &choices, const QString &value);
-
 /// The message for an option that takes one of `choices` and was given `value`; an empty one was not given at all.
 [[nodiscard]] QString choiceProblem(const QString &option, const QStringList &choices, const QString &value);
 

@@ -182,6 +182,13 @@ void writeArray(const char *name, const QList<Item> &items, ValueOf valueOf, Out
 
 } // namespace
 
+QJsonObject jsonOf(const FileEntry &file)
+{
+    QByteArray text;
+    JsonText(text).value(file);
+    return QJsonDocument::fromJson(text).object();
+}
+
 void writeJson(const ScanReport &report, Output &output)
 {
     const ScanResult &result = report.result;
