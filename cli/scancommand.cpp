@@ -280,10 +280,11 @@ void addScanOptions(QCommandLineParser &parser)
     addPreparationOptions(parser);
     parser.addOptions({
         {modeOption,
-         QStringLiteral("How files are compared: content (default): identical bytes; similar-content: at least "
-                        "similarPercent of samples agree; images: visual similarity, within imageMaxDistance; audio, "
-                        "video: content samples, then the opening or the whole file, depending on mediaCompareDepth "
-                        "(audio) or mediaCompareDepthAlt (video); rules: names, sizes, dates and paths only."),
+         QStringLiteral(
+             "How files are compared: content (default; identical bytes), similar-content (at least "
+             "similarPercent of samples agree), rules (names, sizes, dates and paths only), images (visual "
+             "similarity, within imageMaxDistance), audio or video (content samples, then the opening or the "
+             "whole file, depending on mediaCompareDepth for audio, mediaCompareDepthAlt for video)."),
          QStringLiteral("MODE")},
         {optionsOption, QStringLiteral("Read scan options from a JSON file."), QStringLiteral("FILE")},
         {emptyFilesOption, QStringLiteral("List empty files instead of duplicates.")},
