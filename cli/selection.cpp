@@ -138,8 +138,8 @@ void addSelectionOptions(QCommandLineParser &parser)
          QStringLiteral("FILE")},
         {{QStringLiteral("0"), nullOption}, QStringLiteral("The list of --files-from is separated by NUL bytes.")},
         {setOption,
-         QStringLiteral("Set a scan option; \"mirrix-cli options\" lists them. May be repeated. Options of their own, "
-                        "such as --min-size, win."),
+         QStringLiteral("Set a scan option; \"mirrix-cli options\" lists them. May be repeated. Options such as "
+                        "--min-size take precedence."),
          QStringLiteral("NAME=VALUE")},
         {threadsOption, QStringLiteral("Number of worker threads, 0 to 256; 0 = one per processor, up to 8."),
          QStringLiteral("N")},

@@ -158,9 +158,12 @@ private:
     void takeFilesOf(const QString &folder, NamesByKey names)
     {
         const QString realPath = realPathOf(folder);
-        if (m_visited.contains(pathCaseKey(folder)) || m_rules.excludes(folder, false) ||
-            (!realPath.isEmpty() && m_rules.excludes(realPath, false)))
+        if (m_visited.contains(pathCaseKey(folder)))
             return;
+        if (isLeftOutWhole(folder, realPath)) {
+            m_leftOut.files += names.size();
+            return;
+        }
         OpenFolder open{folder, realPath, placeOfTree(folder), FolderReader(folder), false, m_files.size(), {}, false};
         FolderItem item;
         while (!names.isEmpty() && !isCancelled(m_cancelled) && open.reader.next(item)) {
@@ -175,6 +178,16 @@ private:
         const QString &error = open.reader.errorText();
         for (const QString &name : std::as_const(names))
             note(childPath(folder, name), error.isEmpty() ? QStringLiteral("no such file") : error);
+    }
+
+    /// Whether single files of `folder` are left out with it: nobody has named it or those above it as roots.
+    bool isLeftOutWhole(const QString &folder, const QString &realPath) const
+    {
+        const QStringList above = folder.split(QLatin1Char('/'), Qt::SkipEmptyParts);
+        const auto isUnwanted = [this](const QString &name) { return m_filter.excludesName(name); };
+        return m_rules.excludes(folder, false) || (!realPath.isEmpty() && m_rules.excludes(realPath, false)) ||
+               (m_rules.needsIdentities() && m_rules.isListed(fileStatus(folder).identity)) ||
+               std::any_of(above.begin(), above.end(), isUnwanted);
     }
 
     void walkFolder(const QString &folder, const QString &realFolder)

@@ -170,10 +170,11 @@ void EnumerationTest::filtersNames()
 void EnumerationTest::takesSingleFiles()
 {
     const TempTree tree;
-    for (const QString &name : {u"a/1"_s, u"a/2"_s, u"b/3"_s, u"b/4.tmp"_s, u"out/5"_s})
+    for (const QString &name : {u"a/1"_s, u"a/2"_s, u"b/3"_s, u"b/4.tmp"_s, u"out/5"_s, u"c.tmp/d/6"_s})
         tree.write(name, "x");
     ScanOptions options = optionsFor(tree, {u"b"_s});
-    for (const QString &name : {u"a/1"_s, u"a/1"_s, u"a/../b/3"_s, u"a/none"_s, u"none/6"_s, u"out/5"_s, u"a"_s})
+    for (const QString &name :
+         {u"a/1"_s, u"a/1"_s, u"a/../b/3"_s, u"a/none"_s, u"none/6"_s, u"out/5"_s, u"c.tmp/d/6"_s, u"a"_s})
         options.files.append(tree.path(name));
     options.excludeFolders = {tree.path(u"out"_s)};
     options.excludeNames = {u"*.tmp"_s};
