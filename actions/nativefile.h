@@ -93,6 +93,10 @@ struct FileMarks
 /// Makes one folder. Occupied when something, perhaps a folder, stands there.
 [[nodiscard]] FileFault makeFolder(const QString &path);
 
+/// Removes a folder, and only one that holds nothing: the system refuses any other. A link to a folder is not told from
+/// one (Windows); see pathState.
+[[nodiscard]] FileFault removeEmptyFolder(const QString &path);
+
 /// Waits until the names in a folder are on the disk, where the system knows how. False when they did not get there.
 [[nodiscard]] bool flushFolder(const QString &folder);
 

@@ -152,6 +152,11 @@ FileFault makeEmptyFile(const QString &path)
     return file < 0 ? faultOf(errno) : faultUnless(close(file));
 }
 
+FileFault removeEmptyFolder(const QString &path)
+{
+    return faultUnless(rmdir(pathBytes(path).constData()));
+}
+
 FileFault makeFolder(const QString &path)
 {
     return faultUnless(mkdir(pathBytes(path).constData(), 0777));

@@ -159,6 +159,12 @@ FileFault makeEmptyFile(const QString &path)
     return file ? FileFault::None : faultOf(GetLastError());
 }
 
+FileFault removeEmptyFolder(const QString &path)
+{
+    const std::wstring native = wide(path);
+    return patiently([&native] { return RemoveDirectoryW(native.c_str()); });
+}
+
 FileFault makeFolder(const QString &path)
 {
     return CreateDirectoryW(wide(path).c_str(), nullptr) ? FileFault::None : faultOf(GetLastError());

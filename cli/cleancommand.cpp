@@ -5,10 +5,13 @@
 #include "actions/records/logevents.h"
 #include "app/sizetext.h"
 #include "cli/cleanplan.h"
+#include "cli/colours.h"
+#include "cli/emptyfolderscommand.h"
 #include "cli/output.h"
 #include "cli/progressline.h"
 #include "cli/scancommand.h"
 #include "cli/terminal.h"
+#include "cli/unread.h"
 
 #include <QCoreApplication>
 
@@ -42,20 +45,24 @@ QString spaceText(const Space &space)
 }
 
 /// False when the list could not be written.
-bool printPlan(const CleaningPlan &plan)
+bool printPlan(const CleaningPlan &plan, const QString &colour, bool isQuiet)
 {
     QString kept;
     qint64 bytes = 0;
     Output output;
     if (!output.open({}))
         return false;
+    const bool isOn = isColoured(colour, output);
     for (const CleaningItem &item : plan.items) {
         if (item.kept.path != kept)
-            output.write("keep " + shownPath(item.kept.path, true) + '\n');
+            output.write(coloured("keep", Colour::Kept, isOn) + ' ' + shownPath(item.kept.path, true) + '\n');
         kept = item.kept.path;
-        output.write("  " + verbOf(plan.method).toUtf8() + ' ' + shownPath(item.file.path, true) + '\n');
+        output.write("  " + coloured(verbOf(plan.method).toUtf8(), Colour::GivenUp, isOn) + ' ' +
+                     shownPath(item.file.path, true) + '\n');
         bytes += item.file.sizeBytes;
     }
+    if (isQuiet)
+        return output.finish();
     output.write(QStringLiteral("%1 files, %2 (%3). Nothing was changed; run again with --apply to do this.\n")
                      .arg(plan.items.size())
                      .arg(sizeText(bytes), spaceText(estimatedSpace(plan)))
@@ -70,11 +77,11 @@ ExitStatus cancelled()
 }
 
 /// Carries the plan out. `isComplete`: whether the scan read everything.
-ExitStatus apply(const CleaningPlan &plan, const CleaningServices &services, bool isComplete)
+ExitStatus apply(const CleaningPlan &plan, const CleaningServices &services, bool isComplete, bool isQuiet)
 {
     CleaningResult result;
     if (!plan.items.isEmpty()) {
-        ProgressLine line;
+        ProgressLine line(!isQuiet);
         result = runCleaning(plan, services, [&](qsizetype done, qsizetype total) {
             line.show({total, done, total, plan.items[done].file.path, QStringLiteral("cleaning")});
             return !isInterrupted();
@@ -86,8 +93,9 @@ ExitStatus apply(const CleaningPlan &plan, const CleaningServices &services, boo
                                 .arg(result.count)
                                 .arg(plan.items.size())
                                 .arg(methodName(plan.method));
-    printText(plan.items.isEmpty() ? account + QLatin1Char('\n')
-                                   : QStringLiteral("%1; %2\n").arg(account, spaceText(result.space)));
+    if (!isQuiet)
+        printText(plan.items.isEmpty() ? account + QLatin1Char('\n')
+                                       : QStringLiteral("%1; %2\n").arg(account, spaceText(result.space)));
     if (result.isCancelled)
         return cancelled();
     return result.errors.isEmpty() && isComplete ? ExitStatus::Done : ExitStatus::SomeFailed;
@@ -98,34 +106,42 @@ ExitStatus apply(const CleaningPlan &plan, const CleaningServices &services, boo
 void addCleanOptions(QCommandLineParser &parser)
 {
     addPlanOptions(parser);
+    addEmptyFoldersOption(parser);
     parser.addOption(
         {applyOption, QStringLiteral("Carry out the plan. Without it, nothing is changed; the plan is only printed.")});
+    addOutputOptions(parser);
 }
 
 ExitStatus runClean(const QCommandLineParser &parser)
 {
-    CleanRequest request = cleanRequestOf(parser);
     const bool isApplied = parser.isSet(applyOption);
+    const QString colour = colourChoiceOf(parser);
+    const bool quiet = isQuiet(parser);
+    if (wantsEmptyFolders(parser)) {
+        refusePlanOptions(parser);
+        return cleanEmptyFolders(parser, isApplied);
+    }
+    CleanRequest request = cleanRequestOf(parser);
     OperationsLog log(operationsLogPath(dataDirectoryOf(parser)));
     prepareScan(parser);
     if (isApplied && !log.append({scanStartedEvent(request.options)})) {
         printError(QStringLiteral("cannot write the log %1; nothing was done").arg(log.filePath()));
         return ExitStatus::SomeFailed;
     }
-    const ScanResult result = scanAndReportUnread(request.options);
+    const ScanResult result = scanAndReportUnread(request.options, quiet);
     if (isInterrupted())
         return cancelled();
     CleaningPlan &plan = request.plan;
     plan.items = surplusByRule(result.groups, request.rule);
-    const bool isComplete = result.unread.isEmpty();
+    const bool isComplete = !isAnyWanted(result.unread, request.options);
     if (!isApplied)
-        return printPlan(plan) && isComplete ? ExitStatus::Done : ExitStatus::SomeFailed;
+        return printPlan(plan, colour, quiet) && isComplete ? ExitStatus::Done : ExitStatus::SomeFailed;
     const bool isLogged = log.append({scanDoneEvent(result.groups.size(), result.wastedBytes, result.candidates),
                                       markedByRuleEvent(request.rule, plan.items.size())});
     if (!isLogged)
         printError(QStringLiteral("cannot write the log %1").arg(log.filePath()));
     const QString command = QCoreApplication::arguments().mid(1).join(QLatin1Char(' '));
-    return apply(plan, {log, dataDirectoryOf(parser), command}, isComplete && isLogged);
+    return apply(plan, {log, dataDirectoryOf(parser), command}, isComplete && isLogged, quiet);
 }
 
 } // namespace MirrixCli

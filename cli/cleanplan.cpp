@@ -4,6 +4,7 @@
 #include "actions/cleaning/targetfolder.h"
 #include "app/settings.h"
 #include "cli/scancommand.h"
+#include "cli/selection.h"
 #include "core/platform/nativepath.h"
 #include "core/walk/pathrules.h"
 
@@ -61,7 +62,7 @@ void readFolders(const QCommandLineParser &parser, CleaningPlan &plan)
 void refuseRootsInside(const QString &folder, const ScanOptions &options)
 {
     TargetFolder target(folder);
-    for (const QString &root : options.roots) {
+    for (const QString &root : options.roots + options.files) {
         if (target.isAtOrAbove(MirrixCore::cleanedPath(MirrixCore::absolutePath(root))))
             throw UsageError{
                 QStringLiteral("%1, where files are put away, is the scanned folder %2 or holds it").arg(folder, root)};
@@ -86,11 +87,12 @@ void addPlanOptions(QCommandLineParser &parser)
         {keepOption,
          QStringLiteral(
              "Which file of each group to keep: newest, oldest, shallowest or deepest. On a tie, the first one "
-             "listed. Required."),
+             "listed. Required unless --empty-folders is given."),
          QStringLiteral("RULE")},
         {methodOption,
-         QStringLiteral("What to do with the other files: recycle, delete (permanently), move, backup, symlink or "
-                        "hardlink (replace each with a link to the kept file). Required."),
+         QStringLiteral(
+             "What to do with the other files: recycle, delete (permanently), move, backup, symlink or "
+             "hardlink (replace each with a link to the kept file). Required unless --empty-folders is given."),
          QStringLiteral("METHOD")},
         {targetOption,
          QStringLiteral("Destination folder for move (required), or the backup folder for backup (default: from the "
@@ -100,6 +102,15 @@ void addPlanOptions(QCommandLineParser &parser)
          QStringLiteral("Compare whole contents before every removal, not only before those that destroy a file.")},
     });
     addSelectionOptions(parser);
+    addPreparationOptions(parser);
+}
+
+void refusePlanOptions(const QCommandLineParser &parser)
+{
+    for (const QString &option : {keepOption, methodOption, targetOption, compareOption}) {
+        if (parser.isSet(option))
+            throw UsageError{QStringLiteral("--%1 cannot be used with --empty-folders").arg(option)};
+    }
 }
 
 CleanRequest cleanRequestOf(const QCommandLineParser &parser)

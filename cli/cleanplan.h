@@ -18,6 +18,9 @@ struct CleanRequest
 /// Declares the options that make up the request.
 void addPlanOptions(QCommandLineParser &parser);
 
+/// Throws UsageError when one of them is given.
+void refusePlanOptions(const QCommandLineParser &parser);
+
 /// Throws UsageError.
 [[nodiscard]] CleanRequest cleanRequestOf(const QCommandLineParser &parser);
 

@@ -2,9 +2,12 @@
 
 #include "app/datalocations.h"
 #include "cli/cleancommand.h"
+#include "cli/documentation.h"
 #include "cli/hashcommand.h"
 #include "cli/historycommand.h"
+#include "cli/infocommand.h"
 #include "cli/logcommand.h"
+#include "cli/optionscommand.h"
 #include "cli/output.h"
 #include "cli/restorecommand.h"
 #include "cli/scancommand.h"
@@ -15,8 +18,8 @@
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <array>
 #include <exception>
+#include <iterator>
 
 namespace MirrixCli {
 
@@ -24,6 +27,8 @@ namespace {
 
 const QString dataDirOption = QStringLiteral("data-dir");
 const QString portableOption = QStringLiteral("portable");
+const QString versionOption = QStringLiteral("version");
+const QString helpOption = QStringLiteral("help");
 
 struct Command
 {
@@ -31,11 +36,12 @@ struct Command
     QString summary;
     void (*addOptions)(QCommandLineParser &);
     ExitStatus (*run)(const QCommandLineParser &);
+    bool isHidden = false; ///< not listed in the usage
 };
 
-const std::array<Command, 7> &commands()
+const QList<Command> &commands()
 {
-    static const std::array<Command, 7> table = {{
+    static const QList<Command> table = {
         {QStringLiteral("scan"), QStringLiteral("find duplicate files in folders"), addScanOptions, runScan},
         {QStringLiteral("clean"), QStringLiteral("remove surplus copies of identical files"), addCleanOptions,
          runClean},
@@ -45,14 +51,28 @@ const std::array<Command, 7> &commands()
         {QStringLiteral("undo"), QStringLiteral("bring back what a cleaning run took away"), addUndoOptions, runUndo},
         {QStringLiteral("log"), QStringLiteral("print what was done"), addLogOptions, runLog},
         {QStringLiteral("hash"), QStringLiteral("print digests of files"), addHashOptions, runHash},
-    }};
+        {QStringLiteral("info"), QStringLiteral("print what is known of files"), addInfoOptions, runInfo},
+        {QStringLiteral("options"), QStringLiteral("describe the scan options that --set takes"), addOptionsOptions,
+         runOptions},
+        {QStringLiteral("completion"), QStringLiteral("print a completion script for a shell"), addCompletionOptions,
+         runCompletion, true},
+        {QStringLiteral("manpage"), QStringLiteral("print a manual page"), addManpageOptions, runManpage, true},
+    };
     return table;
+}
+
+QList<Command> listedCommands()
+{
+    QList<Command> listed;
+    std::copy_if(commands().begin(), commands().end(), std::back_inserter(listed),
+                 [](const Command &command) { return !command.isHidden; });
+    return listed;
 }
 
 QString usageText()
 {
     QString text = QStringLiteral("Usage: mirrix-cli COMMAND [OPTIONS] ...\n\nCommands:\n");
-    for (const Command &command : commands())
+    for (const Command &command : listedCommands())
         text += QStringLiteral("  %1  %2\n").arg(command.name, -8).arg(command.summary);
     return text + QStringLiteral("\nRun \"mirrix-cli COMMAND --help\" for the options of a command.\n"
                                  "Exit status: 0 done, 1 some files failed, 2 wrong usage, 3 cancelled.\n");
@@ -63,22 +83,27 @@ QString versionText()
     return QLatin1String("mirrix-cli ") + QCoreApplication::applicationVersion() + QLatin1Char('\n');
 }
 
-ExitStatus runParsed(const Command &command, const QStringList &arguments)
+/// Declares all options of a command.
+void prepare(QCommandLineParser &parser, const Command &command)
 {
-    QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("%1: %2.").arg(command.name, command.summary));
-    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help."));
-    const QCommandLineOption version(QStringLiteral("version"), QStringLiteral("Show the version."));
     command.addOptions(parser);
     parser.addOption({dataDirOption,
                       QStringLiteral("Folder of settings, caches and records (default: the program's own)."),
                       QStringLiteral("DIR")});
     parser.addOption({portableOption, QStringLiteral("Keep settings and caches beside the program.")});
-    parser.addOptions({version, help});
+    parser.addOption({versionOption, QStringLiteral("Show the version.")});
+    parser.addOption({{QStringLiteral("h"), helpOption}, QStringLiteral("Show this help.")});
+}
+
+ExitStatus runParsed(const Command &command, const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    prepare(parser, command);
     if (!parser.parse(arguments))
         throw UsageError{parser.errorText()};
-    if (parser.isSet(help) || parser.isSet(version)) {
-        QString text = parser.isSet(help) ? parser.helpText() : versionText();
+    if (parser.isSet(helpOption) || parser.isSet(versionOption)) {
+        QString text = parser.isSet(helpOption) ? parser.helpText() : versionText();
         printText(text.replace(QLatin1String("[options]"), command.name + QLatin1String(" [options]")));
         return ExitStatus::Done;
     }
@@ -124,6 +149,17 @@ ExitStatus runCommandLine(const QStringList &arguments)
         printError(QString::fromLocal8Bit(error.what()));
         return ExitStatus::SomeFailed;
     }
+}
+
+QList<CommandHelp> commandHelps()
+{
+    QList<CommandHelp> helps;
+    for (const Command &command : listedCommands()) {
+        QCommandLineParser parser;
+        prepare(parser, command);
+        helps.append(commandHelpFrom(command.name, command.summary, parser.helpText()));
+    }
+    return helps;
 }
 
 QString choiceProblem(const QString &option, const QStringList &choices, const QString &value)

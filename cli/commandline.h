@@ -1,5 +1,7 @@
 #pragma once
 
+#include "cli/commandhelp.h"
+
 #include <QCommandLineParser>
 #include <QString>
 #include <QStringList>
@@ -24,11 +26,11 @@ struct UsageError
     QString message;
 };
 
-/// The message for an option that takes one of `choices` and was given `value`, or none when that is empty.
-[[nodiscard]] QString choiceProblem(const QString &option, const QStringList &choices, const QString &value);
-
 /// The message for an option that takes one of `choices` and was given `value`; an empty one was not given at all.
 [[nodiscard]] QString choiceProblem(const QString &option, const QStringList &choices, const QString &value);
+
+/// The help of each command that the usage lists.
+[[nodiscard]] QList<CommandHelp> commandHelps();
 
 /// The data directory that the common options choose, absolute.
 [[nodiscard]] QString dataDirectoryOf(const QCommandLineParser &parser);

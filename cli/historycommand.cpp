@@ -146,8 +146,8 @@ bool writeRuns(const Runs &runs, bool isJson)
 
 void addHistoryOptions(QCommandLineParser &parser)
 {
-    parser.addOption(
-        {formatOption, QStringLiteral("text (default) or json."), QStringLiteral("FORMAT"), QStringLiteral("text")});
+    parser.addOption({formatOption, QStringLiteral("Output format: text (default) or json."), QStringLiteral("FORMAT"),
+                      QStringLiteral("text")});
     parser.addPositionalArgument(QStringLiteral("RUN"), QStringLiteral("The run to print with its files."),
                                  QStringLiteral("[RUN]"));
 }

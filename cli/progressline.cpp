@@ -12,8 +12,8 @@ constexpr qint64 redrawMs = 100;
 const char clearLine[] = "\r\x1b[K";
 } // namespace
 
-ProgressLine::ProgressLine()
-    : m_isActive(isErrorTerminal())
+ProgressLine::ProgressLine(bool isWanted)
+    : m_isActive(isWanted && isErrorTerminal())
 {}
 
 ProgressLine::~ProgressLine()

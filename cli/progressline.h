@@ -11,7 +11,8 @@ namespace MirrixCli {
 class ProgressLine
 {
 public:
-    ProgressLine();
+    /// Shows nothing unless `isWanted`.
+    explicit ProgressLine(bool isWanted = true);
     ~ProgressLine();
     ProgressLine(const ProgressLine &) = delete;
     ProgressLine &operator=(const ProgressLine &) = delete;

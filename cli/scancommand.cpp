@@ -1,18 +1,21 @@
 #include "cli/scancommand.h"
 
 #include "app/settings.h"
+#include "cli/colours.h"
+#include "cli/grouporder.h"
 #include "cli/output.h"
 #include "cli/progressline.h"
 #include "cli/scanreport.h"
+#include "cli/selection.h"
 #include "cli/terminal.h"
+#include "cli/unread.h"
 #include "core/cache/cacheroot.h"
 #include "core/match/rulekeys.h"
 #include "core/media/mediakinds.h"
 #include "core/platform/nativepath.h"
 #include "core/scan/duplicatescanner.h"
 #include "core/scan/optiontable.h"
-#include "core/walk/filestatus.h"
-#include "core/walk/pathrules.h"
+#include "core/walk/emptyfolders.h"
 
 #include <QDir>
 #include <QFile>
@@ -20,7 +23,7 @@
 #include <QJsonDocument>
 #include <QTemporaryFile>
 
-#include <array>
+#include <algorithm>
 
 namespace MirrixCli {
 
@@ -30,48 +33,14 @@ using namespace MirrixCore;
 
 const QString modeOption = QStringLiteral("mode");
 const QString hashOption = QStringLiteral("hash");
-const QString setOption = QStringLiteral("set");
 const QString optionsOption = QStringLiteral("options");
-const QString excludeOption = QStringLiteral("exclude");
 const QString noCacheOption = QStringLiteral("no-cache");
-const QString threadsOption = QStringLiteral("threads");
 const QString formatOption = QStringLiteral("format");
 const QString outputOption = QStringLiteral("output");
-
-constexpr int mostThreads = 256;
-
-/// `path` against `base`, the current folder when that is empty.
-QString absoluteFolder(const QString &path, const QString &base = {})
-{
-    if (path.isEmpty())
-        throw UsageError{QStringLiteral("an empty folder name")};
-    const bool isAgainstBase = !base.isEmpty() && QDir::isRelativePath(path);
-    return cleanedPath(absolutePath(isAgainstBase ? base + QLatin1Char('/') + path : path));
-}
-
-/// Takes the relative paths among the options against `base`, as above.
-void makeAbsolute(ScanOptions &options, const QString &base = {})
-{
-    for (QString &root : options.roots)
-        root = absoluteFolder(root, base);
-    for (QString &folder : options.excludeFolders)
-        folder = absoluteFolder(folder, base);
-    for (ScanLocation &location : options.locations)
-        location.path = absoluteFolder(location.path, base);
-}
-
-/// A folder that is to be left out and is misspelled would be scanned.
-void refuseMissingExclusions(const ScanOptions &options)
-{
-    for (const QString &folder : options.excludeFolders) {
-        const FileStatus status = fileStatus(folder);
-        if (status.kind == FileStatus::Kind::Folder)
-            continue;
-        const QString missing = status.reason.isEmpty() ? QStringLiteral("no such folder") : status.reason;
-        const QString reason = status.kind == FileStatus::Kind::Missing ? missing : QStringLiteral("not a folder");
-        throw UsageError{QStringLiteral("cannot exclude %1: %2").arg(folder, reason)};
-    }
-}
+const QString sortOption = QStringLiteral("sort");
+const QString quietOption = QStringLiteral("quiet");
+const QString emptyFilesOption = QStringLiteral("empty-files");
+const QString emptyFoldersOption = QStringLiteral("empty-folders");
 
 void readOptionsFile(const QString &path, ScanOptions &options)
 {
@@ -89,26 +58,6 @@ void readOptionsFile(const QString &path, ScanOptions &options)
     if (!problem.isEmpty())
         throw UsageError{QStringLiteral("%1: %2").arg(path, problem)};
     makeAbsolute(options, QFileInfo(path).path());
-}
-
-void applyAssignment(const QString &assignment, ScanOptions &options)
-{
-    const qsizetype equals = assignment.indexOf(QLatin1Char('='));
-    if (equals < 1)
-        throw UsageError{QStringLiteral("--set takes NAME=VALUE, not \"%1\"").arg(assignment)};
-    const QString problem = setScanOption(options, assignment.left(equals), assignment.mid(equals + 1));
-    if (!problem.isEmpty())
-        throw UsageError{problem};
-}
-
-int threadsOf(const QString &text)
-{
-    bool isNumber = false;
-    const int threads = text.toInt(&isNumber);
-    if (!isNumber || threads < 0 || threads > mostThreads)
-        throw UsageError{
-            QStringLiteral("--threads must be a number from 0 to %1, not \"%2\"").arg(mostThreads).arg(text)};
-    return threads;
 }
 
 struct Mode
@@ -145,34 +94,6 @@ void applyMode(const QString &name, ScanOptions &options)
     throw UsageError{choiceProblem(modeOption, names, name)};
 }
 
-struct Range
-{
-    const char *option;
-    qint32 ScanOptions::*value;
-    qint32 least;
-    qint32 most;
-};
-
-constexpr std::array ranges = {
-    Range{"searchMode", &ScanOptions::searchMode, 0, 3},
-    Range{"contentMatch", &ScanOptions::contentMatch, 0, 2},
-    Range{"mediaCompareDepth", &ScanOptions::mediaCompareDepth, 0, 4},
-    Range{"mediaCompareDepthAlt", &ScanOptions::mediaCompareDepthAlt, 0, 2},
-    Range{"similarPercent", &ScanOptions::similarPercent, 1, 100},
-    Range{"imageSimilarityLevel", &ScanOptions::imageSimilarityLevel, 0, 4},
-    Range{"imageMaxDistance", &ScanOptions::imageMaxDistance, 0, 64},
-};
-
-void refuseOutside(const char *option, qint32 value, qint32 least, qint32 most)
-{
-    if (value < least || value > most)
-        throw UsageError{QStringLiteral("%1 must be from %2 to %3, not %4")
-                             .arg(QLatin1String(option))
-                             .arg(least)
-                             .arg(most)
-                             .arg(value)};
-}
-
 void refuseWildcards(const QStringList &extensions)
 {
     for (const QString &extension : extensions) {
@@ -190,9 +111,9 @@ bool groupsByRules(const ScanOptions &options)
     case SearchMode::Images:
         return false;
     case SearchMode::Audio:
-        return options.mediaCompareDepth == ranges[2].most;
+        return options.mediaCompareDepth == 4;
     case SearchMode::Video:
-        return options.mediaCompareDepthAlt == ranges[3].most;
+        return options.mediaCompareDepthAlt == 2;
     }
     return false;
 }
@@ -200,11 +121,12 @@ bool groupsByRules(const ScanOptions &options)
 /// Refuses what would be answered with an empty result.
 void refuseUnsupported(const ScanOptions &options)
 {
-    for (const Range &range : ranges)
-        refuseOutside(range.option, options.*range.value, range.least, range.most);
+    if (const QString problem = scanOptionOutOfRange(options); !problem.isEmpty())
+        throw UsageError{problem};
     bool hasLocationRule = false;
     for (const ScanLocation &location : options.locations) {
-        refuseOutside("findKind", location.findKind, 0, 2);
+        if (location.findKind < 0 || location.findKind > static_cast<qint32>(FindKind::EmptyFiles))
+            throw UsageError{QStringLiteral("findKind must be from 0 to 2, not %1").arg(location.findKind)};
         hasLocationRule = hasLocationRule || location.findKind != static_cast<qint32>(FindKind::ContentDuplicates);
     }
     refuseWildcards(options.includeExtensions + options.excludeExtensions);
@@ -229,14 +151,32 @@ void applyHash(const QCommandLineParser &parser, const QString &dataDirectory)
 
 ReportFormat formatOf(const QString &name)
 {
-    if (name == QLatin1String("text"))
-        return ReportFormat::Text;
-    if (name == QLatin1String("json"))
-        return ReportFormat::Json;
-    if (name == QLatin1String("csv"))
-        return ReportFormat::Csv;
-    throw UsageError{
-        choiceProblem(formatOption, {QStringLiteral("text"), QStringLiteral("json"), QStringLiteral("csv")}, name)};
+    const QStringList names = {QStringLiteral("text"), QStringLiteral("json"), QStringLiteral("csv"),
+                               QStringLiteral("nul")}; // in the order of the formats
+    if (!names.contains(name))
+        throw UsageError{choiceProblem(formatOption, names, name)};
+    return static_cast<ReportFormat>(names.indexOf(name));
+}
+
+QString orderOf(const QCommandLineParser &parser)
+{
+    const QString order = parser.value(sortOption);
+    if (!groupOrders().contains(order))
+        throw UsageError{choiceProblem(sortOption, groupOrders(), order)};
+    return order;
+}
+
+/// Looks for empty files instead of duplicates.
+void seekEmptyFiles(ScanOptions &options)
+{
+    const QStringList places = options.roots + options.files.mid(0, options.roots.isEmpty() ? 1 : 0);
+    for (const QString &place : places) {
+        const auto isOf = [&](const ScanLocation &location) { return location.path == place; };
+        if (std::none_of(options.locations.begin(), options.locations.end(), isOf))
+            options.locations.append({place, true, 0, false});
+    }
+    for (ScanLocation &location : options.locations)
+        location.findKind = static_cast<qint32>(FindKind::EmptyFiles);
 }
 
 /// Finds out before a long scan whether its report can be written. The file is not left open: its temporary name would
@@ -261,43 +201,47 @@ void useCache(const QString &dataDirectory)
         printError(QStringLiteral("cannot write to %1; digests will not be cached").arg(folder));
 }
 
-ScanResult scanWithProgress(const ScanOptions &options)
+/// The folders in the order in which people read them.
+void addEmptyFolders(ScanReport &report, const ScanOptions &options)
 {
-    ProgressLine line;
+    QList<UnreadPath> unread;
+    report.emptyFolders = findEmptyFolders(options, isInterrupted, unread);
+    std::reverse(report.emptyFolders.begin(), report.emptyFolders.end());
+    if (report.hasFiles)
+        return; // the same was named before
+    printUnread(unread);
+    report.result.unread = unread;
+}
+
+/// False, with the reason told, when the report could not be written.
+bool writeTo(const QString &path, const ScanReport &report, const ReportStyle &style)
+{
+    Output output;
+    const bool isOpen = output.open(path);
+    if (isOpen)
+        writeReport(report, style, output);
+    if (isOpen && output.finish())
+        return true;
+    printError(QStringLiteral("cannot write the report: %1").arg(output.errorText()));
+    return false;
+}
+
+ScanResult scanWithProgress(const ScanOptions &options, bool isQuiet)
+{
+    ProgressLine line(!isQuiet);
     return DuplicateScanner::scan(
         options, [&line](const ScanProgress &progress) { line.show(progress); }, isInterrupted);
 }
 
 } // namespace
 
-void addSelectionOptions(QCommandLineParser &parser)
+void addPreparationOptions(QCommandLineParser &parser)
 {
     parser.addOptions({
         {hashOption, QStringLiteral("Digest used for comparing: md5 or blake3 (default: from the settings)."),
          QStringLiteral("NAME")},
-        {setOption, QStringLiteral("Set a scan option. May be repeated."), QStringLiteral("NAME=VALUE")},
-        {excludeOption, QStringLiteral("Skip this folder. May be repeated."), QStringLiteral("DIR")},
         {noCacheOption, QStringLiteral("Do not read or write the digest cache.")},
-        {threadsOption, QStringLiteral("Number of worker threads, 0 to 256; 0 = one per processor, up to 8."),
-         QStringLiteral("N")},
     });
-    parser.addPositionalArgument(QStringLiteral("FOLDER"), QStringLiteral("Folders to scan, including subfolders."),
-                                 QStringLiteral("FOLDER..."));
-}
-
-void readSelection(const QCommandLineParser &parser, ScanOptions &options)
-{
-    const QStringList assignments = parser.values(setOption);
-    for (const QString &assignment : assignments)
-        applyAssignment(assignment, options);
-    if (parser.isSet(threadsOption))
-        options.threads = threadsOf(parser.value(threadsOption));
-    options.excludeFolders += parser.values(excludeOption);
-    options.roots += parser.positionalArguments();
-    makeAbsolute(options);
-    refuseMissingExclusions(options);
-    if (options.roots.isEmpty())
-        throw UsageError{QStringLiteral("no folder to scan")};
 }
 
 void prepareScan(const QCommandLineParser &parser)
@@ -311,29 +255,54 @@ void prepareScan(const QCommandLineParser &parser)
     catchInterrupts();
 }
 
-ScanResult scanAndReportUnread(const ScanOptions &options)
+ScanResult scanAndReportUnread(const ScanOptions &options, bool isQuiet)
 {
-    const ScanResult result = scanWithProgress(options);
-    for (const UnreadPath &unread : result.unread)
-        printError(QStringLiteral("%1: %2").arg(unread.path, unread.reason));
+    const ScanResult result = scanWithProgress(options, isQuiet);
+    printUnread(result.unread);
     return result;
+}
+
+void addOutputOptions(QCommandLineParser &parser)
+{
+    parser.addOption({{QStringLiteral("q"), quietOption},
+                      QStringLiteral("Print the result only: no progress, no summary. Errors are still printed.")});
+    addColourOption(parser);
+}
+
+bool isQuiet(const QCommandLineParser &parser)
+{
+    return parser.isSet(quietOption);
 }
 
 void addScanOptions(QCommandLineParser &parser)
 {
     addSelectionOptions(parser);
+    addPreparationOptions(parser);
     parser.addOptions({
         {modeOption,
-         QStringLiteral("How files are compared: content (default): identical bytes; similar-content: at least "
-                        "similarPercent of samples agree; images: visual similarity, within imageMaxDistance; audio, "
-                        "video: content samples, then the opening or the whole file, depending on mediaCompareDepth "
-                        "(audio) or mediaCompareDepthAlt (video); rules: names, sizes, dates and paths only."),
+         QStringLiteral(
+             "How files are compared: content (default; identical bytes), similar-content (at least "
+             "similarPercent of samples agree), rules (names, sizes, dates and paths only), images (visual "
+             "similarity, within imageMaxDistance), audio or video (content samples, then the opening or the "
+             "whole file, depending on mediaCompareDepth for audio, mediaCompareDepthAlt for video)."),
          QStringLiteral("MODE")},
         {optionsOption, QStringLiteral("Read scan options from a JSON file."), QStringLiteral("FILE")},
-        {formatOption, QStringLiteral("Report format: text (default), json or csv."), QStringLiteral("FORMAT"),
-         QStringLiteral("text")},
+        {emptyFilesOption, QStringLiteral("List empty files instead of duplicates.")},
+        {emptyFoldersOption,
+         QStringLiteral(
+             "List folders that hold nothing, or nothing but such folders, instead of duplicates. May be used "
+             "with --empty-files.")},
+        {formatOption,
+         QStringLiteral("Report format: text (default), json, csv (groups only) or nul (paths that each end with a NUL "
+                        "byte, an empty one between groups)."),
+         QStringLiteral("FORMAT"), QStringLiteral("text")},
+        {sortOption,
+         QStringLiteral("Order of the groups: waste (default; most first), path (of the first file), size (of the "
+                        "largest file, largest first) or modified (latest change first)."),
+         QStringLiteral("ORDER"), groupOrders().constFirst()},
         {outputOption, QStringLiteral("Write the report to a file."), QStringLiteral("FILE")},
     });
+    addOutputOptions(parser);
 }
 
 ScanOptions scanOptionsOf(const QCommandLineParser &parser)
@@ -353,24 +322,27 @@ ScanOptions scanOptionsOf(const QCommandLineParser &parser)
 
 ExitStatus runScan(const QCommandLineParser &parser)
 {
-    const ScanOptions options = scanOptionsOf(parser);
-    const ReportFormat format = formatOf(parser.value(formatOption));
+    ScanOptions options = scanOptionsOf(parser);
+    const ReportStyle style = {formatOf(parser.value(formatOption)), colourChoiceOf(parser), isQuiet(parser)};
+    const QString order = orderOf(parser);
     refuseUnwritable(parser.value(outputOption));
     prepareScan(parser);
-    const ScanResult result = scanAndReportUnread(options);
+    ScanReport report;
+    report.hasFolders = parser.isSet(emptyFoldersOption);
+    report.hasFiles = parser.isSet(emptyFilesOption) || !report.hasFolders;
+    if (parser.isSet(emptyFilesOption))
+        seekEmptyFiles(options);
+    if (report.hasFiles)
+        report.result = scanAndReportUnread(options, style.isQuiet);
+    if (report.hasFolders)
+        addEmptyFolders(report, options);
     if (isInterrupted()) {
         printError(QStringLiteral("cancelled"));
         return ExitStatus::Cancelled;
     }
-    Output output;
-    const bool isOpen = output.open(parser.value(outputOption));
-    if (isOpen)
-        writeReport(result, format, output);
-    if (!isOpen || !output.finish()) {
-        printError(QStringLiteral("cannot write the report: %1").arg(output.errorText()));
-        return ExitStatus::SomeFailed;
-    }
-    return result.unread.isEmpty() ? ExitStatus::Done : ExitStatus::SomeFailed;
+    sortGroups(report.result.groups, order);
+    const bool isWritten = writeTo(parser.value(outputOption), report, style);
+    return isWritten && !isAnyWanted(report.result.unread, options) ? ExitStatus::Done : ExitStatus::SomeFailed;
 }
 
 } // namespace MirrixCli

@@ -19,16 +19,17 @@ void addScanOptions(QCommandLineParser &parser);
 
 // What "scan" shares with commands that scan first.
 
-/// Declares the options that choose files and digests, and the folders.
-void addSelectionOptions(QCommandLineParser &parser);
-
-/// Overlays `options` with those. All folders become absolute, and those to leave out must exist. Throws UsageError.
-void readSelection(const QCommandLineParser &parser, MirrixCore::ScanOptions &options);
+/// Declares the options that prepareScan reads.
+void addPreparationOptions(QCommandLineParser &parser);
 
 /// Chooses digest and cache as the command line asks, and notes Ctrl-C from now on. Throws UsageError.
 void prepareScan(const QCommandLineParser &parser);
 
-/// Scans with a progress line and names what could not be read on standard error.
-[[nodiscard]] MirrixCore::ScanResult scanAndReportUnread(const MirrixCore::ScanOptions &options);
+/// Scans, with a progress line unless `isQuiet`, and names what could not be read on standard error.
+[[nodiscard]] MirrixCore::ScanResult scanAndReportUnread(const MirrixCore::ScanOptions &options, bool isQuiet);
+
+/// Declares --quiet and --color.
+void addOutputOptions(QCommandLineParser &parser);
+[[nodiscard]] bool isQuiet(const QCommandLineParser &parser);
 
 } // namespace MirrixCli

@@ -2,10 +2,9 @@
 
 #include "actions/exporttexts.h"
 #include "app/sizetext.h"
-
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QLocale>
+#include "cli/colours.h"
+#include "cli/jsonreport.h"
+#include "core/platform/nativepath.h"
 
 #include <algorithm>
 
@@ -53,212 +52,88 @@ QString heading(const FolderGroup &group)
              counted(group.fileCount, QStringLiteral("file")), Mirrix::sizeText(group.size));
 }
 
-/// The name of a place in JSON; empty for the ordinary one.
-QString placeName(FilePlace place)
-{
-    switch (place) {
-    case FilePlace::Ordinary:
-        return {};
-    case FilePlace::RecycleBin:
-        return QStringLiteral("recycleBin");
-    case FilePlace::BackupFolder:
-        return QStringLiteral("backupFolder");
-    case FilePlace::Snapshot:
-        return QStringLiteral("snapshot");
-    }
-    return {};
-}
-
-/// A heading, and below it the paths of `items`.
-template <typename Item>
-void writeBlock(const QString &heading, const QList<Item> &items, Output &output)
-{
-    const bool isTerminal = output.isTerminal();
-    output.write(heading.toUtf8() + '\n');
-    for (const Item &item : items)
-        output.write("  " + shownPath(item.path, isTerminal) + '\n');
-    output.write("\n");
-}
-
-void writeText(const ScanResult &result, Output &output)
-{
-    for (const DuplicateGroup &group : result.groups)
-        writeBlock(heading(group), group.files, output);
-    for (const FolderGroup &group : result.folderGroups)
-        writeBlock(heading(group), group.folders, output);
-    if (!result.folderSummaries.isEmpty())
-        writeBlock(counted(result.folderSummaries.size(), QStringLiteral("file")) + QStringLiteral(" in no group"),
-                   result.folderSummaries, output);
-    const QString found = result.groups.isEmpty()
-                              ? QStringLiteral("No duplicates found")
-                              : counted(result.groups.size(), QStringLiteral("group")) +
-                                    QStringLiteral(", %1 reclaimable").arg(Mirrix::sizeText(result.wastedBytes));
-    output.write(QStringLiteral("%1; %2 (%3) scanned in %4 s\n")
-                     .arg(found, counted(result.filesScanned, QStringLiteral("file")),
-                          Mirrix::sizeText(result.totalBytes),
-                          QString::number(static_cast<double>(result.elapsedMs) / 1000, 'f', 2))
-                     .toUtf8());
-}
-
-/// Builds JSON text at the end of a buffer. Most paths need no escaping, and a report holds many of them: only the
-/// others go through Qt's writer, which takes as long for one path as a scan takes to hash a small file.
-class JsonText
+/// Writes what people read.
+class TextReport
 {
 public:
-    explicit JsonText(QByteArray &out)
-        : m_out(out)
+    TextReport(Output &output, const ReportStyle &style)
+        : m_output(output)
+        , m_isTerminal(output.isTerminal())
+        , m_isColoured(isColoured(style.colour, output))
     {}
 
-    void raw(const char *text) { m_out.append(text); }
-    void value(qint64 number) { m_out.append(QByteArray::number(number)); }
-    void value(double number) { m_out.append(QByteArray::number(number, 'g', QLocale::FloatingPointShortest)); }
-    void value(const QString &text)
+    /// A heading, and below it the paths of `items`.
+    template <typename Items, typename PathOf>
+    void block(const QString &heading, const Items &items, PathOf pathOf)
     {
-        const auto isPlain = [](char16_t unit) {
-            return unit >= u' ' && unit <= u'~' && unit != u'"' && unit != u'\\';
-        };
-        const auto *units = reinterpret_cast<const char16_t *>(text.utf16());
-        if (std::all_of(units, units + text.size(), isPlain)) {
-            m_out.append('"').append(text.toLatin1()).append('"');
-        } else {
-            const QByteArray array = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
-            m_out.append(QByteArrayView(array).sliced(1, array.size() - 2));
-        }
-    }
-
-    template <typename Value>
-    void member(const char *name, const Value &json)
-    {
-        m_out.append(", \"").append(name).append("\": ");
-        value(json);
-    }
-
-    /// A member that is left out when nothing is known.
-    void knownMember(const char *name, qint64 number)
-    {
-        if (number != 0)
-            member(name, number);
-    }
-    void knownMember(const char *name, const QString &text)
-    {
-        if (!text.isEmpty())
-            member(name, text);
-    }
-
-    void value(const FileEntry &file)
-    {
-        raw("{\"path\": ");
-        value(file.path);
-        member("size", file.size);
-        member("modifiedMs", file.modifiedMs);
-        member("createdMs", file.createdMs);
-        knownMember("place", placeName(file.place));
-        mediaMembers(file);
-        raw("}");
-    }
-
-    void value(const FolderEntry &folder)
-    {
-        raw("{\"path\": ");
-        value(folder.path);
-        member("fileCount", folder.fileCount);
-        member("size", folder.size);
-        raw("}");
-    }
-
-    void value(const DuplicateGroup &group)
-    {
-        raw("{\"key\": ");
-        value(group.key);
-        member("wastedBytes", group.wastedBytes);
-        raw(", \"files\": ");
-        array(group.files);
-        raw("}");
-    }
-
-    void value(const FolderGroup &group)
-    {
-        raw("{\"fileCount\": ");
-        value(group.fileCount);
-        member("size", group.size);
-        raw(", \"folders\": ");
-        array(group.folders);
-        raw("}");
+        m_output.write(coloured(heading.toUtf8(), Colour::Heading, m_isColoured) + '\n');
+        for (const auto &item : items)
+            m_output.write("  " + shownPath(pathOf(item), m_isTerminal) + '\n');
+        m_output.write("\n");
     }
 
 private:
-    void mediaMembers(const FileEntry &file)
-    {
-        knownMember("durationMs", file.durationMs);
-        knownMember("width", file.width);
-        knownMember("height", file.height);
-        knownMember("shotMs", file.shotMs);
-        knownMember("artist", file.artist);
-        knownMember("title", file.title);
-        knownMember("album", file.album);
-        knownMember("track", file.track);
-        knownMember("cameraMake", file.cameraMake);
-        knownMember("cameraModel", file.cameraModel);
-        knownMember("dateTaken", file.dateTaken);
-        if (file.hasGps) {
-            member("latitude", file.latitude);
-            member("longitude", file.longitude);
-        }
-    }
-
-    template <typename Item>
-    void array(const QList<Item> &items)
-    {
-        const char *separator = "[\n    ";
-        for (const Item &item : items) {
-            raw(separator);
-            value(item);
-            separator = ",\n    ";
-        }
-        raw(items.isEmpty() ? "[]" : "]");
-    }
-
-    QByteArray &m_out;
+    Output &m_output;
+    const bool m_isTerminal;
+    const bool m_isColoured;
 };
 
-/// Writes the items of an array of the outermost object one by one; `valueOf` picks what is written of an item.
-template <typename Item, typename ValueOf>
-void writeArray(const char *name, const QList<Item> &items, ValueOf valueOf, Output &output)
+QString summaryOf(const ScanReport &report)
 {
-    output.write(QByteArray(",\n \"") + name + "\": [");
-    QByteArray text;
-    JsonText json(text);
-    const char *separator = "\n  ";
-    for (const Item &item : items) {
-        text.clear();
-        json.raw(separator);
-        json.value(valueOf(item));
-        output.write(text);
-        separator = ",\n  ";
-    }
-    output.write("]");
+    const ScanResult &result = report.result;
+    QStringList found;
+    if (!result.groups.isEmpty())
+        found.append(counted(result.groups.size(), QStringLiteral("group")) +
+                     QStringLiteral(", %1 reclaimable").arg(Mirrix::sizeText(result.wastedBytes)));
+    else if (report.hasFiles)
+        found.append(QStringLiteral("No duplicates found"));
+    if (report.hasFolders)
+        found.append(counted(report.emptyFolders.size(), QStringLiteral("empty folder")));
+    if (report.hasFiles)
+        found.append(QStringLiteral("%1 (%2) scanned in %3 s")
+                         .arg(counted(result.filesScanned, QStringLiteral("file")), Mirrix::sizeText(result.totalBytes),
+                              QString::number(static_cast<double>(result.elapsedMs) / 1000, 'f', 2)));
+    return found.join(QStringLiteral("; "));
 }
 
-void writeJson(const ScanResult &result, Output &output)
+void writeText(const ScanReport &report, const ReportStyle &style, Output &output)
 {
-    QByteArray head;
-    JsonText json(head);
-    json.raw("{\"filesScanned\": ");
-    json.value(result.filesScanned);
-    json.member("totalBytes", result.totalBytes);
-    json.member("wastedBytes", result.wastedBytes);
-    json.member("candidates", result.candidates);
-    json.member("elapsedMs", result.elapsedMs);
-    output.write(head);
-    const auto whole = [](const auto &item) -> const auto &
-    {
-        return item;
+    const ScanResult &result = report.result;
+    const auto pathOf = [](const auto &item) { return item.path; };
+    TextReport text(output, style);
+    for (const DuplicateGroup &group : result.groups)
+        text.block(heading(group), group.files, pathOf);
+    for (const FolderGroup &group : result.folderGroups)
+        text.block(heading(group), group.folders, pathOf);
+    if (!report.emptyFolders.isEmpty())
+        text.block(counted(report.emptyFolders.size(), QStringLiteral("empty folder")), report.emptyFolders,
+                   [](const QString &path) { return path; });
+    if (!result.folderSummaries.isEmpty())
+        text.block(counted(result.folderSummaries.size(), QStringLiteral("file")) + QStringLiteral(" in no group"),
+                   result.folderSummaries, pathOf);
+    if (!style.isQuiet)
+        output.write(summaryOf(report).toUtf8() + '\n');
+}
+
+/// Each path ends with a NUL byte, and an empty one stands between groups.
+void writeNul(const ScanReport &report, Output &output)
+{
+    bool isFirst = true;
+    const auto separate = [&] {
+        if (!isFirst)
+            output.write(QByteArrayView("", 1));
+        isFirst = false;
     };
-    writeArray("groups", result.groups, whole, output);
-    writeArray("folderGroups", result.folderGroups, whole, output);
-    writeArray(
-        "remaining", result.folderSummaries, [](const FileEntry &file) { return file.path; }, output);
-    output.write("}\n");
+    for (const DuplicateGroup &group : report.result.groups) {
+        separate();
+        for (const FileEntry &file : group.files)
+            output.write(pathBytes(file.path) + '\0');
+    }
+    if (report.emptyFolders.isEmpty())
+        return;
+    separate();
+    for (const QString &folder : report.emptyFolders)
+        output.write(pathBytes(folder) + '\0');
 }
 
 void writeCsv(const ScanResult &result, Output &output)
@@ -272,17 +147,20 @@ void writeCsv(const ScanResult &result, Output &output)
 
 } // namespace
 
-void writeReport(const ScanResult &result, ReportFormat format, Output &output)
+void writeReport(const ScanReport &report, const ReportStyle &style, Output &output)
 {
-    switch (format) {
+    switch (style.format) {
     case ReportFormat::Text:
-        writeText(result, output);
+        writeText(report, style, output);
         break;
     case ReportFormat::Json:
-        writeJson(result, output);
+        writeJson(report, output);
         break;
     case ReportFormat::Csv:
-        writeCsv(result, output);
+        writeCsv(report.result, output);
+        break;
+    case ReportFormat::Nul:
+        writeNul(report, output);
         break;
     }
 }

@@ -72,6 +72,16 @@ LogEntry removalEvent(int method, qsizetype count)
     return logEntryNow(QStringLiteral("remove_batch"), QStringLiteral("method=%1 count=%2").arg(method).arg(count));
 }
 
+LogEntry emptyFoldersEvent(const QStringList &folders)
+{
+    return logEntryNow(QStringLiteral("empty_folders"), folders.join(QLatin1Char('|')));
+}
+
+LogEntry emptyFoldersRemovedEvent(qsizetype count, qsizetype total)
+{
+    return logEntryNow(QStringLiteral("empty_folders_removed"), QStringLiteral("count=%1 of=%2").arg(count).arg(total));
+}
+
 LogEntry restoredEvent(const BackupEntry &entry)
 {
     return logEntryNow(QStringLiteral("restore"), backupLine(entry));

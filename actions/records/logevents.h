@@ -28,6 +28,10 @@ struct BackupEntry;
 /// Removal by a method, number as in the removal dialog.
 [[nodiscard]] LogEntry removalEvent(int method, qsizetype count);
 
+/// These empty folders are about to be removed; afterwards, how many of how many were.
+[[nodiscard]] LogEntry emptyFoldersEvent(const QStringList &folders);
+[[nodiscard]] LogEntry emptyFoldersRemovedEvent(qsizetype count, qsizetype total);
+
 [[nodiscard]] LogEntry restoredEvent(const BackupEntry &entry);
 
 /// A list was written to, or copies were made in, `path`.

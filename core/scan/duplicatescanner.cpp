@@ -20,7 +20,7 @@ namespace {
 constexpr qint64 filesPerReport = 256;
 
 QList<FileEntry> enumerate(ScanOptions options, const ProgressCallback &progress, const CancelQuery &cancelled,
-                           QList<UnreadPath> &unread)
+                           QList<UnreadPath> &unread, LeftOut &leftOut)
 {
     // Else each scan of a home folder would find the last one's cache entries and add an entry for each of them.
     options.excludeFolders += cacheFolders();
@@ -33,7 +33,7 @@ QList<FileEntry> enumerate(ScanOptions options, const ProgressCallback &progress
         if (count % filesPerReport == 0)
             report(file.path, count);
     };
-    const QList<FileEntry> files = enumerateFiles(options, onFile, cancelled, &unread);
+    const QList<FileEntry> files = enumerateFiles(options, onFile, cancelled, &unread, &leftOut);
     report(files.isEmpty() ? QString() : files.constLast().path, files.size());
     return files;
 }
@@ -59,7 +59,8 @@ ScanOptions nameOptions(ScanOptions options)
 
 void addFolders(ScanResult &result, const QList<FileEntry> &files, const ScanOptions &options)
 {
-    result.folderGroups = findDuplicateFolders(files, result, options);
+    if (options.files.isEmpty()) // else folders stand for some of their files only
+        result.folderGroups = findDuplicateFolders(files, result, options);
     if (options.duplicateFoldersOnly) {
         keepGroupsOfDuplicateFolders(result.groups, result.folderGroups);
         result.wastedBytes = totalWaste(result.groups);
@@ -75,7 +76,8 @@ ScanResult DuplicateScanner::scan(const ScanOptions &options, const ProgressCall
     QElapsedTimer timer;
     timer.start();
     QList<UnreadPath> unread;
-    QList<FileEntry> files = enumerate(options, progress, cancelled, unread);
+    LeftOut leftOut;
+    QList<FileEntry> files = enumerate(options, progress, cancelled, unread, leftOut);
     if (isCancelled(cancelled))
         return {};
     if (MediaMetadata::isNeeded(options))
@@ -85,6 +87,7 @@ ScanResult DuplicateScanner::scan(const ScanOptions &options, const ProgressCall
 
     ScanResult result = matchLocations(files, options, progress, cancelled);
     result.unread = unread + result.unread;
+    result.leftOut = leftOut;
     result.filesScanned = files.size();
     if (result.totalBytes == 0)
         result.totalBytes = totalSize(files);

@@ -11,10 +11,11 @@ namespace MirrixCore {
 /// One enumerated file. A plain value; a list of a million of them is the largest thing a scan keeps in memory.
 struct FileEntry
 {
-    QString path;          ///< absolute, cleaned, forward slashes; see core/platform/nativepath.h for odd names
-    qint64 size = 0;       ///< bytes
-    qint64 modifiedMs = 0; ///< milliseconds since the Unix epoch (UTC); below 1 = unknown
-    qint64 createdMs = 0;  ///< creation time, same unit; below 1 = unknown
+    QString path;               ///< absolute, cleaned, forward slashes; see core/platform/nativepath.h for odd names
+    qint64 size = 0;            ///< bytes
+    qint64 modifiedMs = 0;      ///< milliseconds since the Unix epoch (UTC); below 1 = unknown
+    qint64 createdMs = 0;       ///< creation time, same unit; below 1 = unknown
+    qint64 allocatedBytes = -1; ///< what the content takes on the volume; below 0 = unknown
 
     qint64 durationMs = 0; ///< length of audio or video; 0 = unknown
 

@@ -13,8 +13,7 @@ namespace {
 
 struct OptionField
 {
-    QString name;
-    QString typeName;
+    ScanOptionInfo info; ///< without the default
     bool isText;
     bool isTextList;
     QJsonValue (*read)(const ScanOptions &);
@@ -22,97 +21,123 @@ struct OptionField
 };
 
 template <auto Member>
-OptionField field(const QString &name)
+OptionField field(const QString &name, const QString &description, qint64 least = 0, qint64 most = -1)
 {
     using Type = std::remove_cvref_t<decltype(std::declval<ScanOptions>().*Member)>;
-    return {name,
-            jsonTypeName(Type()),
+    return {{name, jsonTypeName(Type()), least, most, {}, description},
             std::is_same_v<Type, QString>,
             std::is_same_v<Type, QStringList>,
             [](const ScanOptions &options) { return toJson(options.*Member); },
             [](const QJsonValue &json, ScanOptions &options) { return fromJson(json, options.*Member); }};
 }
 
-#define MIRRIX_OPTION(name) field<&ScanOptions::name>(QStringLiteral(#name))
+#define MIRRIX_OPTION(name, description) field<&ScanOptions::name>(QStringLiteral(#name), QStringLiteral(description))
+#define MIRRIX_RANGED_OPTION(name, least, most, description)                                                           \
+    field<&ScanOptions::name>(QStringLiteral(#name), QStringLiteral(description), least, most)
 
 const QList<OptionField> &table()
 {
     static const QList<OptionField> fields = {
-        MIRRIX_OPTION(roots),
-        MIRRIX_OPTION(locations),
-        MIRRIX_OPTION(showRemaining),
-        MIRRIX_OPTION(excludeFolders),
-        MIRRIX_OPTION(includeExtensions),
-        MIRRIX_OPTION(excludeExtensions),
-        MIRRIX_OPTION(minSize),
-        MIRRIX_OPTION(maxSize),
-        MIRRIX_OPTION(createdFromMs),
-        MIRRIX_OPTION(createdToMs),
-        MIRRIX_OPTION(modifiedFromMs),
-        MIRRIX_OPTION(modifiedToMs),
-        MIRRIX_OPTION(skipHidden),
-        MIRRIX_OPTION(skipSystemFolders),
-        MIRRIX_OPTION(readFileIdentity),
-        MIRRIX_OPTION(collapseHardLinks),
-        MIRRIX_OPTION(searchMode),
-        MIRRIX_OPTION(contentMatch),
-        MIRRIX_OPTION(threads),
-        MIRRIX_OPTION(mediaCompareDepth),
-        MIRRIX_OPTION(mediaCompareDepthAlt),
-        MIRRIX_OPTION(similarPercent),
-        MIRRIX_OPTION(sameName),
-        MIRRIX_OPTION(sameExtension),
-        MIRRIX_OPTION(similarNames),
-        MIRRIX_OPTION(ignoreCopyWords),
-        MIRRIX_OPTION(sameSize),
-        MIRRIX_OPTION(sizeTolerance),
-        MIRRIX_OPTION(sameCreated),
-        MIRRIX_OPTION(createdDateOnly),
-        MIRRIX_OPTION(sameModified),
-        MIRRIX_OPTION(modifiedDateOnly),
-        MIRRIX_OPTION(sameDrive),
-        MIRRIX_OPTION(sameFolderName),
-        MIRRIX_OPTION(sameFolderPath),
-        MIRRIX_OPTION(folderPathDepth),
-        MIRRIX_OPTION(samePathUnderRoot),
-        MIRRIX_OPTION(ignoreSameFolderGroups),
-        MIRRIX_OPTION(caseSensitive),
-        MIRRIX_OPTION(nameTolerance),
-        MIRRIX_OPTION(duplicateFoldersOnly),
-        MIRRIX_OPTION(audioMatchDuration),
-        MIRRIX_OPTION(audioDurationTolerance),
-        MIRRIX_OPTION(audioTags),
-        MIRRIX_OPTION(videoMatchDuration),
-        MIRRIX_OPTION(videoDurationTolerance),
-        MIRRIX_OPTION(videoTags),
-        MIRRIX_OPTION(imageSameDimensions),
-        MIRRIX_OPTION(imageDimensionTolerance),
-        MIRRIX_OPTION(imageSameShotTime),
-        MIRRIX_OPTION(imageShotTimeTolerance),
-        MIRRIX_OPTION(imageGroupByGps),
-        MIRRIX_OPTION(imageGpsPrecision),
-        MIRRIX_OPTION(imageTags),
-        MIRRIX_OPTION(imageMaxDistance),
-        MIRRIX_OPTION(imageSimilarityLevel),
-        MIRRIX_OPTION(imageFindRotated),
-        MIRRIX_OPTION(imageFindFlipped),
-        MIRRIX_OPTION(imageMatchHistogram),
-        MIRRIX_OPTION(imageSameAspect),
-        MIRRIX_OPTION(imageUseFeatureCache),
-        MIRRIX_OPTION(imageUseRawPreview),
-        MIRRIX_OPTION(keepRule),
-        MIRRIX_OPTION(largeFileMinBytes),
+        MIRRIX_OPTION(roots, "Folders to scan, including their subfolders."),
+        MIRRIX_OPTION(files, "Single files to scan besides, if they pass the filters; folders are then not compared."),
+        MIRRIX_OPTION(
+            locations,
+            "Settings of single folders among the roots: whether their subfolders are scanned, what is looked for "
+            "(findKind: 0 equal contents, 1 equal names, 2 empty files), whether files in no group are listed."),
+        MIRRIX_OPTION(showRemaining, "List the files that are in no group."),
+        MIRRIX_OPTION(excludeFolders, "Folders that are not entered."),
+        MIRRIX_OPTION(oneFileSystem, "Do not enter volumes mounted below a scanned folder."),
+        MIRRIX_OPTION(includeExtensions, "Only files with one of these extensions, given as jpg; empty = all."),
+        MIRRIX_OPTION(excludeExtensions, "No files with one of these extensions."),
+        MIRRIX_OPTION(
+            includeNames,
+            "Only files whose names match one of these patterns, such as *.iso; empty = all. Letter case is ignored."),
+        MIRRIX_OPTION(excludeNames,
+                      "Neither files nor folders whose names match one of these patterns. Letter case is ignored."),
+        MIRRIX_OPTION(minSize, "Least size of a file in bytes; 0 = no limit."),
+        MIRRIX_OPTION(maxSize, "Greatest size of a file in bytes; 0 = no limit."),
+        MIRRIX_OPTION(createdFromMs,
+                      "Only files created at or after this time, in milliseconds since 1970; 0 = no limit."),
+        MIRRIX_OPTION(createdToMs,
+                      "Only files created at or before this time, in milliseconds since 1970; 0 = no limit."),
+        MIRRIX_OPTION(modifiedFromMs,
+                      "Only files modified at or after this time, in milliseconds since 1970; 0 = no limit."),
+        MIRRIX_OPTION(modifiedToMs,
+                      "Only files modified at or before this time, in milliseconds since 1970; 0 = no limit."),
+        MIRRIX_OPTION(skipHidden, "Leave out hidden files and folders."),
+        MIRRIX_OPTION(skipSystemFolders, "Leave out the folders of the operating system (Windows)."),
+        MIRRIX_OPTION(readFileIdentity, "Read the number and the link count of each file."),
+        MIRRIX_OPTION(collapseHardLinks, "Count the names of one file once. The commands scan and clean turn this on."),
+        MIRRIX_RANGED_OPTION(searchMode, 0, 3,
+                             "What is compared: 0 files, 1 pictures, 2 audio, 3 video. Set by --mode."),
+        MIRRIX_RANGED_OPTION(
+            contentMatch, 0, 2,
+            "For searchMode 0: 0 identical contents, 1 similar contents, 2 rules only. Set by --mode."),
+        MIRRIX_OPTION(threads, "Worker threads; 0 = one per processor, up to 8. Set by --threads."),
+        MIRRIX_RANGED_OPTION(
+            mediaCompareDepth, 0, 4,
+            "Audio: 0 whole file, 1 first 2 MiB, 2 first 512 KiB, 3 identical contents, 4 rules only."),
+        MIRRIX_RANGED_OPTION(mediaCompareDepthAlt, 0, 2, "Video: 0 first 1 MiB, 1 whole file, 2 rules only."),
+        MIRRIX_RANGED_OPTION(similarPercent, 1, 100,
+                             "Least share of equal sampled bytes of similar contents, in percent."),
+        MIRRIX_OPTION(sameName, "Files of a group have the same name."),
+        MIRRIX_OPTION(sameExtension, "Files of a group have the same extension."),
+        MIRRIX_OPTION(similarNames, "Files of a group have similar names; see nameTolerance and ignoreCopyWords."),
+        MIRRIX_OPTION(ignoreCopyWords, "Similar names are compared without words such as \"copy\" and \"(1)\"."),
+        MIRRIX_OPTION(sameSize, "Files of a group have the same size, within sizeTolerance."),
+        MIRRIX_OPTION(sizeTolerance, "How much sizes may differ, in bytes."),
+        MIRRIX_OPTION(sameCreated, "Files of a group were created at the same time."),
+        MIRRIX_OPTION(createdDateOnly, "Of creation times, compare the dates only."),
+        MIRRIX_OPTION(sameModified, "Files of a group were modified at the same time."),
+        MIRRIX_OPTION(modifiedDateOnly, "Of modification times, compare the dates only."),
+        MIRRIX_OPTION(sameDrive, "Files of a group lie on the same drive."),
+        MIRRIX_OPTION(sameFolderName, "Files of a group lie in folders of the same name."),
+        MIRRIX_OPTION(sameFolderPath, "Files of a group have the same leading folders; see folderPathDepth."),
+        MIRRIX_OPTION(folderPathDepth, "How many leading folders sameFolderPath compares."),
+        MIRRIX_OPTION(samePathUnderRoot, "Files of a group have the same path below their scanned folders."),
+        MIRRIX_OPTION(ignoreSameFolderGroups, "Drop groups whose files all lie in one folder."),
+        MIRRIX_OPTION(caseSensitive, "Letter case counts in names and paths."),
+        MIRRIX_OPTION(nameTolerance, "How many letters similar names may differ in."),
+        MIRRIX_OPTION(duplicateFoldersOnly, "List only files that make up equal folders."),
+        MIRRIX_OPTION(audioMatchDuration, "Audio of a group has the same length, within audioDurationTolerance."),
+        MIRRIX_OPTION(audioDurationTolerance, "How much lengths of audio may differ, in milliseconds."),
+        MIRRIX_OPTION(audioTags, "Tags that are the same in audio of a group."),
+        MIRRIX_OPTION(videoMatchDuration, "Videos of a group have the same length, within videoDurationTolerance."),
+        MIRRIX_OPTION(videoDurationTolerance, "How much lengths of videos may differ, as HH:mm:ss.zzz."),
+        MIRRIX_OPTION(videoTags, "Tags that are the same in videos of a group."),
+        MIRRIX_OPTION(imageSameDimensions,
+                      "Pictures of a group have the same width and height, within imageDimensionTolerance."),
+        MIRRIX_OPTION(imageDimensionTolerance, "How much width and height may differ, in pixels."),
+        MIRRIX_OPTION(imageSameShotTime,
+                      "Pictures of a group were taken at the same time, within imageShotTimeTolerance."),
+        MIRRIX_OPTION(imageShotTimeTolerance,
+                      "How much the times may differ at which pictures were taken, in seconds."),
+        MIRRIX_OPTION(imageGroupByGps, "Pictures of a group were taken at the same place, within imageGpsPrecision."),
+        MIRRIX_OPTION(imageGpsPrecision, "How far apart pictures of the same place may be, in metres."),
+        MIRRIX_OPTION(imageTags, "Tags that are the same in pictures of a group."),
+        MIRRIX_RANGED_OPTION(imageMaxDistance, 0, 64, "In how many bits the hashes of similar pictures may differ."),
+        MIRRIX_RANGED_OPTION(imageSimilarityLevel, 0, 4,
+                             "The setting of the window that stands for a distance: 0 exact to 4 loose."),
+        MIRRIX_OPTION(imageFindRotated, "Find pictures that were rotated."),
+        MIRRIX_OPTION(imageFindFlipped, "Find pictures that were mirrored."),
+        MIRRIX_OPTION(imageMatchHistogram, "Similar pictures also have similar distributions of brightness."),
+        MIRRIX_OPTION(imageSameAspect, "Similar pictures have the same ratio of width to height."),
+        MIRRIX_OPTION(imageUseFeatureCache, "Remember the hashes of pictures for later scans."),
+        MIRRIX_OPTION(imageUseRawPreview, "Of a RAW file, compare the preview that it holds instead of developing it."),
+        MIRRIX_OPTION(keepRule, "The rule chosen in the window for the file to keep; a scan ignores it."),
+        MIRRIX_OPTION(largeFileMinBytes, "From which size the window calls a file large; a scan ignores it."),
     };
     return fields;
 }
 
+#undef MIRRIX_RANGED_OPTION
 #undef MIRRIX_OPTION
 
 const OptionField *findField(const QString &name)
 {
     const auto &fields = table();
     const auto found =
-        std::find_if(fields.begin(), fields.end(), [&](const OptionField &entry) { return entry.name == name; });
+        std::find_if(fields.begin(), fields.end(), [&](const OptionField &entry) { return entry.info.name == name; });
     return found == fields.end() ? nullptr : &*found;
 }
 
@@ -140,7 +165,7 @@ QJsonObject scanOptionsToJson(const ScanOptions &options)
 {
     QJsonObject json;
     for (const OptionField &entry : table())
-        json.insert(entry.name, entry.read(options));
+        json.insert(entry.info.name, entry.read(options));
     return json;
 }
 
@@ -152,7 +177,7 @@ QString scanOptionsFromJson(const QJsonObject &json, ScanOptions &options)
         if (!entry)
             return unknownOption(it.key());
         if (!entry->write(it.value(), changed))
-            return QStringLiteral("option \"%1\" needs %2").arg(entry->name, entry->typeName);
+            return QStringLiteral("option \"%1\" needs %2").arg(entry->info.name, entry->info.typeName);
     }
     options = changed;
     return {};
@@ -164,15 +189,39 @@ QString setScanOption(ScanOptions &options, const QString &name, const QString &
     if (!entry)
         return unknownOption(name);
     if (!entry->write(valueFromText(*entry, text), options))
-        return QStringLiteral("option \"%1\" needs %2, not \"%3\"").arg(name, entry->typeName, text);
+        return QStringLiteral("option \"%1\" needs %2, not \"%3\"").arg(name, entry->info.typeName, text);
     return {};
+}
+
+QString scanOptionOutOfRange(const ScanOptions &options)
+{
+    for (const OptionField &entry : table()) {
+        const qint64 value = entry.read(options).toInteger();
+        if (entry.info.hasRange() && (value < entry.info.least || value > entry.info.most))
+            return QStringLiteral("%1 must be from %2 to %3, not %4")
+                .arg(entry.info.name)
+                .arg(entry.info.least)
+                .arg(entry.info.most)
+                .arg(value);
+    }
+    return {};
+}
+
+QList<ScanOptionInfo> scanOptionInfos()
+{
+    QList<ScanOptionInfo> infos;
+    for (const OptionField &entry : table()) {
+        infos.append(entry.info);
+        infos.last().defaultValue = entry.read({});
+    }
+    return infos;
 }
 
 QStringList scanOptionNames()
 {
     QStringList names;
     for (const OptionField &entry : table())
-        names.append(entry.name);
+        names.append(entry.info.name);
     return names;
 }
 

@@ -3,12 +3,33 @@
 #include "core/scan/scanoptions.h"
 
 #include <QJsonObject>
+#include <QJsonValue>
 #include <QStringList>
 
 namespace MirrixCore {
 
 // The one table that maps every option's name to its member. The console, saved profiles and tests all go through it.
 // A new option is one line in optiontable.cpp. Thread-safe.
+
+/// What people are told about an option.
+struct ScanOptionInfo
+{
+    QString name;
+    QString typeName;
+    qint64 least = 0; ///< valid with hasRange
+    qint64 most = -1; ///< valid with hasRange
+    QJsonValue defaultValue;
+    QString description; ///< one line of plain English
+
+    /// Whether a scan refuses values beyond least and most.
+    [[nodiscard]] bool hasRange() const { return least <= most; }
+};
+
+/// All options, in table order.
+[[nodiscard]] QList<ScanOptionInfo> scanOptionInfos();
+
+/// A message that names the first option whose value would be answered with an empty result; empty when there is none.
+[[nodiscard]] QString scanOptionOutOfRange(const ScanOptions &options);
 
 /// Every option with its current value. Whole numbers stay exact up to 64 bits.
 [[nodiscard]] QJsonObject scanOptionsToJson(const ScanOptions &options);

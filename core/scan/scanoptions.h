@@ -57,16 +57,20 @@ struct TagEntry
 struct ScanOptions
 {
     // Where to look.
-    QStringList roots; ///< folders or drive roots to walk; none = nothing is scanned
+    QStringList roots; ///< folders or drive roots to walk
+    QStringList files; ///< single files to take besides, if they pass the filters; with any, folders are not compared
     /// Settings of roots. A root without an entry is walked whole; it is examined as the entries are when these all
     /// want the same, else for content duplicates.
     QList<ScanLocation> locations;
     bool showRemaining = false; ///< without locations: list all files that are in no group
     QStringList excludeFolders; ///< folders never entered
+    bool oneFileSystem = false; ///< not the volumes mounted below a root
 
     // Which files to take.
     QStringList includeExtensions;  ///< when not empty, only these; without dot, case ignored
     QStringList excludeExtensions;  ///< never these
+    QStringList includeNames;       ///< when not empty, only names that match one of these patterns (namepatterns.h)
+    QStringList excludeNames;       ///< neither files nor folders whose names match one of these
     qint64 minSize = 0;             ///< bytes; below 1 = no limit
     qint64 maxSize = 0;             ///< bytes; below 1 = no limit
     qint64 createdFromMs = 0;       ///< inclusive, milliseconds since the Unix epoch; below 1 = no limit

@@ -50,6 +50,15 @@ struct UnreadPath
     bool operator==(const UnreadPath &) const = default;
 };
 
+/// How much a walk met and did not take because of the options' filters.
+struct LeftOut
+{
+    qint64 files = 0;
+    qint64 folders = 0; ///< not entered: excluded, hidden, on another volume
+
+    bool operator==(const LeftOut &) const = default;
+};
+
 /// The outcome of a scan and of each matcher. Nothing found and cancelled before matching are both the default value.
 struct ScanResult
 {
@@ -62,6 +71,7 @@ struct ScanResult
     qint64 elapsedMs = 0;             ///< wall time of the whole scan
     qint64 candidates = 0;            ///< files that went on to content comparison
     QList<UnreadPath> unread;         ///< what is missing from the figures above because it could not be read
+    LeftOut leftOut;                  ///< what the options left out on purpose
 
     bool operator==(const ScanResult &) const = default;
 };

@@ -4,8 +4,10 @@
 #include "core/walk/fileplaces.h"
 #include "core/walk/filestatus.h"
 #include "core/walk/folderreader.h"
+#include "core/walk/namepatterns.h"
 #include "core/walk/pathrules.h"
 
+#include <QMap>
 #include <QSet>
 
 #include <algorithm>
@@ -23,11 +25,18 @@ public:
         : m_options(options)
         , m_include(comparableExtensions(options.includeExtensions))
         , m_exclude(comparableExtensions(options.excludeExtensions))
+        , m_includeNames(options.includeNames)
+        , m_excludeNames(options.excludeNames)
     {}
+
+    /// Whether a file or folder of this name is to be left out.
+    [[nodiscard]] bool excludesName(const QString &name) const { return m_excludeNames.match(name); }
 
     [[nodiscard]] bool accepts(const FolderItem &item) const
     {
         if (m_options.skipHidden && item.isHidden)
+            return false;
+        if (excludesName(item.name) || (!m_includeNames.isEmpty() && !m_includeNames.match(item.name)))
             return false;
         if (!m_include.isEmpty() || !m_exclude.isEmpty()) {
             const QString suffix = lowerSuffix(item.name);
@@ -64,6 +73,8 @@ private:
     const ScanOptions &m_options;
     QSet<QString> m_include;
     QSet<QString> m_exclude;
+    NamePatterns m_includeNames;
+    NamePatterns m_excludeNames;
 };
 
 /// A folder being walked.
@@ -84,11 +95,12 @@ class Walk
 {
 public:
     Walk(const ScanOptions &options, const FileCallback &onFile, const CancelQuery &cancelled,
-         QList<UnreadPath> *unread)
+         QList<UnreadPath> *unread, LeftOut &leftOut)
         : m_options(options)
         , m_onFile(onFile)
         , m_cancelled(cancelled)
         , m_unread(unread)
+        , m_leftOut(leftOut)
         , m_filter(options)
         , m_rules(options)
     {
@@ -105,6 +117,7 @@ public:
                 break;
             walkRoot(cleanedPath(root));
         }
+        takeSingleFiles();
         return std::move(m_files);
     }
 
@@ -119,8 +132,62 @@ private:
         else if (status.kind != FileStatus::Kind::Folder)
             note(root, QStringLiteral("not a folder"));
         else if (const QString realPath = realPathOf(root);
-                 !m_rules.isListed(root) && !m_rules.isListed(realPath) && !m_rules.isListed(status.identity))
+                 !m_rules.isListed(root) && !m_rules.isListed(realPath) && !m_rules.isListed(status.identity)) {
+            m_rootIdentity = status.identity;
             walkFolder(root, realPath);
+        }
+    }
+
+    /// By way of their folders, which tell of a file what the walk needs without opening or following it.
+    void takeSingleFiles()
+    {
+        QMap<QString, NamesByKey> wanted; // by folder
+        for (const QString &listed : m_options.files) {
+            const QString file = cleanedPath(listed);
+            const qsizetype slash = file.lastIndexOf(QLatin1Char('/'));
+            const QString name = file.mid(slash + 1);
+            if (slash >= 0)
+                wanted[cleanedPath(file.left(slash + 1))].insert(pathCaseKey(name), name);
+        }
+        for (auto it = wanted.begin(); it != wanted.end() && !isCancelled(m_cancelled); ++it)
+            takeFilesOf(it.key(), it.value());
+    }
+
+    using NamesByKey = QMap<QString, QString>; ///< by pathCaseKey
+
+    void takeFilesOf(const QString &folder, NamesByKey names)
+    {
+        const QString realPath = realPathOf(folder);
+        if (m_visited.contains(pathCaseKey(folder)))
+            return;
+        if (isLeftOutWhole(folder, realPath)) {
+            m_leftOut.files += names.size();
+            return;
+        }
+        OpenFolder open{folder, realPath, placeOfTree(folder), FolderReader(folder), false, m_files.size(), {}, false};
+        FolderItem item;
+        while (!names.isEmpty() && !isCancelled(m_cancelled) && open.reader.next(item)) {
+            if (names.remove(pathCaseKey(item.name)) == 0)
+                continue;
+            const QString path = childPath(folder, item.name);
+            if (!item.reason.isEmpty() || item.kind != FolderItem::Kind::File)
+                note(path, item.reason.isEmpty() ? QStringLiteral("not a file") : item.reason);
+            else
+                take(path, open, item);
+        }
+        const QString &error = open.reader.errorText();
+        for (const QString &name : std::as_const(names))
+            note(childPath(folder, name), error.isEmpty() ? QStringLiteral("no such file") : error);
+    }
+
+    /// Whether single files of `folder` are left out with it: nobody has named it or those above it as roots.
+    bool isLeftOutWhole(const QString &folder, const QString &realPath) const
+    {
+        const QStringList above = folder.split(QLatin1Char('/'), Qt::SkipEmptyParts);
+        const auto isUnwanted = [this](const QString &name) { return m_filter.excludesName(name); };
+        return m_rules.excludes(folder, false) || (!realPath.isEmpty() && m_rules.excludes(realPath, false)) ||
+               (m_rules.needsIdentities() && m_rules.isListed(fileStatus(folder).identity)) ||
+               std::any_of(above.begin(), above.end(), isUnwanted);
     }
 
     void walkFolder(const QString &folder, const QString &realFolder)
@@ -155,20 +222,29 @@ private:
 
     void enter(const QString &path, const OpenFolder &parent, const FolderItem &item)
     {
-        if (m_rules.excludes(path, item.isHidden))
-            return;
         QString realPath;
         if (item.isFolderLink)
             realPath = realPathOf(path);
         else if (!parent.realPath.isEmpty())
             realPath = childPath(parent.realPath, item.name);
-        if ((!realPath.isEmpty() && m_rules.excludes(realPath, false)) ||
-            (m_rules.needsIdentities() && m_rules.isListed(fileStatus(path).identity)))
-            return;
-        if (!item.isFolderLink)
+        if (isLeftOut(path, realPath, item))
+            ++m_leftOut.folders;
+        else if (!item.isFolderLink)
             push(path, realPath, placeOfFolder(path, parent.place), false);
         else if (mayFollow(path))
             push(path, realPath, parent.place == FilePlace::Ordinary ? placeOfTree(path) : parent.place, true);
+    }
+
+    bool isLeftOut(const QString &path, const QString &realPath, const FolderItem &item) const
+    {
+        if (m_rules.excludes(path, item.isHidden) || m_filter.excludesName(item.name) ||
+            (!realPath.isEmpty() && m_rules.excludes(realPath, false)))
+            return true;
+        if (!m_rules.needsIdentities() && !m_options.oneFileSystem)
+            return false;
+        const FileIdentity identity = fileStatus(path).identity;
+        const bool isElsewhere = identity.isKnown && m_rootIdentity.isKnown && identity.volume != m_rootIdentity.volume;
+        return (m_options.oneFileSystem && isElsewhere) || m_rules.isListed(identity);
     }
 
     /// The path without links that exclusions are compared with too; empty when that changes nothing.
@@ -181,7 +257,7 @@ private:
     /// Opens a folder for reading unless an overlapping root has been walked through it before.
     void push(const QString &path, const QString &realPath, FilePlace place, bool isLinkWanted)
     {
-        if (m_options.roots.size() > 1) {
+        if (m_options.roots.size() > 1 || !m_options.files.isEmpty()) {
             const QString key = pathCaseKey(path);
             if (m_visited.contains(key))
                 return;
@@ -222,8 +298,10 @@ private:
     {
         if (folder.place == FilePlace::Ordinary && isBackupIndex(item.name))
             markAsBackupFolder(folder);
-        if (!m_filter.accepts(item))
+        if (!m_filter.accepts(item)) {
+            ++m_leftOut.files;
             return;
+        }
         if (item.isPlaceholder) {
             note(path, QStringLiteral("only in the cloud, not compared"));
             return;
@@ -233,6 +311,7 @@ private:
         file.size = item.sizeBytes;
         file.modifiedMs = item.modifiedMs;
         file.createdMs = item.createdMs;
+        file.allocatedBytes = item.allocatedBytes;
         file.place = folder.place;
         if (m_options.readFileIdentity || m_options.collapseHardLinks)
             setIdentity(file, item.identity.isKnown ? item.identity : fileStatus(path).identity);
@@ -261,10 +340,12 @@ private:
     const FileCallback &m_onFile;
     const CancelQuery &m_cancelled;
     QList<UnreadPath> *m_unread;
+    LeftOut &m_leftOut;
     FileFilter m_filter;
     FolderRules m_rules;
     QSet<QString> m_flatFolders; ///< locations without their subfolders, lower case
     QSet<QString> m_visited;     ///< folders walked so far; used only with several roots
+    FileIdentity m_rootIdentity;
     std::vector<OpenFolder> m_stack;
     QList<FileEntry> m_files;
 };
@@ -272,9 +353,10 @@ private:
 } // namespace
 
 QList<FileEntry> enumerateFiles(const ScanOptions &options, const FileCallback &onFile, const CancelQuery &cancelled,
-                                QList<UnreadPath> *unread)
+                                QList<UnreadPath> *unread, LeftOut *leftOut)
 {
-    return Walk(options, onFile, cancelled, unread).run();
+    LeftOut ignored;
+    return Walk(options, onFile, cancelled, unread, leftOut ? *leftOut : ignored).run();
 }
 
 } // namespace MirrixCore

@@ -24,10 +24,11 @@ struct FolderItem
     bool isFolderLink = false;  ///< a folder that may lead elsewhere (Windows: junction, directory link)
     bool isPlaceholder = false; ///< a file whose content is not on this machine: reading would download it
     qint64 sizeBytes = 0;
-    qint64 modifiedMs = 0; ///< milliseconds since the Unix epoch; below 1 = unknown
-    qint64 createdMs = 0;  ///< milliseconds since the Unix epoch; below 1 = unknown
-    FileIdentity identity; ///< known where it comes for free (POSIX), else see fileStatus
-    QString reason;        ///< why the entry could not be read; empty otherwise
+    qint64 allocatedBytes = -1; ///< on the volume; known where it comes for free (POSIX), else below 0
+    qint64 modifiedMs = 0;      ///< milliseconds since the Unix epoch; below 1 = unknown
+    qint64 createdMs = 0;       ///< milliseconds since the Unix epoch; below 1 = unknown
+    FileIdentity identity;      ///< known where it comes for free (POSIX), else see fileStatus
+    QString reason;             ///< why the entry could not be read; empty otherwise
 };
 
 /// Reads one folder, entry by entry, without opening any file. "." and ".." are left out. Not thread-safe.

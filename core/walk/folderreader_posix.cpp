@@ -2,13 +2,12 @@
 
 #include "core/platform/epochtime.h"
 #include "core/platform/nativepath.h"
+#include "core/walk/kernelfilesystems_posix.h"
 
 #include <cerrno>
 #include <dirent.h>
 #include <fcntl.h>
-#include <linux/magic.h>
 #include <sys/stat.h>
-#include <sys/statfs.h>
 #include <sys/sysmacros.h>
 #include <unistd.h>
 
@@ -27,29 +26,6 @@ struct FolderReader::State
 };
 
 namespace {
-
-/// File systems whose files are made up by the kernel: reading them tells nothing, hangs, or changes the system.
-bool isKernelFileSystem(int folder)
-{
-    struct statfs info = {};
-    if (fstatfs(folder, &info) != 0)
-        return false;
-    switch (static_cast<unsigned long>(info.f_type)) {
-    case PROC_SUPER_MAGIC:
-    case SYSFS_MAGIC:
-    case DEBUGFS_MAGIC:
-    case TRACEFS_MAGIC:
-    case SECURITYFS_MAGIC:
-    case CGROUP_SUPER_MAGIC:
-    case CGROUP2_SUPER_MAGIC:
-    case BPF_FS_MAGIC:
-    case PSTOREFS_MAGIC:
-    case DEVPTS_SUPER_MAGIC:
-        return true;
-    default:
-        return false;
-    }
-}
 
 qint64 epochMs(const statx_timestamp &time)
 {
@@ -72,6 +48,7 @@ bool readItem(int folder, const char *name, FolderItem &item)
                 : S_ISDIR(info.stx_mode) ? FolderItem::Kind::Folder
                                          : FolderItem::Kind::Other;
     item.sizeBytes = static_cast<qint64>(info.stx_size);
+    item.allocatedBytes = static_cast<qint64>(info.stx_blocks) * 512; // the unit of statx, whatever the volume's is
     item.modifiedMs = epochMs(info.stx_mtime);
     item.createdMs = info.stx_mask & STATX_BTIME ? epochMs(info.stx_btime) : 0;
     const auto device = static_cast<quint32>(makedev(info.stx_dev_major, info.stx_dev_minor));
@@ -90,10 +67,11 @@ FolderReader::FolderReader(const QString &folder, bool isLinkWanted)
     : m_state(std::make_unique<State>())
 {
     const int flags = O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK | (isLinkWanted ? 0 : O_NOFOLLOW);
+    struct statfs info = {};
     const int descriptor = open(pathBytes(folder).constData(), flags);
     if (descriptor < 0) {
         m_state->error = systemErrorText(errno);
-    } else if (isKernelFileSystem(descriptor)) {
+    } else if (fstatfs(descriptor, &info) == 0 && isKernelFileSystem(info)) {
         m_state->error = QStringLiteral("a file system of the kernel, not scanned");
         close(descriptor);
     } else {

@@ -1,11 +1,13 @@
 #include "actions/backupstore.h"
 #include "actions/cleaning/cleaningrun.h"
+#include "actions/cleaning/emptyfolderremoval.h"
 #include "actions/operationslog.h"
 #include "core/walk/filestatus.h"
 #include "tests/support/disk.h"
 #include "tests/support/probes.h"
 #include "tests/support/temptree.h"
 
+#include <QFileInfo>
 #include <QScopeGuard>
 #include <QTest>
 
@@ -87,6 +89,7 @@ private slots:
     void nothingUnrecorded();
     void space();
     void putAwayCopiesAreNotKept();
+    void emptyFoldersOnly();
 
 private:
     static void methods()
@@ -430,6 +433,24 @@ void CleaningTest::putAwayCopiesAreNotKept()
     group.files.removeAt(1);
     QCOMPARE(chooseInGroup(group.files, KeepRule::Oldest).kept, -1);
     QVERIFY(surplusByRule({group}, KeepRule::Newest).isEmpty());
+}
+
+void CleaningTest::emptyFoldersOnly()
+{
+    const QStringList kept = {m_tree->path(u"src"_s), m_tree->path(u"src/kept"_s), m_tree->path(u"none"_s),
+                              m_tree->path(u"link"_s)};
+    const QString empty = m_tree->makeFolder(u"empty"_s);
+    const bool hasLink = m_tree->symbolicLink(u"empty"_s, u"link"_s);
+    m_tree->write(u"no folder"_s, {});
+    OperationsLog unwritable(path("no folder/log"));
+    QCOMPARE(removeEmptyFolders({empty}, unwritable).count, 0);
+    QVERIFY(QFileInfo::exists(empty));
+    OperationsLog log(path("data/log"));
+    const BatchResult result = removeEmptyFolders(kept + QStringList{empty}, log);
+    QCOMPARE(result.count, 1);
+    QCOMPARE(result.errors.size(), 4);
+    QVERIFY(!QFileInfo::exists(empty) && QFileInfo::exists(path("src/kept")));
+    QVERIFY(!hasLink || QFileInfo(path("link")).isSymLink());
 }
 
 QTEST_GUILESS_MAIN(CleaningTest)

@@ -22,6 +22,7 @@ private slots:
     void methods();
     void backUpAndRestoreAll();
     void restoreChosen();
+    void emptyFolders();
     void failuresAreNamed();
     void interrupted();
     void unreadableIndexStays();
@@ -183,6 +184,35 @@ void CleanCommandTest::restoreChosen()
     QCOMPARE(occupied.errors,
              "mirrix-cli: A file already exists at the original path; restore cancelled: " + path.toUtf8() + '\n');
     QCOMPARE(contentOf(path), QByteArray("CONTENT"));
+}
+
+void CleanCommandTest::emptyFolders()
+{
+    for (const QString &folder : {u"src/e/f/g"_s, u"src/full/e"_s, u"src/repo.git/refs"_s, u"src/.svn"_s, u"src/out"_s})
+        m_tree->makeFolder(folder);
+    m_tree->write(u"src/full/.hidden"_s, "x");
+    const bool hasLink = m_tree->symbolicLink(u"src/out"_s, u"src/linked/link"_s);
+    const QStringList arguments = {u"clean"_s, u"--empty-folders"_s, u"--exclude"_s, m_tree->path(u"src/out"_s),
+                                   m_tree->path(u"src"_s)};
+    const QString folder = m_tree->path(u"src/"_s);
+    const ProgramRun told = run(arguments);
+    QCOMPARE(QString::fromUtf8(told.output).remove(folder),
+             u"remove full/e\nremove e/f/g\nremove e/f\nremove e\n4 empty folders. Nothing was changed; run again "
+             "with --apply to do this.\n"_s);
+    QVERIFY(QFileInfo::exists(folder + u"e/f/g"_s));
+    const ProgramRun done = run(arguments + QStringList(u"--apply"_s));
+    QCOMPARE(done.output, "4 of 4 empty folders removed\n");
+    QCOMPARE(done.status, 0);
+    for (const QString &gone : {u"e"_s, u"full/e"_s})
+        QVERIFY2(!QFileInfo::exists(folder + gone), qPrintable(gone));
+    for (const QString &kept : {u"full/.hidden"_s, u"repo.git/refs"_s, u".svn"_s, u"out"_s, u"other"_s})
+        QVERIFY2(QFileInfo::exists(folder + kept), qPrintable(kept));
+    QVERIFY(!hasLink || QFileInfo(folder + u"linked/link"_s).isSymLink());
+    QStringList paths = {u"full/e"_s, u"e/f/g"_s, u"e/f"_s, u"e"_s};
+    QCOMPARE(logged(), QStringList({u"empty_folders: "_s + folder + paths.join(u'|' + folder),
+                                    u"empty_folders_removed: count=4 of=4"_s}));
+    QCOMPARE(run({u"clean"_s, u"--empty-folders"_s, u"--keep"_s, u"newest"_s, folder}).errors,
+             usageErrorText(u"--keep cannot be used with --empty-folders"_s));
 }
 
 void CleanCommandTest::failuresAreNamed()

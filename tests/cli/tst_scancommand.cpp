@@ -2,6 +2,7 @@
 #include "core/cache/fingerprintcache.h"
 #include "core/hash/contenthash.h"
 #include "core/platform/nativepath.h"
+#include "tests/support/jsonschema.h"
 #include "tests/support/probes.h"
 #include "tests/support/program.h"
 #include "tests/support/temptree.h"
@@ -49,9 +50,12 @@ QByteArray withoutTime(const QByteArray &report)
 
 QJsonObject jsonOf(const QByteArray &report)
 {
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(report, &error);
-    return error.error == QJsonParseError::NoError ? document.object() : QJsonObject();
+    const QJsonObject object = QJsonDocument::fromJson(report).object();
+    const JsonSchema schema(QJsonDocument::fromJson(testData(u"../docs/scan.schema.json"_s)).object());
+    const QStringList faults = schema.faults(object);
+    if (!faults.isEmpty())
+        qWarning("not as the schema says: %s", qPrintable(faults.join(u"; "_s)));
+    return faults.isEmpty() ? object : QJsonObject();
 }
 
 /// The paths of each group in a JSON report, sorted.
@@ -98,6 +102,9 @@ private slots:
     void brokenOptionFiles_data();
     void brokenOptionFiles();
     void missingFoldersAreNamed();
+    void filesOfTheKernel();
+    void output_data();
+    void output();
     void missingExclusionsAreMistakes();
     void relativeFolders_data();
     void relativeFolders();
@@ -258,11 +265,16 @@ void ScanCommandTest::jsonReport()
     for (const QJsonValue &file : group.take(u"files"_s).toArray()) {
         QJsonObject object = file.toObject();
         QVERIFY(object.take(u"createdMs"_s).isDouble()); // cannot be set everywhere
+        if (namesAreBytes)
+            QVERIFY(object.take(u"allocated"_s).isDouble()); // the file system's own affair
         found.append(object);
     }
     QCOMPARE(found, files);
     QCOMPARE(group, (QJsonObject{{u"key"_s, u"900150983cd24fb0d6963f7d28e17f72"_s}, {u"wastedBytes"_s, 3}}));
-    QCOMPARE(report, (QJsonObject{{u"filesScanned"_s, 3},
+    QCOMPARE(report, (QJsonObject{{u"schemaVersion"_s, 1},
+                                  {u"hidden"_s, QJsonObject{{u"files"_s, 0}, {u"folders"_s, 0}}},
+                                  {u"unread"_s, QJsonArray()},
+                                  {u"filesScanned"_s, 3},
                                   {u"totalBytes"_s, 11},
                                   {u"wastedBytes"_s, 3},
                                   {u"candidates"_s, 2},
@@ -336,6 +348,16 @@ void ScanCommandTest::options_data()
     row("most threads", {u"--threads"_s, u"256"_s, all}, 5, 1);
     row("without subfolders",
         {u"--set"_s, u"locations=[{\"path\":\"%1/two\",\"includeSubfolders\":false}]"_s, u"%1/two"_s}, 1, 0);
+    row("least size", {u"--min-size"_s, u"0.004K"_s, all}, 3, 0);
+    row("greatest size", {u"--set"_s, u"maxSize=1"_s, u"--max-size"_s, u"4B"_s, all}, 2, 1);
+    row("names", {u"--name"_s, u"*.TXT"_s, u"--name"_s, u"b.*"_s, all}, 3, 1);
+    row("names left out", {u"--exclude-name"_s, u"*.json"_s, u"--exclude-name"_s, u"SUB"_s, all}, 2, 1);
+    row("newer than a day", {u"--newer"_s, u"1d"_s, all}, 2, 0);
+    row("newer than a date", {u"--newer"_s, u"2009-02-13"_s, all}, 5, 1);
+    row("newer than another date", {u"--newer"_s, u"2009-02-15"_s, all}, 2, 0);
+    row("one file system", {u"--one-file-system"_s, all}, 5, 1);
+    row("listed", {u"--files-from"_s, u"%1/list"_s}, 3, 1);
+    row("listed beside a folder", {u"--files-from"_s, u"%1/list"_s, u"%1/one"_s, u"--max-size"_s, u"4"_s}, 2, 1);
     row("empty files only", {u"--set"_s, u"locations=[{\"path\":\"%1\",\"findKind\":2}]"_s, all}, 5, 0);
 }
 
@@ -347,6 +369,8 @@ void ScanCommandTest::options()
     m_tree->write(u"options.json"_s, "{\"maxSize\": 20}");
     m_tree->write(u"roots.json"_s, "{\"roots\": [\"" + m_tree->path(u"one"_s).toUtf8() + "\"]}");
     arguments.replaceInStrings(u"%1"_s, m_tree->path());
+    if (arguments.contains(m_tree->path(u"list"_s)))
+        m_tree->write(u"list"_s, u"%1/one/a.txt\r\n%1/two\n\n"_s.arg(m_tree->path()).toUtf8());
     const ProgramRun run = scanAsJson(arguments);
     QCOMPARE(run.errors, "");
     QCOMPARE(run.status, 0);
@@ -409,7 +433,16 @@ void ScanCommandTest::mistakes_data()
     row({u"--mode"_s, u"sound"_s, u"/a"_s},
         u"--mode must be content, similar-content, rules, images, audio or video, not \"sound\""_s);
     row({u"--hash"_s, u"BLAKE3"_s, u"/a"_s}, u"--hash must be md5 or blake3, not \"BLAKE3\""_s);
-    row({u"--format"_s, u"xml"_s, u"/a"_s}, u"--format must be text, json or csv, not \"xml\""_s);
+    row({u"--format"_s, u"xml"_s, u"/a"_s}, u"--format must be text, json, csv or nul, not \"xml\""_s);
+    const QString size = u"--min-size must be a size such as 4096, 512K or 1.5M, not \"%1\""_s;
+    for (const QString &text : {u""_s, u"1X"_s, u"-1"_s, u"1.5.1M"_s, u"99999999T"_s})
+        row({u"--min-size"_s, text, u"/a"_s}, size.arg(text));
+    const QString age = u"--newer must be an age such as 12h, 30d or 4w, or a date such as 2024-01-31, not \"%1\""_s;
+    for (const QString &text : {u""_s, u"d"_s, u"30"_s, u"-2d"_s, u"2024-13-01"_s})
+        row({u"--newer"_s, text, u"/a"_s}, age.arg(text));
+    row({u"--files-from"_s, u"/no such file"_s}, u"cannot read /no such file: No such file or directory"_s);
+    row({u"--sort"_s, u"name"_s, u"/a"_s}, u"--sort must be waste, path, size or modified, not \"name\""_s);
+    row({u"--color"_s, u"on"_s, u"/a"_s}, u"--color must be auto, always or never, not \"on\""_s);
     row({u"--recursive"_s, u"/a"_s}, u"Unknown option 'recursive'."_s);
     row({u"--mode"_s, u"rules"_s, u"/a"_s},
         u"without comparing contents a rule is needed, for example --set sameName=true"_s);
@@ -467,7 +500,67 @@ void ScanCommandTest::missingFoldersAreNamed()
     QCOMPARE(QString::fromUtf8(run.errors),
              u"mirrix-cli: %1: no such folder\nmirrix-cli: %2: not a folder\n"_s.arg(missing, file));
     QCOMPARE(groupsIn(run.output).size(), 1);
+    QCOMPARE(jsonOf(run.output)[u"unread"_s].toArray(),
+             (QJsonArray{QJsonObject{{u"path"_s, missing}, {u"reason"_s, u"no such folder"_s}},
+                         QJsonObject{{u"path"_s, file}, {u"reason"_s, u"not a folder"_s}}}));
     QCOMPARE(run.status, 1);
+}
+
+/// Below / it is told without being a failure; named by the user it is one.
+void ScanCommandTest::filesOfTheKernel()
+{
+    if (!QFile::exists(u"/proc/self/status"_s))
+        QSKIP("no such file system here");
+    QStringList arguments = {u"/"_s};
+    const QStringList others = QDir(u"/"_s).entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot);
+    for (const QString &folder : others) {
+        if (folder != u"proc"_s)
+            arguments += {u"--exclude"_s, u"/"_s + folder};
+    }
+    const QByteArray message = "mirrix-cli: /proc: a file system of the kernel, not scanned\n";
+    const ProgramRun below = scan(arguments);
+    QCOMPARE(below.errors, message);
+    QCOMPARE(below.status, 0);
+    const ProgramRun named = scan({u"/proc"_s});
+    QCOMPARE(named.errors, message);
+    QCOMPARE(named.status, 1);
+}
+
+/// On a group of three files of 3 bytes and a newer one of two files of 5 bytes.
+void ScanCommandTest::output_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("expected"); // names; "|" stands for NUL, "^" for the escape character
+    const QStringList nul = {u"--format"_s, u"nul"_s};
+    QTest::newRow("by waste") << nul << u"three|one/a.txt|two/b.dat||a5|b5|"_s;
+    for (const QString &order : {u"path"_s, u"size"_s, u"modified"_s})
+        QTest::newRow(qPrintable(order)) << nul + QStringList{u"--sort"_s, order}
+                                         << u"a5|b5||three|one/a.txt|two/b.dat|"_s;
+    QTest::newRow("empty ones") << nul + QStringList{u"--empty-files"_s, u"--empty-folders"_s}
+                                << u"none||empty|empty/sub|"_s;
+    const QString quiet = u"%1%3 files of 3 B each, 6 B reclaimable%2\n  three\n  one/a.txt\n  two/b.dat\n\n"_s;
+    const QStringList small = {u"--max-size"_s, u"4"_s, u"-q"_s};
+    QTest::newRow("quiet") << small << quiet.arg(QString(), QString(), u"3"_s);
+    QTest::newRow("coloured") << small + QStringList{u"--color"_s, u"always"_s}
+                              << quiet.arg(u"^[1m"_s, u"^[0m"_s, u"3"_s);
+    QTest::newRow("empty folders") << QStringList(u"--empty-folders"_s)
+                                   << u"2 empty folders\n  empty\n  empty/sub\n\n2 empty folders\n"_s;
+}
+
+void ScanCommandTest::output()
+{
+    QFETCH(QStringList, arguments);
+    for (const QString &name : {u"a5"_s, u"b5"_s})
+        m_tree->write(name, "hello");
+    m_tree->write(u"three"_s, "abc");
+    m_tree->setModified(u"three"_s, modifiedMs);
+    m_tree->write(u"none"_s, {});
+    m_tree->makeFolder(u".git/heads"_s);
+    m_tree->makeFolder(u"empty/sub"_s);
+    const ProgramRun run = scan(arguments + QStringList(m_tree->path()));
+    QString shown = QString::fromUtf8(run.output).replace(u'\0', u'|').replace(u'\x1b', u'^');
+    QTEST(shown.remove(m_tree->path() + u'/'), "expected");
+    QCOMPARE(run.errors, "");
 }
 
 void ScanCommandTest::missingExclusionsAreMistakes()

@@ -39,6 +39,9 @@ private slots:
     void walksNothingWithoutRoots();
     void filtersExtensions_data();
     void filtersExtensions();
+    void filtersNames_data();
+    void filtersNames();
+    void takesSingleFiles();
     void filtersSizes_data();
     void filtersSizes();
     void filtersModified_data();
@@ -85,6 +88,7 @@ void EnumerationTest::walksEverythingByDefault()
     expected.size = 3;
     expected.modifiedMs = 1234567890123;
     expected.createdMs = files.constFirst().createdMs;
+    expected.allocatedBytes = files.constFirst().allocatedBytes;
     QVERIFY(files.constFirst() == expected);
 }
 
@@ -125,6 +129,62 @@ void EnumerationTest::filtersExtensions()
     options.includeExtensions = include;
     options.excludeExtensions = exclude;
     QTEST(walked(tree, options), "taken");
+}
+
+void EnumerationTest::filtersNames_data()
+{
+    QTest::addColumn<QStringList>("include");
+    QTest::addColumn<QStringList>("exclude");
+    QTest::addColumn<QStringList>("taken");
+    const QStringList none;
+    const QStringList all = {u".git/[x]"_s, u"a.iso"_s, u"aab.ISO.txt"_s, u"b1"_s, u"sub/a"_s};
+    QTest::newRow("no filter") << none << none << all;
+    QTest::newRow("folders are entered") << QStringList(u"A"_s) << none << QStringList(u"sub/a"_s);
+    QTest::newRow("star, any case") << QStringList(u"*.Iso"_s) << none << QStringList(u"a.iso"_s);
+    QTest::newRow("star is tried again") << QStringList(u"*ab*.t?t*"_s) << none << QStringList(u"aab.ISO.txt"_s);
+    QTest::newRow("one more character") << QStringList(u"a?"_s) << none << none;
+    QTest::newRow("set") << QStringList({u"[a-c][0-9]"_s, u"[!a-r]*"_s}) << none
+                         << QStringList({u".git/[x]"_s, u"b1"_s});
+    QTest::newRow("brackets") << QStringList({u"[[]x]"_s, u"[b"_s}) << none << QStringList(u".git/[x]"_s);
+    QTest::newRow("folder is left out") << none << QStringList({u"*.git"_s, u"sub"_s}) << all.mid(1, 3);
+    QTest::newRow("leaving out wins") << QStringList(u"a*"_s) << QStringList(u"*.iso"_s)
+                                      << QStringList({u"aab.ISO.txt"_s, u"sub/a"_s});
+}
+
+void EnumerationTest::filtersNames()
+{
+    QFETCH(QStringList, include);
+    QFETCH(QStringList, exclude);
+    const TempTree tree;
+    for (const QString &name : {u".git/[x]"_s, u"a.iso"_s, u"aab.ISO.txt"_s, u"b1"_s, u"sub/a"_s})
+        tree.write(name, "x");
+    ScanOptions options = optionsFor(tree);
+    options.includeNames = include;
+    options.excludeNames = exclude;
+    QTEST(walked(tree, options), "taken");
+    LeftOut leftOut;
+    const qsizetype taken = enumerateFiles(options, {}, {}, nullptr, &leftOut).size();
+    QCOMPARE(taken + leftOut.files + leftOut.folders, 5); // each folder holds one file
+}
+
+void EnumerationTest::takesSingleFiles()
+{
+    const TempTree tree;
+    for (const QString &name : {u"a/1"_s, u"a/2"_s, u"b/3"_s, u"b/4.tmp"_s, u"out/5"_s, u"c.tmp/d/6"_s})
+        tree.write(name, "x");
+    ScanOptions options = optionsFor(tree, {u"b"_s});
+    for (const QString &name :
+         {u"a/1"_s, u"a/1"_s, u"a/../b/3"_s, u"a/none"_s, u"none/6"_s, u"out/5"_s, u"c.tmp/d/6"_s, u"a"_s})
+        options.files.append(tree.path(name));
+    options.excludeFolders = {tree.path(u"out"_s)};
+    options.excludeNames = {u"*.tmp"_s};
+    if (tree.symbolicLink(u"a/2"_s, u"a/link"_s))
+        options.files.append(tree.path(u"a/link"_s));
+    QCOMPARE(walked(tree, options), QStringList({u"a/1"_s, u"b/3"_s}));
+    QList<UnreadPath> unread;
+    QCOMPARE(enumerateFiles(options, {}, {}, &unread).size(), 2);
+    QVERIFY(unread.contains(UnreadPath{tree.path(u"a/none"_s), u"no such file"_s}));
+    QVERIFY(unread.contains(UnreadPath{tree.path(u"a"_s), u"not a file"_s}));
 }
 
 void EnumerationTest::filtersSizes_data()

@@ -32,8 +32,8 @@ QJsonValue changed(const QString &name, const QJsonValue &value)
 const QJsonObject &allDefaults()
 {
     static const QJsonObject defaults = QJsonDocument::fromJson(R"({
-        "roots": [], "locations": [], "showRemaining": false, "excludeFolders": [],
-        "includeExtensions": [], "excludeExtensions": [],
+        "roots": [], "files": [], "locations": [], "showRemaining": false, "excludeFolders": [], "oneFileSystem": false,
+        "includeExtensions": [], "excludeExtensions": [], "includeNames": [], "excludeNames": [],
         "minSize": 0, "maxSize": 0, "createdFromMs": 0, "createdToMs": 0, "modifiedFromMs": 0, "modifiedToMs": 0,
         "skipHidden": false, "skipSystemFolders": false, "readFileIdentity": false, "collapseHardLinks": false,
         "searchMode": 0, "contentMatch": 0, "threads": 0, "mediaCompareDepth": 0, "mediaCompareDepthAlt": 0,
@@ -118,6 +118,12 @@ void OptionTableTest::namesAreComplete()
     names.sort();
     QCOMPARE(names, allDefaults().keys());
     QCOMPARE(scanOptionsToJson({}).keys(), names);
+    for (const ScanOptionInfo &info : scanOptionInfos()) {
+        QCOMPARE(info.defaultValue, allDefaults()[info.name]);
+        QVERIFY2(info.description.endsWith(QLatin1Char('.')), qPrintable(info.name));
+        const bool isInside = info.least <= info.defaultValue.toInteger() && info.defaultValue.toInteger() <= info.most;
+        QVERIFY2(!info.hasRange() || isInside, qPrintable(info.name));
+    }
 }
 
 void OptionTableTest::wholeNumbersAreExact()

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "cli/scanreport.h"
+
+#include <QJsonObject>
+
+namespace MirrixCli {
+
+/// Writes one JSON object that docs/scan.schema.json describes.
+void writeJson(const ScanReport &report, Output &output);
+
+/// A file as the object stands for it in such a report.
+[[nodiscard]] QJsonObject jsonOf(const MirrixCore::FileEntry &file);
+
+} // namespace MirrixCli

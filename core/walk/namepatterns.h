@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QStringView>
+
+namespace MirrixCore {
+
+/// Whether a file's name, without its folder, matches a pattern of a shell: "*" stands for any characters, "?" for one,
+/// "[ab0-9]" for one of those, "[!ab]" for one that is none of them. A bracket that is never closed stands for itself,
+/// and so does a star in brackets. Names that are no proper Unicode match as well: no regular expression does.
+/// Compares as they stand: fold the case of both before. Thread-safe.
+[[nodiscard]] bool matchesPattern(QStringView name, QStringView pattern);
+
+/// Several such patterns, letter case ignored.
+class NamePatterns
+{
+public:
+    explicit NamePatterns(const QStringList &patterns);
+
+    [[nodiscard]] bool isEmpty() const { return m_patterns.isEmpty(); }
+
+    /// Whether one of them matches.
+    [[nodiscard]] bool match(const QString &name) const;
+
+private:
+    QStringList m_patterns; ///< lower case
+};
+
+} // namespace MirrixCore

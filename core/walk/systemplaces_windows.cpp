@@ -1,0 +1,10 @@
+#include "core/walk/systemplaces.h"
+
+namespace MirrixCore {
+
+bool isSystemPlace(const QString &)
+{
+    return false;
+}
+
+} // namespace MirrixCore

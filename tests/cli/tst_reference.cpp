@@ -1,0 +1,183 @@
+#include "cli/commandline.h"
+#include "cli/examples.h"
+#include "cli/shellcompletion.h"
+#include "tests/support/program.h"
+#include "tests/support/temptree.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QStandardPaths>
+#include <QTest>
+
+using namespace MirrixTest;
+using namespace Qt::StringLiterals;
+
+/// What the program tells of itself and of single files.
+class ReferenceTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void scanOptions();
+    void files();
+    void completesInBash_data();
+    void completesInBash();
+    void completionOfEachShell();
+    void manualPages();
+    void examplesRun_data();
+    void examplesRun();
+
+private:
+    [[nodiscard]] ProgramRun shell(const QString &script, const QString &folder) const;
+
+    Program m_program;
+};
+
+/// Runs a script in which mirrix-cli is the built program.
+ProgramRun ReferenceTest::shell(const QString &script, const QString &folder) const
+{
+    QProcess process;
+    m_program.prepare(process, {u"-c"_s, script});
+    QProcessEnvironment environment = process.processEnvironment();
+    const QString path = QCoreApplication::applicationDirPath() + u':' + environment.value(u"PATH"_s);
+    environment.insert(u"PATH"_s, path);
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(folder);
+    process.setProgram(u"bash"_s);
+    process.start();
+    return Program::ended(process);
+}
+
+void ReferenceTest::scanOptions()
+{
+    QCOMPARE(m_program.run({u"options"_s, u"similarPercent"_s, u"roots"_s}).output,
+             "similarPercent = 90\n    a whole number of 32 bits, 1 to 100. Least share of equal sampled bytes of "
+             "similar contents, in percent.\n"
+             "roots = []\n    a list of texts. Folders to scan, including their subfolders.\n");
+    const QJsonArray all =
+        QJsonDocument::fromJson(m_program.run({u"options"_s, u"--format"_s, u"json"_s}).output).array();
+    QVERIFY(all.size() > 60);
+    for (const QJsonValue &option : all)
+        QVERIFY2(!option[u"type"_s].toString().isEmpty(), qPrintable(option[u"name"_s].toString()));
+    QCOMPARE(m_program.run({u"options"_s, u"minsize"_s}).errors,
+             usageErrorText(u"unknown option \"minsize\"; \"mirrix-cli options\" lists all"_s));
+}
+
+void ReferenceTest::files()
+{
+    const TempTree tree;
+    const QString text = tree.write(u"a.txt"_s, "abc");
+    tree.write(u"b.txt"_s, "abc");
+    const QString missing = tree.path(u"none"_s);
+    const auto info = [&](const QString &path) {
+        const ProgramRun run = m_program.run(
+            {u"info"_s, u"--data-dir"_s, m_program.dataFolder(), u"--format"_s, u"json"_s, path, missing});
+        return run.status == 1 && run.errors == "mirrix-cli: " + missing.toUtf8() + ": no such file\n"
+                   ? QJsonDocument::fromJson(run.output)[0].toObject()
+                   : QJsonObject();
+    };
+    QJsonObject facts = info(text);
+    QCOMPARE(facts[u"size"_s], 3);
+    QCOMPARE(facts[u"digests"_s], QJsonArray());
+    QCOMPARE(
+        m_program.run({u"scan"_s, u"--data-dir"_s, m_program.dataFolder(), u"--hash"_s, u"md5"_s, tree.path()}).status,
+        0);
+    const bool hasLink = tree.hardLink(u"a.txt"_s, u"link"_s);
+    facts = info(text);
+    QVERIFY(!hasLink || facts[u"links"_s] == 2);
+    QCOMPARE(facts[u"digests"_s][0][u"algorithm"_s], u"md5"_s);
+    QCOMPARE(facts[u"digests"_s][0][u"full"_s], u"900150983cd24fb0d6963f7d28e17f72"_s);
+    QCOMPARE(facts[u"digestsOutOfDate"_s], false);
+    tree.write(u"a.txt"_s, "other");
+    facts = info(text);
+    QCOMPARE(facts[u"digests"_s], QJsonArray());
+    QCOMPARE(facts[u"digestsOutOfDate"_s], true);
+    facts = info(tree.write(u"picture.pgm"_s, "P5 8 8 255\n" + patternBytes(64)));
+    QCOMPARE(facts[u"width"_s], 8);
+    QCOMPARE(facts[u"pictureHash"_s].toString().size(), 16);
+}
+
+void ReferenceTest::completesInBash_data()
+{
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("command") << u"h"_s << u"history hash"_s;
+    QTest::newRow("option") << u"scan --max"_s << u"--max-size"_s;
+    QTest::newRow("choice") << u"clean --method s"_s << u"symlink"_s;
+    QTest::newRow("choices of the command") << u"log --format ''"_s << u"text json"_s;
+    QTest::newRow("modes") << u"scan --mode ''"_s << u"content similar-content rules images audio video"_s;
+    QTest::newRow("scan option") << u"scan --set simil"_s << u"similarPercent= similarNames="_s;
+    QTest::newRow("described option") << u"options similarP"_s << u"similarPercent"_s;
+    QTest::newRow("file") << u"scan --output x"_s << QString();
+}
+
+void ReferenceTest::completesInBash()
+{
+    QFETCH(QString, words);
+    if (QStandardPaths::findExecutable(u"bash"_s).isEmpty())
+        QSKIP("no bash");
+    const QString script = u"eval \"$(mirrix-cli completion bash)\"; COMP_WORDS=(mirrix-cli %1); "
+                           "COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); _mirrix_cli 2>/dev/null; echo \"${COMPREPLY[*]}\""_s;
+    const ProgramRun run = shell(script.arg(words), QDir::tempPath());
+    QCOMPARE(run.errors, "");
+    QTEST(QString::fromUtf8(run.output).trimmed(), "expected");
+}
+
+void ReferenceTest::completionOfEachShell()
+{
+    for (const QString &name : MirrixCli::completionShells()) {
+        const QByteArray script = m_program.run({u"completion"_s, name}).output;
+        for (const char *word : {"restore", "similar-content", "min-size", "imageMaxDistance="})
+            QVERIFY2(script.contains(word), qPrintable(name + u' ' + QLatin1String(word)));
+    }
+    QCOMPARE(m_program.run({u"completion"_s, u"csh"_s}).status, 2);
+}
+
+void ReferenceTest::manualPages()
+{
+    const TempTree tree;
+    QCOMPARE(m_program.run({u"manpage"_s, u"--all"_s, tree.path()}).status, 0);
+    const QStringList pages = QDir(tree.path()).entryList(QDir::Files);
+    QCOMPARE(pages.size(), MirrixCli::commandHelps().size() + 1);
+    for (const MirrixCli::CommandHelp &command : MirrixCli::commandHelps()) {
+        QVERIFY2(!MirrixCli::examplesOf(command.name).isEmpty(), qPrintable(command.name));
+        const QByteArray page = m_program.run({u"manpage"_s, command.name}).output;
+        const QByteArray help = m_program.run({command.name, u"--help"_s}).output;
+        QCOMPARE(page.count("\n.TP\n\\fB\\-"), help.count("\n  -"));
+        for (const MirrixCli::OptionHelp &option : command.options)
+            QVERIFY2(option.description.endsWith(u'.'), qPrintable(command.name + option.names.constFirst()));
+    }
+    if (QStandardPaths::findExecutable(u"groff"_s).isEmpty())
+        QSKIP("nothing to check the pages with");
+    for (const QString &page : pages)
+        QCOMPARE(shell(u"groff -man -ww -Tutf8 "_s + page + u" > /dev/null"_s, tree.path()).errors, "");
+}
+
+void ReferenceTest::examplesRun_data()
+{
+    QTest::addColumn<QString>("line");
+    for (const MirrixCli::CommandHelp &command : MirrixCli::commandHelps()) {
+        for (const MirrixCli::Example &example : MirrixCli::examplesOf(command.name))
+            QTest::newRow(qPrintable(example.line)) << example.line;
+    }
+}
+
+void ReferenceTest::examplesRun()
+{
+    QFETCH(QString, line);
+    if (QStandardPaths::findExecutable(u"bash"_s).isEmpty())
+        QSKIP("no shell");
+    const TempTree tree;
+    for (const QString &name :
+         {u"Pictures/a.jpg"_s, u"Pictures/b.jpg"_s, u"Downloads/a.jpg"_s, u"Downloads/film.mkv"_s})
+        tree.write(name, "abc");
+    tree.makeFolder(u"Downloads/empty"_s);
+    const ProgramRun run = shell(u"set -o pipefail; "_s + line, tree.path());
+    QCOMPARE(run.errors, "");
+    QCOMPARE(run.status, 0);
+}
+
+QTEST_GUILESS_MAIN(ReferenceTest)
+#include "tst_reference.moc"
