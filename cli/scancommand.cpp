@@ -1,5 +1,6 @@
 #include "cli/scancommand.h"
 
+#include "app/datalocations.h"
 #include "app/settings.h"
 #include "cli/output.h"
 #include "cli/progressline.h"
@@ -304,6 +305,7 @@ void prepareScan(const QCommandLineParser &parser)
 {
     const QString dataDirectory = dataDirectoryOf(parser);
     applyHash(parser, dataDirectory);
+    setOwnFiles(Mirrix::ownFilesIn(dataDirectory));
     if (parser.isSet(noCacheOption))
         setCacheRoot({});
     else

@@ -138,11 +138,11 @@ void storeImageFeature(const QString &filePath, qint64 sizeBytes, qint64 modifie
 
 bool clearImageFeatureCache()
 {
-    const QStringList folders = cacheFolders();
-    if (folders.isEmpty())
+    const QString root = cacheRoot();
+    if (root.isEmpty())
         return true;
     const std::lock_guard lock(cacheMutex());
-    return QDir(folders.constLast()).removeRecursively();
+    return QDir(root + QLatin1Char('/') + imageFeatureCacheName).removeRecursively();
 }
 
 } // namespace MirrixCore

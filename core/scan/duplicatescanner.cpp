@@ -1,6 +1,5 @@
 #include "core/scan/duplicatescanner.h"
 
-#include "core/cache/cacheroot.h"
 #include "core/match/emptyfiles.h"
 #include "core/match/folders.h"
 #include "core/match/memberorder.h"
@@ -19,11 +18,9 @@ namespace {
 
 constexpr qint64 filesPerReport = 256;
 
-QList<FileEntry> enumerate(ScanOptions options, const ProgressCallback &progress, const CancelQuery &cancelled,
-                           QList<UnreadPath> &unread)
+QList<FileEntry> enumerate(const ScanOptions &options, const ProgressCallback &progress, const CancelQuery &cancelled,
+                           QList<UnreadPath> &unread, FolderNotes &folders)
 {
-    // Else each scan of a home folder would find the last one's cache entries and add an entry for each of them.
-    options.excludeFolders += cacheFolders();
     const auto report = [&](const QString &path, qint64 count) {
         if (progress)
             progress({count, count, 0, path, Phase::Enumerating});
@@ -33,7 +30,7 @@ QList<FileEntry> enumerate(ScanOptions options, const ProgressCallback &progress
         if (count % filesPerReport == 0)
             report(file.path, count);
     };
-    const QList<FileEntry> files = enumerateFiles(options, onFile, cancelled, &unread);
+    const QList<FileEntry> files = enumerateFiles(options, onFile, cancelled, &unread, &folders);
     report(files.isEmpty() ? QString() : files.constLast().path, files.size());
     return files;
 }
@@ -57,9 +54,10 @@ ScanOptions nameOptions(ScanOptions options)
     return options;
 }
 
-void addFolders(ScanResult &result, const QList<FileEntry> &files, const ScanOptions &options)
+void addFolders(ScanResult &result, const QList<FileEntry> &files, const FolderNotes &folders,
+                const ScanOptions &options)
 {
-    result.folderGroups = findDuplicateFolders(files, result, options);
+    result.folderGroups = findDuplicateFolders(files, folders, result, options);
     if (options.duplicateFoldersOnly) {
         keepGroupsOfDuplicateFolders(result.groups, result.folderGroups);
         result.wastedBytes = totalWaste(result.groups);
@@ -75,7 +73,8 @@ ScanResult DuplicateScanner::scan(const ScanOptions &options, const ProgressCall
     QElapsedTimer timer;
     timer.start();
     QList<UnreadPath> unread;
-    QList<FileEntry> files = enumerate(options, progress, cancelled, unread);
+    FolderNotes folders;
+    QList<FileEntry> files = enumerate(options, progress, cancelled, unread, folders);
     if (isCancelled(cancelled))
         return {};
     if (MediaMetadata::isNeeded(options))
@@ -89,7 +88,7 @@ ScanResult DuplicateScanner::scan(const ScanOptions &options, const ProgressCall
     if (result.totalBytes == 0)
         result.totalBytes = totalSize(files);
     if (!isCancelled(cancelled))
-        addFolders(result, files, options);
+        addFolders(result, files, folders, options);
     orderMembers(result.groups);
     result.elapsedMs = timer.elapsed();
     return result;

@@ -4,6 +4,7 @@
 #include "core/walk/fileplaces.h"
 #include "core/walk/filestatus.h"
 #include "core/walk/folderreader.h"
+#include "core/walk/ownfiles.h"
 #include "core/walk/pathrules.h"
 
 #include <QSet>
@@ -73,9 +74,11 @@ struct OpenFolder
     QString realPath; ///< without links, when something is excluded and it differs from the path; else empty
     FilePlace place;
     FolderReader reader;
-    bool descends;         ///< whether its subfolders are walked
-    qsizetype firstFile;   ///< how many files were taken before it was opened
-    FileIdentity identity; ///< read when a folder link is met below
+    bool descends;          ///< whether its subfolders are walked
+    qsizetype firstFile;    ///< how many files were taken before it was opened
+    bool isEmpty = true;    ///< nothing was found in it so far
+    bool isPartial = false; ///< something was left out of it
+    FileIdentity identity;  ///< read when a folder link is met below
     bool hasIdentity = false;
 };
 
@@ -84,13 +87,15 @@ class Walk
 {
 public:
     Walk(const ScanOptions &options, const FileCallback &onFile, const CancelQuery &cancelled,
-         QList<UnreadPath> *unread)
+         QList<UnreadPath> *unread, FolderNotes *folders)
         : m_options(options)
         , m_onFile(onFile)
         , m_cancelled(cancelled)
         , m_unread(unread)
+        , m_folders(folders)
         , m_filter(options)
         , m_rules(options)
+        , m_own(ownFiles())
     {
         for (const ScanLocation &location : options.locations) {
             if (!location.includeSubfolders)
@@ -118,6 +123,8 @@ private:
             note(root, status.reason.isEmpty() ? QStringLiteral("no such folder") : status.reason);
         else if (status.kind != FileStatus::Kind::Folder)
             note(root, QStringLiteral("not a folder"));
+        else if (m_own.isOwnOrBelow(root))
+            note(root, QStringLiteral("the program's own files, not scanned"));
         else if (const QString realPath = realPathOf(root);
                  !m_rules.isListed(root) && !m_rules.isListed(realPath) && !m_rules.isListed(status.identity))
             walkFolder(root, realPath);
@@ -135,17 +142,43 @@ private:
             OpenFolder &current = m_stack.back();
             if (!current.reader.next(item)) {
                 note(current.path, current.reader.errorText());
+                noteFolder(current);
                 m_stack.pop_back();
                 continue;
             }
-            const QString path = childPath(current.path, item.name);
-            if (!item.reason.isEmpty())
-                note(path, item.reason);
-            else if (item.kind == FolderItem::Kind::Folder && current.descends)
-                enter(path, current, item);
-            else if (item.kind == FolderItem::Kind::File)
-                take(path, current, item);
+            current.isEmpty = false;
+            const size_t depth = m_stack.size(); // entering a folder moves the others
+            if (!visit(childPath(current.path, item.name), current, item))
+                m_stack[depth - 1].isPartial = true;
         }
+    }
+
+    /// False when the entry is left out.
+    bool visit(const QString &path, OpenFolder &folder, const FolderItem &item)
+    {
+        if (m_own.isOwn(folder.path, item.name))
+            return false;
+        if (!item.reason.isEmpty()) {
+            note(path, item.reason);
+            return false;
+        }
+        switch (item.kind) {
+        case FolderItem::Kind::Folder:
+            return folder.descends && enter(path, folder, item);
+        case FolderItem::Kind::File:
+            return take(path, folder, item);
+        case FolderItem::Kind::Other:
+            break;
+        }
+        return false;
+    }
+
+    void noteFolder(const OpenFolder &folder)
+    {
+        if (m_folders && folder.isPartial)
+            m_folders->partial.append(folder.path);
+        else if (m_folders && folder.isEmpty && folder.reader.errorText().isEmpty())
+            m_folders->empty.append(folder.path);
     }
 
     static QString childPath(const QString &folder, const QString &name)
@@ -153,10 +186,11 @@ private:
         return folder.endsWith(QLatin1Char('/')) ? folder + name : folder + QLatin1Char('/') + name;
     }
 
-    void enter(const QString &path, const OpenFolder &parent, const FolderItem &item)
+    /// False when the folder is left out.
+    bool enter(const QString &path, const OpenFolder &parent, const FolderItem &item)
     {
         if (m_rules.excludes(path, item.isHidden))
-            return;
+            return false;
         QString realPath;
         if (item.isFolderLink)
             realPath = realPathOf(path);
@@ -164,11 +198,14 @@ private:
             realPath = childPath(parent.realPath, item.name);
         if ((!realPath.isEmpty() && m_rules.excludes(realPath, false)) ||
             (m_rules.needsIdentities() && m_rules.isListed(fileStatus(path).identity)))
-            return;
-        if (!item.isFolderLink)
-            push(path, realPath, placeOfFolder(path, parent.place), false);
-        else if (mayFollow(path))
-            push(path, realPath, parent.place == FilePlace::Ordinary ? placeOfTree(path) : parent.place, true);
+            return false;
+        if (item.isFolderLink && !mayFollow(path))
+            return false;
+        const FilePlace place = item.isFolderLink && parent.place == FilePlace::Ordinary
+                                    ? placeOfTree(path)
+                                    : placeOfFolder(path, parent.place);
+        push(path, realPath, place, item.isFolderLink);
+        return true;
     }
 
     /// The path without links that exclusions are compared with too; empty when that changes nothing.
@@ -189,7 +226,7 @@ private:
         }
         const bool isFlat = !m_flatFolders.isEmpty() && m_flatFolders.contains(path.toLower());
         m_stack.push_back(
-            {path, realPath, place, FolderReader(path, isLinkWanted), !isFlat, m_files.size(), {}, false});
+            {path, realPath, place, FolderReader(path, isLinkWanted), !isFlat, m_files.size(), true, false, {}, false});
     }
 
     /// Whether a folder link leads anywhere but back to a folder that is being walked. Noted as unread when that cannot
@@ -218,15 +255,16 @@ private:
             m_files[i].place = FilePlace::BackupFolder;
     }
 
-    void take(const QString &path, OpenFolder &folder, const FolderItem &item)
+    /// False when the file is left out.
+    bool take(const QString &path, OpenFolder &folder, const FolderItem &item)
     {
         if (folder.place == FilePlace::Ordinary && isBackupIndex(item.name))
             markAsBackupFolder(folder);
         if (!m_filter.accepts(item))
-            return;
+            return false;
         if (item.isPlaceholder) {
             note(path, QStringLiteral("only in the cloud, not compared"));
-            return;
+            return false;
         }
         FileEntry file;
         file.path = path;
@@ -239,6 +277,7 @@ private:
         m_files.append(file);
         if (m_onFile)
             m_onFile(file, m_files.size());
+        return true;
     }
 
     static void setIdentity(FileEntry &file, const FileIdentity &identity)
@@ -261,8 +300,10 @@ private:
     const FileCallback &m_onFile;
     const CancelQuery &m_cancelled;
     QList<UnreadPath> *m_unread;
+    FolderNotes *m_folders;
     FileFilter m_filter;
     FolderRules m_rules;
+    OwnFileRules m_own;
     QSet<QString> m_flatFolders; ///< locations without their subfolders, lower case
     QSet<QString> m_visited;     ///< folders walked so far; used only with several roots
     std::vector<OpenFolder> m_stack;
@@ -272,9 +313,9 @@ private:
 } // namespace
 
 QList<FileEntry> enumerateFiles(const ScanOptions &options, const FileCallback &onFile, const CancelQuery &cancelled,
-                                QList<UnreadPath> *unread)
+                                QList<UnreadPath> *unread, FolderNotes *folders)
 {
-    return Walk(options, onFile, cancelled, unread).run();
+    return Walk(options, onFile, cancelled, unread, folders).run();
 }
 
 } // namespace MirrixCore

@@ -5,6 +5,7 @@
 #include "core/scan/scanresult.h"
 
 #include <QList>
+#include <QStringList>
 
 #include <functional>
 
@@ -13,11 +14,20 @@ namespace MirrixCore {
 /// Called for each file taken, with the number of files so far. May be empty.
 using FileCallback = std::function<void(const FileEntry &file, qint64 count)>;
 
+/// What a walk tells about folders beyond the files that it takes from them.
+struct FolderNotes
+{
+    QStringList partial; ///< folders of which something was left out: filtered, excluded, no plain file, not entered
+    QStringList empty;   ///< folders that hold nothing at all
+};
+
 /// Walks the roots of `options` in their order and returns the files that pass its filters, each path once even when
-/// roots overlap. Missing roots, excluded ones (only when listed themselves) and what cannot be read are left out; the
-/// latter, and files whose content is not on this machine, are appended to `unread` when it is given. Stops early when
+/// roots overlap. The program's own files (setOwnFiles) are never among them. Missing roots, excluded ones (only when
+/// listed themselves) and what cannot be read are left out; the latter, and files whose content is not on this machine,
+/// are appended to `unread` when it is given; what is told of the folders themselves, to `folders`. Stops early when
 /// `cancelled` answers true, which is asked per entry. Blocks; single-threaded; never opens a file for its content.
 [[nodiscard]] QList<FileEntry> enumerateFiles(const ScanOptions &options, const FileCallback &onFile,
-                                              const CancelQuery &cancelled, QList<UnreadPath> *unread = nullptr);
+                                              const CancelQuery &cancelled, QList<UnreadPath> *unread = nullptr,
+                                              FolderNotes *folders = nullptr);
 
 } // namespace MirrixCore
