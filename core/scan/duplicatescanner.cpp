@@ -117,7 +117,7 @@ ScanResult DuplicateScanner::matchKind(FindKind kind, const QList<FileEntry> &fi
     case FindKind::ContentDuplicates:
         return matchContent(files, options, progress, cancelled);
     case FindKind::NameDuplicates:
-        return groupByRuleKeys(files, nameOptions(options), false, cancelled);
+        return groupByRuleKeys(files, nameOptions(options), false, cancelled, progress);
     case FindKind::EmptyFiles:
         return groupEmptyFiles(files);
     }
@@ -138,7 +138,7 @@ ScanResult DuplicateScanner::matchContent(const QList<FileEntry> &files, const S
         case ContentMatch::Similar:
             return scanSimilarContent(files, options, progress, cancelled);
         case ContentMatch::Ignore:
-            return groupByRuleKeys(files, options, false, cancelled);
+            return groupByRuleKeys(files, options, false, cancelled, progress);
         }
         return {};
     case SearchMode::Images:
@@ -154,7 +154,7 @@ ScanResult DuplicateScanner::matchContent(const QList<FileEntry> &files, const S
         case 3:
             return exact();
         case 4:
-            return groupByRuleKeys(files, options, true, cancelled);
+            return groupByRuleKeys(files, options, true, cancelled, progress);
         }
         return {};
     case SearchMode::Video:
@@ -165,7 +165,7 @@ ScanResult DuplicateScanner::matchContent(const QList<FileEntry> &files, const S
         case 1:
             return sampled(0);
         case 2:
-            return groupByRuleKeys(files, options, true, cancelled);
+            return groupByRuleKeys(files, options, true, cancelled, progress);
         }
         return {};
     }
