@@ -10,6 +10,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace MirrixCore {
@@ -225,8 +226,11 @@ private:
             m_visited.insert(key);
         }
         const bool isFlat = !m_flatFolders.isEmpty() && m_flatFolders.contains(path.toLower());
-        m_stack.push_back(
-            {path, realPath, place, FolderReader(path, isLinkWanted), !isFlat, m_files.size(), true, false, {}, false});
+        FolderReader reader = m_stack.empty() ? FolderReader(path, isLinkWanted)
+                                              : FolderReader(m_stack.back().reader, path, isLinkWanted);
+        m_stack.push_back({path, realPath, place, std::move(reader), !isFlat, m_files.size(), true, false, {}, false});
+        if (m_stack.size() > mostOpenFolders)
+            m_stack[m_stack.size() - 1 - mostOpenFolders].reader.release();
     }
 
     /// Whether a folder link leads anywhere but back to a folder that is being walked. Noted as unread when that cannot
@@ -295,6 +299,8 @@ private:
         if (m_unread && !reason.isEmpty())
             m_unread->append({path, reason});
     }
+
+    static constexpr size_t mostOpenFolders = 32; ///< a process may have few descriptors
 
     const ScanOptions &m_options;
     const FileCallback &m_onFile;
