@@ -71,8 +71,8 @@ private:
 /// A folder being walked.
 struct OpenFolder
 {
-    QString path;
-    QString realPath; ///< without links, when something is excluded and it differs from the path; else empty
+    qsizetype pathLength; ///< of what the innermost folder's path begins with; deep trees have long paths
+    QString realPath;     ///< without links, when something is excluded and it differs from the path; else empty
     FilePlace place;
     FolderReader reader;
     bool descends;          ///< whether its subfolders are walked
@@ -142,14 +142,15 @@ private:
             }
             OpenFolder &current = m_stack.back();
             if (!current.reader.next(item)) {
-                note(current.path, current.reader.errorText());
+                note(m_path, current.reader.errorText());
                 noteFolder(current);
                 m_stack.pop_back();
+                m_path.truncate(m_stack.empty() ? 0 : m_stack.back().pathLength);
                 continue;
             }
             current.isEmpty = false;
             const size_t depth = m_stack.size(); // entering a folder moves the others
-            if (!visit(childPath(current.path, item.name), current, item))
+            if (!visit(childPath(m_path, item.name), current, item))
                 m_stack[depth - 1].isPartial = true;
         }
     }
@@ -157,7 +158,7 @@ private:
     /// False when the entry is left out.
     bool visit(const QString &path, OpenFolder &folder, const FolderItem &item)
     {
-        if (m_own.isOwn(folder.path, item.name))
+        if (m_own.isOwn(m_path, item.name))
             return false;
         if (!item.reason.isEmpty()) {
             note(path, item.reason);
@@ -177,9 +178,9 @@ private:
     void noteFolder(const OpenFolder &folder)
     {
         if (m_folders && folder.isPartial)
-            m_folders->partial.append(folder.path);
+            m_folders->partial.append(m_path);
         else if (m_folders && folder.isEmpty && folder.reader.errorText().isEmpty())
-            m_folders->empty.append(folder.path);
+            m_folders->empty.append(m_path);
     }
 
     static QString childPath(const QString &folder, const QString &name)
@@ -228,7 +229,9 @@ private:
         const bool isFlat = !m_flatFolders.isEmpty() && m_flatFolders.contains(path.toLower());
         FolderReader reader = m_stack.empty() ? FolderReader(path, isLinkWanted)
                                               : FolderReader(m_stack.back().reader, path, isLinkWanted);
-        m_stack.push_back({path, realPath, place, std::move(reader), !isFlat, m_files.size(), true, false, {}, false});
+        m_stack.push_back(
+            {path.size(), realPath, place, std::move(reader), !isFlat, m_files.size(), true, false, {}, false});
+        m_path = path;
         if (m_stack.size() > mostOpenFolders)
             m_stack[m_stack.size() - 1 - mostOpenFolders].reader.release();
     }
@@ -245,7 +248,7 @@ private:
         }
         return std::none_of(m_stack.begin(), m_stack.end(), [&](OpenFolder &open) {
             if (!open.hasIdentity)
-                open.identity = fileStatus(open.path).identity;
+                open.identity = fileStatus(m_path.left(open.pathLength)).identity;
             open.hasIdentity = true;
             return open.identity.isSameAs(target.identity);
         });
@@ -313,6 +316,7 @@ private:
     QSet<QString> m_flatFolders; ///< locations without their subfolders, lower case
     QSet<QString> m_visited;     ///< folders walked so far; used only with several roots
     std::vector<OpenFolder> m_stack;
+    QString m_path; ///< of the innermost open folder
     QList<FileEntry> m_files;
 };
 
