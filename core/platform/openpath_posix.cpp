@@ -53,7 +53,7 @@ int openPath(const QByteArray &path, int flags)
         folder.change(next);
         start = end + 1;
     }
-    return openat(folder.get(), path.constData() + start, flags);
+    return openat(folder.get(), path.constData() + start, flags, 0666);
 }
 
 } // namespace MirrixCore
