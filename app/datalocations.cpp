@@ -1,5 +1,7 @@
 #include "app/datalocations.h"
 
+#include "core/cache/cacheroot.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -58,6 +60,13 @@ QString settingsFilePath()
 QString settingsFilePath(const QString &directory)
 {
     return directory + QLatin1String("/settings.json");
+}
+
+MirrixCore::OwnFiles ownFilesIn(const QString &directory)
+{
+    return {directory,
+            {MirrixCore::fingerprintCacheName, MirrixCore::imageFeatureCacheName, QStringLiteral("runs")},
+            {QStringLiteral("ops.log.enc"), QStringLiteral("settings.json"), QStringLiteral("settings.damaged")}};
 }
 
 QString defaultBackupRoot(const QString &directory)

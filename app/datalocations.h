@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/walk/ownfiles.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -26,6 +28,9 @@ void undecidePortable();
 /// The settings file inside `directory`, by default the data directory.
 [[nodiscard]] QString settingsFilePath();
 [[nodiscard]] QString settingsFilePath(const QString &directory);
+
+/// What scans leave out in `directory`: caches, journals, log and settings. Backed-up files are the user's.
+[[nodiscard]] MirrixCore::OwnFiles ownFilesIn(const QString &directory);
 
 /// The backup folder inside `directory` that holds until the user chooses another.
 [[nodiscard]] QString defaultBackupRoot(const QString &directory);

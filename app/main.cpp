@@ -30,6 +30,7 @@ int main(int argc, char *argv[])
     Mirrix::applyContentHashAlgorithm(settings);
     Mirrix::applyTheme(settings.appTheme);
     MirrixCore::setCacheRoot(settings.directory);
+    MirrixCore::setOwnFiles(Mirrix::ownFilesIn(settings.directory));
 
     Mirrix::DialogPrompts prompts;
     MirrixUi::Mirrix window(settings, prompts);

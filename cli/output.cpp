@@ -2,14 +2,18 @@
 
 #include "app/storedfile.h"
 #include "cli/terminal.h"
+#include "core/platform/nativefileio.h"
 #include "core/platform/nativepath.h"
+#include "core/walk/filestatus.h"
 
+#include <QCoreApplication>
 #include <QFile>
-#include <QFileInfo>
 #include <QSaveFile>
 
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
+#include <system_error>
 
 namespace MirrixCli {
 
@@ -45,21 +49,44 @@ QByteArray shownPath(const QString &path, bool forTerminal)
 }
 
 Output::Output() = default;
-Output::~Output() = default;
+Output::~Output()
+{
+    std::error_code ignored;
+    if (!m_temporaryPath.isEmpty())
+        std::filesystem::remove(MirrixCore::filesystemPath(m_temporaryPath), ignored);
+}
 
 bool Output::open(const QString &path)
 {
-    const QFileInfo target(path);
+    using Kind = MirrixCore::FileStatus::Kind;
+    m_path = path;
     m_isStandard = path.isEmpty();
-    m_isReplacing = !m_isStandard && (!target.exists() || target.isFile() || target.isDir());
+    m_isReplacing = !m_isStandard && MirrixCore::fileStatus(path).kind != Kind::Other;
+    if (m_isReplacing && !MirrixCore::isQtPath(path)) {
+        const QString beside = path + QLatin1Char('.') + QString::number(QCoreApplication::applicationPid());
+        if (!openPlain(beside, QIODevice::WriteOnly | QIODevice::Unbuffered | QIODevice::NewOnly))
+            return false;
+        m_temporaryPath = beside;
+        return true;
+    }
     if (m_isReplacing) {
         m_device = std::make_unique<QSaveFile>(path);
         return m_device->open(QIODevice::WriteOnly | QIODevice::Unbuffered); // each write tells the truth
     }
     // A device or pipe is written to; putting a file in its place would take it from everybody.
-    auto file = std::make_unique<QFile>(path);
     constexpr QIODevice::OpenMode mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
-    const bool isOpen = m_isStandard ? file->open(stdout, mode) : file->open(mode);
+    if (!m_isStandard)
+        return openPlain(path, mode);
+    auto file = std::make_unique<QFile>();
+    const bool isOpen = file->open(stdout, mode);
+    m_device = std::move(file);
+    return isOpen;
+}
+
+bool Output::openPlain(const QString &path, QIODevice::OpenMode mode)
+{
+    auto file = std::make_unique<QFile>();
+    const bool isOpen = MirrixCore::openNatively(*file, path, mode, &m_openFailure);
     m_device = std::move(file);
     return isOpen;
 }
@@ -76,11 +103,22 @@ bool Output::finish()
     flush();
     if (!m_isReplacing)
         return m_device->flush() && !m_hasFailed;
+    m_hasFailed = m_hasFailed || !Mirrix::flushToDisk(*m_device);
+    if (!m_temporaryPath.isEmpty())
+        return !m_hasFailed && putIntoPlace();
     auto *file = static_cast<QSaveFile *>(m_device.get());
-    m_hasFailed = m_hasFailed || !Mirrix::flushToDisk(*file);
     if (m_hasFailed)
         file->cancelWriting();
     return file->commit();
+}
+
+bool Output::putIntoPlace()
+{
+    std::error_code failure;
+    std::filesystem::rename(MirrixCore::filesystemPath(m_temporaryPath), MirrixCore::filesystemPath(m_path), failure);
+    if (!failure)
+        m_temporaryPath.clear();
+    return !failure;
 }
 
 void Output::flush()
@@ -91,7 +129,7 @@ void Output::flush()
 
 QString Output::errorText() const
 {
-    return m_device->errorString();
+    return m_openFailure.isEmpty() ? m_device->errorString() : m_openFailure;
 }
 
 bool Output::isTerminal() const

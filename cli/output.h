@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QByteArrayView>
+#include <QIODevice>
 #include <QString>
 
 #include <memory>
@@ -41,10 +42,15 @@ public:
     [[nodiscard]] bool isTerminal() const;
 
 private:
+    [[nodiscard]] bool openPlain(const QString &path, QIODevice::OpenMode mode);
+    [[nodiscard]] bool putIntoPlace();
     void flush();
 
     std::unique_ptr<QFileDevice> m_device;
     QByteArray m_buffer;
+    QString m_path;
+    QString m_temporaryPath; ///< where the file is written until it is finished, when QSaveFile cannot name it
+    QString m_openFailure;
     bool m_isStandard = false;
     bool m_isReplacing = false; ///< the file appears when it is finished
     bool m_hasFailed = false;

@@ -1,5 +1,6 @@
 #include "cli/scancommand.h"
 
+#include "app/datalocations.h"
 #include "app/settings.h"
 #include "cli/colours.h"
 #include "cli/grouporder.h"
@@ -12,18 +13,22 @@
 #include "core/cache/cacheroot.h"
 #include "core/match/rulekeys.h"
 #include "core/media/mediakinds.h"
+#include "core/platform/nativefileio.h"
 #include "core/platform/nativepath.h"
 #include "core/scan/duplicatescanner.h"
 #include "core/scan/optiontable.h"
 #include "core/walk/emptyfolders.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
-#include <QTemporaryFile>
 
 #include <algorithm>
+#include <array>
+#include <filesystem>
+#include <system_error>
 
 namespace MirrixCli {
 
@@ -44,9 +49,10 @@ const QString emptyFoldersOption = QStringLiteral("empty-folders");
 
 void readOptionsFile(const QString &path, ScanOptions &options)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw UsageError{QStringLiteral("cannot read %1: %2").arg(path, file.errorString())};
+    QFile file;
+    QString reason;
+    if (!openNatively(file, path, QIODevice::ReadOnly, &reason))
+        throw UsageError{QStringLiteral("cannot read %1: %2").arg(path, reason)};
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
     if (!document.isObject()) {
@@ -196,9 +202,12 @@ void useCache(const QString &dataDirectory)
 {
     setCacheRoot(dataDirectory);
     const QString folder = dataDirectory + QLatin1Char('/') + fingerprintCacheName;
-    QTemporaryFile probe(folder + QLatin1String("/probe"));
-    if (!QDir().mkpath(folder) || !probe.open())
+    const QString probePath = QStringLiteral("%1/probe%2").arg(folder).arg(QCoreApplication::applicationPid());
+    QFile probe;
+    if (!makeFolders(folder) || !openNatively(probe, probePath, QIODevice::WriteOnly))
         printError(QStringLiteral("cannot write to %1; digests will not be cached").arg(folder));
+    std::error_code failure;
+    std::filesystem::remove(filesystemPath(probePath), failure);
 }
 
 /// The folders in the order in which people read them.
@@ -248,6 +257,7 @@ void prepareScan(const QCommandLineParser &parser)
 {
     const QString dataDirectory = dataDirectoryOf(parser);
     applyHash(parser, dataDirectory);
+    setOwnFiles(Mirrix::ownFilesIn(dataDirectory));
     if (parser.isSet(noCacheOption))
         setCacheRoot({});
     else

@@ -46,12 +46,4 @@ QString cacheEntryPath(const QString &cacheName, const QString &filePath)
            QLatin1Char('/') + QLatin1String(digest) + QLatin1String(".json");
 }
 
-QStringList cacheFolders()
-{
-    const QString folder = cacheRoot();
-    if (folder.isEmpty())
-        return {};
-    return {folder + QLatin1Char('/') + fingerprintCacheName, folder + QLatin1Char('/') + imageFeatureCacheName};
-}
-
 } // namespace MirrixCore

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 
 namespace MirrixCore {
 
@@ -19,8 +18,5 @@ inline const QString imageFeatureCacheName = QStringLiteral("image_feature_cache
 /// Where a cache keeps its entry for a file: below its folder, by the SHA-256 digest of the file's path; empty while
 /// the caches are off. Thread-safe.
 [[nodiscard]] QString cacheEntryPath(const QString &cacheName, const QString &filePath);
-
-/// Absolute paths of the caches' folders; none while the caches are off.
-[[nodiscard]] QStringList cacheFolders();
 
 } // namespace MirrixCore

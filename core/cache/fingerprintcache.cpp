@@ -3,16 +3,19 @@
 #include "core/cache/cacheroot.h"
 #include "core/hash/contenthasher.h"
 #include "core/hash/filereader.h"
+#include "core/platform/nativefileio.h"
+#include "core/platform/nativepath.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 
 #include <cmath>
+#include <filesystem>
 #include <mutex>
 #include <shared_mutex>
+#include <system_error>
 
 namespace MirrixCore {
 
@@ -55,11 +58,13 @@ QByteArray readEntryFile(const QString &entryPath)
 bool writeEntryFile(const QString &entryPath, const QByteArray &text)
 {
     constexpr auto mode = QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered;
-    QFile file(entryPath);
-    if (!file.open(mode) && !(file.remove() && file.open(mode)))
+    QFile file;
+    std::error_code failure;
+    const auto remove = [&] { return std::filesystem::remove(filesystemPath(entryPath), failure); };
+    if (!openNatively(file, entryPath, mode) && !(remove() && openNatively(file, entryPath, mode)))
         return false;
     if (file.write(text) != text.size()) // a full disk: half an entry is none, and only in the way
-        file.remove();
+        remove();
     return true;
 }
 
@@ -124,7 +129,7 @@ void store(const QString &filePath, qint64 sizeBytes, qint64 modifiedMs, const Q
     if (!old.isEmpty())
         text = mergedText(old, text);
     // Nearly always the folder is there; making sure each time would cost more than the entry.
-    if (!writeEntryFile(entryPath, text) && QDir().mkpath(QFileInfo(entryPath).path()))
+    if (!writeEntryFile(entryPath, text) && makeFolders(QFileInfo(entryPath).path()))
         writeEntryFile(entryPath, text);
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/cache/cacheroot.h"
 #include "core/hash/filereader.h"
+#include "core/platform/nativefileio.h"
 #include "core/platform/nativepath.h"
 
 #include <QDir>
@@ -42,17 +43,19 @@ QByteArray readEntryFile(const QString &entryPath)
 /// writes into a file that is there: it might be a pipe, or another name of one of the user's.
 bool writeEntryFile(const QString &entryPath, const QByteArray &text)
 {
-    QFile file(entryPath + QLatin1String(".new"));
+    const QString newPath = entryPath + QLatin1String(".new");
+    QFile file;
+    std::error_code failure;
+    const auto remove = [&] { return std::filesystem::remove(filesystemPath(newPath), failure); };
     constexpr auto mode = QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered;
-    if (!file.open(mode) && !(file.remove() && file.open(mode)))
+    if (!openNatively(file, newPath, mode) && !(remove() && openNatively(file, newPath, mode)))
         return false;
     const bool isWhole = file.write(text) == text.size();
     file.close();
-    std::error_code failure;
     if (isWhole)
-        std::filesystem::rename(filesystemPath(file.fileName()), filesystemPath(entryPath), failure);
+        std::filesystem::rename(filesystemPath(newPath), filesystemPath(entryPath), failure);
     if (!isWhole || failure)
-        file.remove();
+        remove();
     return true;
 }
 
@@ -132,17 +135,17 @@ void storeImageFeature(const QString &filePath, qint64 sizeBytes, qint64 modifie
     const QByteArray text = entryText(sizeBytes, modifiedMs, feature);
     const std::lock_guard lock(cacheMutex());
     // Nearly always the folder is there; making sure each time would cost more than the entry.
-    if (!writeEntryFile(entryPath, text) && QDir().mkpath(QFileInfo(entryPath).path()))
+    if (!writeEntryFile(entryPath, text) && makeFolders(QFileInfo(entryPath).path()))
         writeEntryFile(entryPath, text);
 }
 
 bool clearImageFeatureCache()
 {
-    const QStringList folders = cacheFolders();
-    if (folders.isEmpty())
+    const QString root = cacheRoot();
+    if (root.isEmpty())
         return true;
     const std::lock_guard lock(cacheMutex());
-    return QDir(folders.constLast()).removeRecursively();
+    return QDir(root + QLatin1Char('/') + imageFeatureCacheName).removeRecursively();
 }
 
 } // namespace MirrixCore

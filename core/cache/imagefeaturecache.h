@@ -19,7 +19,7 @@ namespace MirrixCore {
 /// Writes or replaces the entry at once or not at all. Does nothing for a feature that is not valid.
 void storeImageFeature(const QString &filePath, qint64 sizeBytes, qint64 modifiedMs, const ImageFeature &feature);
 
-/// Deletes all entries. False when some could not be deleted. The folder's path is the second of cacheFolders().
+/// Deletes all entries. False when some could not be deleted.
 bool clearImageFeatureCache();
 
 } // namespace MirrixCore

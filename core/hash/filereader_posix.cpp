@@ -2,6 +2,7 @@
 
 #include "core/platform/epochtime.h"
 #include "core/platform/nativepath.h"
+#include "core/platform/openpath_posix.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -51,7 +52,7 @@ bool FileReader::open(const QString &path)
     m_state->readCount = 0;
     m_state->info = {};
     // Without O_NONBLOCK, a pipe that took the file's place since the walk would block for ever.
-    m_state->descriptor = ::open(pathBytes(path).constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
+    m_state->descriptor = openPath(pathBytes(path), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
     return m_state->descriptor >= 0 || m_state->fail(errno);
 }
 

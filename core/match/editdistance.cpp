@@ -9,7 +9,8 @@ namespace MirrixCore {
 
 namespace {
 constexpr qsizetype wordBits = 64;
-}
+constexpr size_t asciiUnits = 128;
+} // namespace
 
 qint32 boundedEditDistance(QStringView a, QStringView b, qint32 limit)
 {
@@ -37,51 +38,77 @@ qint32 boundedEditDistance(QStringView a, QStringView b, qint32 limit)
 
 EditMatcher::EditMatcher(const QString &name)
     : m_name(name)
+    , m_words((name.size() + wordBits - 1) / wordBits)
+    , m_ascii(asciiUnits)
 {
-    if (name.size() > wordBits)
-        return;
-    for (qsizetype i = 0; i < name.size(); ++i) {
+    if (m_words > mostWords)
+        m_words = 0;
+    for (qsizetype i = 0; i < m_words * wordBits && i < name.size(); ++i) {
         const char16_t unit = name[i].unicode();
-        const quint64 bit = quint64(1) << i;
-        if (unit < m_ascii.size())
-            m_ascii[unit] |= bit;
-        else
-            m_others[unit] |= bit;
+        Bits &bits = unit < asciiUnits ? m_ascii[unit] : m_others[unit];
+        bits[static_cast<size_t>(i / wordBits)] |= quint64(1) << (i % wordBits);
     }
 }
 
-quint64 EditMatcher::positionsOf(char16_t unit) const
+const EditMatcher::Bits &EditMatcher::positionsOf(char16_t unit) const
 {
-    if (unit < m_ascii.size())
+    static constexpr Bits nowhere{};
+    if (unit < asciiUnits)
         return m_ascii[unit];
     const auto found = m_others.find(unit);
-    return found == m_others.end() ? 0 : found->second;
+    return found == m_others.end() ? nowhere : found->second;
 }
 
 bool EditMatcher::isWithin(QStringView other, qint32 limit) const
 {
-    const qsizetype length = m_name.size();
-    if (std::abs(length - other.size()) > limit)
+    if (std::abs(m_name.size() - other.size()) > limit)
         return false;
-    if (length == 0 || length > wordBits)
+    switch (m_words) {
+    case 1:
+        return isWithinByBits<1>(other, limit);
+    case 2:
+        return isWithinByBits<2>(other, limit);
+    case 3:
+        return isWithinByBits<3>(other, limit);
+    case 4:
+        return isWithinByBits<4>(other, limit);
+    default:
         return boundedEditDistance(m_name, other, limit) <= limit;
+    }
+}
+
+template <qsizetype words>
+bool EditMatcher::isWithinByBits(QStringView other, qint32 limit) const
+{
     // Vertical differences of the table's current column: bit i of `up` says +1, of `down` -1.
-    quint64 up = ~quint64(0);
-    quint64 down = 0;
-    const quint64 last = quint64(1) << (length - 1);
-    qsizetype distance = length;
+    std::array<quint64, words> up;
+    std::array<quint64, words> down{};
+    up.fill(~quint64(0));
+    const quint64 last = quint64(1) << ((m_name.size() - 1) % wordBits);
+    qsizetype distance = m_name.size();
     qsizetype rest = other.size();
     for (const QChar character : other) {
-        const quint64 equal = positionsOf(character.unicode());
-        const quint64 diagonal = (((equal & up) + up) ^ up) | equal | down;
-        quint64 right = down | ~(diagonal | up);
-        quint64 left = up & diagonal;
-        distance += (right & last) ? 1 : 0;
-        distance -= (left & last) ? 1 : 0;
-        right = (right << 1) | 1;
-        left <<= 1;
-        up = left | ~(diagonal | right);
-        down = right & diagonal;
+        const Bits &positions = positionsOf(character.unicode());
+        // The horizontal difference that enters the word from above; the table's first row grows by one each column.
+        quint64 rightIn = 1;
+        quint64 leftIn = 0;
+        for (size_t word = 0; word < words; ++word) {
+            const quint64 equal = positions[word] | leftIn;
+            const quint64 diagonal = (((equal & up[word]) + up[word]) ^ up[word]) | equal | down[word];
+            const quint64 vertical = positions[word] | down[word];
+            const quint64 right = down[word] | ~(diagonal | up[word]);
+            const quint64 left = up[word] & diagonal;
+            if (word + 1 == words) {
+                distance += (right & last) ? 1 : 0;
+                distance -= (left & last) ? 1 : 0;
+            }
+            const quint64 shiftedRight = (right << 1) | rightIn;
+            const quint64 shiftedLeft = (left << 1) | leftIn;
+            rightIn = right >> (wordBits - 1);
+            leftIn = left >> (wordBits - 1);
+            up[word] = shiftedLeft | ~(vertical | shiftedRight);
+            down[word] = shiftedRight & vertical;
+        }
         if (distance - --rest > limit) // each further unit lowers it by one at most
             return false;
     }
@@ -97,6 +124,16 @@ NameSignature nameSignature(QStringView name)
         signature.once |= bit;
     }
     return signature;
+}
+
+UnitCounts unitCounts(QStringView name)
+{
+    UnitCounts counts{};
+    for (const QChar character : name) {
+        quint8 &count = counts[character.unicode() % counts.size()];
+        count += count < 255 ? 1 : 0;
+    }
+    return counts;
 }
 
 } // namespace MirrixCore

@@ -5,7 +5,9 @@
 #include <QStringView>
 
 #include <array>
+#include <cstdlib>
 #include <unordered_map>
+#include <vector>
 
 namespace MirrixCore {
 
@@ -15,8 +17,9 @@ namespace MirrixCore {
 [[nodiscard]] qint32 boundedEditDistance(QStringView a, QStringView b, qint32 limit);
 
 /// Answers for one name, again and again, whether another is within a number of edits: the same as
-/// boundedEditDistance(...) <= limit, much faster. Up to 64 units it goes by Myers' bit-parallel algorithm ("A fast
-/// bit-vector algorithm for approximate string matching", 1999), one step per unit of the other name. Not thread-safe.
+/// boundedEditDistance(...) <= limit, much faster. Up to 256 units it goes by Myers' bit-parallel algorithm ("A fast
+/// bit-vector algorithm for approximate string matching", 1999), one step per unit of the other name and 64 of this
+/// one. Not thread-safe.
 class EditMatcher
 {
 public:
@@ -25,11 +28,17 @@ public:
     [[nodiscard]] bool isWithin(QStringView other, qint32 limit) const;
 
 private:
-    [[nodiscard]] quint64 positionsOf(char16_t unit) const;
+    static constexpr qsizetype mostWords = 4;
+    using Bits = std::array<quint64, mostWords>;
+
+    [[nodiscard]] const Bits &positionsOf(char16_t unit) const;
+    template <qsizetype words>
+    [[nodiscard]] bool isWithinByBits(QStringView other, qint32 limit) const;
 
     QString m_name;
-    std::array<quint64, 128> m_ascii{};             ///< bit i set: the name's unit i is this one
-    std::unordered_map<char16_t, quint64> m_others; ///< the same for units from 128 on
+    qsizetype m_words = 0;                       ///< 64 bits each; 0: too long, or empty
+    std::vector<Bits> m_ascii;                   ///< bit i set: the name's unit i is this one
+    std::unordered_map<char16_t, Bits> m_others; ///< the same for units from 128 on
 };
 
 /// Which units a name holds, hashed to 64 places, once and at least twice. One edit changes at most two bits of the
@@ -41,6 +50,21 @@ struct NameSignature
 };
 
 [[nodiscard]] NameSignature nameSignature(QStringView name);
+
+/// How often each unit occurs in a name, hashed to 32 places, up to 255. One edit changes at most two of them by one.
+/// Tells long names apart, in which nearly all units occur twice.
+using UnitCounts = std::array<quint8, 32>;
+
+[[nodiscard]] UnitCounts unitCounts(QStringView name);
+
+/// False only when the names behind the counts cannot be within `limit` edits.
+[[nodiscard]] inline bool mayBeWithin(const UnitCounts &a, const UnitCounts &b, qint32 limit)
+{
+    int difference = 0;
+    for (size_t i = 0; i < a.size(); ++i)
+        difference += std::abs(a[i] - b[i]);
+    return difference <= 2 * static_cast<qint64>(limit);
+}
 
 /// In how many bits two signatures differ. By hand, since processors without an instruction for it are served too and
 /// the library's function costs three times as much.

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <map>
 #include <tuple>
+#include <utility>
 
 namespace MirrixCore {
 
@@ -41,7 +42,8 @@ struct Item
 };
 
 constexpr qint32 emptyFile = -1;
-constexpr qint32 firstFolderClass = -2; ///< and downwards
+constexpr qint32 unequal = -2;          ///< known to be equal to nothing
+constexpr qint32 firstFolderClass = -3; ///< and downwards
 
 using Items = std::vector<Item>;
 
@@ -50,19 +52,21 @@ using Items = std::vector<Item>;
 class FolderMatcher
 {
 public:
-    FolderMatcher(const QList<FileEntry> &files, const ScanResult &scan, const ScanOptions &options)
+    FolderMatcher(const QList<FileEntry> &files, const FolderNotes &walked, const ScanResult &scan,
+                  const ScanOptions &options)
         : m_kinds(options)
-        , m_tree(files, cleanedPaths(options.roots))
+        , m_tree(files, walked.empty, cleanedPaths(options.roots))
         , m_states(m_tree.folders().size())
+        , m_groupCount(static_cast<qint32>(scan.groups.size()))
+        , m_contentCount(m_groupCount)
     {
         numberGroups(scan.groups);
+        for (const UnreadPath &unread : scan.unread)
+            markUnmatched(unread.path);
+        for (const QString &folder : walked.partial)
+            markUnmatched(folder);
         for (qsizetype i = 0; i < files.size(); ++i)
             take(files[i], m_states[static_cast<size_t>(m_tree.folderOfFile(i))]);
-        for (const UnreadPath &unread : scan.unread) {
-            const qint32 folder = m_tree.folderHolding(unread.path);
-            if (folder != FolderTree::none)
-                m_states[static_cast<size_t>(folder)].hasUnmatched = true;
-        }
     }
 
     QList<FolderGroup> groups()
@@ -70,7 +74,7 @@ public:
         classify();
         QList<FolderGroup> groups;
         for (auto members = m_classes.rbegin(); members != m_classes.rend(); ++members) {
-            if (members->size() >= 2 && !isImplied(*members))
+            if (members->size() >= 2 && hasCopies(members->front()) && !isImplied(*members))
                 groups.append(groupOf(*members));
         }
         std::stable_sort(groups.begin(), groups.end(), [](const FolderGroup &a, const FolderGroup &b) {
@@ -84,6 +88,7 @@ private:
     {
         Items items;
         qint64 fileCount = 0;
+        qint64 linkCount = 0; ///< those of the files that are known for equal only as names of one file
         qint64 size = 0;
         qint32 contentClass = -1;
         bool hasUnmatched = false; ///< holds something that is equal to nothing
@@ -107,24 +112,59 @@ private:
         for (qsizetype i = 0; i < groups.size(); ++i) {
             if (!isOfContentLocation(groups[i].files.constFirst().path))
                 continue;
-            for (const FileEntry &file : groups[i].files)
+            for (const FileEntry &file : groups[i].files) {
                 m_groupOfFile.insert(file.path, static_cast<qint32>(i));
+                if (hasFurtherNames(file))
+                    m_contentOfIdentity.try_emplace({file.volumeSerial, file.fileIndex}, static_cast<qint32>(i));
+            }
         }
+    }
+
+    /// Whether its number tells it from all other files, and others may share it.
+    static bool hasFurtherNames(const FileEntry &file)
+    {
+        return file.hasFileId && file.fileIndex != 0 && file.linkCount > 1;
+    }
+
+    void markUnmatched(const QString &path)
+    {
+        const qint32 folder = m_tree.folderHolding(path);
+        if (folder != FolderTree::none)
+            m_states[static_cast<size_t>(folder)].hasUnmatched = true;
+    }
+
+    /// What the file has in common with others; `unequal` when nothing is known to be equal to it. Of the names of one
+    /// file the groups may hold one, or none when there are no further copies.
+    qint32 contentOf(const FileEntry &file)
+    {
+        const auto group = m_groupOfFile.constFind(file.path);
+        if (group != m_groupOfFile.cend())
+            return *group;
+        if (!isOfContentLocation(file.path))
+            return unequal;
+        if (file.size == 0)
+            return emptyFile;
+        if (!hasFurtherNames(file))
+            return unequal;
+        const auto known = m_contentOfIdentity.try_emplace({file.volumeSerial, file.fileIndex}, m_contentCount);
+        if (known.second)
+            ++m_contentCount;
+        return known.first->second;
     }
 
     void take(const FileEntry &file, State &folder)
     {
-        const auto group = m_groupOfFile.constFind(file.path);
-        const bool isMatched = group != m_groupOfFile.cend();
         if (folder.hasUnmatched)
             return;
-        if (!isMatched && (file.size > 0 || !isOfContentLocation(file.path))) {
+        const qint32 content = contentOf(file);
+        if (content == unequal) {
             folder.hasUnmatched = true;
             folder.items = {};
             return;
         }
-        folder.items.push_back({nameOf(file.path), isMatched ? *group : emptyFile});
+        folder.items.push_back({nameOf(file.path), content});
         ++folder.fileCount;
+        folder.linkCount += content >= m_groupCount ? 1 : 0;
         folder.size += file.size;
     }
 
@@ -151,9 +191,17 @@ private:
             if (parent) {
                 parent->items.push_back({nameOf(place.path), firstFolderClass - folder.contentClass});
                 parent->fileCount += folder.fileCount;
+                parent->linkCount += folder.linkCount;
                 parent->size += folder.size;
             }
         }
+    }
+
+    /// Whether the folder holds files, and not only names of files that its equals hold as well.
+    bool hasCopies(qint32 folder) const
+    {
+        const State &state = m_states[static_cast<size_t>(folder)];
+        return state.fileCount > state.linkCount;
     }
 
     /// Whether the folders' parents are equal too and all different ones: then each pair follows from theirs.
@@ -186,15 +234,18 @@ private:
     const FolderTree m_tree;
     std::vector<State> m_states;
     QHash<QStringView, qint32> m_groupOfFile;
+    std::map<std::pair<quint32, quint64>, qint32> m_contentOfIdentity; ///< of files with further names
+    const qint32 m_groupCount;
+    qint32 m_contentCount;                      ///< groups, then files with further names that are in none
     std::vector<std::vector<qint32>> m_classes; ///< folders of equal content, last first
 };
 
 } // namespace
 
-QList<FolderGroup> findDuplicateFolders(const QList<FileEntry> &files, const ScanResult &scan,
-                                        const ScanOptions &options)
+QList<FolderGroup> findDuplicateFolders(const QList<FileEntry> &files, const FolderNotes &walked,
+                                        const ScanResult &scan, const ScanOptions &options)
 {
-    return comparesContents(options) ? FolderMatcher(files, scan, options).groups() : QList<FolderGroup>();
+    return comparesContents(options) ? FolderMatcher(files, walked, scan, options).groups() : QList<FolderGroup>();
 }
 
 void keepGroupsOfDuplicateFolders(QList<DuplicateGroup> &groups, const QList<FolderGroup> &folderGroups)

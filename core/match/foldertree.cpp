@@ -3,32 +3,34 @@
 #include "core/match/groups.h"
 
 #include <algorithm>
+#include <functional>
+#include <iterator>
 
 namespace MirrixCore {
 
 namespace {
 
-bool isBelow(QStringView path, QStringView folder)
-{
-    return path.size() > folder.size() && path.startsWith(folder) &&
-           (folder.endsWith(QLatin1Char('/')) || path[folder.size()] == QLatin1Char('/'));
-}
-
 /// Those that lie in no other.
-QStringList outermost(const QStringList &roots)
+QSet<QStringView> outermost(const QStringList &roots)
 {
-    QStringList outer;
-    std::copy_if(roots.begin(), roots.end(), std::back_inserter(outer), [&](const QString &root) {
-        return std::none_of(roots.begin(), roots.end(), [&](const QString &other) { return isBelow(root, other); });
-    });
+    const QSet<QStringView> all(roots.begin(), roots.end());
+    const auto isBelowAnother = [&](QStringView root) {
+        for (QStringView above = folderOf(root); above.size() < root.size(); root = above, above = folderOf(above)) {
+            if (all.contains(above))
+                return true;
+        }
+        return false;
+    };
+    QSet<QStringView> outer;
+    std::copy_if(all.begin(), all.end(), std::inserter(outer, outer.end()), std::not_fn(isBelowAnother));
     return outer;
 }
 
 } // namespace
 
-FolderTree::FolderTree(const QList<FileEntry> &files, const QStringList &roots)
+FolderTree::FolderTree(const QList<FileEntry> &files, const QStringList &emptyFolders, const QStringList &roots)
 {
-    const QStringList tops = outermost(roots);
+    const QSet<QStringView> tops = outermost(roots);
     m_folderOfFile.reserve(static_cast<size_t>(files.size()));
     QStringView lastPath;
     qint32 last = none;
@@ -39,9 +41,11 @@ FolderTree::FolderTree(const QList<FileEntry> &files, const QStringList &roots)
         lastPath = path;
         m_folderOfFile.push_back(last);
     }
+    for (const QString &folder : emptyFolders)
+        add(folder, tops);
 }
 
-qint32 FolderTree::add(QStringView path, const QStringList &tops)
+qint32 FolderTree::add(QStringView path, const QSet<QStringView> &tops)
 {
     std::vector<QStringView> missing;
     qint32 parent = none;

@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QList>
+#include <QSet>
 #include <QStringList>
 #include <QStringView>
 
@@ -11,7 +12,7 @@
 
 namespace MirrixCore {
 
-/// The folders that hold files, and those above them up to the scan roots.
+/// The folders that hold files or nothing at all, and those above them up to the scan roots.
 class FolderTree
 {
 public:
@@ -23,8 +24,8 @@ public:
         qint32 parent = none;
     };
 
-    /// The folders of `files`, which must outlive the tree, below `roots` (cleaned).
-    FolderTree(const QList<FileEntry> &files, const QStringList &roots);
+    /// The folders of `files` and `emptyFolders`, which must outlive the tree, below `roots` (cleaned).
+    FolderTree(const QList<FileEntry> &files, const QStringList &emptyFolders, const QStringList &roots);
 
     /// Each folder behind its parent.
     [[nodiscard]] const std::vector<Folder> &folders() const { return m_folders; }
@@ -36,7 +37,7 @@ public:
     [[nodiscard]] qint32 folderHolding(QStringView path) const;
 
 private:
-    qint32 add(QStringView path, const QStringList &tops);
+    qint32 add(QStringView path, const QSet<QStringView> &tops);
 
     std::vector<Folder> m_folders;
     std::vector<qint32> m_folderOfFile;

@@ -3,6 +3,8 @@
 #include "core/match/groups.h"
 #include "core/match/hardlinks.h"
 #include "core/match/mediakeys.h"
+#include "core/match/parallel.h"
+#include "core/match/rootprefixes.h"
 #include "core/match/similarnames.h"
 #include "core/walk/pathrules.h"
 
@@ -11,6 +13,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <numeric>
 #include <vector>
 
 namespace MirrixCore {
@@ -43,18 +46,6 @@ QString leadingPieces(const QString &folder, qint32 depth)
     return pieces.mid(0, std::max(depth, 1)).join(QLatin1Char('/'));
 }
 
-/// What is left of the path behind the first root it starts with.
-QString pathUnderRoot(const QString &path, const ScanOptions &options)
-{
-    const Qt::CaseSensitivity sensitivity = options.caseSensitive ? Qt::CaseSensitive : Qt::CaseInsensitive;
-    for (const QString &root : options.roots) {
-        const QString clean = QDir::cleanPath(root);
-        if (path.startsWith(clean, sensitivity))
-            return path.mid(clean.size());
-    }
-    return path;
-}
-
 void appendNameParts(QStringList &parts, const FileEntry &entry, const ScanOptions &options)
 {
     const QString name = nameOf(entry.path).toString();
@@ -77,7 +68,7 @@ void appendSizeAndDateParts(QStringList &parts, const FileEntry &entry, const Sc
         parts.append(QLatin1String("MD:") + QString::number(timeKey(entry.modifiedMs, options.modifiedDateOnly)));
 }
 
-void appendPathParts(QStringList &parts, const FileEntry &entry, const ScanOptions &options)
+void appendPathParts(QStringList &parts, const FileEntry &entry, const ScanOptions &options, const RootPrefixes &roots)
 {
     const QString folder = folderOf(entry.path).toString();
     if (options.sameDrive)
@@ -87,14 +78,43 @@ void appendPathParts(QStringList &parts, const FileEntry &entry, const ScanOptio
     if (options.sameFolderPath)
         parts.append(QLatin1String("FP:") + cased(leadingPieces(folder, options.folderPathDepth), options));
     if (options.samePathUnderRoot)
-        parts.append(QLatin1String("RP:") + cased(pathUnderRoot(entry.path, options), options));
+        parts.append(QLatin1String("RP:") + cased(roots.rest(entry.path), options));
 }
+
+/// Makes the keys of many files.
+class RuleKeys
+{
+public:
+    RuleKeys(const ScanOptions &options, bool includeMedia)
+        : m_options(options)
+        , m_includeMedia(includeMedia)
+        , m_roots(options.samePathUnderRoot ? options.roots : QStringList(),
+                  options.caseSensitive ? Qt::CaseSensitive : Qt::CaseInsensitive)
+    {}
+
+    [[nodiscard]] QString keyOf(const FileEntry &entry) const
+    {
+        QStringList parts;
+        appendNameParts(parts, entry, m_options);
+        appendSizeAndDateParts(parts, entry, m_options);
+        appendPathParts(parts, entry, m_options, m_roots);
+        if (m_includeMedia)
+            parts += mediaKeyParts(entry, m_options);
+        return parts.join(QLatin1Char('|'));
+    }
+
+private:
+    const ScanOptions &m_options;
+    const bool m_includeMedia;
+    const RootPrefixes m_roots;
+};
 
 /// Buckets of two or more files, in the order of their first ones; none when cancelled. Most keys occur once: files are
 /// copied only when theirs does not.
-QList<Bucket> sharedBuckets(const QList<FileEntry> &files, const ScanOptions &options, bool includeMedia,
-                            bool takesKeyless, const CancelQuery &cancelled)
+QList<Bucket> sharedBuckets(const QList<FileEntry> &files, const RuleKeys &keys, bool takesKeyless,
+                            const CancelQuery &cancelled, const ProgressCallback &callback)
 {
+    StageProgress progress(callback, Phase::Metadata, files.size(), files.size());
     QHash<QString, qint32> numberOfKey; // from 1; 0 = no bucket
     std::vector<qint32> sizes = {0};    // by number
     std::vector<qint32> numberOfFile;
@@ -102,7 +122,8 @@ QList<Bucket> sharedBuckets(const QList<FileEntry> &files, const ScanOptions &op
     for (const FileEntry &file : files) {
         if (isCancelled(cancelled))
             return {};
-        const QString key = buildRuleKey(file, options, includeMedia);
+        const QString key = keys.keyOf(file);
+        progress.step(file.path);
         qint32 number = 0;
         if (takesKeyless || !key.isEmpty()) {
             qint32 &known = numberOfKey[key];
@@ -124,7 +145,7 @@ QList<Bucket> sharedBuckets(const QList<FileEntry> &files, const ScanOptions &op
             continue;
         if (bucketOfNumber[number] < 0) {
             bucketOfNumber[number] = buckets.size();
-            buckets.append({buildRuleKey(files[i], options, includeMedia), {}});
+            buckets.append({keys.keyOf(files[i]), {}});
             buckets.last().files.reserve(sizes[number]);
         }
         buckets[bucketOfNumber[number]].files.append(files[i]);
@@ -134,8 +155,12 @@ QList<Bucket> sharedBuckets(const QList<FileEntry> &files, const ScanOptions &op
 
 /// The groups that buckets become, under keys that begin with `keyPrefix`.
 QList<DuplicateGroup> groupsOf(const QList<Bucket> &buckets, const QString &keyPrefix, const QString &clusterKeyForm,
-                               const ScanOptions &options, const CancelQuery &cancelled)
+                               const ScanOptions &options, const CancelQuery &cancelled,
+                               const ProgressCallback &callback)
 {
+    const qint64 members = std::accumulate(buckets.begin(), buckets.end(), qint64(0),
+                                           [](qint64 sum, const Bucket &one) { return sum + one.files.size(); });
+    StageProgress progress(callback, Phase::Metadata, members, members);
     QList<DuplicateGroup> groups;
     for (const Bucket &bucket : buckets) {
         if (isCancelled(cancelled))
@@ -143,7 +168,7 @@ QList<DuplicateGroup> groupsOf(const QList<Bucket> &buckets, const QString &keyP
         const bool needsBar = !keyPrefix.isEmpty() && !bucket.key.isEmpty();
         const QString key = keyPrefix + (needsBar ? QStringLiteral("|") : QString()) + bucket.key;
         if (options.similarNames)
-            groups += clusterSimilarNames(key, bucket.files, options, clusterKeyForm, cancelled);
+            groups += clusterSimilarNames(key, bucket.files, options, clusterKeyForm, cancelled, &progress);
         else
             groups.append({key, bucket.files, 0});
     }
@@ -155,21 +180,16 @@ QList<DuplicateGroup> groupsOf(const QList<Bucket> &buckets, const QString &keyP
 
 QString buildRuleKey(const FileEntry &entry, const ScanOptions &options, bool includeMedia)
 {
-    QStringList parts;
-    appendNameParts(parts, entry, options);
-    appendSizeAndDateParts(parts, entry, options);
-    appendPathParts(parts, entry, options);
-    if (includeMedia)
-        parts += mediaKeyParts(entry, options);
-    return parts.join(QLatin1Char('|'));
+    return RuleKeys(options, includeMedia).keyOf(entry);
 }
 
 ScanResult groupByRuleKeys(const QList<FileEntry> &files, const ScanOptions &options, bool includeMedia,
-                           const CancelQuery &cancelled)
+                           const CancelQuery &cancelled, const ProgressCallback &progress)
 {
     ScanResult result = resultOn(files);
-    const QList<Bucket> buckets = sharedBuckets(files, options, includeMedia, options.similarNames, cancelled);
-    result.groups = groupsOf(buckets, {}, QStringLiteral("%1|SFN:%2"), options, cancelled);
+    const RuleKeys keys(options, includeMedia);
+    const QList<Bucket> buckets = sharedBuckets(files, keys, options.similarNames, cancelled, progress);
+    result.groups = groupsOf(buckets, {}, QStringLiteral("%1|SFN:%2"), options, cancelled, progress);
     if (options.collapseHardLinks)
         collapseHardLinks(result.groups);
     result.wastedBytes = totalWaste(result.groups);
@@ -189,12 +209,13 @@ QList<DuplicateGroup> refineGroupsByRuleKeys(const QList<DuplicateGroup> &groups
 {
     if (!hasRefiningRule(options))
         return groups;
+    const RuleKeys keys(options, false);
     QList<DuplicateGroup> refined;
     for (const DuplicateGroup &group : groups) {
         if (isCancelled(cancelled))
             return {};
-        const QList<Bucket> buckets = sharedBuckets(group.files, options, false, true, cancelled);
-        QList<DuplicateGroup> parts = groupsOf(buckets, group.key, QStringLiteral("%1|SFN"), options, cancelled);
+        const QList<Bucket> buckets = sharedBuckets(group.files, keys, true, cancelled, {});
+        QList<DuplicateGroup> parts = groupsOf(buckets, group.key, QStringLiteral("%1|SFN"), options, cancelled, {});
         for (DuplicateGroup &part : parts)
             part.isEqualContent = group.isEqualContent;
         refined += parts;

@@ -15,8 +15,9 @@ namespace MirrixCore {
 
 /// Groups files whose rule keys are equal; with `similarNames`, those of them whose names are alike as well, and then
 /// files without a key too. Members in input order, groups by waste. Without groups when `cancelled` answers true.
+/// Reports under the phase "metadata", the names that are compared once more.
 [[nodiscard]] ScanResult groupByRuleKeys(const QList<FileEntry> &files, const ScanOptions &options, bool includeMedia,
-                                         const CancelQuery &cancelled = {});
+                                         const CancelQuery &cancelled = {}, const ProgressCallback &progress = {});
 
 /// Whether a rule that splits content groups is on.
 [[nodiscard]] bool hasRefiningRule(const ScanOptions &options);

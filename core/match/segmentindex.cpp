@@ -8,19 +8,25 @@
 namespace MirrixCore {
 
 namespace {
-constexpr qint32 mostPieces = 12; ///< more would find too much, one by one
-}
+constexpr qint32 mostPieces = 12;       ///< more would find too much, one by one, unless they are long
+constexpr qsizetype longPieceUnits = 6; ///< so long that they rarely agree by chance
+} // namespace
 
 SegmentIndex::SegmentIndex(const std::vector<QString> &names, qint32 limit)
     : m_limit(limit)
 {
+    for (const QString &name : names)
+        m_lengths[name.size()];
+    // As many places are looked at for each name as there are pieces, shifts and lengths; a look costs as much as
+    // dismissing several names.
+    constexpr qint64 namesPerLook = 8;
+    const qint64 reach = std::min<qint64>(std::ssize(m_lengths), 2 * qint64(limit) + 1);
+    const bool mayCutFinely = (qint64(limit) + 2) * (qint64(limit) + 1) * reach * namesPerLook < std::ssize(names);
+    for (auto &[length, pieces] : m_lengths)
+        pieces = piecesOf(length, mayCutFinely);
     size_t entries = 0;
-    for (const QString &name : names) {
-        std::vector<Piece> &pieces = m_lengths[name.size()];
-        if (pieces.empty())
-            pieces = piecesOf(name.size());
-        entries += pieces.size();
-    }
+    for (const QString &name : names)
+        entries += m_lengths[name.size()].size();
     m_mask = std::bit_ceil(entries + 1) - 1;
     std::vector<quint32> frequency(m_mask + 1);
     const auto placesOf = [&](const QString &name) {
@@ -57,10 +63,11 @@ SegmentIndex::SegmentIndex(const std::vector<QString> &names, qint32 limit)
 }
 
 /// Even pieces. With many edits, or names shorter than those, one empty piece, which stands in every name.
-std::vector<SegmentIndex::Piece> SegmentIndex::piecesOf(qsizetype length) const
+std::vector<SegmentIndex::Piece> SegmentIndex::piecesOf(qsizetype length, bool mayCutFinely) const
 {
     const qsizetype count = qsizetype(m_limit) + 2;
-    if (count > mostPieces || length < count)
+    const bool isWorthwhile = count <= mostPieces || (mayCutFinely && length >= count * longPieceUnits);
+    if (!isWorthwhile || length < count)
         return {{0, 0}};
     std::vector<Piece> pieces;
     for (qsizetype i = 0; i < count; ++i) {

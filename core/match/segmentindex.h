@@ -66,7 +66,7 @@ private:
         }
     }
 
-    [[nodiscard]] std::vector<Piece> piecesOf(qsizetype length) const;
+    [[nodiscard]] std::vector<Piece> piecesOf(qsizetype length, bool mayCutFinely) const;
     [[nodiscard]] size_t placeOf(qsizetype length, size_t piece, QStringView text) const;
 
     qint32 m_limit = 0;

@@ -2,6 +2,7 @@
 
 #include "core/match/editdistance.h"
 #include "core/match/groups.h"
+#include "core/match/parallel.h"
 #include "core/match/segmentindex.h"
 
 #include <QRegularExpression>
@@ -18,8 +19,10 @@ namespace {
 class NameClusters
 {
 public:
-    NameClusters(const QList<FileEntry> &members, const ScanOptions &options, const CancelQuery &cancelled)
+    NameClusters(const QList<FileEntry> &members, const ScanOptions &options, const CancelQuery &cancelled,
+                 StageProgress *progress)
         : m_cancelled(cancelled)
+        , m_progress(progress)
     {
         qsizetype longest = 0;
         m_names.reserve(static_cast<size_t>(members.size()));
@@ -31,6 +34,10 @@ public:
         }
         m_tolerance = static_cast<qint32>(std::clamp<qsizetype>(options.nameTolerance, 0, longest));
         m_index = SegmentIndex(m_names, m_tolerance);
+        if (longest >= manyUnits) {
+            for (const QString &name : m_names)
+                m_counts.push_back(unitCounts(name));
+        }
         m_cluster.assign(m_names.size(), unassigned);
     }
 
@@ -47,6 +54,8 @@ public:
                 if (isCancelled(m_cancelled))
                     return {};
                 takeNear(reached[next], reached);
+                if (m_progress)
+                    m_progress->step({});
             }
             ++count;
         }
@@ -57,6 +66,7 @@ public:
 
 private:
     static constexpr qint32 unassigned = -1;
+    static constexpr qsizetype manyUnits = 65; ///< from here on comparing two names costs more than their counts
 
     /// Brings all that is in no cluster yet and belongs together with `member` directly into its cluster.
     void takeNear(qint32 member, std::vector<qint32> &reached)
@@ -67,12 +77,18 @@ private:
             const auto other = static_cast<size_t>(found);
             if (m_cluster[other] != unassigned)
                 return true;
-            if (!areCompared(index, other) || !matcher.isWithin(m_names[other], m_tolerance))
+            if (!areCompared(index, other) || !mayBeNear(index, other) ||
+                !matcher.isWithin(m_names[other], m_tolerance))
                 return false;
             m_cluster[other] = m_cluster[index];
             reached.push_back(found);
             return true;
         });
+    }
+
+    [[nodiscard]] bool mayBeNear(size_t a, size_t b) const
+    {
+        return m_counts.empty() || mayBeWithin(m_counts[a], m_counts[b], m_tolerance);
     }
 
     /// Of names of different lengths only those count whose longer one comes later.
@@ -84,7 +100,9 @@ private:
     }
 
     const CancelQuery &m_cancelled;
-    std::vector<QString> m_names; ///< by member, as all below
+    StageProgress *m_progress;
+    std::vector<QString> m_names;     ///< by member, as all below
+    std::vector<UnitCounts> m_counts; ///< only with long names
     std::vector<qint32> m_cluster;
     SegmentIndex m_index;
     qint32 m_tolerance = 0;
@@ -117,9 +135,9 @@ QString normalizedBaseName(const QString &path, const ScanOptions &options)
 
 QList<DuplicateGroup> clusterSimilarNames(const QString &bucketKey, const QList<FileEntry> &members,
                                           const ScanOptions &options, const QString &keyForm,
-                                          const CancelQuery &cancelled)
+                                          const CancelQuery &cancelled, StageProgress *progress)
 {
-    NameClusters names(members, options, cancelled);
+    NameClusters names(members, options, cancelled, progress);
     const std::vector<qint32> clusterOf = names.find();
     QList<DuplicateGroup> clusters;
     for (size_t i = 0; i < clusterOf.size(); ++i) {

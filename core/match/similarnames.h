@@ -8,6 +8,8 @@
 
 namespace MirrixCore {
 
+class StageProgress;
+
 /// `text` without what marks a copy at its very end ("- Copy", "(2)", "副本3", ...), trimmed. Thread-safe.
 [[nodiscard]] QString stripCopySuffix(const QString &text);
 
@@ -18,10 +20,11 @@ namespace MirrixCore {
 /// Groups of two or more members whose names are within `nameTolerance` edits, directly or through others. A pair is
 /// only compared when the longer name has the higher index, so the order of `members` counts; on purpose. `keyForm` is
 /// "%1|SFN:%2" (bucket key, name of the first member) or "%1|SFN". Groups that lie in one folder are dropped when the
-/// options ask for it. Takes time by the square of the members of like length; gives up, without groups, when
-/// `cancelled` answers true.
+/// options ask for it. Takes time by the square of the members of like length at worst; gives up, without groups, when
+/// `cancelled` answers true. Counts each member in `progress`, when given.
 [[nodiscard]] QList<DuplicateGroup> clusterSimilarNames(const QString &bucketKey, const QList<FileEntry> &members,
                                                         const ScanOptions &options, const QString &keyForm,
-                                                        const CancelQuery &cancelled = {});
+                                                        const CancelQuery &cancelled = {},
+                                                        StageProgress *progress = nullptr);
 
 } // namespace MirrixCore

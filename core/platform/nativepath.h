@@ -26,6 +26,9 @@ namespace MirrixCore {
 /// what they take: bytes on POSIX, 16-bit units on Windows.
 [[nodiscard]] std::filesystem::path filesystemPath(const QString &path);
 
+/// Makes the folder and those above it as needed. False when it is not there afterwards.
+[[nodiscard]] bool makeFolders(const QString &path);
+
 /// `path` made absolute against the current folder, forward slashes. On Windows ".." is resolved, as the system does
 /// it, by the text; on POSIX it stays, since behind a link it leads elsewhere.
 [[nodiscard]] QString absolutePath(const QString &path);

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <memory>
+#include <system_error>
 #include <unistd.h>
 
 namespace MirrixCore {
@@ -67,6 +68,13 @@ QString pathFromBytes(QByteArrayView bytes)
 std::filesystem::path filesystemPath(const QString &path)
 {
     return {pathBytes(path).toStdString()};
+}
+
+bool makeFolders(const QString &path)
+{
+    std::error_code failure;
+    std::filesystem::create_directories(filesystemPath(path), failure);
+    return std::filesystem::is_directory(filesystemPath(path), failure);
 }
 
 QString absolutePath(const QString &path)

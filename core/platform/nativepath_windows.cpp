@@ -52,6 +52,11 @@ std::filesystem::path filesystemPath(const QString &path)
     return {longPath(path)};
 }
 
+bool makeFolders(const QString &path)
+{
+    return QDir().mkpath(path);
+}
+
 QString absolutePath(const QString &path)
 {
     return QDir::cleanPath(QDir::current().absoluteFilePath(QDir::fromNativeSeparators(path)));

@@ -1,6 +1,5 @@
 #include "core/scan/duplicatescanner.h"
 
-#include "core/cache/cacheroot.h"
 #include "core/match/emptyfiles.h"
 #include "core/match/folders.h"
 #include "core/match/memberorder.h"
@@ -19,11 +18,9 @@ namespace {
 
 constexpr qint64 filesPerReport = 256;
 
-QList<FileEntry> enumerate(ScanOptions options, const ProgressCallback &progress, const CancelQuery &cancelled,
-                           QList<UnreadPath> &unread, LeftOut &leftOut)
+QList<FileEntry> enumerate(const ScanOptions &options, const ProgressCallback &progress, const CancelQuery &cancelled,
+                           QList<UnreadPath> &unread, FolderNotes &folders)
 {
-    // Else each scan of a home folder would find the last one's cache entries and add an entry for each of them.
-    options.excludeFolders += cacheFolders();
     const auto report = [&](const QString &path, qint64 count) {
         if (progress)
             progress({count, count, 0, path, Phase::Enumerating});
@@ -33,7 +30,7 @@ QList<FileEntry> enumerate(ScanOptions options, const ProgressCallback &progress
         if (count % filesPerReport == 0)
             report(file.path, count);
     };
-    const QList<FileEntry> files = enumerateFiles(options, onFile, cancelled, &unread, &leftOut);
+    const QList<FileEntry> files = enumerateFiles(options, onFile, cancelled, &unread, &folders);
     report(files.isEmpty() ? QString() : files.constLast().path, files.size());
     return files;
 }
@@ -57,10 +54,11 @@ ScanOptions nameOptions(ScanOptions options)
     return options;
 }
 
-void addFolders(ScanResult &result, const QList<FileEntry> &files, const ScanOptions &options)
+void addFolders(ScanResult &result, const QList<FileEntry> &files, const FolderNotes &folders,
+                const ScanOptions &options)
 {
     if (options.files.isEmpty()) // else folders stand for some of their files only
-        result.folderGroups = findDuplicateFolders(files, result, options);
+        result.folderGroups = findDuplicateFolders(files, folders, result, options);
     if (options.duplicateFoldersOnly) {
         keepGroupsOfDuplicateFolders(result.groups, result.folderGroups);
         result.wastedBytes = totalWaste(result.groups);
@@ -76,8 +74,8 @@ ScanResult DuplicateScanner::scan(const ScanOptions &options, const ProgressCall
     QElapsedTimer timer;
     timer.start();
     QList<UnreadPath> unread;
-    LeftOut leftOut;
-    QList<FileEntry> files = enumerate(options, progress, cancelled, unread, leftOut);
+    FolderNotes folders;
+    QList<FileEntry> files = enumerate(options, progress, cancelled, unread, folders);
     if (isCancelled(cancelled))
         return {};
     if (MediaMetadata::isNeeded(options))
@@ -87,12 +85,12 @@ ScanResult DuplicateScanner::scan(const ScanOptions &options, const ProgressCall
 
     ScanResult result = matchLocations(files, options, progress, cancelled);
     result.unread = unread + result.unread;
-    result.leftOut = leftOut;
+    result.leftOut = folders.leftOut;
     result.filesScanned = files.size();
     if (result.totalBytes == 0)
         result.totalBytes = totalSize(files);
     if (!isCancelled(cancelled))
-        addFolders(result, files, options);
+        addFolders(result, files, folders, options);
     orderMembers(result.groups);
     result.elapsedMs = timer.elapsed();
     return result;
@@ -121,7 +119,7 @@ ScanResult DuplicateScanner::matchKind(FindKind kind, const QList<FileEntry> &fi
     case FindKind::ContentDuplicates:
         return matchContent(files, options, progress, cancelled);
     case FindKind::NameDuplicates:
-        return groupByRuleKeys(files, nameOptions(options), false, cancelled);
+        return groupByRuleKeys(files, nameOptions(options), false, cancelled, progress);
     case FindKind::EmptyFiles:
         return groupEmptyFiles(files);
     }
@@ -142,7 +140,7 @@ ScanResult DuplicateScanner::matchContent(const QList<FileEntry> &files, const S
         case ContentMatch::Similar:
             return scanSimilarContent(files, options, progress, cancelled);
         case ContentMatch::Ignore:
-            return groupByRuleKeys(files, options, false, cancelled);
+            return groupByRuleKeys(files, options, false, cancelled, progress);
         }
         return {};
     case SearchMode::Images:
@@ -158,7 +156,7 @@ ScanResult DuplicateScanner::matchContent(const QList<FileEntry> &files, const S
         case 3:
             return exact();
         case 4:
-            return groupByRuleKeys(files, options, true, cancelled);
+            return groupByRuleKeys(files, options, true, cancelled, progress);
         }
         return {};
     case SearchMode::Video:
@@ -169,7 +167,7 @@ ScanResult DuplicateScanner::matchContent(const QList<FileEntry> &files, const S
         case 1:
             return sampled(0);
         case 2:
-            return groupByRuleKeys(files, options, true, cancelled);
+            return groupByRuleKeys(files, options, true, cancelled, progress);
         }
         return {};
     }

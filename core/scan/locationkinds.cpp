@@ -3,34 +3,48 @@
 #include "core/walk/pathrules.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace MirrixCore {
 
 LocationKinds::LocationKinds(const ScanOptions &options)
     : m_showRemaining(options.showRemaining)
 {
-    for (const ScanLocation &location : options.locations)
-        m_places.append({cleanedPath(location.path), static_cast<FindKind>(location.findKind), location.showRemaining});
-    std::stable_sort(m_places.begin(), m_places.end(),
-                     [](const Place &a, const Place &b) { return a.folder.size() > b.folder.size(); });
+    for (const ScanLocation &location : options.locations) {
+        const QString folder = comparablePath(cleanedPath(location.path));
+        if (m_places.contains(folder)) // the first one counts
+            continue;
+        m_places.insert(folder, {static_cast<FindKind>(location.findKind), location.showRemaining});
+        if (!m_lengths.contains(folder.size()))
+            m_lengths.append(folder.size());
+    }
+    std::sort(m_lengths.begin(), m_lengths.end(), std::greater());
 }
 
 bool LocationKinds::isUniform() const
 {
     return std::all_of(m_places.begin(), m_places.end(),
-                       [this](const Place &place) { return place.kind == m_places.constFirst().kind; });
+                       [this](const Place &place) { return place.kind == uniformKind(); });
 }
 
 FindKind LocationKinds::uniformKind() const
 {
-    return m_places.isEmpty() ? FindKind::ContentDuplicates : m_places.constFirst().kind;
+    return m_places.isEmpty() ? FindKind::ContentDuplicates : m_places.cbegin()->kind;
 }
 
 const LocationKinds::Place *LocationKinds::placeOf(const QString &path) const
 {
-    const auto found = std::find_if(m_places.begin(), m_places.end(),
-                                    [&](const Place &place) { return isUnderFolder(path, place.folder); });
-    return found == m_places.end() ? nullptr : &*found;
+    if (m_places.isEmpty())
+        return nullptr;
+    const QString comparable = comparablePath(path);
+    for (const qsizetype length : m_lengths) {
+        if (!isBelow(comparable, QStringView(comparable).left(length)))
+            continue;
+        const auto found = m_places.constFind(comparable.left(length));
+        if (found != m_places.cend())
+            return &*found;
+    }
+    return nullptr;
 }
 
 FindKind LocationKinds::kindOf(const QString &path) const

@@ -2,13 +2,15 @@
 
 #include "core/scan/scanoptions.h"
 
+#include <QHash>
 #include <QList>
 #include <QString>
 
 namespace MirrixCore {
 
 /// What each file of a scan is examined for, and whether it is listed when it is in no group, by the location it lies
-/// in.
+/// in. Asking takes time by the length of the path and the number of lengths that the locations' paths have, not by the
+/// number of locations.
 class LocationKinds
 {
 public:
@@ -32,7 +34,6 @@ public:
 private:
     struct Place
     {
-        QString folder; ///< cleaned
         FindKind kind;
         bool showRemaining;
     };
@@ -40,8 +41,9 @@ private:
     /// The innermost place that holds `path`; null when none does.
     [[nodiscard]] const Place *placeOf(const QString &path) const;
 
-    QList<Place> m_places; ///< longest folder first
-    bool m_showRemaining;  ///< what the options say without locations
+    QHash<QString, Place> m_places; ///< by folder, in comparable form
+    QList<qsizetype> m_lengths;     ///< those of the folders, longest first
+    bool m_showRemaining;           ///< what the options say without locations
 };
 
 } // namespace MirrixCore

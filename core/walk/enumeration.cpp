@@ -5,12 +5,14 @@
 #include "core/walk/filestatus.h"
 #include "core/walk/folderreader.h"
 #include "core/walk/namepatterns.h"
+#include "core/walk/ownfiles.h"
 #include "core/walk/pathrules.h"
 
 #include <QMap>
 #include <QSet>
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace MirrixCore {
@@ -80,13 +82,15 @@ private:
 /// A folder being walked.
 struct OpenFolder
 {
-    QString path;
-    QString realPath; ///< without links, when something is excluded and it differs from the path; else empty
+    qsizetype pathLength; ///< of what the innermost folder's path begins with; deep trees have long paths
+    QString realPath;     ///< without links, when something is excluded and it differs from the path; else empty
     FilePlace place;
     FolderReader reader;
-    bool descends;         ///< whether its subfolders are walked
-    qsizetype firstFile;   ///< how many files were taken before it was opened
-    FileIdentity identity; ///< read when a folder link is met below
+    bool descends;          ///< whether its subfolders are walked
+    qsizetype firstFile;    ///< how many files were taken before it was opened
+    bool isEmpty = true;    ///< nothing was found in it so far
+    bool isPartial = false; ///< something was left out of it
+    FileIdentity identity;  ///< read when a folder link is met below
     bool hasIdentity = false;
 };
 
@@ -95,14 +99,15 @@ class Walk
 {
 public:
     Walk(const ScanOptions &options, const FileCallback &onFile, const CancelQuery &cancelled,
-         QList<UnreadPath> *unread, LeftOut &leftOut)
+         QList<UnreadPath> *unread, FolderNotes &folders)
         : m_options(options)
         , m_onFile(onFile)
         , m_cancelled(cancelled)
         , m_unread(unread)
-        , m_leftOut(leftOut)
+        , m_folders(folders)
         , m_filter(options)
         , m_rules(options)
+        , m_own(ownFiles())
     {
         for (const ScanLocation &location : options.locations) {
             if (!location.includeSubfolders)
@@ -131,6 +136,8 @@ private:
             note(root, status.reason.isEmpty() ? QStringLiteral("no such folder") : status.reason);
         else if (status.kind != FileStatus::Kind::Folder)
             note(root, QStringLiteral("not a folder"));
+        else if (m_own.isOwnOrBelow(root))
+            note(root, QStringLiteral("the program's own files, not scanned"));
         else if (const QString realPath = realPathOf(root);
                  !m_rules.isListed(root) && !m_rules.isListed(realPath) && !m_rules.isListed(status.identity)) {
             m_rootIdentity = status.identity;
@@ -161,10 +168,12 @@ private:
         if (m_visited.contains(pathCaseKey(folder)))
             return;
         if (isLeftOutWhole(folder, realPath)) {
-            m_leftOut.files += names.size();
+            m_folders.leftOut.files += names.size();
             return;
         }
-        OpenFolder open{folder, realPath, placeOfTree(folder), FolderReader(folder), false, m_files.size(), {}, false};
+        OpenFolder open{
+            folder.size(), realPath, placeOfTree(folder), FolderReader(folder), false, m_files.size(), true, false, {},
+            false};
         FolderItem item;
         while (!names.isEmpty() && !isCancelled(m_cancelled) && open.reader.next(item)) {
             if (names.remove(pathCaseKey(item.name)) == 0)
@@ -173,7 +182,7 @@ private:
             if (!item.reason.isEmpty() || item.kind != FolderItem::Kind::File)
                 note(path, item.reason.isEmpty() ? QStringLiteral("not a file") : item.reason);
             else
-                take(path, open, item);
+                static_cast<void>(take(path, open, item));
         }
         const QString &error = open.reader.errorText();
         for (const QString &name : std::as_const(names))
@@ -201,18 +210,45 @@ private:
             }
             OpenFolder &current = m_stack.back();
             if (!current.reader.next(item)) {
-                note(current.path, current.reader.errorText());
+                note(m_path, current.reader.errorText());
+                noteFolder(current);
                 m_stack.pop_back();
+                m_path.truncate(m_stack.empty() ? 0 : m_stack.back().pathLength);
                 continue;
             }
-            const QString path = childPath(current.path, item.name);
-            if (!item.reason.isEmpty())
-                note(path, item.reason);
-            else if (item.kind == FolderItem::Kind::Folder && current.descends)
-                enter(path, current, item);
-            else if (item.kind == FolderItem::Kind::File)
-                take(path, current, item);
+            current.isEmpty = false;
+            const size_t depth = m_stack.size(); // entering a folder moves the others
+            if (!visit(childPath(m_path, item.name), current, item))
+                m_stack[depth - 1].isPartial = true;
         }
+    }
+
+    /// False when the entry is left out.
+    bool visit(const QString &path, OpenFolder &folder, const FolderItem &item)
+    {
+        if (m_own.isOwn(m_path, item.name))
+            return false;
+        if (!item.reason.isEmpty()) {
+            note(path, item.reason);
+            return false;
+        }
+        switch (item.kind) {
+        case FolderItem::Kind::Folder:
+            return folder.descends && enter(path, folder, item);
+        case FolderItem::Kind::File:
+            return take(path, folder, item);
+        case FolderItem::Kind::Other:
+            break;
+        }
+        return false;
+    }
+
+    void noteFolder(const OpenFolder &folder)
+    {
+        if (folder.isPartial)
+            m_folders.partial.append(m_path);
+        else if (folder.isEmpty && folder.reader.errorText().isEmpty())
+            m_folders.empty.append(m_path);
     }
 
     static QString childPath(const QString &folder, const QString &name)
@@ -220,19 +256,25 @@ private:
         return folder.endsWith(QLatin1Char('/')) ? folder + name : folder + QLatin1Char('/') + name;
     }
 
-    void enter(const QString &path, const OpenFolder &parent, const FolderItem &item)
+    /// False when the folder is left out.
+    bool enter(const QString &path, const OpenFolder &parent, const FolderItem &item)
     {
         QString realPath;
         if (item.isFolderLink)
             realPath = realPathOf(path);
         else if (!parent.realPath.isEmpty())
             realPath = childPath(parent.realPath, item.name);
-        if (isLeftOut(path, realPath, item))
-            ++m_leftOut.folders;
-        else if (!item.isFolderLink)
-            push(path, realPath, placeOfFolder(path, parent.place), false);
-        else if (mayFollow(path))
-            push(path, realPath, parent.place == FilePlace::Ordinary ? placeOfTree(path) : parent.place, true);
+        if (isLeftOut(path, realPath, item)) {
+            ++m_folders.leftOut.folders;
+            return false;
+        }
+        if (item.isFolderLink && !mayFollow(path))
+            return false;
+        const FilePlace place = item.isFolderLink && parent.place == FilePlace::Ordinary
+                                    ? placeOfTree(path)
+                                    : placeOfFolder(path, parent.place);
+        push(path, realPath, place, item.isFolderLink);
+        return true;
     }
 
     bool isLeftOut(const QString &path, const QString &realPath, const FolderItem &item) const
@@ -264,8 +306,13 @@ private:
             m_visited.insert(key);
         }
         const bool isFlat = !m_flatFolders.isEmpty() && m_flatFolders.contains(path.toLower());
+        FolderReader reader = m_stack.empty() ? FolderReader(path, isLinkWanted)
+                                              : FolderReader(m_stack.back().reader, path, isLinkWanted);
         m_stack.push_back(
-            {path, realPath, place, FolderReader(path, isLinkWanted), !isFlat, m_files.size(), {}, false});
+            {path.size(), realPath, place, std::move(reader), !isFlat, m_files.size(), true, false, {}, false});
+        m_path = path;
+        if (m_stack.size() > mostOpenFolders)
+            m_stack[m_stack.size() - 1 - mostOpenFolders].reader.release();
     }
 
     /// Whether a folder link leads anywhere but back to a folder that is being walked. Noted as unread when that cannot
@@ -280,7 +327,7 @@ private:
         }
         return std::none_of(m_stack.begin(), m_stack.end(), [&](OpenFolder &open) {
             if (!open.hasIdentity)
-                open.identity = fileStatus(open.path).identity;
+                open.identity = fileStatus(m_path.left(open.pathLength)).identity;
             open.hasIdentity = true;
             return open.identity.isSameAs(target.identity);
         });
@@ -294,17 +341,18 @@ private:
             m_files[i].place = FilePlace::BackupFolder;
     }
 
-    void take(const QString &path, OpenFolder &folder, const FolderItem &item)
+    /// False when the file is left out.
+    bool take(const QString &path, OpenFolder &folder, const FolderItem &item)
     {
         if (folder.place == FilePlace::Ordinary && isBackupIndex(item.name))
             markAsBackupFolder(folder);
         if (!m_filter.accepts(item)) {
-            ++m_leftOut.files;
-            return;
+            ++m_folders.leftOut.files;
+            return false;
         }
         if (item.isPlaceholder) {
             note(path, QStringLiteral("only in the cloud, not compared"));
-            return;
+            return false;
         }
         FileEntry file;
         file.path = path;
@@ -318,6 +366,7 @@ private:
         m_files.append(file);
         if (m_onFile)
             m_onFile(file, m_files.size());
+        return true;
     }
 
     static void setIdentity(FileEntry &file, const FileIdentity &identity)
@@ -336,27 +385,31 @@ private:
             m_unread->append({path, reason});
     }
 
+    static constexpr size_t mostOpenFolders = 32; ///< a process may have few descriptors
+
     const ScanOptions &m_options;
     const FileCallback &m_onFile;
     const CancelQuery &m_cancelled;
     QList<UnreadPath> *m_unread;
-    LeftOut &m_leftOut;
+    FolderNotes &m_folders;
     FileFilter m_filter;
     FolderRules m_rules;
+    OwnFileRules m_own;
     QSet<QString> m_flatFolders; ///< locations without their subfolders, lower case
     QSet<QString> m_visited;     ///< folders walked so far; used only with several roots
     FileIdentity m_rootIdentity;
     std::vector<OpenFolder> m_stack;
+    QString m_path; ///< of the innermost open folder
     QList<FileEntry> m_files;
 };
 
 } // namespace
 
 QList<FileEntry> enumerateFiles(const ScanOptions &options, const FileCallback &onFile, const CancelQuery &cancelled,
-                                QList<UnreadPath> *unread, LeftOut *leftOut)
+                                QList<UnreadPath> *unread, FolderNotes *folders)
 {
-    LeftOut ignored;
-    return Walk(options, onFile, cancelled, unread, leftOut ? *leftOut : ignored).run();
+    FolderNotes ignored;
+    return Walk(options, onFile, cancelled, unread, folders ? *folders : ignored).run();
 }
 
 } // namespace MirrixCore

@@ -38,6 +38,10 @@ public:
     /// Opens `folder`, an absolute clean path. A link is followed only when wanted; where the system cannot tell at the
     /// opening (Windows), it always is.
     explicit FolderReader(const QString &folder, bool isLinkWanted = true);
+
+    /// The same for a folder that lies in the one that `parent` reads, found from there while it is open.
+    FolderReader(const FolderReader &parent, const QString &folder, bool isLinkWanted);
+
     ~FolderReader();
     FolderReader(FolderReader &&) noexcept;
     FolderReader &operator=(FolderReader &&) noexcept;
@@ -45,6 +49,9 @@ public:
     /// Moves to the next entry. False at the end, and on an error: errorText is then not empty and entries may be
     /// missing.
     [[nodiscard]] bool next(FolderItem &item);
+
+    /// Reads the rest of the folder into memory and closes it, where open folders are short (POSIX).
+    void release();
 
     /// Why the folder could not be opened or read to its end; empty otherwise.
     [[nodiscard]] const QString &errorText() const;

@@ -2,6 +2,7 @@
 
 #include "core/platform/epochtime.h"
 #include "core/platform/nativepath.h"
+#include "core/platform/openpath_posix.h"
 #include "core/walk/kernelfilesystems_posix.h"
 
 #include <cerrno>
@@ -11,18 +12,28 @@
 #include <sys/sysmacros.h>
 #include <unistd.h>
 
+#include <deque>
+#include <utility>
+
 namespace MirrixCore {
 
 struct FolderReader::State
 {
     DIR *stream = nullptr;
+    std::deque<FolderItem> rest; ///< what was read before the stream was closed
     QString error;
 
-    ~State()
+    ~State() { closeStream(); }
+
+    void closeStream()
     {
         if (stream)
             closedir(stream);
+        stream = nullptr;
     }
+
+    void start(int descriptor);
+    [[nodiscard]] bool read(FolderItem &item);
 };
 
 namespace {
@@ -61,25 +72,45 @@ bool isDots(const char *name)
     return name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'));
 }
 
+int openFlags(bool isLinkWanted)
+{
+    return O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK | (isLinkWanted ? 0 : O_NOFOLLOW);
+}
+
 } // namespace
+
+/// Takes the descriptor over; below 0, errno says why there is none.
+void FolderReader::State::start(int descriptor)
+{
+    struct statfs info = {};
+    if (descriptor < 0) {
+        error = systemErrorText(errno);
+    } else if (fstatfs(descriptor, &info) == 0 && isKernelFileSystem(info)) {
+        error = QStringLiteral("a file system of the kernel, not scanned");
+        close(descriptor);
+    } else {
+        stream = fdopendir(descriptor);
+        if (!stream) {
+            error = systemErrorText(errno);
+            close(descriptor);
+        }
+    }
+}
 
 FolderReader::FolderReader(const QString &folder, bool isLinkWanted)
     : m_state(std::make_unique<State>())
 {
-    const int flags = O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK | (isLinkWanted ? 0 : O_NOFOLLOW);
-    struct statfs info = {};
-    const int descriptor = open(pathBytes(folder).constData(), flags);
-    if (descriptor < 0) {
-        m_state->error = systemErrorText(errno);
-    } else if (fstatfs(descriptor, &info) == 0 && isKernelFileSystem(info)) {
-        m_state->error = QStringLiteral("a file system of the kernel, not scanned");
-        close(descriptor);
+    m_state->start(openPath(pathBytes(folder), openFlags(isLinkWanted)));
+}
+
+FolderReader::FolderReader(const FolderReader &parent, const QString &folder, bool isLinkWanted)
+    : m_state(std::make_unique<State>())
+{
+    if (DIR *above = parent.m_state->stream) {
+        const QByteArray name = pathBytes(folder.mid(folder.lastIndexOf(QLatin1Char('/')) + 1));
+        m_state->start(openat(dirfd(above), name.constData(), openFlags(isLinkWanted)));
     } else {
-        m_state->stream = fdopendir(descriptor);
-        if (!m_state->stream) {
-            m_state->error = systemErrorText(errno);
-            close(descriptor);
-        }
+        m_state->start(openPath(pathBytes(folder), openFlags(isLinkWanted)));
     }
 }
 
@@ -89,12 +120,29 @@ FolderReader &FolderReader::operator=(FolderReader &&) noexcept = default;
 
 bool FolderReader::next(FolderItem &item)
 {
-    while (m_state->stream) {
+    if (m_state->rest.empty())
+        return m_state->read(item);
+    item = std::move(m_state->rest.front());
+    m_state->rest.pop_front();
+    return true;
+}
+
+void FolderReader::release()
+{
+    FolderItem item;
+    while (m_state->read(item))
+        m_state->rest.push_back(item);
+    m_state->closeStream();
+}
+
+bool FolderReader::State::read(FolderItem &item)
+{
+    while (stream) {
         errno = 0;
-        const dirent *entry = readdir(m_state->stream);
+        const dirent *entry = readdir(stream);
         if (!entry) {
             if (errno != 0)
-                m_state->error = systemErrorText(errno);
+                error = systemErrorText(errno);
             return false;
         }
         if (isDots(entry->d_name))
@@ -103,7 +151,7 @@ bool FolderReader::next(FolderItem &item)
         const bool needsRead = entry->d_type == DT_REG || entry->d_type == DT_UNKNOWN;
         if (entry->d_type == DT_DIR)
             item.kind = FolderItem::Kind::Folder;
-        if (needsRead && !readItem(dirfd(m_state->stream), entry->d_name, item))
+        if (needsRead && !readItem(dirfd(stream), entry->d_name, item))
             continue;
         item.name = pathFromBytes(entry->d_name);
         item.isHidden = entry->d_name[0] == '.';

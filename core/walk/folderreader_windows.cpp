@@ -29,6 +29,8 @@ struct FolderReader::State
 
 namespace {
 
+constexpr size_t mostUnits = 32767; // with the prefix of long paths
+
 bool isDots(const wchar_t *name)
 {
     return name[0] == L'.' && (name[1] == L'\0' || (name[1] == L'.' && name[2] == L'\0'));
@@ -53,12 +55,20 @@ FolderReader::FolderReader(const QString &folder, bool)
     if (!pattern.ends_with(L'\\'))
         pattern += L'\\';
     pattern += L'*';
+    if (pattern.size() > mostUnits) {
+        m_state->error = QStringLiteral("the path is longer than the 32,767 characters that Windows allows");
+        return;
+    }
     m_state->search = FindFirstFileW(pattern.c_str(), &m_state->data);
     m_state->hasData = m_state->search != INVALID_HANDLE_VALUE;
     // An empty drive root has no entry at all, not even ".".
     if (!m_state->hasData && GetLastError() != ERROR_FILE_NOT_FOUND)
         m_state->error = lastErrorText();
 }
+
+FolderReader::FolderReader(const FolderReader &, const QString &folder, bool isLinkWanted)
+    : FolderReader(folder, isLinkWanted)
+{}
 
 FolderReader::~FolderReader() = default;
 FolderReader::FolderReader(FolderReader &&) noexcept = default;
@@ -74,6 +84,8 @@ bool FolderReader::next(FolderItem &item)
     m_state->advance();
     return true;
 }
+
+void FolderReader::release() {}
 
 const QString &FolderReader::errorText() const
 {

@@ -25,24 +25,10 @@ const QStringList &systemFolders()
     return folders;
 }
 
-/// With every backslash as a separator, whatever the system.
-QString comparablePath(const QString &path)
-{
-    return QDir::cleanPath(path).replace(QLatin1Char('\\'), QLatin1Char('/')).toLower();
-}
-
 /// With the system's separators only.
 QString nativelyComparablePath(const QString &path)
 {
     return cleanedPath(path).toLower();
-}
-
-/// Both in comparable form.
-bool isBelow(const QString &path, const QString &folder)
-{
-    if (!path.startsWith(folder))
-        return false;
-    return path.size() == folder.size() || folder.endsWith(QLatin1Char('/')) || path[folder.size()] == QLatin1Char('/');
 }
 
 QStringList nativelyComparablePaths(const QStringList &paths)
@@ -63,6 +49,18 @@ QString cleanedPath(const QString &path)
     // "C:" alone means the current folder of that drive to the system, and the whole drive to everybody else.
     const bool isBareDrive = clean.size() == 2 && clean[1] == QLatin1Char(':') && clean[0].isLetter();
     return isBareDrive ? clean + QLatin1Char('/') : clean;
+}
+
+QString comparablePath(const QString &path)
+{
+    return QDir::cleanPath(path).replace(QLatin1Char('\\'), QLatin1Char('/')).toLower();
+}
+
+bool isBelow(QStringView path, QStringView folder)
+{
+    if (!path.startsWith(folder))
+        return false;
+    return path.size() == folder.size() || folder.endsWith(QLatin1Char('/')) || path[folder.size()] == QLatin1Char('/');
 }
 
 bool isUnderFolder(const QString &path, const QString &folder)

@@ -12,6 +12,13 @@ namespace MirrixCore {
 /// empty. Thread-safe, as all of this header.
 [[nodiscard]] QString cleanedPath(const QString &path);
 
+/// The form in which isUnderFolder compares paths: clean, lower case, with every backslash as a separator whatever the
+/// system.
+[[nodiscard]] QString comparablePath(const QString &path);
+
+/// Whether `path` is `folder` or lies below it, by exact text; both are clean.
+[[nodiscard]] bool isBelow(QStringView path, QStringView folder);
+
 /// Whether `path` is `folder` or lies below it. Case is ignored and backslashes count as slashes; a sibling whose name
 /// merely begins alike is not below.
 [[nodiscard]] bool isUnderFolder(const QString &path, const QString &folder);

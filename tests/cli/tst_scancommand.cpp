@@ -1,7 +1,9 @@
 #include "core/cache/cacheroot.h"
 #include "core/cache/fingerprintcache.h"
 #include "core/hash/contenthash.h"
+#include "core/platform/nativefileio.h"
 #include "core/platform/nativepath.h"
+#include "core/walk/filestatus.h"
 #include "tests/support/jsonschema.h"
 #include "tests/support/probes.h"
 #include "tests/support/program.h"
@@ -641,6 +643,20 @@ void ScanCommandTest::namesOfBytes()
     QCOMPARE(groupsIn(scanAsJson({tree.path()}).output), (QList<QStringList>{{other, one}}));
     const QByteArray text = scan({tree.path()}).output;
     QVERIFY(text.contains("/caf\xE9\n") && text.contains("/caf\xE8\n"));
+
+    // The user's own files under such names: options, report, and the folder of the cache.
+    tree.writeNamedByBytes("\xE9.json", R"({"minSize": 6})");
+    const QString odd = tree.path() + u'/' + one.section(u'/', -1);
+    const QString command = u"d=$1/$(printf 'caf\\351'); exec \"$2\" scan --data-dir \"$d\"dir --output \"$d\"report "
+                            "--options \"$1/$(printf '\\351').json\" \"$3\""_s;
+    QProcess process; // which cannot pass such names itself
+    process.start(u"sh"_s, {u"-c"_s, command, u"sh"_s, tree.path(), Program::builtExecutable(), m_tree->path()});
+    QCOMPARE(Program::ended(process).errors, "");
+    QFile report;
+    QVERIFY(MirrixCore::openNatively(report, odd + u"report"_s, QIODevice::ReadOnly));
+    QVERIFY(report.readAll().contains("scanned"));
+    const MirrixCore::FileStatus cache = MirrixCore::fileStatus(odd + u"dir/fingerprint_cache"_s);
+    QVERIFY(cache.kind == MirrixCore::FileStatus::Kind::Folder);
 }
 
 void ScanCommandTest::remembersDigests()

@@ -2,10 +2,12 @@
 
 #include "core/cache/cacheroot.h"
 #include "core/scan/threadpool.h"
+#include "core/walk/ownfiles.h"
 #include "tests/support/scans.h"
 #include "tests/support/temptree.h"
 
 #include <QFile>
+#include <QScopeGuard>
 #include <QSet>
 #include <QTest>
 #include <QThread>
@@ -74,7 +76,8 @@ private slots:
     void knowsNoOtherModes();
     void returnsNothingWhenCancelledEarly_data();
     void returnsNothingWhenCancelledEarly();
-    void leavesItsOwnCacheOut();
+    void leavesItsOwnFilesOut();
+    void tellsFoldersThatDifferInWhatItLeftOut();
     void listsWhatItCouldNotRead();
     void handsExceptionsOn_data();
     void handsExceptionsOn();
@@ -290,16 +293,47 @@ void DuplicateScannerTest::returnsNothingWhenCancelledEarly()
     QVERIFY(!hasHashed);
 }
 
-void DuplicateScannerTest::leavesItsOwnCacheOut()
+void DuplicateScannerTest::leavesItsOwnFilesOut()
 {
     const TempTree tree;
-    fill(tree, u"a"_s);
-    setCacheRoot(tree.path(u"data"_s)); // inside what is scanned
-    ScanOptions options;
-    options.roots = QStringList{tree.path()};
-    for (int round = 0; round < 2; ++round)
-        QCOMPARE(scan(options).filesScanned, 3);
-    QVERIFY(QFile::exists(cacheFolders().constFirst()));
+    for (const QString &name : {u"data/mine"_s, u"data/log"_s, u"data/log.lock"_s, u"data/cache/x"_s, u"cache/x"_s})
+        tree.write(name, "x");
+    const auto off = qScopeGuard([] { setOwnFiles({}); });
+    setOwnFiles({tree.path(u"data"_s), {u"cache"_s}, {u"log"_s}});
+    QCOMPARE(groupTexts(scan(optionsFor(tree)), tree), QSet<QString>({u"same: cache/x, data/mine"_s}));
+    const ScanResult own = scan(optionsFor(tree, {u"data/cache"_s}));
+    QCOMPARE(own.filesScanned, 0);
+    QCOMPARE(own.unread.size(), 1);
+    if (!tree.symbolicLink(u"data"_s, u"link"_s))
+        QSKIP("no symbolic links here");
+    QCOMPARE(scan(optionsFor(tree, {u"link"_s})).filesScanned, 1);
+}
+
+/// Each of these is all that two folders differ in.
+void DuplicateScannerTest::tellsFoldersThatDifferInWhatItLeftOut()
+{
+    const TempTree tree;
+    for (const QString &folder : {u"same"_s, u"hidden"_s, u"filtered"_s, u"excluded"_s, u"empty"_s, u"link"_s}) {
+        tree.write(folder + u"/1/x"_s, "12" + folder.toUtf8());
+        tree.write(folder + u"/2/x"_s, "12" + folder.toUtf8());
+    }
+    tree.write(u"hidden/1/.h"_s, "12");
+    tree.write(u"filtered/1/f"_s, "1");
+    tree.write(u"excluded/1/out/x"_s, "12");
+    tree.makeFolder(u"empty/1/e"_s);
+    ScanOptions options = optionsFor(tree);
+    options.minSize = 2;
+    options.skipHidden = true;
+    options.excludeFolders = QStringList(tree.path(u"excluded/1/out"_s));
+    QStringList expected{tree.path(u"same"_s)};
+    if (!tree.symbolicLink(u"same/1/x"_s, u"link/1/l"_s))
+        expected.append(tree.path(u"link"_s));
+    QStringList found;
+    for (const FolderGroup &group : scan(options).folderGroups)
+        found.append(group.folders.constFirst().path.chopped(2));
+    found.sort();
+    expected.sort();
+    QCOMPARE(found, expected);
 }
 
 void DuplicateScannerTest::listsWhatItCouldNotRead()

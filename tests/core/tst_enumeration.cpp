@@ -1,5 +1,6 @@
 #include "core/walk/enumeration.h"
 
+#include "core/hash/filereader.h"
 #include "core/walk/filestatus.h"
 #include "tests/support/probes.h"
 #include "tests/support/scans.h"
@@ -7,7 +8,11 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QProcess>
+#include <QScopeGuard>
 #include <QTest>
+
+#include <algorithm>
 
 using namespace MirrixCore;
 using namespace MirrixTest;
@@ -67,6 +72,7 @@ private slots:
     void opensNoPipes();
     void stopsWhenCancelled();
     void reportsEachFile();
+    void walksDeepTrees();
     void notesUnreadRoots();
     void notesUnreadFolders();
 };
@@ -162,9 +168,9 @@ void EnumerationTest::filtersNames()
     options.includeNames = include;
     options.excludeNames = exclude;
     QTEST(walked(tree, options), "taken");
-    LeftOut leftOut;
-    const qsizetype taken = enumerateFiles(options, {}, {}, nullptr, &leftOut).size();
-    QCOMPARE(taken + leftOut.files + leftOut.folders, 5); // each folder holds one file
+    FolderNotes notes;
+    const qsizetype taken = enumerateFiles(options, {}, {}, nullptr, &notes).size();
+    QCOMPARE(taken + notes.leftOut.files + notes.leftOut.folders, 5); // each folder holds one file
 }
 
 void EnumerationTest::takesSingleFiles()
@@ -567,6 +573,42 @@ void EnumerationTest::reportsEachFile()
     const QList<FileEntry> files = enumerateFiles(options, note, {});
     QVERIFY(files == reported);
     QCOMPARE(counts, QList<qint64>({1, 2, 3}));
+}
+
+/// More folders below each other than descriptors, under a path longer than the system takes at once. Each folder has
+/// something left to read when the walk comes back to it.
+void EnumerationTest::walksDeepTrees()
+{
+    const TempTree tree;
+    const QString script = u"import os\n"
+                           "for level in range(150):\n"
+                           "    for name in ('a', 'e', 'z'): open(name, 'w').write('same')\n"
+                           "    os.mkdir('d' * 200)\n"
+                           "    os.chdir('d' * 200)\n"_s;
+    QProcess process;
+    process.setWorkingDirectory(tree.path());
+    process.start(u"python3"_s, {u"-c"_s, script});
+    const auto removal = qScopeGuard([&] { QProcess::execute(u"rm"_s, {u"-rf"_s, tree.path(QString(200, u'd'))}); });
+    const auto limitDescriptors = [](const QString &limit) {
+        const QString self = QString::number(QCoreApplication::applicationPid());
+        return QProcess::execute(u"prlimit"_s, {u"--nofile="_s + limit + u':', u"--pid"_s, self}) == 0;
+    };
+    if (!process.waitForFinished() || process.exitCode() != 0 || !limitDescriptors(u"64"_s))
+        QSKIP("no such trees here");
+    QList<UnreadPath> unread;
+    const QList<FileEntry> files = enumerateFiles(optionsFor(tree), {}, {}, &unread);
+    FileReader reader;
+    const auto deepest = std::max_element(files.begin(), files.end(), [](const FileEntry &a, const FileEntry &b) {
+        return a.path.size() < b.path.size();
+    });
+    const bool isOpen = deepest != files.end() && reader.open(deepest->path) && reader.readState();
+    const qint64 statusBytes = isOpen ? fileStatus(deepest->path).sizeBytes : 0;
+    QVERIFY(limitDescriptors(u"1024"_s));
+    QCOMPARE(unread.size(), 0);
+    QCOMPARE(files.size(), 3 * 150);
+    QVERIFY(isOpen && deepest->path.size() > 149 * 200);
+    QCOMPARE(reader.sizeBytes(), 4);
+    QCOMPARE(statusBytes, 4);
 }
 
 void EnumerationTest::notesUnreadRoots()

@@ -5,6 +5,7 @@
 #include "core/platform/nativepath.h"
 #include "core/scan/duplicatescanner.h"
 #include "core/walk/enumeration.h"
+#include "tests/support/disk.h"
 #include "tests/support/probes.h"
 #include "tests/support/scans.h"
 #include "tests/support/temptree.h"
@@ -112,6 +113,7 @@ private slots:
     void keepsDigestsWhenCancelled();
     void recoversBrokenEntries_data();
     void recoversBrokenEntries();
+    void survivesHostileCache();
     void writesNothingWithoutCache();
 };
 
@@ -716,6 +718,60 @@ void ExactTest::recoversBrokenEntries()
     cache.write(QDir(cache.path()).relativeFilePath(cachePathFor(path)), text);
     QCOMPARE(scan(optionsFor(tree)).groups.size(), 1);
     QCOMPARE(cacheEntryOf(path)[u"full"_s].toString(), QString::fromLatin1(fullContentHash(path).toHex()));
+}
+
+/// Entries that somebody else has made or damaged: links, pipes, folders, cut and changed texts. The digests of a whole
+/// entry for the file's very state are the only ones that are believed.
+void ExactTest::survivesHostileCache()
+{
+    const TempTree cache;
+    const TempTree tree;
+    setCacheRoot(cache.path());
+    const QString outside = tree.write(u"outside"_s, "mine");
+    QRandomGenerator random(1000);
+    QList<QStringList> expected;
+    for (int i = 0; i < 1000; ++i) {
+        const QString name = u"%1"_s.arg(i, 4, 10, QChar(u'0'));
+        tree.write(name, patternBytes(200 + 2 * (i / 2), quint32(i / 2)));
+        i % 2 == 0 ? expected.append(QStringList(name)) : expected.last().append(name);
+    }
+    QCOMPARE(sortedGroups(scan(optionsFor(tree)), tree), expected);
+    for (int i = 0; i < 1000; ++i) {
+        const QString entry = cachePathFor(tree.path(u"%1"_s.arg(i, 4, 10, QChar(u'0'))));
+        const QString name = QDir(cache.path()).relativeFilePath(entry);
+        QByteArray text = contentOf(entry);
+        QVERIFY(QFile::remove(entry));
+        switch (random.bounded(8)) {
+        case 0:
+            QVERIFY(QFile::link(outside, entry));
+            continue;
+        case 1:
+            if (i % 40 == 0 && makePipe(entry)) // making one takes a process
+                continue;
+            break;
+        case 2:
+            QVERIFY(QDir().mkpath(entry));
+            continue;
+        case 3:
+            text.truncate(random.bounded(static_cast<int>(text.size())));
+            break;
+        case 4:
+            text.replace(R"("size":)", R"("size":1e400,"other":)");
+            break;
+        case 5:
+            text.replace(R"("full":")", R"("full":"00)");
+            break;
+        case 6:
+            text = QByteArray(random.bounded(100000), '[');
+            break;
+        default:
+            text.replace(R"("mtimeMs":)", R"("mtimeMs":-)");
+        }
+        cache.write(name, text);
+    }
+    for (int round = 0; round < 2; ++round)
+        QCOMPARE(sortedGroups(scan(optionsFor(tree)), tree), expected);
+    QCOMPARE(contentOf(outside), "mine");
 }
 
 void ExactTest::writesNothingWithoutCache()

@@ -1,4 +1,5 @@
 #include "core/match/folders.h"
+#include "core/match/hardlinks.h"
 #include "core/scan/optiontable.h"
 
 #include <QJsonDocument>
@@ -18,13 +19,17 @@ namespace {
 /// or more, make a group.
 struct MadeScan
 {
+    /// A number behind a content, as in "1#7", is the file's own: files that share it are names of one file.
     explicit MadeScan(const QStringList &texts)
     {
         QMap<QString, QList<FileEntry>> ofContent;
         for (const QString &text : texts) {
             FileEntry file;
             file.path = text.section(u'=', 0, 0);
-            const QString content = text.section(u'=', 1);
+            const QString content = text.section(u'=', 1).section(u'#', 0, 0);
+            file.fileIndex = text.section(u'#', 1).toULongLong();
+            file.hasFileId = file.fileIndex != 0;
+            file.linkCount = file.hasFileId ? 2 : 1;
             file.size = content == u"-" ? 0 : content.size();
             files.append(file);
             if (file.size > 0)
@@ -34,10 +39,12 @@ struct MadeScan
             if (members.size() >= 2)
                 result.groups.append({u"key"_s, members, 0});
         }
+        collapseHardLinks(result.groups);
     }
 
     QList<FileEntry> files;
     ScanResult result;
+    FolderNotes walked;
 };
 
 ScanOptions optionsFrom(const QByteArray &json)
@@ -141,6 +148,8 @@ private slots:
     void equalsBruteForce();
     void needsContents_data();
     void needsContents();
+    void heedsWhatHoldsNoFiles_data();
+    void heedsWhatHoldsNoFiles();
     void ignoresFoldersWithUnreadThings();
     void keepsGroupsOfDuplicateFolders();
     void remaining_data();
@@ -172,6 +181,11 @@ void FoldersTest::findsDuplicates_data()
     row("nothing above the roots", {u"/1/r/x=1"_s, u"/2/r/x=1"_s}, {u"/1/r /2/r (1, 1)"_s}, {u"/1/r"_s, u"/2/r"_s});
     row("roots within each other", {u"/r/s/x=1"_s, u"/r/t/x=1"_s, u"/r/y=2"_s}, {u"/r/s /r/t (1, 1)"_s},
         {u"/r/s"_s, u"/r"_s});
+    row("a name of the other's file", {u"/r/a/x=1#7"_s, u"/r/a/y=2"_s, u"/r/b/x=1#7"_s, u"/r/b/y=2"_s},
+        {u"/r/a /r/b (2, 2)"_s});
+    row("a name of a copy's file", {u"/r/a/x=1#7"_s, u"/r/b/x=1#7"_s, u"/r/c/x=1"_s}, {u"/r/a /r/b /r/c (1, 1)"_s});
+    row("names of other files", {u"/r/a/x=1#7"_s, u"/r/a/y=2"_s, u"/r/b/x=3#8"_s, u"/r/b/y=2"_s}, {});
+    row("only names of the same files", {u"/r/a/x=1#7"_s, u"/r/b/x=1#7"_s}, {});
     row("drives", {u"C:/a/x=1"_s, u"D:/a/x=1"_s}, {u"C:/ D:/ (1, 1)"_s}, {u"C:/"_s, u"D:/"_s});
 }
 
@@ -182,7 +196,7 @@ void FoldersTest::findsDuplicates()
     ScanOptions options;
     options.roots = roots;
     const MadeScan scan(files);
-    QTEST(groupTexts(findDuplicateFolders(scan.files, scan.result, options)), "expected");
+    QTEST(groupTexts(findDuplicateFolders(scan.files, scan.walked, scan.result, options)), "expected");
 }
 
 void FoldersTest::equalsBruteForce_data()
@@ -233,7 +247,7 @@ void FoldersTest::equalsBruteForce()
             texts.append(file.key() + u'=' + file.value());
         std::shuffle(texts.begin(), texts.end(), random);
         const MadeScan scan(texts);
-        const QStringList groups = groupTexts(findDuplicateFolders(scan.files, scan.result, options));
+        const QStringList groups = groupTexts(findDuplicateFolders(scan.files, scan.walked, scan.result, options));
         QCOMPARE(QSet<QString>(groups.begin(), groups.end()), bruteForce(texts, root));
         found += groups.size();
     }
@@ -267,11 +281,41 @@ void FoldersTest::needsContents()
     const MadeScan scan({u"/r/a/x=1"_s, u"/r/b/x=1"_s, u"/r/c/y=2"_s, u"/r/d/y=2"_s, u"/r/z=3"_s});
     ScanOptions parsed = optionsFrom(options);
     parsed.roots = QStringList(u"/r"_s);
-    QStringList found = groupTexts(findDuplicateFolders(scan.files, scan.result, parsed));
+    QStringList found = groupTexts(findDuplicateFolders(scan.files, scan.walked, scan.result, parsed));
     QFETCH(QStringList, expected);
     found.sort();
     expected.sort();
     QCOMPARE(found, expected);
+}
+
+/// Both in the notes of a walk: "-" marks a folder of which something was left out, the others are empty.
+void FoldersTest::heedsWhatHoldsNoFiles_data()
+{
+    QTest::addColumn<QStringList>("noted");
+    QTest::addColumn<QStringList>("expected");
+    const QString whole = u"/r/a /r/b (2, 2)"_s;
+    const QString below = u"/r/a/s /r/b/s (1, 1)"_s;
+    QTest::newRow("nothing") << QStringList() << QStringList(whole);
+    QTest::newRow("left out elsewhere") << QStringList(u"-/r/c"_s) << QStringList(whole);
+    QTest::newRow("left out above") << QStringList(u"-/r/a"_s) << QStringList(below);
+    QTest::newRow("left out below") << QStringList(u"-/r/a/s"_s) << QStringList();
+    QTest::newRow("left out of a folder without files") << QStringList(u"-/r/a/t"_s) << QStringList(below);
+    QTest::newRow("empty in one") << QStringList(u"/r/a/t"_s) << QStringList(below);
+    QTest::newRow("empty in both") << QStringList({u"/r/a/t"_s, u"/r/b/t"_s}) << QStringList(whole);
+    QTest::newRow("empty under other names") << QStringList({u"/r/a/t"_s, u"/r/b/u"_s}) << QStringList(below);
+    QTest::newRow("empty at other depths") << QStringList({u"/r/a/t"_s, u"/r/b/t/t"_s}) << QStringList(below);
+    QTest::newRow("empty ones alone are no group") << QStringList({u"/r/c/t"_s, u"/r/d/t"_s}) << QStringList(whole);
+}
+
+void FoldersTest::heedsWhatHoldsNoFiles()
+{
+    QFETCH(QStringList, noted);
+    MadeScan scan({u"/r/a/x=1"_s, u"/r/a/s/y=2"_s, u"/r/b/x=1"_s, u"/r/b/s/y=2"_s});
+    for (const QString &note : noted)
+        (note.startsWith(u'-') ? scan.walked.partial : scan.walked.empty).append(note.mid(note.startsWith(u'-')));
+    ScanOptions options;
+    options.roots = QStringList(u"/r"_s);
+    QTEST(groupTexts(findDuplicateFolders(scan.files, scan.walked, scan.result, options)), "expected");
 }
 
 void FoldersTest::ignoresFoldersWithUnreadThings()
@@ -288,7 +332,7 @@ void FoldersTest::ignoresFoldersWithUnreadThings()
     for (auto unread = expected.begin(); unread != expected.end(); ++unread) {
         MadeScan scan({u"/r/a/x=1"_s, u"/r/a/s/y=2"_s, u"/r/b/x=1"_s, u"/r/b/s/y=2"_s});
         scan.result.unread.append({unread.key(), u"no"_s});
-        QCOMPARE(groupTexts(findDuplicateFolders(scan.files, scan.result, options)), unread.value());
+        QCOMPARE(groupTexts(findDuplicateFolders(scan.files, scan.walked, scan.result, options)), unread.value());
     }
 }
 

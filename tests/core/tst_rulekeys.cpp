@@ -66,6 +66,7 @@ private slots:
     void sameFolderGroupsCanBeLeftOut();
     void hardLinksCollapse();
     void longKeys();
+    void reportsProgress();
 };
 
 void RuleKeysTest::initTestCase()
@@ -337,6 +338,22 @@ void RuleKeysTest::longKeys()
     const QList<FileEntry> files{fileAt(QLatin1String("/a/") + name), fileAt(QLatin1String("/b/") + name)};
     const ScanResult result = groupByRuleKeys(files, optionsFrom(R"({"sameName":true})"), false);
     QCOMPARE(result.groups.value(0).key, QLatin1String("FN:") + name);
+}
+
+/// Each file twice: once for its key, once for its name.
+void RuleKeysTest::reportsProgress()
+{
+    QList<FileEntry> files;
+    for (int i = 0; i < 200; ++i)
+        files.append(fileAt(QStringLiteral("/a/%1").arg(i * 1000)));
+    ScanOptions options;
+    options.similarNames = true;
+    QList<qint64> counts;
+    (void)groupByRuleKeys(files, options, false, {}, [&](const ScanProgress &report) {
+        if (report.phase == Phase::Metadata && report.total == files.size())
+            counts.append(report.processed);
+    });
+    QCOMPARE(counts, QList<qint64>({64, 128, 192, 200, 64, 128, 192, 200}));
 }
 
 QTEST_GUILESS_MAIN(RuleKeysTest)

@@ -7,11 +7,14 @@
 
 #include <QFile>
 #include <QMap>
+#include <QRandomGenerator>
 #include <QScopeGuard>
 #include <QSet>
 #include <QTest>
 
+#include <algorithm>
 #include <atomic>
+#include <tuple>
 
 using namespace MirrixCore;
 using namespace MirrixTest;
@@ -69,6 +72,7 @@ private slots:
 
     void comparesAsFarAsAsked_data();
     void comparesAsFarAsAsked();
+    void equalsBruteForce();
     void narrowsStageByStage();
     void keepsDifferentSamplesApart();
     void appliesRulesAndHardLinks();
@@ -111,6 +115,51 @@ void SampledContentTest::comparesAsFarAsAsked()
     QCOMPARE(result.candidates, 7);
     QCOMPARE(result.filesScanned, 9);
     QCOMPARE(result.wastedBytes, (result.groups[0].files.size() - 1) * fileBytes);
+}
+
+/// Random changes at the edges of all windows, each way to compare against what it looks at.
+void SampledContentTest::equalsBruteForce()
+{
+    const TempTree tree;
+    QRandomGenerator random(18);
+    const QList<qint64> places = {0,          5 * kib,    512 * kib - 1,  512 * kib,  751 * kib,    1024 * kib - 1,
+                                  1024 * kib, 1500 * kib, 2048 * kib - 1, 2048 * kib, fileBytes - 1};
+    const QList<qint64> samples = {0, 751 * kib, 1500 * kib, fileBytes - 1};
+    QMap<QString, QSet<qint64>> changes;
+    for (int i = 0; i < 30; ++i) {
+        QByteArray content = patternBytes(fileBytes);
+        QSet<qint64> &changed = changes[QString::number(i)];
+        for (int change = random.bounded(3); change > 0; --change)
+            changed.insert(places[random.bounded(places.size())]);
+        for (const qint64 place : std::as_const(changed))
+            content[place] = static_cast<char>(~content[place]);
+        tree.write(u"%1/%2"_s.arg(i % 3).arg(i), content);
+    }
+    const auto groupsWithin = [&](qint64 limit) {
+        QMap<QList<qint64>, QStringList> members;
+        for (auto file = changes.begin(); file != changes.end(); ++file) {
+            QList<qint64> seen;
+            std::copy_if(file->begin(), file->end(), std::back_inserter(seen),
+                         [&](qint64 place) { return place < limit || samples.contains(place); });
+            std::sort(seen.begin(), seen.end());
+            members[seen].append(u"%1/%2"_s.arg(file.key().toInt() % 3).arg(file.key()));
+        }
+        QSet<QString> texts;
+        for (QStringList &paths : members) {
+            paths.sort();
+            if (paths.size() > 1)
+                texts.insert(paths.join(u' '));
+        }
+        return texts;
+    };
+    const QList<std::tuple<SearchMode, qint32, qint64>> ways = {
+        {SearchMode::Files, 0, fileBytes}, {SearchMode::Audio, 0, fileBytes}, {SearchMode::Audio, 1, 2048 * kib},
+        {SearchMode::Audio, 2, 512 * kib}, {SearchMode::Audio, 3, fileBytes}, {SearchMode::Video, 0, 1024 * kib},
+        {SearchMode::Video, 1, fileBytes}};
+    for (const auto &[mode, depth, limit] : ways)
+        QCOMPARE(groupTexts(scan(mediaOptions(tree, mode, depth)), tree), groupsWithin(limit));
+    QVERIFY(groupsWithin(512 * kib) != groupsWithin(1024 * kib));
+    QVERIFY(groupsWithin(2048 * kib) != groupsWithin(fileBytes));
 }
 
 void SampledContentTest::narrowsStageByStage()

@@ -84,6 +84,7 @@ private slots:
     void fastMatchingAgrees();
     void clusters_data();
     void clusters();
+    void clustersLongNames();
     void clustersLikeTheRuleSays();
     void keys();
     void stopsWhenCancelled();
@@ -166,6 +167,7 @@ void SimilarNamesTest::fastMatchingAgrees_data()
     QTest::newRow("short") << 8 << 20000;
     QTest::newRow("as names are") << 30 << 3000;
     QTest::newRow("around a machine word") << 70 << 1500;
+    QTest::newRow("longest that go by bits") << 280 << 100;
 }
 
 void SimilarNamesTest::fastMatchingAgrees()
@@ -180,12 +182,13 @@ void SimilarNamesTest::fastMatchingAgrees()
             b.replace(static_cast<qsizetype>(random() % static_cast<quint32>(b.size())), random() % 2 ? 1 : 0,
                       randomName(random, 2));
         const qint32 distance = plainDistance(a, b);
-        for (const qint32 limit : {0, 1, 3, 7, 100}) {
+        for (const qint32 limit : {0, 1, 3, 7, 100, distance - 1}) {
             const QByteArray what = QStringLiteral("'%1' '%2' %3").arg(a, b).arg(limit).toUtf8();
             const bool isWithin = distance <= limit;
             QVERIFY2((boundedEditDistance(a, b, limit) <= limit) == isWithin, what.constData());
             QVERIFY2(EditMatcher(a).isWithin(b, limit) == isWithin, what.constData());
             QVERIFY2(!isWithin || mayBeWithin(nameSignature(a), nameSignature(b), limit), what.constData());
+            QVERIFY2(!isWithin || mayBeWithin(unitCounts(a), unitCounts(b), limit), what.constData());
             if (isWithin)
                 QCOMPARE(boundedEditDistance(a, b, limit), distance);
         }
@@ -215,6 +218,32 @@ void SimilarNamesTest::clusters()
     QFETCH(QStringList, names);
     QFETCH(qint32, tolerance);
     QTEST(clustersOf(names, tolerance), "expected");
+}
+
+/// So many long names of one length that they are cut into more pieces than short ones are: families of four, each name
+/// within eleven edits of its family's first and far from all others.
+void SimilarNamesTest::clustersLongNames()
+{
+    constexpr int length = 90;
+    std::mt19937 random(7);
+    const auto below = [&](int limit) { return static_cast<int>(random() % static_cast<quint32>(limit)); };
+    QStringList names;
+    QList<QStringList> families;
+    for (int i = 0; i < 1400; ++i) {
+        QString name = i % 4 == 0 ? QString() : families.constLast().constFirst();
+        while (name.size() < length)
+            name += QChar(u'a' + below(20));
+        for (int edits = i % 4 == 0 ? 0 : 5; edits > 0; --edits) {
+            name.remove(below(length), 1);
+            name.insert(below(length), QChar(u'x'));
+        }
+        if (i % 4 == 0)
+            families.append(QStringList());
+        families.last().append(name);
+        names.append(name);
+    }
+    std::sort(families.begin(), families.end());
+    QCOMPARE(clustersOf(names, 11), families);
 }
 
 void SimilarNamesTest::clustersLikeTheRuleSays()
