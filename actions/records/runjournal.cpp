@@ -84,7 +84,7 @@ bool RunJournalWriter::create(const QString &dataDirectory, RunHeader header, co
     m_id = header.id.isEmpty() ? newRunId(header.startedMs) : header.id;
     header.id = m_id;
     m_path = runJournalPath(dataDirectory, m_id);
-    if (!isRunId(m_id)) {
+    if (!isRunId(m_id) || dataDirectory.isEmpty()) { // else it would lie in the topmost folder
         m_error = unwritableText(m_path, m_id);
         return false;
     }

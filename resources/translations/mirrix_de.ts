@@ -2407,11 +2407,11 @@ Dateien, die nicht zurückgelegt werden können (%1):
     </message>
     <message>
         <source>释放 %1</source>
-        <translation>%1 freigeben</translation>
+        <translation>%1 leeren</translation>
     </message>
     <message>
         <source>释放备份</source>
-        <translation>Sicherung freigeben</translation>
+        <translation>Sicherungen löschen</translation>
     </message>
     <message>
         <source>恢复所选</source>

@@ -36,6 +36,7 @@ struct CleaningScene
 
     CleaningScene()
     {
+        settings.directory = path("data");
         settings.backupRoot = backup();
         commands.setBackupFolder(backup());
     }
