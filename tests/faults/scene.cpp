@@ -89,6 +89,8 @@ QStringList Scene::victims()
 QStringList Scene::arguments() const
 {
     const QStringList common = {u"--data-dir"_s, path(u"data"_s)};
+    if (m_isUndo)
+        return QStringList{u"undo"_s} + common + QStringList{u"--apply"_s, u"last"_s};
     if (m_method == u"restore")
         return QStringList{u"restore"_s} + common + QStringList{u"--target"_s, m_target, u"--all"_s};
     if (m_method == u"scan")
@@ -147,6 +149,32 @@ QString Scene::problem(int status, const QByteArray &output, bool mayMiss, bool 
     if (status == 0 && handled != all.size() && !mayMiss)
         return u"success told, %1 handled"_s.arg(handled);
     return {};
+}
+
+void Scene::turnToUndo()
+{
+    static_cast<void>(run(arguments()));
+    m_isUndo = true;
+}
+
+QString Scene::problemAfterUndo(const ProgramRun &undo, bool mayLeave) const
+{
+    const QStringList all = victims();
+    const auto homed = [&] {
+        return std::count_if(all.begin(), all.end(), [&](auto &file) { return isAtHome(file); });
+    };
+    if (!problemOfOthers().isEmpty())
+        return problemOfOthers();
+    static const QRegularExpression claim(u"(\\d+) of \\d+ files undone"_s);
+    const QRegularExpressionMatch said = claim.match(QString::fromUtf8(undo.output));
+    if ((undo.status == 0 || (said.hasMatch() && !mayLeave)) && said.captured(1).toInt() != homed())
+        return u"%1 are back, told: %2"_s.arg(homed()).arg(QString::fromUtf8(undo.output));
+    const QByteArray again = run(arguments());
+    if (homed() != all.size())
+        return u"%1 are back after a second undo, which told: %2"_s.arg(homed()).arg(QString::fromUtf8(again));
+    if (!problemOfOthers().isEmpty())
+        return problemOfOthers();
+    return mayLeave || !undo.errors.isEmpty() || leftover().isEmpty() ? QString() : u"left behind: "_s + leftover();
 }
 
 QString Scene::problemAfterRecovery() const

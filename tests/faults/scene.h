@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tests/support/disk.h"
+#include "tests/support/program.h"
 #include "tests/support/temptree.h"
 
 #include <QProcess>
@@ -48,6 +49,13 @@ public:
     /// The paths, below the scene, of the files that the flow is to handle.
     [[nodiscard]] static QStringList victims();
 
+    /// Runs the flow undisturbed; from then on the flow is to undo it.
+    void turnToUndo();
+
+    /// What is wrong on the disk after an undo, and after it was repeated. A link that could not be removed may be
+    /// left, if that was said.
+    [[nodiscard]] QString problemAfterUndo(const ProgramRun &undo, bool mayLeave) const;
+
     /// What is wrong on the disk after a run that ended with `status` and printed `output`; empty when all is well.
     /// `mayMiss`: the scan may not have seen every file. `mayLeave`: the program was kept from tidying up.
     [[nodiscard]] QString problem(int status, const QByteArray &output, bool mayMiss, bool mayLeave) const;
@@ -83,6 +91,7 @@ private:
     DiskTree m_before;
     bool m_mayLoseNotes = false;
     bool m_mayLoseKeepers = false;
+    bool m_isUndo = false;
 };
 
 } // namespace MirrixTest

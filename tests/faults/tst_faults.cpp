@@ -66,13 +66,16 @@ class FaultsTest : public QObject
 private slots:
     void cleaning_data();
     void cleaning();
+    void undoing_data();
+    void undoing();
     void scanning();
     void scanningWithoutThreads();
     void ownFiles_data();
     void ownFiles();
 
 private:
-    /// Runs `check` for every fault on every n-th call, and the flow before it, until the flow ends untouched.
+    /// Runs `check` for every fault on every n-th call, and the flow before it, until the flow ends untouched. With
+    /// "undo" for the action, the flow is to undo what the method did.
     void sweep(const QString &method, bool isOnOtherVolume, const QString &action,
                const std::function<QString(const Scene &, const Run &, const Fault &)> &check);
     [[nodiscard]] Run run(const Scene &scene, const QString &action, const Fault &fault, int number) const;
@@ -100,7 +103,7 @@ Run FaultsTest::run(const Scene &scene, const QString &action, const Fault &faul
     if (fault.isCut)
         environment.insert(u"MIRRIX_FAULT_CUT"_s, u"1"_s);
     process.setProcessEnvironment(environment);
-    if (action.isEmpty())
+    if (action.isEmpty() || action == u"undo")
         process.start(Program::builtExecutable(), scene.arguments());
     else
         process.start(QCoreApplication::applicationFilePath(), {u"--act"_s, action, scene.path({})});
@@ -121,6 +124,8 @@ void FaultsTest::sweep(const QString &method, bool isOnOtherVolume, const QStrin
         start = start % stride + 1;
         for (int number = start;; number += stride) {
             Scene scene(method, isOnOtherVolume);
+            if (action == u"undo")
+                scene.turnToUndo();
             if (fault.isCut)
                 scene.acceptEmptyNotes();
             if (m_world.contains(u"UNFLUSHED"_s))
@@ -171,6 +176,22 @@ void FaultsTest::cleaning()
         const QString problem =
             scene.problem(run.program.status, run.program.output, fault.code == ENOENT, !fault.isPassing());
         return problem.isEmpty() ? scene.problemAfterRecovery() : problem;
+    });
+}
+
+void FaultsTest::undoing_data()
+{
+    QTest::addColumn<QString>("method");
+    for (const char *method : {"recycle", "delete", "move", "symlink", "hardlink", "backup"})
+        QTest::newRow(method) << QString::fromLatin1(method);
+}
+
+/// Whatever fails while a run is undone, nothing is lost, and undoing it once more brings everything back.
+void FaultsTest::undoing()
+{
+    QFETCH(QString, method);
+    sweep(method, false, u"undo"_s, [](const Scene &scene, const Run &run, const Fault &fault) {
+        return scene.problemAfterUndo(run.program, !fault.isPassing());
     });
 }
 
