@@ -25,7 +25,7 @@ struct BatchControl
     [[nodiscard]] QString refusal(const QString &path) const { return guard ? guard(path) : QString(); }
 };
 
-/// What became of a batch.
+/// The outcome of a batch.
 struct BatchResult
 {
     qsizetype count = 0; ///< files handled successfully

@@ -25,7 +25,7 @@ struct ExportRequest
     bool operator==(const ExportRequest &) const = default;
 };
 
-/// What became of an export.
+/// The outcome of an export.
 struct ExportOutcome
 {
     bool isDone = false;

@@ -14,7 +14,7 @@ namespace Mirrix {
 
 struct CleaningServices;
 
-/// What is kept of a run while it goes on: the journal tells of each file what was planned and done, the backup index
+/// What is kept of a run while it goes on: the journal says for each file what was planned and done, the backup index
 /// lists each file that may be away from its place, and the log gets its line at the end. One run, one thread.
 class CleaningRecord
 {
