@@ -206,6 +206,7 @@ void useCache(const QString &dataDirectory)
     QFile probe;
     if (!makeFolders(folder) || !openNatively(probe, probePath, QIODevice::WriteOnly))
         printError(QStringLiteral("cannot write to %1; digests will not be cached").arg(folder));
+    probe.close(); // Windows removes no open file
     std::error_code failure;
     std::filesystem::remove(filesystemPath(probePath), failure);
 }
