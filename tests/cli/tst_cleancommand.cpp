@@ -502,7 +502,8 @@ void CleanCommandTest::mistakes_data()
     for (const QString &loose : {u"contentMatch=2"_s, u"searchMode=1"_s})
         row(u"clean --keep newest --method delete --set "_s + loose + u" /a"_s,
             u"clean acts on files of identical content only"_s);
-    row(u"clean --keep newest --method delete --exclude /a/typo /a"_s, u"cannot exclude /a/typo: no such folder"_s);
+    row(u"clean --keep newest --method delete --exclude /a/typo /a"_s,
+        u"cannot exclude %1: no such folder"_s.arg(MirrixCore::absolutePath(u"/a/typo"_s)));
     row(u"restore --all x"_s, u"--list, --all, --verify and ENTRY cannot be combined"_s);
     row(u"log --format csv"_s, u"--format must be text or json, not \"csv\""_s);
 }
