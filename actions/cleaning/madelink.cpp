@@ -73,7 +73,9 @@ void MadeLink::putBack() const
 
 bool MadeLink::removeAside() const
 {
-    return !isLinking(m_method) || !isOurs(asidePath()) || removeFile(asidePath()) == FileFault::None;
+    if (!isLinking(m_method) || pathState(asidePath()).kind == PathState::Kind::Missing)
+        return true;
+    return isOurs(asidePath()) && removeFile(asidePath()) == FileFault::None;
 }
 
 QString MadeLink::partPath() const
