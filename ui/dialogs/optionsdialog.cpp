@@ -74,7 +74,7 @@ OptionsDialog::OptionsDialog(Settings &settings, Prompts &prompts, QWidget *pare
     row->addWidget(m_pages, 1);
     showSettings();
     retranslate();
-    resize(720, 520);
+    resize(720, 580);
 
     connect(m_navigation, &QListWidget::currentRowChanged, this, &OptionsDialog::onPageChanged);
     connect(m_closeToTray, &QRadioButton::toggled, this, &OptionsDialog::onCloseActionChanged);
