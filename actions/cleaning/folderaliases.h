@@ -20,7 +20,7 @@ public:
     [[nodiscard]] bool isSameFile(const CleaningItem &item);
 
 private:
-    [[nodiscard]] bool areOne(const QString &folder, const QString &other);
+    [[nodiscard]] static bool areOne(const QString &folder, const QString &other);
 
     QHash<std::pair<QString, QString>, bool> m_known;
 };
