@@ -45,7 +45,7 @@ private:
 /// A record of something that happens now.
 [[nodiscard]] LogEntry logEntryNow(const QString &action, const QString &detail);
 
-/// The key of the log on this machine: 32 bytes. Derived anew at each call.
+/// The key of the log on this machine: 32 bytes. Derived again at each call.
 [[nodiscard]] QByteArray operationsLogKey();
 
 /// The log of a data directory.

@@ -9,7 +9,7 @@ class QAbstractItemView;
 namespace Mirrix {
 
 /// What an empty list says in its middle, such as what to do to fill it. Shows and hides itself as rows come and go,
-/// and asks for its text anew each time and in another language.
+/// and asks for its text again each time and in another language.
 class EmptyHint : public QLabel
 {
     Q_OBJECT

@@ -21,7 +21,7 @@ public:
     /// Fills `bar`; `language` is the code of the language to show as chosen.
     MainMenu(QMenuBar *bar, const QString &language);
 
-    /// Sets all texts anew in the current language.
+    /// Sets all texts again in the current language.
     void retranslate();
 
 signals:

@@ -16,7 +16,7 @@ class ResultsPage;
 class TrayIcon;
 
 /// What the main window says about its scans: window title, status bar, and the summary, progress and status line of
-/// the results page. Texts are given as functions that make them, and are made anew in another language.
+/// the results page. Texts are given as functions that make them, and are made again in another language.
 class ScanDisplay : public QObject
 {
     Q_OBJECT

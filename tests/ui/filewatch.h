@@ -22,7 +22,7 @@ public:
             m_tree.makeFolder(QString::fromLatin1(folder));
     }
 
-    /// Makes all files anew; what earlier ones became elsewhere stays.
+    /// Makes all files again; what earlier ones became elsewhere stays.
     void restock()
     {
         QDir(path(QStringLiteral("in"))).removeRecursively();

@@ -16,7 +16,7 @@ class GroupedModel : public QAbstractItemModel
     Q_OBJECT
 
 public:
-    /// To call when the list has been replaced, before anything else happens: all rows anew, unsorted and unfiltered.
+    /// To call when the list has been replaced, before anything else happens: all rows again, unsorted and unfiltered.
     /// O(1).
     void reload();
 
