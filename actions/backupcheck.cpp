@@ -2,7 +2,7 @@
 
 #include "actions/movefile.h"
 #include "core/hash/contenthash.h"
-#include "core/walk/pathrules.h"
+#include "core/platform/pathtext.h"
 
 #include <QDir>
 

@@ -2,7 +2,7 @@
 
 #include "actions/backupindex.h"
 #include "core/hash/contenthasher.h"
-#include "core/scan/scanprogress.h"
+#include "core/model/scanprogress.h"
 
 #include <QByteArray>
 #include <QString>

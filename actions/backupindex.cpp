@@ -4,7 +4,7 @@
 #include "actions/solelock.h"
 #include "app/storedfile.h"
 #include "core/platform/nativepath.h"
-#include "core/walk/pathrules.h"
+#include "core/platform/pathtext.h"
 
 #include <QFile>
 #include <QJsonArray>

@@ -3,7 +3,7 @@
 #include "actions/backupcheck.h"
 #include "actions/movefile.h"
 #include "core/platform/nativepath.h"
-#include "core/walk/pathrules.h"
+#include "core/platform/pathtext.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "actions/batch.h"
-#include "core/scan/scanresult.h"
+#include "core/model/scanresult.h"
 
 #include <QByteArrayView>
 #include <QList>

@@ -2,7 +2,7 @@
 
 #include "actions/movefile.h"
 #include "actions/recyclebin.h"
-#include "core/hash/filereader.h"
+#include "core/platform/filereader.h"
 #include "core/platform/nativepath.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #include "actions/movefile.h"
 
-#include "core/hash/filereader.h"
+#include "core/platform/filereader.h"
 
 #include <QDir>
 #include <QRandomGenerator>

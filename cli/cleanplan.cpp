@@ -6,7 +6,7 @@
 #include "cli/scancommand.h"
 #include "cli/selection.h"
 #include "core/platform/nativepath.h"
-#include "core/walk/pathrules.h"
+#include "core/platform/pathtext.h"
 
 #include <array>
 
@@ -72,7 +72,7 @@ void refuseRootsInside(const QString &folder, const ScanOptions &options)
 /// Only equal contents are proof enough to act without a person looking.
 void refuseLooseMatching(const ScanOptions &options)
 {
-    const bool isExact = options.searchMode == static_cast<qint32>(SearchMode::Files) &&
+    const bool isExact = options.mode() == SearchMode::Files &&
                          options.contentMatch == static_cast<qint32>(ContentMatch::Exact) &&
                          options.locations.isEmpty();
     if (!isExact)

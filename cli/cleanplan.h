@@ -1,7 +1,7 @@
 #pragma once
 
 #include "actions/cleaning/cleaningplan.h"
-#include "core/scan/scanoptions.h"
+#include "core/model/scanoptions.h"
 
 #include <QCommandLineParser>
 

@@ -13,7 +13,7 @@
 #include "cli/scancommand.h"
 #include "cli/undocommand.h"
 #include "core/platform/nativepath.h"
-#include "core/walk/pathrules.h"
+#include "core/platform/pathtext.h"
 
 #include <QCoreApplication>
 

@@ -1,6 +1,7 @@
 #include "cli/grouporder.h"
 
 #include "core/match/memberorder.h"
+#include "core/platform/pathtext.h"
 
 #include <algorithm>
 #include <utility>

@@ -3,11 +3,11 @@
 #include "cli/output.h"
 #include "cli/terminal.h"
 #include "core/hash/contenthash.h"
+#include "core/platform/filestatus.h"
 #include "core/platform/nativepath.h"
-#include "core/scan/threadpool.h"
+#include "core/platform/pathtext.h"
+#include "core/threads/threadpool.h"
 #include "core/walk/enumeration.h"
-#include "core/walk/filestatus.h"
-#include "core/walk/pathrules.h"
 
 #include <QtConcurrent>
 

@@ -8,12 +8,12 @@
 #include "core/cache/cacheroot.h"
 #include "core/cache/fingerprintcache.h"
 #include "core/hash/contenthasher.h"
-#include "core/media/imagefeature.h"
+#include "core/media/imagehash.h"
 #include "core/media/mediakinds.h"
 #include "core/media/metadata.h"
 #include "core/platform/nativepath.h"
+#include "core/platform/pathtext.h"
 #include "core/walk/enumeration.h"
-#include "core/walk/pathrules.h"
 
 #include <QDateTime>
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "cli/manpage.h"
 
 #include "cli/examples.h"
-#include "core/scan/optiontable.h"
+#include "core/model/optiontable.h"
 
 #include <QCoreApplication>
 

@@ -1,7 +1,7 @@
 #include "cli/optionscommand.h"
 
 #include "cli/output.h"
-#include "core/scan/optiontable.h"
+#include "core/model/optiontable.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -2,9 +2,9 @@
 
 #include "app/storedfile.h"
 #include "cli/terminal.h"
+#include "core/platform/filestatus.h"
 #include "core/platform/nativefileio.h"
 #include "core/platform/nativepath.h"
-#include "core/walk/filestatus.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -10,7 +10,7 @@
 #include "cli/progressline.h"
 #include "cli/terminal.h"
 #include "core/platform/nativepath.h"
-#include "core/walk/pathrules.h"
+#include "core/platform/pathtext.h"
 
 #include <algorithm>
 

@@ -13,10 +13,10 @@
 #include "core/cache/cacheroot.h"
 #include "core/match/rulekeys.h"
 #include "core/media/mediakinds.h"
+#include "core/model/optiontable.h"
 #include "core/platform/nativefileio.h"
 #include "core/platform/nativepath.h"
 #include "core/scan/duplicatescanner.h"
-#include "core/scan/optiontable.h"
 #include "core/walk/emptyfolders.h"
 
 #include <QCoreApplication>
@@ -111,15 +111,15 @@ void refuseWildcards(const QStringList &extensions)
 /// Whether files are grouped by rules alone.
 bool groupsByRules(const ScanOptions &options)
 {
-    switch (static_cast<SearchMode>(options.searchMode)) {
+    switch (options.mode()) {
     case SearchMode::Files:
         return options.contentMatch == static_cast<qint32>(ContentMatch::Ignore);
     case SearchMode::Images:
         return false;
     case SearchMode::Audio:
-        return options.mediaCompareDepth == 4;
+        return options.audioDepth() == AudioDepth::IgnoreContent;
     case SearchMode::Video:
-        return options.mediaCompareDepthAlt == 2;
+        return options.videoDepth() == VideoDepth::IgnoreContent;
     }
     return false;
 }
@@ -133,7 +133,7 @@ void refuseUnsupported(const ScanOptions &options)
     for (const ScanLocation &location : options.locations) {
         if (location.findKind < 0 || location.findKind > static_cast<qint32>(FindKind::EmptyFiles))
             throw UsageError{QStringLiteral("findKind must be from 0 to 2, not %1").arg(location.findKind)};
-        hasLocationRule = hasLocationRule || location.findKind != static_cast<qint32>(FindKind::ContentDuplicates);
+        hasLocationRule = hasLocationRule || location.kind() != FindKind::ContentDuplicates;
     }
     refuseWildcards(options.includeExtensions + options.excludeExtensions);
     const bool hasRule = hasRefiningRule(options) || hasLocationRule || options.audioMatchDuration ||
@@ -327,7 +327,7 @@ ScanOptions scanOptionsOf(const QCommandLineParser &parser)
         applyMode(parser.value(modeOption), options);
     refuseUnsupported(options);
     if (options.includeExtensions.isEmpty())
-        options.includeExtensions = extensionsOf(static_cast<SearchMode>(options.searchMode));
+        options.includeExtensions = extensionsOf(options.mode());
     return options;
 }
 

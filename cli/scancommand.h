@@ -1,8 +1,8 @@
 #pragma once
 
 #include "cli/commandline.h"
-#include "core/scan/scanoptions.h"
-#include "core/scan/scanresult.h"
+#include "core/model/scanoptions.h"
+#include "core/model/scanresult.h"
 
 namespace MirrixCli {
 

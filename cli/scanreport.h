@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cli/output.h"
-#include "core/scan/scanresult.h"
+#include "core/model/scanresult.h"
 
 #include <QStringList>
 

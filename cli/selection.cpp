@@ -3,10 +3,10 @@
 #include "cli/commandline.h"
 #include "cli/filelist.h"
 #include "cli/valuetexts.h"
+#include "core/model/optiontable.h"
+#include "core/platform/filestatus.h"
 #include "core/platform/nativepath.h"
-#include "core/scan/optiontable.h"
-#include "core/walk/filestatus.h"
-#include "core/walk/pathrules.h"
+#include "core/platform/pathtext.h"
 
 #include <QDateTime>
 #include <QDir>

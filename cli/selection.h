@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/scan/scanoptions.h"
+#include "core/model/scanoptions.h"
 
 #include <QCommandLineParser>
 

@@ -1,6 +1,6 @@
 #include "cli/shellcompletion.h"
 
-#include "core/scan/optiontable.h"
+#include "core/model/optiontable.h"
 
 #include <iterator>
 

@@ -1,7 +1,7 @@
 #include "cli/unread.h"
 
 #include "cli/output.h"
-#include "core/walk/pathrules.h"
+#include "core/platform/pathtext.h"
 #include "core/walk/systemplaces.h"
 
 #include <algorithm>

@@ -13,7 +13,7 @@
 #include "core/cache/fingerprintcache.h"
 #include "core/cache/imagefeaturecache.h"
 #include "core/match/rulekeys.h"
-#include "core/scan/optiontable.h"
+#include "core/model/optiontable.h"
 #include "ui/logic/extensiontext.h"
 #include "ui/logic/locationsjson.h"
 #include "ui/logic/rulessettings.h"

@@ -19,6 +19,11 @@ ALLOWED = {
     "bench": {"core", "app", "actions", "ui"},
     "tests": {"core", "app", "actions", "ui", "cli"},
 }
+# Wing -> its floors, each of which may include from those before it, and from itself; folders on one floor are
+# neighbours, which may not include from each other.
+FLOORS = {
+    "core": [["model"], ["platform"], ["threads"], ["walk", "hash", "media", "cache"], ["match"], ["scan"]],
+}
 # Single files that may reach further.
 EXTRA = {"app/main.cpp": {"ui", "actions"}}
 
@@ -42,6 +47,26 @@ def is_platform_source(path: str) -> bool:
     return path.endswith(("_windows.cpp", "_posix.cpp")) or path.startswith("core/platform/")
 
 
+def floor_of(path: str) -> int | None:
+    """The number of the floor that a file stands on; None where the wing has no floors."""
+    wing, _, rest = path.partition("/")
+    folder = rest.split("/")[0]
+    for number, folders in enumerate(FLOORS.get(wing, [])):
+        if folder in folders:
+            return number
+    return None
+
+
+def breaks_floors(path: str, target: str) -> bool:
+    """Whether the file at `path` includes `target` from a floor above its own or from a neighbour."""
+    if path.split("/")[0] != target.split("/")[0] or path.split("/")[0] not in FLOORS:
+        return False
+    own, other = floor_of(path), floor_of(target)
+    if own is None or other is None:
+        return True
+    return other > own or (other == own and path.split("/")[1] != target.split("/")[1])
+
+
 def faults_of(path: str, lines: list[str]) -> list[str]:
     wing = path.split("/")[0]
     allowed = ALLOWED[wing] | {wing} | EXTRA.get(path, set())
@@ -55,6 +80,8 @@ def faults_of(path: str, lines: list[str]) -> list[str]:
                 found.append(f"{path}:{number}: include from the root, not through ..")
             elif name.startswith('"') and target in ALLOWED and target not in allowed:
                 found.append(f"{path}:{number}: {wing}/ must not include from {target}/")
+            elif name.startswith('"') and breaks_floors(path, name.strip('"')):
+                found.append(f"{path}:{number}: {path.rpartition('/')[0]}/ must not include {name}")
             if wing not in ("ui", "tests", "bench") and path not in EXTRA:
                 if WIDGET.match(name) and name not in NOT_WIDGETS:
                     found.append(f"{path}:{number}: widget header below ui/")

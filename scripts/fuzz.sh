@@ -48,7 +48,7 @@ seed rulekey '{"sameName":true,"sameSize":true,"sameFolderPath":true,"folderPath
 {
     grep -ohE '"[A-Za-z]{2,30}"' app/settings.cpp core/cache/*.cpp actions/*.cpp actions/records/*.{h,cpp} \
         ui/logic/locationsjson.cpp | tr -d '"'
-    grep -ohE '[A-Za-z]+( = .*)?;' app/settings.h core/scan/scanoptions.h | grep -oE '^[A-Za-z]+'
+    grep -ohE '[A-Za-z]+( = .*)?;' app/settings.h core/model/scanoptions.h | grep -oE '^[A-Za-z]+'
 } | sort -u | sed 's/.*/"\\"&\\":"/' >build/fuzz/names.dict
 
 # In memory, where a flush costs nothing.

@@ -3,7 +3,7 @@
 #include "actions/records/logevents.h"
 #include "app/text.h"
 #include "app/translations.h"
-#include "core/scan/metatypes.h"
+#include "core/model/metatypes.h"
 #include "ui/caption.h"
 #include "ui/dialogs/hashtooldialog.h"
 #include "ui/dialogs/historydialog.h"

@@ -2,7 +2,7 @@
 
 #include "actions/operationslog.h"
 #include "app/settings.h"
-#include "core/scan/scanoptions.h"
+#include "core/model/scanoptions.h"
 #include "ui/dialogs/optionsdialog.h"
 #include "ui/logic/resultset.h"
 

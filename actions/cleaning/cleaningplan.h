@@ -1,8 +1,8 @@
 #pragma once
 
 #include "actions/keeprule.h"
-#include "core/scan/scanresult.h"
-#include "core/walk/filestatus.h"
+#include "core/model/scanresult.h"
+#include "core/platform/filestatus.h"
 
 #include <QList>
 #include <QString>

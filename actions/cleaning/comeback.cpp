@@ -7,7 +7,7 @@
 #include "actions/cleaning/undotexts.h"
 #include "actions/movefile.h"
 #include "core/platform/nativepath.h"
-#include "core/walk/pathrules.h"
+#include "core/platform/pathtext.h"
 
 #include <QCoreApplication>
 

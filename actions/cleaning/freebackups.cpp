@@ -3,7 +3,7 @@
 #include "actions/movefile.h"
 #include "actions/records/runjournal.h"
 #include "core/platform/nativepath.h"
-#include "core/walk/pathrules.h"
+#include "core/platform/pathtext.h"
 
 #include <QCoreApplication>
 #include <QHash>

@@ -2,8 +2,8 @@
 
 #include "actions/fileaccess.h"
 #include "actions/movefile.h"
-#include "core/hash/filereader.h"
 #include "core/hash/samples.h"
+#include "core/platform/filereader.h"
 
 #include <QCoreApplication>
 

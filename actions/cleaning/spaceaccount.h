@@ -1,7 +1,7 @@
 #pragma once
 
 #include "actions/cleaning/cleaningplan.h"
-#include "core/walk/filestatus.h"
+#include "core/platform/filestatus.h"
 
 #include <QHash>
 

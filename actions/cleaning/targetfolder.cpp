@@ -1,7 +1,7 @@
 #include "actions/cleaning/targetfolder.h"
 
 #include "actions/movefile.h"
-#include "core/walk/filestatus.h"
+#include "core/platform/filestatus.h"
 
 namespace Mirrix {
 

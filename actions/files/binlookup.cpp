@@ -1,7 +1,7 @@
 #include "actions/files/binlookup.h"
 
 #include "actions/movefile.h"
-#include "core/hash/filereader.h"
+#include "core/platform/filereader.h"
 #include "core/platform/nativepath.h"
 #include "core/walk/folderreader.h"
 

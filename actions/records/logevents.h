@@ -2,8 +2,8 @@
 
 #include "actions/cleaning/cleaningplan.h"
 #include "actions/operationslog.h"
-#include "core/scan/scanoptions.h"
-#include "core/scan/scanresult.h"
+#include "core/model/scanoptions.h"
+#include "core/model/scanresult.h"
 
 #include <QString>
 

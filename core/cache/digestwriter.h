@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/cache/fingerprintcache.h"
-#include "core/scan/fileentry.h"
-#include "core/scan/scanprogress.h"
+#include "core/model/fileentry.h"
+#include "core/model/scanprogress.h"
 
 #include <QElapsedTimer>
 

@@ -1,8 +1,8 @@
 #include "core/cache/fingerprintcache.h"
 
 #include "core/cache/cacheroot.h"
-#include "core/hash/contenthasher.h"
-#include "core/hash/filereader.h"
+#include "core/model/hashalgorithm.h"
+#include "core/platform/filereader.h"
 #include "core/platform/nativefileio.h"
 #include "core/platform/nativepath.h"
 

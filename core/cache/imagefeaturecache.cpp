@@ -1,7 +1,7 @@
 #include "core/cache/imagefeaturecache.h"
 
 #include "core/cache/cacheroot.h"
-#include "core/hash/filereader.h"
+#include "core/platform/filereader.h"
 #include "core/platform/nativefileio.h"
 #include "core/platform/nativepath.h"
 

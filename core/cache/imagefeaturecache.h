@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/media/imagefeature.h"
+#include "core/model/imagefeature.h"
 
 namespace MirrixCore {
 

@@ -1,8 +1,8 @@
 #include "core/hash/contenthash.h"
 
-#include "core/hash/filereader.h"
-#include "core/hash/mappedreader.h"
 #include "core/hash/samples.h"
+#include "core/platform/filereader.h"
+#include "core/platform/mappedreader.h"
 
 #include <algorithm>
 #include <array>

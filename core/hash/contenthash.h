@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/hash/contenthasher.h"
-#include "core/scan/scanprogress.h"
+#include "core/model/scanprogress.h"
 
 #include <QByteArray>
 #include <QCryptographicHash>

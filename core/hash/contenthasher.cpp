@@ -2,38 +2,7 @@
 
 #include <blake3.h>
 
-#include <atomic>
-
 namespace MirrixCore {
-
-namespace {
-std::atomic<ContentHashAlgorithm> currentAlgorithm = ContentHashAlgorithm::Md5;
-}
-
-void setContentHashAlgorithm(ContentHashAlgorithm algorithm)
-{
-    currentAlgorithm = algorithm;
-}
-
-ContentHashAlgorithm contentHashAlgorithm()
-{
-    return currentAlgorithm;
-}
-
-ContentHashAlgorithm contentHashAlgorithmFrom(const QString &name)
-{
-    return name == QLatin1String("blake3") ? ContentHashAlgorithm::Blake3 : ContentHashAlgorithm::Md5;
-}
-
-QString currentHashAlgorithmName()
-{
-    return contentHashAlgorithm() == ContentHashAlgorithm::Blake3 ? QStringLiteral("blake3") : QStringLiteral("md5");
-}
-
-int currentDigestLength()
-{
-    return contentHashAlgorithm() == ContentHashAlgorithm::Blake3 ? BLAKE3_OUT_LEN : 16;
-}
 
 namespace {
 

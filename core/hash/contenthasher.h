@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/model/hashalgorithm.h"
+
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QCryptographicHash>
@@ -7,26 +9,6 @@
 #include <memory>
 
 namespace MirrixCore {
-
-/// The process-wide choice of the digest that content comparison uses.
-enum class ContentHashAlgorithm : int
-{
-    Md5 = 0,
-    Blake3 = 1
-};
-
-/// Sets the choice. Call between scans only; thread-safe.
-void setContentHashAlgorithm(ContentHashAlgorithm algorithm);
-[[nodiscard]] ContentHashAlgorithm contentHashAlgorithm();
-
-/// "blake3" gives Blake3; any other text, whatever its case, Md5.
-[[nodiscard]] ContentHashAlgorithm contentHashAlgorithmFrom(const QString &name);
-
-/// "blake3" or "md5", the current choice.
-[[nodiscard]] QString currentHashAlgorithmName();
-
-/// Bytes in a digest of the current choice: 32 or 16.
-[[nodiscard]] int currentDigestLength();
 
 /// One digest being computed. Not thread-safe; make one per file.
 class ContentHasher

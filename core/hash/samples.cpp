@@ -1,7 +1,7 @@
 #include "core/hash/samples.h"
 
 #include "core/hash/contenthash.h"
-#include "core/hash/filereader.h"
+#include "core/platform/filereader.h"
 
 #include <algorithm>
 #include <array>

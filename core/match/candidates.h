@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/match/digest.h"
-#include "core/scan/fileentry.h"
+#include "core/model/fileentry.h"
 
 #include <QList>
 

@@ -1,6 +1,6 @@
 #include "core/match/contentgroups.h"
 
-#include "core/match/hardlinks.h"
+#include "core/match/groups.h"
 #include "core/match/rulekeys.h"
 
 namespace MirrixCore {
@@ -35,13 +35,10 @@ void collectGroups(Candidates &candidates, const QList<FileEntry> &files, Shared
     }
 }
 
-void finishContentGroups(ScanResult &result, const ScanOptions &options, const CancelQuery &cancelled)
+void finishContentGroups(ScanResult &result, const ScanContext &context)
 {
-    result.groups = refineGroupsByRuleKeys(result.groups, options, cancelled);
-    if (options.collapseHardLinks)
-        collapseHardLinks(result.groups);
-    result.wastedBytes = totalWaste(result.groups);
-    sortByWaste(result.groups);
+    result.groups = refineGroupsByRuleKeys(result.groups, context.options, context.cancelled);
+    finishResult(result, context.options);
 }
 
 } // namespace MirrixCore

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "core/match/candidates.h"
-#include "core/scan/scanoptions.h"
-#include "core/scan/scanprogress.h"
-#include "core/scan/scanresult.h"
+#include "core/model/scancontext.h"
+#include "core/model/scanresult.h"
 
 namespace MirrixCore {
 
@@ -22,6 +21,6 @@ void collectGroups(Candidates &candidates, const QList<FileEntry> &files, Shared
 
 /// What every matcher of contents does to its groups at last: splits them by the rules that are on, drops further names
 /// of one file when asked to, counts the waste and sorts by it.
-void finishContentGroups(ScanResult &result, const ScanOptions &options, const CancelQuery &cancelled);
+void finishContentGroups(ScanResult &result, const ScanContext &context);
 
 } // namespace MirrixCore

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/scan/scanresult.h"
+#include "core/model/scanresult.h"
 
 namespace MirrixCore {
 

@@ -1,14 +1,12 @@
-#include "core/scan/duplicatescanner.h"
+#include "core/match/exact.h"
 
 #include "core/cache/cacheroot.h"
 #include "core/cache/digestwriter.h"
 #include "core/cache/fingerprintcache.h"
 #include "core/hash/contenthash.h"
-#include "core/match/candidates.h"
+#include "core/match/candidatestage.h"
 #include "core/match/contentgroups.h"
-#include "core/match/parallel.h"
 #include "core/match/unreadfiles.h"
-#include "core/scan/threadpool.h"
 
 namespace MirrixCore {
 
@@ -18,54 +16,43 @@ namespace {
 class ExactScan
 {
 public:
-    ExactScan(const QList<FileEntry> &files, const ScanOptions &options, const ProgressCallback &progress,
-              const CancelQuery &cancelled)
+    ExactScan(const QList<FileEntry> &files, const ScanContext &context)
         : m_files(files)
-        , m_options(options)
-        , m_progress(progress)
-        , m_cancelled(cancelled)
+        , m_context(context)
         , m_usesCache(!cacheRoot().isEmpty())
-        , m_writer(cancelled)
+        , m_writer(context.cancelled)
     {}
 
     ScanResult run()
     {
-        m_result = resultOn(m_files);
+        ScanResult result = resultOn(m_files);
         Candidates candidates = filesOfSharedSize(m_files);
-        m_result.candidates = static_cast<qint64>(candidates.size());
-        sizeThreadPool(m_options);
-
-        hashQuick(candidates);
-        if (isCancelled(m_cancelled))
-            return finished();
-        const qsizetype shared = moveSharedToFront(candidates);
-        hashFull(candidates, shared);
-        if (isCancelled(m_cancelled))
-            return finished();
-        candidates.resize(static_cast<size_t>(shared));
-        collectGroups(candidates, m_files, Shared::Full, true, m_result);
-        finishContentGroups(m_result, m_options, m_cancelled);
-        return finished();
+        result.candidates = std::ssize(candidates);
+        hashEach(m_context, Phase::QuickHash, m_files, candidates, [this](Candidate &one) { hashQuick(one); });
+        if (!m_context.isCancelled()) {
+            candidates.resize(static_cast<size_t>(moveSharedToFront(candidates)));
+            hashEach(m_context, Phase::FullHash, m_files, candidates, [this](Candidate &one) { hashWhole(one); });
+        }
+        if (!m_context.isCancelled()) {
+            collectGroups(candidates, m_files, Shared::Full, true, result);
+            finishContentGroups(result, m_context);
+        }
+        m_writer.finish();
+        result.unread = m_unread.take();
+        return result;
     }
 
 private:
-    void hashQuick(Candidates &candidates)
+    void hashQuick(Candidate &candidate)
     {
-        StageProgress progress(m_progress, Phase::QuickHash, m_files.size(), std::ssize(candidates));
-        forEachParallel(std::ssize(candidates), [&](qsizetype i) {
-            if (isCancelled(m_cancelled))
-                return;
-            Candidate &candidate = candidates[static_cast<size_t>(i)];
+        if (m_usesCache) {
             const FileEntry &file = m_files[candidate.file];
-            if (m_usesCache) {
-                const Fingerprint known = lookupFingerprint(file.path, file.size, file.modifiedMs);
-                candidate.quick = Digest(known.quick);
-                candidate.full = Digest(known.full);
-            }
-            if (candidate.quick.isEmpty())
-                hashStart(candidate);
-            progress.step(file.path);
-        });
+            const Fingerprint known = lookupFingerprint(file.path, file.size, file.modifiedMs);
+            candidate.quick = Digest(known.quick);
+            candidate.full = Digest(known.full);
+        }
+        if (candidate.quick.isEmpty())
+            hashStart(candidate);
     }
 
     /// A small file is read only once, for both digests: opening it again costs more than hashing it.
@@ -83,25 +70,14 @@ private:
         remember(candidate, notes);
     }
 
-    void hashFull(Candidates &candidates, qsizetype count)
-    {
-        StageProgress progress(m_progress, Phase::FullHash, m_files.size(), count);
-        forEachParallel(count, [&](qsizetype i) {
-            if (isCancelled(m_cancelled))
-                return;
-            Candidate &candidate = candidates[static_cast<size_t>(i)];
-            hashWhole(candidate);
-            progress.step(m_files[candidate.file].path);
-        });
-    }
-
     void hashWhole(Candidate &candidate)
     {
         const FileEntry &file = m_files[candidate.file];
         if (!candidate.full.isEmpty())
             return;
         HashNotes notes;
-        candidate.full = Digest(m_unread.accepted(file, fullContentHash(file.path, m_cancelled, &notes), notes));
+        candidate.full =
+            Digest(m_unread.accepted(file, fullContentHash(file.path, m_context.cancelled, &notes), notes));
         if (!candidate.full.isEmpty())
             remember(candidate, notes);
     }
@@ -115,29 +91,18 @@ private:
             m_writer.add(file, {candidate.quick.bytes(), candidate.full.bytes()});
     }
 
-    ScanResult finished()
-    {
-        m_writer.finish();
-        m_result.unread = m_unread.take();
-        return std::move(m_result);
-    }
-
     const QList<FileEntry> &m_files;
-    const ScanOptions &m_options;
-    const ProgressCallback &m_progress;
-    const CancelQuery &m_cancelled;
+    const ScanContext &m_context;
     const bool m_usesCache;
     UnreadFiles m_unread;
     DigestWriter m_writer;
-    ScanResult m_result;
 };
 
 } // namespace
 
-ScanResult DuplicateScanner::scanExact(QList<FileEntry> files, const ScanOptions &options,
-                                       const ProgressCallback &progress, const CancelQuery &cancelled)
+ScanResult matchExact(const QList<FileEntry> &files, const ScanContext &context)
 {
-    return ExactScan(files, options, progress, cancelled).run();
+    return ExactScan(files, context).run();
 }
 
 } // namespace MirrixCore

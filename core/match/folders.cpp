@@ -2,8 +2,8 @@
 
 #include "core/match/foldertree.h"
 #include "core/match/groups.h"
-#include "core/scan/locationkinds.h"
-#include "core/walk/pathrules.h"
+#include "core/match/locationkinds.h"
+#include "core/platform/pathtext.h"
 
 #include <QSet>
 
@@ -19,13 +19,13 @@ namespace {
 /// Whether the matches of this search are matches of contents.
 bool comparesContents(const ScanOptions &options)
 {
-    switch (static_cast<SearchMode>(options.searchMode)) {
+    switch (options.mode()) {
     case SearchMode::Files:
         return options.contentMatch == static_cast<qint32>(ContentMatch::Exact);
     case SearchMode::Audio:
-        return options.mediaCompareDepth != 4;
+        return options.audioDepth() != AudioDepth::IgnoreContent;
     case SearchMode::Video:
-        return options.mediaCompareDepthAlt != 2;
+        return options.videoDepth() != VideoDepth::IgnoreContent;
     case SearchMode::Images:
         break;
     }

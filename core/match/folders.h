@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/scan/scanoptions.h"
-#include "core/scan/scanresult.h"
+#include "core/model/scanoptions.h"
+#include "core/model/scanresult.h"
 #include "core/walk/enumeration.h"
 
 namespace MirrixCore {

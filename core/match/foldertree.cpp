@@ -1,6 +1,7 @@
 #include "core/match/foldertree.h"
 
 #include "core/match/groups.h"
+#include "core/platform/pathtext.h"
 
 #include <algorithm>
 #include <functional>

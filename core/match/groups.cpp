@@ -1,5 +1,8 @@
 #include "core/match/groups.h"
 
+#include "core/match/hardlinks.h"
+#include "core/platform/pathtext.h"
+
 #include <algorithm>
 
 namespace MirrixCore {
@@ -15,18 +18,6 @@ bool isInOneFolder(const DuplicateGroup &group)
 
 } // namespace
 
-QStringView folderOf(QStringView path)
-{
-    const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
-    const bool isRoot = slash == 0 || (slash == 2 && path[1] == QLatin1Char(':'));
-    return path.left(isRoot ? slash + 1 : std::max<qsizetype>(slash, 0));
-}
-
-QStringView nameOf(QStringView path)
-{
-    return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
-}
-
 void finishGroups(QList<DuplicateGroup> &groups, const ScanOptions &options)
 {
     groups.removeIf([&](const DuplicateGroup &group) {
@@ -34,6 +25,14 @@ void finishGroups(QList<DuplicateGroup> &groups, const ScanOptions &options)
     });
     for (DuplicateGroup &group : groups)
         group.wastedBytes = wasteOf(group.files);
+}
+
+void finishResult(ScanResult &result, const ScanOptions &options)
+{
+    if (options.collapseHardLinks)
+        collapseHardLinks(result.groups);
+    result.wastedBytes = totalWaste(result.groups);
+    sortByWaste(result.groups);
 }
 
 } // namespace MirrixCore

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "core/media/imagefeature.h"
-#include "core/scan/scanoptions.h"
-#include "core/scan/scanprogress.h"
-#include "core/scan/scanresult.h"
+#include "core/media/imagehash.h"
+#include "core/model/scanoptions.h"
+#include "core/model/scanprogress.h"
+#include "core/model/scanresult.h"
 
 #include <vector>
 

@@ -1,13 +1,12 @@
-#include "core/scan/duplicatescanner.h"
+#include "core/match/images.h"
 
 #include "core/cache/cacheroot.h"
 #include "core/cache/imagefeaturecache.h"
-#include "core/match/hardlinks.h"
+#include "core/match/groups.h"
 #include "core/match/imageclusters.h"
-#include "core/match/parallel.h"
 #include "core/media/mediafacts.h"
 #include "core/media/pictures.h"
-#include "core/scan/threadpool.h"
+#include "core/threads/stage.h"
 
 #include <algorithm>
 #include <optional>
@@ -47,49 +46,36 @@ std::optional<ImageFeature> fitted(ImageFeature feature, const FeatureRequest &r
 class ImageScan
 {
 public:
-    ImageScan(QList<FileEntry> &files, const ScanOptions &options, const ProgressCallback &progress,
-              const CancelQuery &cancelled)
+    ImageScan(QList<FileEntry> &files, const ScanContext &context)
         : m_files(files)
-        , m_options(options)
-        , m_progress(progress)
-        , m_cancelled(cancelled)
-        , m_request(requestOf(options))
-        , m_usesCache(options.imageUseFeatureCache && !cacheRoot().isEmpty())
-        , m_needsSizes(options.imageSameDimensions || options.imageSameAspect)
+        , m_context(context)
+        , m_request(requestOf(context.options))
+        , m_usesCache(context.options.imageUseFeatureCache && !cacheRoot().isEmpty())
+        , m_needsSizes(context.options.imageSameDimensions || context.options.imageSameAspect)
         , m_features(static_cast<size_t>(files.size()))
     {}
 
     ScanResult run()
     {
-        ScanResult result;
-        result.filesScanned = m_files.size();
-        for (const FileEntry &file : m_files)
-            result.totalBytes += file.size;
+        ScanResult result = resultOn(m_files);
         readFeatures();
         result.candidates = std::count_if(m_features.begin(), m_features.end(),
                                           [](const ImageFeature &feature) { return feature.isValid; });
-        if (isCancelled(m_cancelled))
+        if (m_context.isCancelled())
             return result;
-        result.groups = groupSimilarImages(m_files, m_features, m_options, m_cancelled);
-        if (m_options.collapseHardLinks)
-            collapseHardLinks(result.groups);
-        result.wastedBytes = totalWaste(result.groups);
-        sortByWaste(result.groups);
+        result.groups = groupSimilarImages(m_files, m_features, m_context.options, m_context.cancelled);
+        finishResult(result, m_context.options);
         return result;
     }
 
 private:
     void readFeatures()
     {
-        sizeThreadPool(m_options);
-        StageProgress stage(m_progress, Phase::ImageHash, m_files.size(), m_files.size());
         FileEntry *const files = m_files.data(); // detached once, before the threads start
-        forEachParallel(m_files.size(), [&](qsizetype i) {
-            if (isCancelled(m_cancelled))
-                return;
-            m_features[static_cast<size_t>(i)] = featureOf(files[i]);
-            stage.step(files[i].path);
-        });
+        runStage(
+            m_context, Phase::ImageHash, m_files.size(), m_files.size(),
+            [&](qsizetype i) { m_features[static_cast<size_t>(i)] = featureOf(files[i]); },
+            [&](qsizetype i) -> const QString & { return files[i].path; });
     }
 
     ImageFeature featureOf(FileEntry &file) const
@@ -107,10 +93,10 @@ private:
 
     ImageFeature computedFeature(FileEntry &file) const
     {
-        const PictureBytes picture = readPicture(file.path, m_request.useRawPreview, m_cancelled);
+        const PictureBytes picture = readPicture(file.path, m_request.useRawPreview, m_context.cancelled);
         if (m_needsSizes)
             setSize(file, pictureSize(picture.bytes));
-        const ImageFeature feature = imageFeatureOf(picture.bytes, m_request, m_cancelled);
+        const ImageFeature feature = imageFeatureOf(picture.bytes, m_request, m_context.cancelled);
         const bool isAsListed = picture.sizeBytes == file.size && picture.modifiedMs == file.modifiedMs;
         if (m_usesCache && isAsListed)
             storeImageFeature(file.path, file.size, file.modifiedMs, feature);
@@ -118,9 +104,7 @@ private:
     }
 
     QList<FileEntry> &m_files;
-    const ScanOptions &m_options;
-    const ProgressCallback &m_progress;
-    const CancelQuery &m_cancelled;
+    const ScanContext &m_context;
     const FeatureRequest m_request;
     const bool m_usesCache;
     const bool m_needsSizes;
@@ -129,10 +113,9 @@ private:
 
 } // namespace
 
-ScanResult DuplicateScanner::scanSimilarImages(QList<FileEntry> files, const ScanOptions &options,
-                                               const ProgressCallback &progress, const CancelQuery &cancelled)
+ScanResult matchImages(QList<FileEntry> files, const ScanContext &context)
 {
-    return ImageScan(files, options, progress, cancelled).run();
+    return ImageScan(files, context).run();
 }
 
 } // namespace MirrixCore

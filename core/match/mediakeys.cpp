@@ -151,7 +151,7 @@ bool imageTagsDiffer(const FileEntry &a, const FileEntry &b, const ScanOptions &
 
 QStringList mediaKeyParts(const FileEntry &entry, const ScanOptions &options)
 {
-    switch (static_cast<SearchMode>(options.searchMode)) {
+    switch (options.mode()) {
     case SearchMode::Images:
         return imageParts(entry, options);
     case SearchMode::Audio:

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/scan/fileentry.h"
-#include "core/scan/scanoptions.h"
+#include "core/model/fileentry.h"
+#include "core/model/scanoptions.h"
 
 #include <QStringList>
 

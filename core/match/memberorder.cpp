@@ -3,6 +3,7 @@
 #include "core/match/emptyfiles.h"
 #include "core/match/groups.h"
 #include "core/match/similarnames.h"
+#include "core/platform/pathtext.h"
 
 #include <QRegularExpression>
 
@@ -61,21 +62,6 @@ bool hasCopyWord(const QString &name)
     const bool mayMatch =
         base.endsWith(QLatin1Char(')')) || base.startsWith(QLatin1String("copy "), Qt::CaseInsensitive);
     return mayMatch && words.match(base).hasMatch();
-}
-
-int compareCodePoints(QStringView a, QStringView b)
-{
-    // By units, characters beyond the basic plane, which are pairs of surrogates, would come before U+E000 to U+FFFF.
-    const auto rank = [](char16_t unit) -> int {
-        if (unit < 0xD800)
-            return unit;
-        return unit < 0xE000 ? unit + 0x2000 : unit - 0x800;
-    };
-    const auto [inA, inB] = std::mismatch(a.utf16(), a.utf16() + std::min(a.size(), b.size()), b.utf16());
-    const qsizetype equal = inA - a.utf16();
-    if (equal == std::min(a.size(), b.size()))
-        return a.size() < b.size() ? -1 : a.size() > b.size() ? 1 : 0;
-    return rank(*inA) - rank(*inB);
 }
 
 void orderMembers(QList<DuplicateGroup> &groups)

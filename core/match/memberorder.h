@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/scan/scanresult.h"
+#include "core/model/scanresult.h"
 
 #include <QStringView>
 
@@ -9,10 +9,6 @@ namespace MirrixCore {
 /// Whether a file name says that the file is a copy: at its end, extension aside, as stripCopySuffix knows it or as
 /// "(copy)", "(another copy)", "(copy 2)", or at its start as "Copy of", "Copy (2) of". Thread-safe.
 [[nodiscard]] bool hasCopyWord(const QString &name);
-
-/// Orders paths by their code points, the same on every system. Negative, 0 or positive as `a` comes before, with or
-/// after `b`.
-[[nodiscard]] int compareCodePoints(QStringView a, QStringView b);
 
 /// Sorts the files of each group: names without copy words first, then shorter paths, then by code points; and the
 /// groups by wastedBytes, largest first, then by their first paths. The order of a walk is the file system's whim, and

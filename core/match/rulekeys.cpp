@@ -1,12 +1,11 @@
 #include "core/match/rulekeys.h"
 
 #include "core/match/groups.h"
-#include "core/match/hardlinks.h"
 #include "core/match/mediakeys.h"
-#include "core/match/parallel.h"
 #include "core/match/rootprefixes.h"
 #include "core/match/similarnames.h"
-#include "core/walk/pathrules.h"
+#include "core/platform/pathtext.h"
+#include "core/threads/stage.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -190,10 +189,7 @@ ScanResult groupByRuleKeys(const QList<FileEntry> &files, const ScanOptions &opt
     const RuleKeys keys(options, includeMedia);
     const QList<Bucket> buckets = sharedBuckets(files, keys, options.similarNames, cancelled, progress);
     result.groups = groupsOf(buckets, {}, QStringLiteral("%1|SFN:%2"), options, cancelled, progress);
-    if (options.collapseHardLinks)
-        collapseHardLinks(result.groups);
-    result.wastedBytes = totalWaste(result.groups);
-    sortByWaste(result.groups);
+    finishResult(result, options);
     return result;
 }
 

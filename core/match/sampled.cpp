@@ -1,12 +1,10 @@
-#include "core/scan/duplicatescanner.h"
+#include "core/match/sampled.h"
 
 #include "core/cache/fingerprintcache.h"
 #include "core/hash/contenthash.h"
-#include "core/match/candidates.h"
+#include "core/match/candidatestage.h"
 #include "core/match/contentgroups.h"
-#include "core/match/parallel.h"
 #include "core/match/unreadfiles.h"
-#include "core/scan/threadpool.h"
 
 namespace MirrixCore {
 
@@ -16,12 +14,9 @@ namespace {
 class SampledScan
 {
 public:
-    SampledScan(const QList<FileEntry> &files, const ScanOptions &options, const ProgressCallback &progress,
-                const CancelQuery &cancelled, qint64 prefixLimitBytes)
+    SampledScan(const QList<FileEntry> &files, const ScanContext &context, qint64 prefixLimitBytes)
         : m_files(files)
-        , m_options(options)
-        , m_progress(progress)
-        , m_cancelled(cancelled)
+        , m_context(context)
         , m_limit(prefixLimitBytes)
     {}
 
@@ -30,34 +25,20 @@ public:
         ScanResult result = resultOn(m_files);
         Candidates candidates = filesOfSharedSize(m_files);
         result.candidates = std::ssize(candidates);
-        sizeThreadPool(m_options);
-        hashStage(Phase::SampleHash, candidates, [this](Candidate &candidate) { hashSamples(candidate); });
-        if (!isCancelled(m_cancelled)) {
+        hashEach(m_context, Phase::SampleHash, m_files, candidates, [this](Candidate &one) { hashSamples(one); });
+        if (!m_context.isCancelled()) {
             candidates.resize(static_cast<size_t>(moveSharedToFront(candidates)));
-            hashStage(Phase::PrefixHash, candidates, [this](Candidate &candidate) { hashPrefix(candidate); });
+            hashEach(m_context, Phase::PrefixHash, m_files, candidates, [this](Candidate &one) { hashPrefix(one); });
         }
-        if (!isCancelled(m_cancelled)) {
+        if (!m_context.isCancelled()) {
             collectGroups(candidates, m_files, Shared::QuickAndFull, m_limit < 1, result);
-            finishContentGroups(result, m_options, m_cancelled);
+            finishContentGroups(result, m_context);
         }
         result.unread = m_unread.take();
         return result;
     }
 
 private:
-    template <typename Hash>
-    void hashStage(const QString &phase, Candidates &candidates, Hash hash)
-    {
-        StageProgress progress(m_progress, phase, m_files.size(), std::ssize(candidates));
-        forEachParallel(std::ssize(candidates), [&](qsizetype i) {
-            if (isCancelled(m_cancelled))
-                return;
-            Candidate &candidate = candidates[static_cast<size_t>(i)];
-            hash(candidate);
-            progress.step(m_files[candidate.file].path);
-        });
-    }
-
     void hashSamples(Candidate &candidate)
     {
         const FileEntry &file = m_files[candidate.file];
@@ -73,7 +54,8 @@ private:
             return;
         }
         HashNotes notes;
-        candidate.full = Digest(m_unread.accepted(file, prefixHash(file.path, m_limit, m_cancelled, &notes), notes));
+        candidate.full =
+            Digest(m_unread.accepted(file, prefixHash(file.path, m_limit, m_context.cancelled, &notes), notes));
     }
 
     /// The digest of the whole file is the one that exact scans remember.
@@ -86,7 +68,7 @@ private:
             return;
         }
         HashNotes notes;
-        full = m_unread.accepted(file, fullContentHash(file.path, m_cancelled, &notes), notes);
+        full = m_unread.accepted(file, fullContentHash(file.path, m_context.cancelled, &notes), notes);
         candidate.full = Digest(full);
         if (!full.isEmpty() && notes.sizeBytes == file.size && notes.modifiedMs == file.modifiedMs)
             remember(file, full);
@@ -104,20 +86,16 @@ private:
     }
 
     const QList<FileEntry> &m_files;
-    const ScanOptions &m_options;
-    const ProgressCallback &m_progress;
-    const CancelQuery &m_cancelled;
+    const ScanContext &m_context;
     const qint64 m_limit;
     UnreadFiles m_unread;
 };
 
 } // namespace
 
-ScanResult DuplicateScanner::scanSampledContent(QList<FileEntry> files, const ScanOptions &options,
-                                                const ProgressCallback &progress, const CancelQuery &cancelled,
-                                                qint64 prefixLimitBytes)
+ScanResult matchSampled(const QList<FileEntry> &files, const ScanContext &context, qint64 prefixLimitBytes)
 {
-    return SampledScan(files, options, progress, cancelled, prefixLimitBytes).run();
+    return SampledScan(files, context, prefixLimitBytes).run();
 }
 
 } // namespace MirrixCore

@@ -3,11 +3,9 @@
 #include "core/hash/samples.h"
 #include "core/match/candidates.h"
 #include "core/match/contentgroups.h"
-#include "core/match/parallel.h"
 #include "core/match/sampletiles.h"
 #include "core/match/unreadfiles.h"
-#include "core/scan/duplicatescanner.h"
-#include "core/scan/threadpool.h"
+#include "core/threads/stage.h"
 
 #include <map>
 
@@ -30,14 +28,12 @@ Digest digestOf(QByteArrayView bytes)
 class SimilarScan
 {
 public:
-    SimilarScan(const QList<FileEntry> &files, const ScanOptions &options, const ProgressCallback &progress,
-                const CancelQuery &cancelled, qint64 memoryBytes)
+    SimilarScan(const QList<FileEntry> &files, const ScanContext &context, qint64 memoryBytes)
         : m_files(files)
-        , m_options(options)
-        , m_cancelled(cancelled)
+        , m_context(context)
         , m_tileBytes(memoryBytes / 2) // one tile, or one and another of the same class
-        , m_classes(classesOf(files, std::clamp(options.similarPercent, 1, 100)))
-        , m_progress(progress, Phase::SimilarContent, files.size(), stepsOf(m_classes))
+        , m_classes(classesOf(files, std::clamp(context.options.similarPercent, 1, 100)))
+        , m_progress(context.progress, Phase::SimilarContent, files.size(), stepsOf(m_classes))
     {}
 
     ScanResult run()
@@ -45,12 +41,12 @@ public:
         ScanResult result = resultOn(m_files);
         for (const SizeClass &files : m_classes)
             result.candidates += std::ssize(files.files);
-        sizeThreadPool(m_options);
+        sizeThreadPool(m_context.options);
         compareAll();
-        if (!isCancelled(m_cancelled)) {
+        if (!m_context.isCancelled()) {
             for (SizeClass &files : m_classes)
                 addGroups(files, result.groups);
-            finishContentGroups(result, m_options, m_cancelled);
+            finishContentGroups(result, m_context);
         }
         result.unread = m_unread.take();
         return result;
@@ -145,12 +141,12 @@ private:
     /// Compares all files of one class.
     void compareLarge(std::vector<Tile> &tiles)
     {
-        for (size_t i = 0; i < tiles.size() && !isCancelled(m_cancelled); ++i) {
+        for (size_t i = 0; i < tiles.size() && !m_context.isCancelled(); ++i) {
             qint64 steps = 0;
             for (size_t k = 0; k < i; ++k)
                 steps += pairBlockCount(tileLength(*tiles[k].sizeClass), std::ssize(tiles[i].members), false);
             compareEach(std::span(&tiles[i], 1));
-            for (size_t k = 0; k < i && !isCancelled(m_cancelled); ++k) {
+            for (size_t k = 0; k < i && !m_context.isCancelled(); ++k) {
                 read(std::span(&tiles[k], 1), false);
                 steps -= queuePairs(tiles[k], tiles[i]);
                 compareQueued();
@@ -178,7 +174,7 @@ private:
             }
         }
         forEachParallel(std::ssize(jobs), [&](qsizetype i) {
-            if (isCancelled(m_cancelled))
+            if (m_context.isCancelled())
                 return;
             const Job &job = jobs[static_cast<size_t>(i)];
             readMember(*job.tile, *job.member);
@@ -231,7 +227,7 @@ private:
             if (m_queue.size() < mostBlocks)
                 return true;
             compareQueued();
-            return !isCancelled(m_cancelled);
+            return !m_context.isCancelled();
         });
         return pairBlockCount(std::ssize(a.members), std::ssize(b.members), &a == &b);
     }
@@ -240,7 +236,7 @@ private:
     {
         std::mutex mutex;
         forEachParallel(std::ssize(m_queue), [&](qsizetype i) {
-            if (isCancelled(m_cancelled))
+            if (m_context.isCancelled())
                 return;
             const PairBlock &block = m_queue[static_cast<size_t>(i)];
             const std::vector<AlikePair> pairs = alikePairs(block);
@@ -257,7 +253,7 @@ private:
     /// Counts steps that need not be done, since files were equal or could not be read.
     void skip(qint64 steps)
     {
-        if (steps > 0 && !isCancelled(m_cancelled))
+        if (steps > 0 && !m_context.isCancelled())
             m_progress.step({}, steps);
     }
 
@@ -275,8 +271,7 @@ private:
     }
 
     const QList<FileEntry> &m_files;
-    const ScanOptions &m_options;
-    const CancelQuery &m_cancelled;
+    const ScanContext &m_context;
     const qint64 m_tileBytes;
     std::vector<SizeClass> m_classes;
     std::map<const SizeClass *, std::map<Digest, qint32>> m_known; ///< the first file of each sample set
@@ -287,16 +282,9 @@ private:
 
 } // namespace
 
-ScanResult matchSimilarContent(const QList<FileEntry> &files, const ScanOptions &options,
-                               const ProgressCallback &progress, const CancelQuery &cancelled, qint64 memoryBytes)
+ScanResult matchSimilarContent(const QList<FileEntry> &files, const ScanContext &context, qint64 memoryBytes)
 {
-    return SimilarScan(files, options, progress, cancelled, memoryBytes).run();
-}
-
-ScanResult DuplicateScanner::scanSimilarContent(QList<FileEntry> files, const ScanOptions &options,
-                                                const ProgressCallback &progress, const CancelQuery &cancelled)
-{
-    return matchSimilarContent(files, options, progress, cancelled);
+    return SimilarScan(files, context, memoryBytes).run();
 }
 
 } // namespace MirrixCore

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "core/scan/scanoptions.h"
-#include "core/scan/scanprogress.h"
-#include "core/scan/scanresult.h"
+#include "core/model/scancontext.h"
+#include "core/model/scanresult.h"
 
 namespace MirrixCore {
 
@@ -12,8 +11,7 @@ inline constexpr qint64 similarMemoryBytes = 134217728; ///< enough for the samp
 /// the lowest percentage that joins two of them ("SIM:93%"). Each file is read once, at most 20 KiB; only of a size
 /// with more files than `memoryBytes` hold, some are read again. Compares each pair of a size, in parallel: 20,000
 /// files take seconds to minutes. Cancelled within milliseconds: counts without groups.
-[[nodiscard]] ScanResult matchSimilarContent(const QList<FileEntry> &files, const ScanOptions &options,
-                                             const ProgressCallback &progress, const CancelQuery &cancelled,
+[[nodiscard]] ScanResult matchSimilarContent(const QList<FileEntry> &files, const ScanContext &context,
                                              qint64 memoryBytes = similarMemoryBytes);
 
 } // namespace MirrixCore

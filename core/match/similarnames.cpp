@@ -2,8 +2,9 @@
 
 #include "core/match/editdistance.h"
 #include "core/match/groups.h"
-#include "core/match/parallel.h"
 #include "core/match/segmentindex.h"
+#include "core/platform/pathtext.h"
+#include "core/threads/stage.h"
 
 #include <QRegularExpression>
 

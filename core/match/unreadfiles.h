@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/hash/contenthash.h"
-#include "core/scan/scanresult.h"
+#include "core/model/scanresult.h"
 
 #include <mutex>
 #include <utility>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/scan/scanprogress.h"
+#include "core/model/scanprogress.h"
 
 #include <QSize>
 

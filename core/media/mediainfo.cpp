@@ -1,7 +1,7 @@
 #include "core/media/mediainfo.h"
 
-#include "core/hash/filereader.h"
 #include "core/media/mediainfolibrary.h"
+#include "core/platform/filereader.h"
 
 #include <QLibrary>
 

@@ -1,6 +1,6 @@
 #include "core/media/mediakinds.h"
 
-#include "core/walk/pathrules.h"
+#include "core/platform/pathtext.h"
 
 #include <QSet>
 

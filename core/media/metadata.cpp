@@ -1,7 +1,5 @@
 #include "core/media/metadata.h"
 
-#include "core/hash/filereader.h"
-#include "core/match/parallel.h"
 #include "core/media/audiofile.h"
 #include "core/media/exif.h"
 #include "core/media/mediafacts.h"
@@ -9,7 +7,8 @@
 #include "core/media/mediakinds.h"
 #include "core/media/pictures.h"
 #include "core/media/rawfile.h"
-#include "core/scan/threadpool.h"
+#include "core/platform/filereader.h"
+#include "core/threads/stage.h"
 
 #include <algorithm>
 
@@ -98,14 +97,16 @@ void readVideoSize(FileEntry &entry)
 
 bool isNeeded(const ScanOptions &options)
 {
-    switch (static_cast<SearchMode>(options.searchMode)) {
+    switch (options.mode()) {
     case SearchMode::Images:
         return options.imageSameDimensions || options.imageSameShotTime || options.imageGroupByGps ||
                hasEnabledTag(options.imageTags);
     case SearchMode::Audio:
-        return options.mediaCompareDepth == 4 || options.audioMatchDuration || hasEnabledTag(options.audioTags);
+        return options.audioDepth() == AudioDepth::IgnoreContent || options.audioMatchDuration ||
+               hasEnabledTag(options.audioTags);
     case SearchMode::Video:
-        return options.mediaCompareDepthAlt == 2 || options.videoMatchDuration || hasEnabledTag(options.videoTags);
+        return options.videoDepth() == VideoDepth::IgnoreContent || options.videoMatchDuration ||
+               hasEnabledTag(options.videoTags);
     case SearchMode::Files:
         break;
     }
@@ -115,17 +116,15 @@ bool isNeeded(const ScanOptions &options)
 void enrich(QList<FileEntry> &files, const ScanOptions &options, const ProgressCallback &progress,
             const CancelQuery &cancelled)
 {
-    const auto kind = static_cast<SearchMode>(options.searchMode);
-    sizeThreadPool(options);
-    StageProgress stage(progress, Phase::Metadata, files.size(), files.size());
+    const auto kind = options.mode();
     FileEntry *const entries = files.data(); // detached once, before the threads start
-    forEachParallel(files.size(), [&](qsizetype i) {
-        if (isCancelled(cancelled))
-            return;
-        if (isMediaFile(entries[i].path, kind))
-            enrich(entries[i], kind);
-        stage.step(entries[i].path);
-    });
+    runStage(
+        {options, progress, cancelled}, Phase::Metadata, files.size(), files.size(),
+        [&](qsizetype i) {
+            if (isMediaFile(entries[i].path, kind))
+                enrich(entries[i], kind);
+        },
+        [&](qsizetype i) -> const QString & { return entries[i].path; });
 }
 
 void enrich(FileEntry &entry, SearchMode kind, bool withTags)

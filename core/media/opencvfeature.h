@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/media/imagefeature.h"
+#include "core/media/imagehash.h"
 
 /// Computes the feature of a picture's encoded bytes with OpenCV; false when it cannot decode them. Never throws.
 /// Thread-safe; runs on the calling thread alone.

@@ -1,9 +1,9 @@
 #include "core/media/pictures.h"
 
-#include "core/hash/filereader.h"
 #include "core/media/mediakinds.h"
 #include "core/media/quietdecoding.h"
 #include "core/media/rawfile.h"
+#include "core/platform/filereader.h"
 
 #include <QBuffer>
 #include <QImageReader>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/media/imagefeature.h"
+#include "core/media/imagehash.h"
 
 namespace MirrixCore {
 

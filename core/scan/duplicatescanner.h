@@ -1,8 +1,8 @@
 #pragma once
 
-#include "core/scan/scanoptions.h"
-#include "core/scan/scanprogress.h"
-#include "core/scan/scanresult.h"
+#include "core/model/scanoptions.h"
+#include "core/model/scanprogress.h"
+#include "core/model/scanresult.h"
 
 namespace MirrixCore {
 
@@ -18,24 +18,14 @@ public:
     [[nodiscard]] static ScanResult scan(const ScanOptions &options, const ProgressCallback &progress,
                                          const CancelQuery &cancelled);
 
-private:
-    // The matchers: groups of `files` in a result with its own counts. Each lives in a file of its own in core/match.
-    static ScanResult scanExact(QList<FileEntry> files, const ScanOptions &options, const ProgressCallback &progress,
-                                const CancelQuery &cancelled);
-    static ScanResult scanSampledContent(QList<FileEntry> files, const ScanOptions &options,
-                                         const ProgressCallback &progress, const CancelQuery &cancelled,
-                                         qint64 prefixLimitBytes);
-    static ScanResult scanSimilarContent(QList<FileEntry> files, const ScanOptions &options,
-                                         const ProgressCallback &progress, const CancelQuery &cancelled);
-    static ScanResult scanSimilarImages(QList<FileEntry> files, const ScanOptions &options,
-                                        const ProgressCallback &progress, const CancelQuery &cancelled);
-
-    static ScanResult matchContent(const QList<FileEntry> &files, const ScanOptions &options,
-                                   const ProgressCallback &progress, const CancelQuery &cancelled);
-    static ScanResult matchKind(FindKind kind, const QList<FileEntry> &files, const ScanOptions &options,
-                                const ProgressCallback &progress, const CancelQuery &cancelled);
-    static ScanResult matchLocations(const QList<FileEntry> &files, const ScanOptions &options,
-                                     const ProgressCallback &progress, const CancelQuery &cancelled);
+    /// Single matchers, one line each; see core/match. Results as of a scan without its folders and its order.
+    [[nodiscard]] static ScanResult scanExact(QList<FileEntry> files, const ScanOptions &options,
+                                              const ProgressCallback &progress, const CancelQuery &cancelled);
+    [[nodiscard]] static ScanResult scanSampledContent(QList<FileEntry> files, const ScanOptions &options,
+                                                       const ProgressCallback &progress, const CancelQuery &cancelled,
+                                                       qint64 prefixLimitBytes);
+    [[nodiscard]] static ScanResult scanSimilarImages(QList<FileEntry> files, const ScanOptions &options,
+                                                      const ProgressCallback &progress, const CancelQuery &cancelled);
 };
 
 } // namespace MirrixCore

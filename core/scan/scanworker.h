@@ -1,8 +1,8 @@
 #pragma once
 
-#include "core/scan/scanoptions.h"
-#include "core/scan/scanprogress.h"
-#include "core/scan/scanresult.h"
+#include "core/model/scanoptions.h"
+#include "core/model/scanprogress.h"
+#include "core/model/scanresult.h"
 
 #include <QObject>
 #include <QtGlobal>

@@ -1,7 +1,7 @@
 #include "core/walk/emptyfolders.h"
 
-#include "core/match/memberorder.h"
 #include "core/platform/nativepath.h"
+#include "core/platform/pathtext.h"
 #include "core/walk/fileplaces.h"
 #include "core/walk/folderreader.h"
 #include "core/walk/namepatterns.h"

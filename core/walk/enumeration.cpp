@@ -1,8 +1,9 @@
 #include "core/walk/enumeration.h"
 
+#include "core/platform/filestatus.h"
 #include "core/platform/nativepath.h"
+#include "core/platform/pathtext.h"
 #include "core/walk/fileplaces.h"
-#include "core/walk/filestatus.h"
 #include "core/walk/folderreader.h"
 #include "core/walk/namepatterns.h"
 #include "core/walk/ownfiles.h"

@@ -1,7 +1,7 @@
 #include "core/walk/fileplaces.h"
 
+#include "core/platform/filestatus.h"
 #include "core/platform/nativepath.h"
-#include "core/walk/filestatus.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/walk/filestatus.h"
+#include "core/platform/filestatus.h"
 
 #include <QString>
 #include <QStringList>

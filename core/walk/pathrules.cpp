@@ -1,6 +1,7 @@
 #include "core/walk/pathrules.h"
 
 #include "core/platform/nativepath.h"
+#include "core/platform/pathtext.h"
 
 #include <QDir>
 
@@ -43,31 +44,6 @@ QStringList nativelyComparablePaths(const QStringList &paths)
 
 } // namespace
 
-QString cleanedPath(const QString &path)
-{
-    const QString clean = QDir::cleanPath(QDir::fromNativeSeparators(path));
-    // "C:" alone means the current folder of that drive to the system, and the whole drive to everybody else.
-    const bool isBareDrive = clean.size() == 2 && clean[1] == QLatin1Char(':') && clean[0].isLetter();
-    return isBareDrive ? clean + QLatin1Char('/') : clean;
-}
-
-QString comparablePath(const QString &path)
-{
-    return QDir::cleanPath(path).replace(QLatin1Char('\\'), QLatin1Char('/')).toLower();
-}
-
-bool isBelow(QStringView path, QStringView folder)
-{
-    if (!path.startsWith(folder))
-        return false;
-    return path.size() == folder.size() || folder.endsWith(QLatin1Char('/')) || path[folder.size()] == QLatin1Char('/');
-}
-
-bool isUnderFolder(const QString &path, const QString &folder)
-{
-    return isBelow(comparablePath(path), comparablePath(folder));
-}
-
 bool isExcludedFolder(const QString &path, const ScanOptions &options)
 {
     const auto covers = [&](const QString &folder) { return !folder.isEmpty() && isUnderFolder(path, folder); };
@@ -76,12 +52,6 @@ bool isExcludedFolder(const QString &path, const ScanOptions &options)
     };
     return anyCovers(options.excludeFolders) || (options.skipSystemFolders && anyCovers(systemFolders())) ||
            (options.skipHidden && fileStatus(path).isHidden);
-}
-
-QString lowerSuffix(const QString &name)
-{
-    const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
-    return dot < 0 ? QString() : name.mid(dot + 1).toLower();
 }
 
 FolderRules::FolderRules(const ScanOptions &options)

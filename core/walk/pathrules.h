@@ -1,35 +1,17 @@
 #pragma once
 
-#include "core/scan/scanoptions.h"
-#include "core/walk/filestatus.h"
+#include "core/model/scanoptions.h"
+#include "core/platform/filestatus.h"
 
 #include <QString>
 #include <QStringList>
 
 namespace MirrixCore {
 
-/// Clean form of a path with forward slashes; on Windows a drive without slash ("C:") becomes its root. Empty stays
-/// empty. Thread-safe, as all of this header.
-[[nodiscard]] QString cleanedPath(const QString &path);
-
-/// The form in which isUnderFolder compares paths: clean, lower case, with every backslash as a separator whatever the
-/// system.
-[[nodiscard]] QString comparablePath(const QString &path);
-
-/// Whether `path` is `folder` or lies below it, by exact text; both are clean.
-[[nodiscard]] bool isBelow(QStringView path, QStringView folder);
-
-/// Whether `path` is `folder` or lies below it. Case is ignored and backslashes count as slashes; a sibling whose name
-/// merely begins alike is not below.
-[[nodiscard]] bool isUnderFolder(const QString &path, const QString &folder);
-
 /// Whether a scan must not enter `path`: it is or lies under one of excludeFolders; or skipSystemFolders is on and it
 /// is or lies under a folder of the operating system on drive C:; or skipHidden is on and it is hidden (asks the file
 /// system).
 [[nodiscard]] bool isExcludedFolder(const QString &path, const ScanOptions &options);
-
-/// The text after the last dot of a file's name, lower case; empty without a dot.
-[[nodiscard]] QString lowerSuffix(const QString &name);
 
 /// isExcludedFolder for every folder of a walk: the options' lists are brought into comparable form once, and excluded
 /// folders that exist are known by what their paths lead to and by identity as well. Unlike there, a backslash is a

@@ -1,8 +1,8 @@
 #include "core/walk/systemplaces.h"
 
 #include "core/platform/nativepath.h"
+#include "core/platform/pathtext.h"
 #include "core/walk/kernelfilesystems_posix.h"
-#include "core/walk/pathrules.h"
 
 #include <cerrno>
 

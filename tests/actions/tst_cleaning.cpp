@@ -2,7 +2,7 @@
 #include "actions/cleaning/cleaningrun.h"
 #include "actions/cleaning/emptyfolderremoval.h"
 #include "actions/operationslog.h"
-#include "core/walk/filestatus.h"
+#include "core/platform/filestatus.h"
 #include "tests/support/disk.h"
 #include "tests/support/probes.h"
 #include "tests/support/temptree.h"

@@ -2,7 +2,7 @@
 #include "actions/cleaning/undo.h"
 #include "actions/operationslog.h"
 #include "actions/records/runjournal.h"
-#include "core/walk/filestatus.h"
+#include "core/platform/filestatus.h"
 #include "tests/support/disk.h"
 #include "tests/support/probes.h"
 #include "tests/support/temptree.h"

@@ -1,5 +1,5 @@
 #include "core/hash/contenthash.h"
-#include "core/hash/mappedreader.h"
+#include "core/platform/mappedreader.h"
 #include "tests/support/probes.h"
 #include "tests/support/temptree.h"
 

@@ -1,7 +1,7 @@
 #include "core/scan/duplicatescanner.h"
 
 #include "core/cache/cacheroot.h"
-#include "core/scan/threadpool.h"
+#include "core/threads/threadpool.h"
 #include "core/walk/ownfiles.h"
 #include "tests/support/scans.h"
 #include "tests/support/temptree.h"

@@ -1,7 +1,7 @@
 #include "core/walk/enumeration.h"
 
-#include "core/hash/filereader.h"
-#include "core/walk/filestatus.h"
+#include "core/platform/filereader.h"
+#include "core/platform/filestatus.h"
 #include "tests/support/probes.h"
 #include "tests/support/scans.h"
 #include "tests/support/temptree.h"

@@ -1,8 +1,8 @@
 #include "core/walk/folderreader.h"
 
-#include "core/hash/filereader.h"
+#include "core/platform/filereader.h"
+#include "core/platform/filestatus.h"
 #include "core/platform/nativepath.h"
-#include "core/walk/filestatus.h"
 #include "core/walk/windowsattributes.h"
 #include "tests/support/probes.h"
 #include "tests/support/temptree.h"

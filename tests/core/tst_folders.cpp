@@ -1,6 +1,6 @@
 #include "core/match/folders.h"
 #include "core/match/hardlinks.h"
-#include "core/scan/optiontable.h"
+#include "core/model/optiontable.h"
 
 #include <QJsonDocument>
 #include <QMap>

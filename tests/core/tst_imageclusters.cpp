@@ -1,5 +1,5 @@
 #include "core/match/imageclusters.h"
-#include "core/scan/optiontable.h"
+#include "core/model/optiontable.h"
 
 #include <QJsonDocument>
 #include <QTest>

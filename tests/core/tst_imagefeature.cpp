@@ -1,6 +1,6 @@
 #include "core/media/decodebudget.h"
 #include "core/media/headersize.h"
-#include "core/media/imagefeature.h"
+#include "core/media/imagehash.h"
 #include "core/media/pictures.h"
 #include "core/media/qtfeature.h"
 #include "tests/support/mediafiles.h"

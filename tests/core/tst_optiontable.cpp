@@ -1,4 +1,4 @@
-#include "core/scan/optiontable.h"
+#include "core/model/optiontable.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,4 +1,4 @@
-#include "core/match/parallel.h"
+#include "core/threads/parallel.h"
 
 #include <QSemaphore>
 #include <QTest>

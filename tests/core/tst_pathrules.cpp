@@ -183,4 +183,5 @@ void PathRulesTest::takesSuffixes()
 }
 
 QTEST_GUILESS_MAIN(PathRulesTest)
+#include "core/platform/pathtext.h"
 #include "tst_pathrules.moc"

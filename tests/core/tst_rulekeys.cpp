@@ -1,5 +1,5 @@
 #include "core/match/rulekeys.h"
-#include "core/scan/optiontable.h"
+#include "core/model/optiontable.h"
 
 #include <QDateTime>
 #include <QDir>

@@ -1,7 +1,7 @@
 #include "core/scan/scanworker.h"
 
 #include "core/cache/cacheroot.h"
-#include "core/scan/metatypes.h"
+#include "core/model/metatypes.h"
 #include "tests/support/scans.h"
 #include "tests/support/temptree.h"
 

@@ -4,7 +4,7 @@
 #include "actions/fileoperations.h"
 #include "actions/operationslog.h"
 #include "app/settings.h"
-#include "core/walk/filestatus.h"
+#include "core/platform/filestatus.h"
 #include "tests/support/temptree.h"
 #include "tests/ui/scriptedprompts.h"
 #include "ui/batchcommands.h"

@@ -1,7 +1,7 @@
 #include "ui/logic/scanoptionsfrom.h"
 
 #include "core/media/mediakinds.h"
-#include "core/scan/optiontable.h"
+#include "core/model/optiontable.h"
 #include "ui/logic/locationtext.h"
 #include "ui/logic/rulessettings.h"
 

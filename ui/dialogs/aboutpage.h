@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/libraries.h"
+#include "core/scan/libraries.h"
 
 #include <QFutureWatcher>
 #include <QWidget>

@@ -2,8 +2,8 @@
 
 #include "app/sizetext.h"
 #include "app/text.h"
-#include "core/match/parallel.h"
 #include "core/platform/nativepath.h"
+#include "core/threads/parallel.h"
 #include "ui/dialogs/fileprogressdialog.h"
 #include "ui/emptyhint.h"
 #include "ui/logic/asidethreads.h"

@@ -2,7 +2,7 @@
 
 #include "app/text.h"
 #include "core/platform/nativepath.h"
-#include "core/walk/pathrules.h"
+#include "core/platform/pathtext.h"
 
 #include <algorithm>
 

@@ -2,10 +2,10 @@
 
 #include "app/text.h"
 #include "core/hash/contenthash.h"
+#include "core/platform/filestatus.h"
 #include "core/platform/nativepath.h"
+#include "core/platform/pathtext.h"
 #include "core/walk/enumeration.h"
-#include "core/walk/filestatus.h"
-#include "core/walk/pathrules.h"
 
 #include <QSet>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/scan/fileentry.h"
-#include "core/scan/scanprogress.h"
+#include "core/model/fileentry.h"
+#include "core/model/scanprogress.h"
 
 #include <QByteArray>
 #include <QList>

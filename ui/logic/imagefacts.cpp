@@ -2,7 +2,7 @@
 
 #include "app/text.h"
 #include "core/media/metadata.h"
-#include "core/walk/filestatus.h"
+#include "core/platform/filestatus.h"
 #include "ui/logic/logmodel.h"
 #include "ui/logic/resulttexts.h"
 

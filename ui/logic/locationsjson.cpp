@@ -1,7 +1,7 @@
 #include "ui/logic/locationsjson.h"
 
+#include "core/model/scanoptions.h"
 #include "core/platform/nativepath.h"
-#include "core/scan/scanoptions.h"
 #include "ui/logic/locationtext.h"
 
 #include <QJsonObject>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/settings.h"
-#include "core/scan/scanoptions.h"
+#include "core/model/scanoptions.h"
 #include "ui/logic/rulesstate.h"
 
 namespace Mirrix {

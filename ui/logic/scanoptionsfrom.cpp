@@ -1,7 +1,7 @@
 #include "ui/logic/scanoptionsfrom.h"
 
 #include "core/media/mediakinds.h"
-#include "core/walk/pathrules.h"
+#include "core/platform/pathtext.h"
 #include "ui/logic/extensiontext.h"
 
 #include <QDateTime>

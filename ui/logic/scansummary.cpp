@@ -34,7 +34,7 @@ QStringList imageLines(const ScanOptions &options)
 
 QString contentLine(const ScanOptions &options)
 {
-    switch (static_cast<MirrixCore::ContentMatch>(options.contentMatch)) {
+    switch (options.contentMatching()) {
     case MirrixCore::ContentMatch::Exact:
         return Text::tr("• 匹配：相同内容（字节级）");
     case MirrixCore::ContentMatch::Similar:
@@ -47,7 +47,7 @@ QString contentLine(const ScanOptions &options)
 
 QStringList modeLines(const ScanOptions &options)
 {
-    switch (static_cast<MirrixCore::SearchMode>(options.searchMode)) {
+    switch (options.mode()) {
     case MirrixCore::SearchMode::Files:
         return {contentLine(options)};
     case MirrixCore::SearchMode::Images:

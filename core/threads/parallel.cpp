@@ -1,4 +1,4 @@
-#include "core/match/parallel.h"
+#include "core/threads/parallel.h"
 
 #include <condition_variable>
 #include <mutex>

@@ -32,6 +32,24 @@ enum class ContentMatch : qint32
     Ignore = 2
 };
 
+/// How much of a sound file's content is compared, as `mediaCompareDepth` carries it.
+enum class AudioDepth : qint32
+{
+    Whole = 0,
+    First2MiB = 1,
+    First512KiB = 2,
+    Exact = 3, ///< by the digests that exact scans remember
+    IgnoreContent = 4
+};
+
+/// The same of a video, as `mediaCompareDepthAlt` carries it: here the default is the cheap comparison.
+enum class VideoDepth : qint32
+{
+    First1MiB = 0,
+    Whole = 1,
+    IgnoreContent = 2
+};
+
 /// Settings of one scan location.
 struct ScanLocation
 {
@@ -39,6 +57,8 @@ struct ScanLocation
     bool includeSubfolders = true;
     qint32 findKind = 0;        ///< a FindKind
     bool showRemaining = false; ///< list the files of this location that are in no group
+
+    [[nodiscard]] FindKind kind() const { return static_cast<FindKind>(findKind); }
 
     bool operator==(const ScanLocation &) const = default;
 };
@@ -86,8 +106,8 @@ struct ScanOptions
     qint32 searchMode = 0;           ///< a SearchMode
     qint32 contentMatch = 0;         ///< a ContentMatch; for SearchMode::Files
     qint32 threads = 0;              ///< worker threads; below 1 = as many as the machine has, at most 8
-    qint32 mediaCompareDepth = 0;    ///< audio: 0 whole file, 1 first 2 MiB, 2 first 512 KiB, 3 exact, 4 ignore content
-    qint32 mediaCompareDepthAlt = 0; ///< video: 0 first 1 MiB, 1 whole file, 2 ignore content
+    qint32 mediaCompareDepth = 0;    ///< an AudioDepth
+    qint32 mediaCompareDepthAlt = 0; ///< a VideoDepth
     qint32 similarPercent = 90;      ///< 1..100, least share of equal sampled bytes for similar content
 
     // Rules on names, sizes, dates and paths.
@@ -139,6 +159,12 @@ struct ScanOptions
     // Carried for the interface.
     qint32 keepRule = 0;
     qint64 largeFileMinBytes = 104857600;
+
+    // The numbers above as what they stand for. A number outside its enumeration gives a value that no case handles.
+    [[nodiscard]] SearchMode mode() const { return static_cast<SearchMode>(searchMode); }
+    [[nodiscard]] ContentMatch contentMatching() const { return static_cast<ContentMatch>(contentMatch); }
+    [[nodiscard]] AudioDepth audioDepth() const { return static_cast<AudioDepth>(mediaCompareDepth); }
+    [[nodiscard]] VideoDepth videoDepth() const { return static_cast<VideoDepth>(mediaCompareDepthAlt); }
 
     bool operator==(const ScanOptions &) const = default;
 };

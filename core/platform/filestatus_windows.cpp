@@ -1,4 +1,4 @@
-#include "core/walk/filestatus.h"
+#include "core/platform/filestatus.h"
 
 #include "core/platform/nativepath.h"
 #include "core/platform/win32.h"

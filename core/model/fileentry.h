@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/scan/fileplace.h"
+#include "core/model/fileplace.h"
 
 #include <QMap>
 #include <QMetaType>

@@ -1,4 +1,4 @@
-#include "core/hash/mappedreader.h"
+#include "core/platform/mappedreader.h"
 
 namespace MirrixCore {
 

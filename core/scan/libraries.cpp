@@ -1,4 +1,4 @@
-#include "core/libraries.h"
+#include "core/scan/libraries.h"
 
 #include "core/media/mediainfo.h"
 #include "core/media/opencvfeature.h"

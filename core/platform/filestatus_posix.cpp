@@ -1,4 +1,4 @@
-#include "core/walk/filestatus.h"
+#include "core/platform/filestatus.h"
 
 #include "core/platform/epochtime.h"
 #include "core/platform/nativepath.h"

@@ -1,4 +1,4 @@
-#include "core/scan/scanresult.h"
+#include "core/model/scanresult.h"
 
 #include <algorithm>
 

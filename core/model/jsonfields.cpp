@@ -1,4 +1,4 @@
-#include "core/scan/jsonfields.h"
+#include "core/model/jsonfields.h"
 
 #include <QJsonArray>
 #include <QJsonObject>

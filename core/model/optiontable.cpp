@@ -1,6 +1,6 @@
-#include "core/scan/optiontable.h"
+#include "core/model/optiontable.h"
 
-#include "core/scan/jsonfields.h"
+#include "core/model/jsonfields.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/scan/fileentry.h"
+#include "core/model/fileentry.h"
 
 #include <QList>
 #include <QMetaType>

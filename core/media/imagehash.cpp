@@ -1,4 +1,4 @@
-#include "core/media/imagefeature.h"
+#include "core/media/imagehash.h"
 
 #include "core/media/decodebudget.h"
 #include "core/media/headersize.h"

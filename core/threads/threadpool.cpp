@@ -1,4 +1,4 @@
-#include "core/scan/threadpool.h"
+#include "core/threads/threadpool.h"
 
 #include <QThread>
 #include <QThreadPool>

@@ -1,6 +1,6 @@
-#include "core/scan/locationkinds.h"
+#include "core/match/locationkinds.h"
 
-#include "core/walk/pathrules.h"
+#include "core/platform/pathtext.h"
 
 #include <algorithm>
 #include <functional>
@@ -14,7 +14,7 @@ LocationKinds::LocationKinds(const ScanOptions &options)
         const QString folder = comparablePath(cleanedPath(location.path));
         if (m_places.contains(folder)) // the first one counts
             continue;
-        m_places.insert(folder, {static_cast<FindKind>(location.findKind), location.showRemaining});
+        m_places.insert(folder, {location.kind(), location.showRemaining});
         if (!m_lengths.contains(folder.size()))
             m_lengths.append(folder.size());
     }

@@ -1,14 +1,11 @@
 #pragma once
 
-#include "core/scan/scanprogress.h"
-
 #include <QSemaphore>
 #include <QThreadPool>
 
 #include <algorithm>
 #include <atomic>
 #include <exception>
-#include <functional>
 #include <mutex>
 
 namespace MirrixCore {
@@ -62,40 +59,5 @@ void forEachParallel(qsizetype count, Task task)
     if (failure)
         std::rethrow_exception(failure);
 }
-
-/// Counts the items that the tasks of one stage finish and passes every 64th and the last on, one thread at a time.
-class StageProgress
-{
-public:
-    /// `filesFound` is the matcher's input, `total` the number of items of this stage. An empty callback is allowed.
-    StageProgress(const ProgressCallback &callback, const QString &phase, qint64 filesFound, qint64 total)
-        : m_callback(callback)
-        , m_report{filesFound, 0, total, {}, phase}
-    {}
-
-    /// Counts `items` items, worked on at `path`; an empty one leaves the last in the report. Thread-safe.
-    void step(const QString &path, qint64 items = 1)
-    {
-        const qint64 before = m_done.fetch_add(items, std::memory_order_relaxed);
-        const qint64 done = before + items;
-        if (!m_callback || (done / itemsPerReport == before / itemsPerReport && done != m_report.total))
-            return;
-        const std::lock_guard lock(m_mutex);
-        if (done < m_report.processed)
-            return; // another thread was quicker to report a later count
-        m_report.processed = done;
-        if (!path.isEmpty())
-            m_report.currentPath = path;
-        m_callback(m_report);
-    }
-
-private:
-    static constexpr qint64 itemsPerReport = 64;
-
-    const ProgressCallback &m_callback;
-    std::atomic<qint64> m_done = 0;
-    std::mutex m_mutex;
-    ScanProgress m_report;
-};
 
 } // namespace MirrixCore

@@ -1,4 +1,4 @@
-#include "core/hash/filereader.h"
+#include "core/platform/filereader.h"
 
 #include "core/platform/nativepath.h"
 #include "core/platform/win32.h"
