@@ -247,6 +247,17 @@ void FileOperationsTest::acrossVolumes()
         QVERIFY(treeBelow(m_tree->path()).isEmpty());
         QVERIFY(QFile::remove(other->filePath(name)));
     }
+    const QString readOnly = m_tree->write(u"read-only"_s, "content"); // where it cannot be removed, no copy is left
+    QFile::setPermissions(readOnly, QFile::ReadOwner | QFile::ReadUser);
+    const DiskTree expected = treeBelow(m_tree->path());
+    const bool isMoved = moveToFolder(readOnly, other->path());
+    QCOMPARE(isMoved, deletesReadOnly());
+    QCOMPARE(treeBelow(isMoved ? other->path() : m_tree->path()), expected);
+    QVERIFY(treeBelow(isMoved ? m_tree->path() : other->path()).isEmpty());
+    for (const QString &path : {readOnly, other->filePath(u"read-only"_s)}) {
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
+        QFile::remove(path);
+    }
     QString error;
     const QString link = other->filePath(u"link"_s);
     QVERIFY(!createHardLink(link, m_tree->write(u"target"_s, "x"), &error));
