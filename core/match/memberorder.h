@@ -6,10 +6,6 @@
 
 namespace MirrixCore {
 
-/// Whether a file name says that the file is a copy: at its end, extension aside, as stripCopySuffix knows it or as
-/// "(copy)", "(another copy)", "(copy 2)", or at its start as "Copy of", "Copy (2) of". Thread-safe.
-[[nodiscard]] bool hasCopyWord(const QString &name);
-
 /// Orders paths by their code points, the same on every system. Negative, 0 or positive as `a` comes before, with or
 /// after `b`.
 [[nodiscard]] int compareCodePoints(QStringView a, QStringView b);

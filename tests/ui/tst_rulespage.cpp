@@ -97,6 +97,7 @@ void TestRulesPage::controls_data()
     row("SameExtensionCheck", u"相同文件拓展名 off"_qs);
     row("SimilarNamesCheck", u"相似文件名 off"_qs);
     row("IgnoreCopyWordsCheck", u"忽略文件名中「副本」字样 on"_qs);
+    row("CopyWordsInAllLanguagesCheck", u"包括其他语言 off"_qs);
     row("SameSizeCheck", u"相同文件大小 off"_qs);
     row("SizeToleranceSpin", u"-0..1048576 [0]"_qs);
     row("SizeToleranceUnitCombo", u"-B/KB/MB/GB [0]"_qs);

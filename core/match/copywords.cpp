@@ -1,0 +1,60 @@
+#include "core/match/copywords.h"
+
+#include <QRegularExpression>
+
+namespace MirrixCore {
+
+namespace {
+
+/// What stripCopySuffix does not know. A word in Latin letters needs a blank before it ("Fotokopie" is no copy), and so
+/// do the others, which are also parts of words; の takes its place in Japanese.
+QRegularExpression copyWords()
+{
+    const auto latin = QStringLiteral("(?:copy|kopie|copie|c(?:ó|o\\x{301}?)pia)");
+    const auto eastern = QStringLiteral("(?:コピー|복사본|사본|副本|复件|拷贝|複製|複本|拷貝)");
+    const QStringList forms = {
+        QStringLiteral("(?<=\\S)\\s*-\\s*(?:%1|%2)$"),
+        QStringLiteral("(?<=\\S)\\s*[(\\[{（](?:(?:[^()（）]{1,20}[ .])?%1|[^()（）]{0,20}%2)(?: ?\\d+)?[)\\]}）]$"),
+        QStringLiteral("(?<=\\S)(?:\\s+%1|(?:\\s+|の)%2)(?: ?\\d+)?$"),
+        QStringLiteral("^%1(?: ?\\(\\d+\\))? (?:of|von|van|de|di|do|da) (?=.)"),
+        QStringLiteral("^(?:コピー|복사본|复件|複製)(?: ?\\(\\d+\\))? (?:[-～] ?)?(?=.)"),
+    };
+    return QRegularExpression(forms.join(QLatin1Char('|')).arg(latin, eastern),
+                              QRegularExpression::CaseInsensitiveOption |
+                                  QRegularExpression::UseUnicodePropertiesOption);
+}
+
+} // namespace
+
+QString stripCopySuffix(const QString &text)
+{
+    // Most names end in none of these, and searching them costs more than all else about their keys.
+    static const QString lastCharacters = QStringLiteral("0123456789)]}yY本贝\n");
+    if (text.isEmpty() || !lastCharacters.contains(text.back()))
+        return text.trimmed();
+    static const QRegularExpression suffix(
+        QStringLiteral("\\s*(?:-\\s*(?:副本|拷贝|Copy)|[\\(\\[\\{]\\d+[\\)\\]\\}]|副本\\d*|Copy\\d*)$"),
+        QRegularExpression::CaseInsensitiveOption);
+    return QString(text).remove(suffix).trimmed();
+}
+
+QString stripCopyWords(const QString &baseName)
+{
+    static const QRegularExpression words = copyWords();
+    QString name = baseName.trimmed();
+    for (;;) {
+        QString shorter = stripCopySuffix(name).remove(words).trimmed();
+        if (shorter.isEmpty() || shorter == name)
+            return name;
+        name = shorter;
+    }
+}
+
+bool hasCopyWord(const QString &name)
+{
+    const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
+    const QString base = dot < 1 ? name : name.left(dot);
+    return stripCopyWords(base) != base.trimmed();
+}
+
+} // namespace MirrixCore
