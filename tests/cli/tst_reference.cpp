@@ -30,32 +30,15 @@ private slots:
     void examplesRun();
 
 private:
-    [[nodiscard]] ProgramRun shell(const QString &script, const QString &folder) const;
-
     Program m_program;
 };
-
-/// Runs a script in which mirrix-cli is the built program.
-ProgramRun ReferenceTest::shell(const QString &script, const QString &folder) const
-{
-    QProcess process;
-    m_program.prepare(process, {u"-c"_s, script});
-    QProcessEnvironment environment = process.processEnvironment();
-    const QString path = QCoreApplication::applicationDirPath() + u':' + environment.value(u"PATH"_s);
-    environment.insert(u"PATH"_s, path);
-    process.setProcessEnvironment(environment);
-    process.setWorkingDirectory(folder);
-    process.setProgram(u"bash"_s);
-    process.start();
-    return Program::ended(process);
-}
 
 void ReferenceTest::scanOptions()
 {
     QCOMPARE(m_program.run({u"options"_s, u"similarPercent"_s, u"roots"_s}).output,
-             "similarPercent = 90\n    a whole number of 32 bits, 1 to 100. Least share of equal sampled bytes of "
-             "similar contents, in percent.\n"
-             "roots = []\n    a list of texts. Folders to scan, including their subfolders.\n");
+             "similarPercent = 90\n    a 32-bit integer, 1 to 100. Minimum percentage of sampled bytes that must be "
+             "equal in similar contents.\n"
+             "roots = []\n    a list of strings. Folders to scan, including their subfolders.\n");
     const QJsonArray all =
         QJsonDocument::fromJson(m_program.run({u"options"_s, u"--format"_s, u"json"_s}).output).array();
     QVERIFY(all.size() > 60);
@@ -136,7 +119,8 @@ void ReferenceTest::completes()
     const TempTree tree;
     tree.write(u"aFile"_s, {});
     tree.makeFolder(u"clean"_s);
-    const ProgramRun run = shell(u"%1 '%2' '%3' '%4'"_s.arg(shellName, driver, scripts.path(), line), tree.path());
+    const ProgramRun run =
+        m_program.runInShell(u"%1 '%2' '%3' '%4'"_s.arg(shellName, driver, scripts.path(), line), tree.path());
     QCOMPARE(run.errors, "");
     QStringList offered = QString::fromUtf8(run.output).split(u'\n', Qt::SkipEmptyParts);
     for (QString &word : offered)
@@ -172,7 +156,7 @@ void ReferenceTest::manualPages()
     if (QStandardPaths::findExecutable(u"groff"_s).isEmpty())
         QSKIP("nothing to check the pages with");
     for (const QString &page : pages)
-        QCOMPARE(shell(u"groff -man -ww -Tutf8 "_s + page + u" > /dev/null"_s, tree.path()).errors, "");
+        QCOMPARE(m_program.runInShell(u"groff -man -ww -Tutf8 "_s + page + u" > /dev/null"_s, tree.path()).errors, "");
 }
 
 void ReferenceTest::examplesRun_data()
@@ -194,7 +178,7 @@ void ReferenceTest::examplesRun()
          {u"Pictures/a.jpg"_s, u"Pictures/b.jpg"_s, u"Downloads/a.jpg"_s, u"Downloads/film.mkv"_s})
         tree.write(name, "abc");
     tree.makeFolder(u"Downloads/empty"_s);
-    const ProgramRun run = shell(u"set -o pipefail; "_s + line, tree.path());
+    const ProgramRun run = m_program.runInShell(u"set -o pipefail; "_s + line, tree.path());
     QCOMPARE(run.errors, "");
     QCOMPARE(run.status, 0);
 }
