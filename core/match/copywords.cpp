@@ -24,6 +24,22 @@ QRegularExpression copyWords()
                                   QRegularExpression::UseUnicodePropertiesOption);
 }
 
+/// False for most names, without the regular expression: all words hold "py" or "pi", or are not in Latin script.
+bool mayHaveCopyWord(QStringView name)
+{
+    for (qsizetype i = 0; i < name.size(); ++i) {
+        const char16_t unit = name[i].unicode();
+        if (unit >= 0x2E80) // where the eastern scripts begin
+            return true;
+        if ((unit | 0x20) == u'p' && i + 1 < name.size()) {
+            const char16_t next = name[i + 1].unicode() | 0x20;
+            if (next == u'y' || next == u'i')
+                return true;
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 QString stripCopySuffix(const QString &text)
@@ -43,7 +59,9 @@ QString stripCopyWords(const QString &baseName)
     static const QRegularExpression words = copyWords();
     QString name = baseName.trimmed();
     for (;;) {
-        QString shorter = stripCopySuffix(name).remove(words).trimmed();
+        QString shorter = stripCopySuffix(name);
+        if (mayHaveCopyWord(shorter))
+            shorter = shorter.remove(words).trimmed();
         if (shorter.isEmpty() || shorter == name)
             return name;
         name = shorter;

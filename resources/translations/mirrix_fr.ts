@@ -1305,7 +1305,7 @@ raw, cr2 et nef sont toujours analysés. Valable seulement si la liste « Inclu
     </message>
     <message>
         <source>包括其他语言</source>
-        <translation>également dans d’autres langues</translation>
+        <translation>toutes les langues</translation>
     </message>
     <message>
         <source>也忽略其他语言的系统和文件管理器给副本起的名称，例如“- Kopie”、“(otra copia)”</source>

@@ -54,8 +54,8 @@ RulesState everythingChanged()
 {
     RulesState rules;
     rules.mode = 2;
-    rules.general = {1,    40,   true, true, true, false, true, 12,   2,    true, true,
-                     true, true, true, true, true, 7,     true, true, true, 11};
+    rules.general = {1,    40,   true, true, true, false, true, true, 12,   2,    true,
+                     true, true, true, true, true, true,  7,    true, true, true, 11};
     rules.image = {4,    true, 9,    false, false, false, true,
                    true, 300,  true, 42,    false, false, {false, {{u"Make"_qs, 1}, {u"Flash"_qs, 2}, {QString(), 0}}}};
     rules.audio = {3, true, 77, {true, {}}};
