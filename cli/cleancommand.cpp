@@ -6,6 +6,7 @@
 #include "app/sizetext.h"
 #include "cli/cleanplan.h"
 #include "cli/colours.h"
+#include "cli/counted.h"
 #include "cli/emptyfolderscommand.h"
 #include "cli/output.h"
 #include "cli/progressline.h"
@@ -63,10 +64,10 @@ bool printPlan(const CleaningPlan &plan, const QString &colour, bool isQuiet)
     }
     if (isQuiet)
         return output.finish();
-    output.write(QStringLiteral("%1 files, %2 (%3). Nothing was changed; run again with --apply to do this.\n")
-                     .arg(plan.items.size())
-                     .arg(sizeText(bytes), spaceText(estimatedSpace(plan)))
-                     .toUtf8());
+    output.write(
+        QStringLiteral("%1, %2 (%3). Nothing was changed; run again with --apply to do this.\n")
+            .arg(counted(plan.items.size(), QStringLiteral("file")), sizeText(bytes), spaceText(estimatedSpace(plan)))
+            .toUtf8());
     return output.finish();
 }
 

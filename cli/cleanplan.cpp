@@ -64,8 +64,8 @@ void refuseRootsInside(const QString &folder, const ScanOptions &options)
     TargetFolder target(folder);
     for (const QString &root : options.roots + options.files) {
         if (target.isAtOrAbove(MirrixCore::cleanedPath(MirrixCore::absolutePath(root))))
-            throw UsageError{
-                QStringLiteral("%1, where files are put away, is the scanned folder %2 or holds it").arg(folder, root)};
+            throw UsageError{QStringLiteral("the target folder %1 must not be the scanned folder %2 or contain it")
+                                 .arg(folder, root)};
     }
 }
 

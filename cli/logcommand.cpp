@@ -1,6 +1,7 @@
 #include "cli/logcommand.h"
 
 #include "actions/operationslog.h"
+#include "cli/logtexts.h"
 #include "cli/output.h"
 
 #include <QDateTime>
@@ -21,7 +22,7 @@ void writeText(const QList<LogEntry> &entries, Output &output)
     for (const LogEntry &entry : entries) {
         const QString time =
             QDateTime::fromMSecsSinceEpoch(entry.timeMs).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
-        QString line = QStringLiteral("%1  %2  %3").arg(time, entry.action, entry.detail);
+        QString line = time + QLatin1String("  ") + logText(entry);
         line.replace(QLatin1Char('\n'), QLatin1Char('?')); // a file name could forge a record
         output.write(shownPath(line, output.isTerminal()) + '\n');
     }

@@ -170,9 +170,9 @@ void addRestoreOptions(QCommandLineParser &parser)
 {
     parser.addOptions({
         {targetOption, QStringLiteral("The backup folder (default: from the settings)."), QStringLiteral("DIR")},
-        {listOption, QStringLiteral("List what can be restored. This is also what happens without options.")},
+        {listOption, QStringLiteral("List what can be restored (the default).")},
         {allOption, QStringLiteral("Restore everything.")},
-        {verifyOption, QStringLiteral("Check that all backups are there and as they were, and change nothing.")},
+        {verifyOption, QStringLiteral("Check that every backup is present and unchanged. Nothing is restored.")},
     });
     parser.addPositionalArgument(
         QStringLiteral("ENTRY"),

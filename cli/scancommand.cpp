@@ -291,21 +291,19 @@ void addScanOptions(QCommandLineParser &parser)
     addPreparationOptions(parser);
     parser.addOptions({
         {modeOption,
-         QStringLiteral(
-             "How files are compared: content (default; identical bytes), similar-content (at least "
-             "similarPercent of samples agree), rules (names, sizes, dates and paths only), images (visual "
-             "similarity, within imageMaxDistance), audio or video (content samples, then the opening or the "
-             "whole file, depending on mediaCompareDepth for audio, mediaCompareDepthAlt for video)."),
+         QStringLiteral("How files are compared: content (default; identical bytes), similar-content (at least "
+                        "similarPercent of samples agree), rules (names, sizes, dates and paths only), images (visual "
+                        "similarity, within imageMaxDistance), audio or video (content samples, then the beginning or "
+                        "the whole file, depending on mediaCompareDepth for audio, mediaCompareDepthAlt for video)."),
          QStringLiteral("MODE")},
         {optionsOption, QStringLiteral("Read scan options from a JSON file."), QStringLiteral("FILE")},
         {emptyFilesOption, QStringLiteral("List empty files instead of duplicates.")},
         {emptyFoldersOption,
-         QStringLiteral(
-             "List folders that hold nothing, or nothing but such folders, instead of duplicates. May be used "
-             "with --empty-files.")},
+         QStringLiteral("List folders that are empty or contain only empty folders, instead of duplicates. May be used "
+                        "with --empty-files.")},
         {formatOption,
-         QStringLiteral("Report format: text (default), json, csv (groups only) or nul (paths that each end with a NUL "
-                        "byte, an empty one between groups)."),
+         QStringLiteral("Report format: text (default), json, csv (groups only) or nul (each path ends with a NUL "
+                        "byte, and an empty path stands between groups)."),
          QStringLiteral("FORMAT"), QStringLiteral("text")},
         {sortOption,
          QStringLiteral("Order of the groups: waste (default; most first), path (of the first file), size (of the "

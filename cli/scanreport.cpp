@@ -3,6 +3,7 @@
 #include "actions/exporttexts.h"
 #include "app/sizetext.h"
 #include "cli/colours.h"
+#include "cli/counted.h"
 #include "cli/jsonreport.h"
 #include "core/platform/nativepath.h"
 
@@ -13,11 +14,6 @@ namespace MirrixCli {
 namespace {
 
 using namespace MirrixCore;
-
-QString counted(qint64 count, const QString &noun)
-{
-    return QStringLiteral("%1 %2%3").arg(count).arg(noun, count == 1 ? QString() : QStringLiteral("s"));
-}
 
 /// How much the members agree, of a group by similar content: "SIM:93%" and what rules add to it.
 QString agreement(const QString &key)

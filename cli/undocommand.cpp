@@ -29,7 +29,7 @@ QString runMeant(const QCommandLineParser &parser)
 {
     const QStringList words = parser.positionalArguments();
     if (words.size() != 1 || (words.constFirst() != lastWord && !isRunId(words.constFirst())))
-        throw UsageError{QStringLiteral("undo takes one run, as \"history\" names it, or \"last\"")};
+        throw UsageError{QStringLiteral("undo takes one run, named as in \"history\", or \"last\"")};
     const QString dataDirectory = dataDirectoryOf(parser);
     if (words.constFirst() == lastWord) {
         const QList<RunSummary> runs = listRuns(dataDirectory);
@@ -78,7 +78,8 @@ ExitStatus printPlan(const UndoPlan &plan)
         const QString line = step.from.isEmpty() ? original : backupLine({original, step.from});
         output.write(shownPath(line, output.isTerminal()) + '\n');
     }
-    output.write(QStringLiteral("%1 of %2 files of run %3 (%4) can be undone; nothing was done (--apply does it)\n")
+    output.write(QStringLiteral("%1 of %2 files of run %3 (%4) can be brought back. Nothing was changed; run again "
+                                "with --apply to do this.\n")
                      .arg(possible)
                      .arg(plan.steps.size())
                      .arg(plan.run.summary.header.id, plan.run.summary.header.method)
@@ -115,9 +116,12 @@ ExitStatus apply(const UndoPlan &plan, const CleaningServices &services)
 
 void addUndoOptions(QCommandLineParser &parser)
 {
-    parser.addOption({applyOption, QStringLiteral("Do it. Without this, what would come back is printed.")});
+    parser.addOption(
+        {applyOption,
+         QStringLiteral(
+             "Bring the files back. Without it, nothing is changed; what would come back is only printed.")});
     parser.addPositionalArgument(QStringLiteral("RUN"),
-                                 QStringLiteral("The run to undo, as \"history\" names it, or \"last\"."));
+                                 QStringLiteral("The run to undo, named as in \"history\", or \"last\"."));
 }
 
 ExitStatus runUndo(const QCommandLineParser &parser)

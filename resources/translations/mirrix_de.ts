@@ -1304,6 +1304,14 @@ raw, cr2 und nef werden immer durchsucht. Gilt nur, solange die Liste „Einbezo
         <translation>„Copy“, „(2)“ usw. in Dateinamen ignorieren</translation>
     </message>
     <message>
+        <source>包括其他语言</source>
+        <translation>auch in anderen Sprachen</translation>
+    </message>
+    <message>
+        <source>也忽略其他语言的系统和文件管理器给副本起的名称，例如“- Kopie”、“(otra copia)”</source>
+        <translation>Ignoriert auch, was Systeme und Dateimanager in anderen Sprachen an die Namen von Kopien hängen, etwa „- Kopie“ oder „(otra copia)“</translation>
+    </message>
+    <message>
         <source>相同文件大小</source>
         <translation>Gleiche Größe</translation>
     </message>
@@ -2514,6 +2522,26 @@ GPS: %1, %2</translation>
     <message>
         <source>程序启动</source>
         <translation>Programm gestartet</translation>
+    </message>
+    <message>
+        <source>扫描开始</source>
+        <translation>Suche gestartet</translation>
+    </message>
+    <message>
+        <source>备份已恢复</source>
+        <translation>Sicherung wiederhergestellt</translation>
+    </message>
+    <message>
+        <source>要移除的空文件夹</source>
+        <translation>Zu entfernende leere Ordner</translation>
+    </message>
+    <message>
+        <source>空文件夹已移除</source>
+        <translation>Leere Ordner entfernt</translation>
+    </message>
+    <message>
+        <source>程序退出</source>
+        <translation>Programm beendet</translation>
     </message>
     <message>
         <source>扫描完成</source>

@@ -1304,6 +1304,14 @@ raw, cr2 and nef are always scanned. Applies only while the Included list is emp
         <translation>Ignore "copy" in file names</translation>
     </message>
     <message>
+        <source>包括其他语言</source>
+        <translation>also in other languages</translation>
+    </message>
+    <message>
+        <source>也忽略其他语言的系统和文件管理器给副本起的名称，例如“- Kopie”、“(otra copia)”</source>
+        <translation>Also ignores what systems and file managers in other languages add to the names of copies, such as “- Kopie” or “(otra copia)”</translation>
+    </message>
+    <message>
         <source>相同文件大小</source>
         <translation>Same file size</translation>
     </message>
@@ -2514,6 +2522,26 @@ GPS: %1, %2</translation>
     <message>
         <source>程序启动</source>
         <translation>Program started</translation>
+    </message>
+    <message>
+        <source>扫描开始</source>
+        <translation>Scan started</translation>
+    </message>
+    <message>
+        <source>备份已恢复</source>
+        <translation>Restored from backup</translation>
+    </message>
+    <message>
+        <source>要移除的空文件夹</source>
+        <translation>Empty folders to remove</translation>
+    </message>
+    <message>
+        <source>空文件夹已移除</source>
+        <translation>Empty folders removed</translation>
+    </message>
+    <message>
+        <source>程序退出</source>
+        <translation>Program exited</translation>
     </message>
     <message>
         <source>扫描完成</source>

@@ -1304,6 +1304,14 @@ raw, cr2 y nef se analizan siempre. Solo tiene efecto si la lista «Incluido» e
         <translation>Ignorar «Copy», «(2)», etc. en los nombres de archivo</translation>
     </message>
     <message>
+        <source>包括其他语言</source>
+        <translation>también en otros idiomas</translation>
+    </message>
+    <message>
+        <source>也忽略其他语言的系统和文件管理器给副本起的名称，例如“- Kopie”、“(otra copia)”</source>
+        <translation>Ignora también lo que los sistemas y gestores de archivos en otros idiomas añaden al nombre de las copias, como «- Kopie» o «(otra copia)»</translation>
+    </message>
+    <message>
         <source>相同文件大小</source>
         <translation>Mismo tamaño de archivo</translation>
     </message>
@@ -2514,6 +2522,26 @@ GPS: %1, %2</translation>
     <message>
         <source>程序启动</source>
         <translation>Programa iniciado</translation>
+    </message>
+    <message>
+        <source>扫描开始</source>
+        <translation>Análisis iniciado</translation>
+    </message>
+    <message>
+        <source>备份已恢复</source>
+        <translation>Copia de seguridad restaurada</translation>
+    </message>
+    <message>
+        <source>要移除的空文件夹</source>
+        <translation>Carpetas vacías para eliminar</translation>
+    </message>
+    <message>
+        <source>空文件夹已移除</source>
+        <translation>Carpetas vacías eliminadas</translation>
+    </message>
+    <message>
+        <source>程序退出</source>
+        <translation>Programa cerrado</translation>
     </message>
     <message>
         <source>扫描完成</source>

@@ -1304,6 +1304,14 @@ raw, cr2 et nef sont toujours analysés. Valable seulement si la liste « Inclu
         <translation>Ignorer « Copy », « (2) », etc. dans les noms de fichiers</translation>
     </message>
     <message>
+        <source>包括其他语言</source>
+        <translation>toutes les langues</translation>
+    </message>
+    <message>
+        <source>也忽略其他语言的系统和文件管理器给副本起的名称，例如“- Kopie”、“(otra copia)”</source>
+        <translation>Ignore aussi ce que les systèmes et gestionnaires de fichiers dans d’autres langues ajoutent au nom des copies, par exemple « - Kopie » ou « (otra copia) »</translation>
+    </message>
+    <message>
         <source>相同文件大小</source>
         <translation>Même taille de fichier</translation>
     </message>
@@ -2514,6 +2522,26 @@ GPS : %1, %2</translation>
     <message>
         <source>程序启动</source>
         <translation>Programme démarré</translation>
+    </message>
+    <message>
+        <source>扫描开始</source>
+        <translation>Analyse démarrée</translation>
+    </message>
+    <message>
+        <source>备份已恢复</source>
+        <translation>Sauvegarde restaurée</translation>
+    </message>
+    <message>
+        <source>要移除的空文件夹</source>
+        <translation>Dossiers vides à supprimer</translation>
+    </message>
+    <message>
+        <source>空文件夹已移除</source>
+        <translation>Dossiers vides supprimés</translation>
+    </message>
+    <message>
+        <source>程序退出</source>
+        <translation>Programme fermé</translation>
     </message>
     <message>
         <source>扫描完成</source>

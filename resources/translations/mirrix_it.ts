@@ -1304,6 +1304,14 @@ raw, cr2 e nef vengono sempre scansionati. Vale solo se l'elenco “Incluso” �
         <translation>Ignora “Copy”, “(2)” ecc. nei nomi</translation>
     </message>
     <message>
+        <source>包括其他语言</source>
+        <translation>anche in altre lingue</translation>
+    </message>
+    <message>
+        <source>也忽略其他语言的系统和文件管理器给副本起的名称，例如“- Kopie”、“(otra copia)”</source>
+        <translation>Ignora anche ciò che i sistemi e i gestori di file in altre lingue aggiungono ai nomi delle copie, come “- Kopie” o “(otra copia)”</translation>
+    </message>
+    <message>
         <source>相同文件大小</source>
         <translation>Stessa dimensione</translation>
     </message>
@@ -2514,6 +2522,26 @@ GPS: %1, %2</translation>
     <message>
         <source>程序启动</source>
         <translation>Programma avviato</translation>
+    </message>
+    <message>
+        <source>扫描开始</source>
+        <translation>Avvio scansione</translation>
+    </message>
+    <message>
+        <source>备份已恢复</source>
+        <translation>Backup ripristinato</translation>
+    </message>
+    <message>
+        <source>要移除的空文件夹</source>
+        <translation>Cartelle vuote da rimuovere</translation>
+    </message>
+    <message>
+        <source>空文件夹已移除</source>
+        <translation>Cartelle vuote rimosse</translation>
+    </message>
+    <message>
+        <source>程序退出</source>
+        <translation>Chiusura del programma</translation>
     </message>
     <message>
         <source>扫描完成</source>

@@ -1304,6 +1304,14 @@ raw、cr2、nef は常にスキャンされます。「対象」リストが空�
         <translation>ファイル名末尾の Copy、副本、(2) などを無視</translation>
     </message>
     <message>
+        <source>包括其他语言</source>
+        <translation>他の言語も含める</translation>
+    </message>
+    <message>
+        <source>也忽略其他语言的系统和文件管理器给副本起的名称，例如“- Kopie”、“(otra copia)”</source>
+        <translation>他の言語のシステムやファイルマネージャーがコピーの名前に付ける文字（「- Kopie」「(otra copia)」など）も無視します</translation>
+    </message>
+    <message>
         <source>相同文件大小</source>
         <translation>同じファイルサイズ</translation>
     </message>
@@ -2514,6 +2522,26 @@ GPS: %1, %2</translation>
     <message>
         <source>程序启动</source>
         <translation>プログラムの起動</translation>
+    </message>
+    <message>
+        <source>扫描开始</source>
+        <translation>スキャン開始</translation>
+    </message>
+    <message>
+        <source>备份已恢复</source>
+        <translation>バックアップから復元</translation>
+    </message>
+    <message>
+        <source>要移除的空文件夹</source>
+        <translation>削除する空のフォルダー</translation>
+    </message>
+    <message>
+        <source>空文件夹已移除</source>
+        <translation>空のフォルダーを削除</translation>
+    </message>
+    <message>
+        <source>程序退出</source>
+        <translation>プログラム終了</translation>
     </message>
     <message>
         <source>扫描完成</source>

@@ -1304,6 +1304,14 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
         <translation>파일 이름 끝의 Copy, (2) 등 무시</translation>
     </message>
     <message>
+        <source>包括其他语言</source>
+        <translation>다른 언어 포함</translation>
+    </message>
+    <message>
+        <source>也忽略其他语言的系统和文件管理器给副本起的名称，例如“- Kopie”、“(otra copia)”</source>
+        <translation>다른 언어의 시스템과 파일 관리자가 사본 이름에 붙이는 말(“- Kopie”, “(otra copia)” 등)도 무시합니다</translation>
+    </message>
+    <message>
         <source>相同文件大小</source>
         <translation>같은 파일 크기</translation>
     </message>
@@ -2514,6 +2522,26 @@ GPS: %1, %2</translation>
     <message>
         <source>程序启动</source>
         <translation>프로그램 시작</translation>
+    </message>
+    <message>
+        <source>扫描开始</source>
+        <translation>스캔 시작</translation>
+    </message>
+    <message>
+        <source>备份已恢复</source>
+        <translation>백업 복원</translation>
+    </message>
+    <message>
+        <source>要移除的空文件夹</source>
+        <translation>제거할 빈 폴더</translation>
+    </message>
+    <message>
+        <source>空文件夹已移除</source>
+        <translation>빈 폴더 제거</translation>
+    </message>
+    <message>
+        <source>程序退出</source>
+        <translation>프로그램 종료</translation>
     </message>
     <message>
         <source>扫描完成</source>

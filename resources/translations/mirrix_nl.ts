@@ -1304,6 +1304,14 @@ raw, cr2 en nef worden altijd gescand. Geldt alleen zolang de lijst ‘Opgenomen
         <translation>‘Copy’, ‘(2)’ enz. in bestandsnamen negeren</translation>
     </message>
     <message>
+        <source>包括其他语言</source>
+        <translation>ook in andere talen</translation>
+    </message>
+    <message>
+        <source>也忽略其他语言的系统和文件管理器给副本起的名称，例如“- Kopie”、“(otra copia)”</source>
+        <translation>Negeert ook wat systemen en bestandsbeheerders in andere talen aan de namen van kopieën toevoegen, zoals ‘- Kopie’ of ‘(otra copia)’</translation>
+    </message>
+    <message>
         <source>相同文件大小</source>
         <translation>Zelfde grootte</translation>
     </message>
@@ -2514,6 +2522,26 @@ GPS: %1, %2</translation>
     <message>
         <source>程序启动</source>
         <translation>Programma gestart</translation>
+    </message>
+    <message>
+        <source>扫描开始</source>
+        <translation>Scan gestart</translation>
+    </message>
+    <message>
+        <source>备份已恢复</source>
+        <translation>Back-up teruggezet</translation>
+    </message>
+    <message>
+        <source>要移除的空文件夹</source>
+        <translation>Te verwijderen lege mappen</translation>
+    </message>
+    <message>
+        <source>空文件夹已移除</source>
+        <translation>Lege mappen verwijderd</translation>
+    </message>
+    <message>
+        <source>程序退出</source>
+        <translation>Programma afgesloten</translation>
     </message>
     <message>
         <source>扫描完成</source>

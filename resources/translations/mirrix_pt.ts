@@ -1304,6 +1304,14 @@ raw, cr2 e nef são sempre verificados. Só tem efeito se a lista “Incluído�
         <translation>Ignorar “Copy”, “(2)” etc. nos nomes de arquivo</translation>
     </message>
     <message>
+        <source>包括其他语言</source>
+        <translation>também em outros idiomas</translation>
+    </message>
+    <message>
+        <source>也忽略其他语言的系统和文件管理器给副本起的名称，例如“- Kopie”、“(otra copia)”</source>
+        <translation>Ignora também o que sistemas e gerenciadores de arquivos em outros idiomas acrescentam ao nome das cópias, como “- Kopie” ou “(otra copia)”</translation>
+    </message>
+    <message>
         <source>相同文件大小</source>
         <translation>Mesmo tamanho de arquivo</translation>
     </message>
@@ -2514,6 +2522,26 @@ GPS: %1, %2</translation>
     <message>
         <source>程序启动</source>
         <translation>Programa iniciado</translation>
+    </message>
+    <message>
+        <source>扫描开始</source>
+        <translation>Verificação iniciada</translation>
+    </message>
+    <message>
+        <source>备份已恢复</source>
+        <translation>Backup restaurado</translation>
+    </message>
+    <message>
+        <source>要移除的空文件夹</source>
+        <translation>Pastas vazias a remover</translation>
+    </message>
+    <message>
+        <source>空文件夹已移除</source>
+        <translation>Pastas vazias removidas</translation>
+    </message>
+    <message>
+        <source>程序退出</source>
+        <translation>Programa encerrado</translation>
     </message>
     <message>
         <source>扫描完成</source>

@@ -1304,6 +1304,14 @@ raw、cr2、nef 一律會掃描。僅在「已包含」清單為空時有效。<
         <translation>忽略檔名結尾的 Copy、副本、(2) 等字樣</translation>
     </message>
     <message>
+        <source>包括其他语言</source>
+        <translation>包括其他語言</translation>
+    </message>
+    <message>
+        <source>也忽略其他语言的系统和文件管理器给副本起的名称，例如“- Kopie”、“(otra copia)”</source>
+        <translation>也忽略其他語言的系統和檔案管理員為副本加上的字樣，例如「- Kopie」、「(otra copia)」</translation>
+    </message>
+    <message>
         <source>相同文件大小</source>
         <translation>相同檔案大小</translation>
     </message>
@@ -2514,6 +2522,26 @@ GPS：%1, %2</translation>
     <message>
         <source>程序启动</source>
         <translation>程式啟動</translation>
+    </message>
+    <message>
+        <source>扫描开始</source>
+        <translation>掃描開始</translation>
+    </message>
+    <message>
+        <source>备份已恢复</source>
+        <translation>備份已還原</translation>
+    </message>
+    <message>
+        <source>要移除的空文件夹</source>
+        <translation>要移除的空資料夾</translation>
+    </message>
+    <message>
+        <source>空文件夹已移除</source>
+        <translation>空資料夾已移除</translation>
+    </message>
+    <message>
+        <source>程序退出</source>
+        <translation>程式結束</translation>
     </message>
     <message>
         <source>扫描完成</source>

@@ -152,6 +152,11 @@ void CleanCommandTest::methods()
     QCOMPARE(logged(),
              (QStringList{u"scan_start: "_s + m_tree->path(u"src"_s), u"scan_done: groups=1 wasted=14 candidates=4"_s,
                           u"auto_keep: rule=1 count=2"_s, record}));
+    const QStringList said = QString::fromUtf8(run({u"log"_s}).output).split(u'\n', Qt::SkipEmptyParts);
+    QCOMPARE(said.size(), 4);
+    QVERIFY2(said[1].endsWith(u"  scan finished: 1 group, 14 B reclaimable"_s), qPrintable(said[1]));
+    QVERIFY2(said[2].endsWith(u"  surplus files chosen: 2 files, keeping the oldest"_s), qPrintable(said[2]));
+    QVERIFY2(said[3].endsWith(u": 2 files"_s) && !said[3].contains(u"_batch"_s), qPrintable(said[3]));
     const ProgramRun again = clean(method, more);
     QCOMPARE(again.output, QByteArray("0 of 0 files processed (" + method.toLatin1() + ")\n"));
 }
@@ -530,7 +535,7 @@ void CleanCommandTest::targetHoldsTheFolder()
         QSKIP("letter case matters here");
     const DiskTree before = source();
     const ProgramRun done = clean(method, {u"--apply"_s, u"--target"_s, m_tree->path(target)});
-    QCOMPARE(done.errors, usageErrorText(u"%1, where files are put away, is the scanned folder %2 or holds it"_s.arg(
+    QCOMPARE(done.errors, usageErrorText(u"the target folder %1 must not be the scanned folder %2 or contain it"_s.arg(
                               QDir::cleanPath(m_tree->path(target)), m_tree->path(u"src"_s))));
     QCOMPARE(done.status, 2);
     QCOMPARE(source(), before);

@@ -1,3 +1,4 @@
+#include "core/match/copywords.h"
 #include "core/match/editdistance.h"
 #include "core/match/similarnames.h"
 
@@ -77,6 +78,8 @@ class SimilarNamesTest : public QObject
 private slots:
     void stripsCopySuffixes_data();
     void stripsCopySuffixes();
+    void stripsCopyWords_data();
+    void stripsCopyWords();
     void normalizes();
     void distances_data();
     void distances();
@@ -117,6 +120,39 @@ void SimilarNamesTest::stripsCopySuffixes()
 {
     const QString stripped = stripCopySuffix(QString::fromUtf8(QTest::currentDataTag()));
     QTEST(stripped, "expected");
+}
+
+void SimilarNamesTest::stripsCopyWords_data()
+{
+    QTest::addColumn<QString>("expected");
+    const auto row = [](const char *text, const char *expected) { QTest::newRow(text) << QString::fromUtf8(expected); };
+    for (const char *copy :
+         {"a - Copy",        "a (2)",           "a - Copy (2)",   "a copy 2",         "a (copy)",    "a (3rd copy)",
+          "Copy of a",       "Copy (2) of a",   "a - Kopie",      "a - Kopie (3)",    "a Kopie 2",   "a (3. Kopie)",
+          "Kopie von a",     "Kopie (2) von a", "a - kopie",      "a (andere kopie)", "Kopie van a", "a - Copie",
+          "a (autre copie)", "Copie de a",      "a - copia",      "a - COPIA (2)",    "a copia 2",   "a (otra copia)",
+          "Copia de a",      "a (altra copia)", "Copia di a",     "a - Cópia",        "a - CÓPIA",   "a - Co\u0301pia",
+          "a (outra cópia)", "Cópia de a",      "a - コピー",     "aのコピー",        "aのコピー2",  "a (コピー)",
+          "コピー ～ a",     "a - 복사본",      "a - 복사본 (2)", "a 복사본 2",       "복사본 a",    "a - 副本",
+          "a 副本 2",        "复件 (2) a",      "a - 複製",       "a - 複製 (2)",     "a 拷貝",      "a（副本）",
+          "Copy of a (2)"})
+        row(copy, "a");
+    for (const char *name : {"a - Shortcut", "a - Verknüpfung", "Fotokopie", "Hardkopie 2", "細胞複製", "ハードコピー",
+                             "Copyright", "Kopie", "(copia)", "Copie de", "(1)", "copiado", "a (my copy notes)", ""})
+        row(name, name);
+}
+
+void SimilarNamesTest::stripsCopyWords()
+{
+    const QString name = QString::fromUtf8(QTest::currentDataTag());
+    QFETCH(QString, expected);
+    QCOMPARE(stripCopyWords(name), expected);
+    QCOMPARE(hasCopyWord(name + u".txt"_qs), name != expected);
+    ScanOptions options;
+    options.caseSensitive = true;
+    QCOMPARE(normalizedBaseName(name + u".txt"_qs, options), stripCopySuffix(name));
+    options.copyWordsInAllLanguages = true;
+    QCOMPARE(normalizedBaseName(name + u".txt"_qs, options), stripCopyWords(stripCopySuffix(name)));
 }
 
 void SimilarNamesTest::normalizes()
