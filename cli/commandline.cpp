@@ -12,6 +12,7 @@
 #include "cli/restorecommand.h"
 #include "cli/scancommand.h"
 #include "cli/undocommand.h"
+#include "core/platform/nativefileio.h"
 #include "core/platform/nativepath.h"
 #include "core/platform/pathtext.h"
 
@@ -178,10 +179,28 @@ QString choiceProblem(const QString &option, const QStringList &choices, const Q
                            : QStringLiteral("--%1 must be %2, not \"%3\"").arg(option, known, value);
 }
 
+QString commandText()
+{
+    return QCoreApplication::arguments().mid(1).join(QLatin1Char(' '));
+}
+
+void requireUnicodeName(const QString &source, const QString &folder)
+{
+    if (!MirrixCore::isQtPath(folder))
+        throw UsageError{QStringLiteral("%1 cannot be %2: its name is not UTF-8").arg(source, folder)};
+}
+
 QString dataDirectoryOf(const QCommandLineParser &parser)
 {
     const QString chosen = parser.value(dataDirOption);
     return chosen.isEmpty() ? Mirrix::dataDirectory() : MirrixCore::cleanedPath(MirrixCore::absolutePath(chosen));
+}
+
+QString recordsDirectoryOf(const QCommandLineParser &parser)
+{
+    const QString directory = dataDirectoryOf(parser);
+    requireUnicodeName(QStringLiteral("--") + dataDirOption, directory);
+    return directory;
 }
 
 } // namespace MirrixCli

@@ -28,7 +28,7 @@ MirrixCore::ScanOptions optionsOf(const QCommandLineParser &parser)
     readSelection(parser, options);
     if (!options.files.isEmpty())
         throw UsageError{QStringLiteral("--empty-folders takes folders only, not %1").arg(options.files.constFirst())};
-    const QString dataDirectory = dataDirectoryOf(parser);
+    const QString dataDirectory = recordsDirectoryOf(parser);
     options.excludeFolders += {dataDirectory, backupFolderPath(readSettings(dataDirectory).backupRoot)};
     return options;
 }
@@ -50,8 +50,10 @@ bool printFolders(const QStringList &folders, bool isQuiet)
 /// False when some folders stayed.
 bool removeFolders(const QStringList &folders, const QCommandLineParser &parser)
 {
-    OperationsLog log(operationsLogPath(dataDirectoryOf(parser)));
-    const BatchResult result = removeEmptyFolders(folders, log, [](auto, auto) { return !isInterrupted(); });
+    const QString dataDirectory = recordsDirectoryOf(parser);
+    OperationsLog log(operationsLogPath(dataDirectory));
+    const CleaningResult result =
+        removeEmptyFolders(folders, {log, dataDirectory, commandText()}, [](auto, auto) { return !isInterrupted(); });
     for (const QString &error : result.errors)
         printError(error);
     if (!isQuiet(parser))

@@ -162,7 +162,7 @@ ExitStatus runHistory(const QCommandLineParser &parser)
     if (words.size() > 1 || (!words.isEmpty() && !isRunId(words.constFirst())))
         throw UsageError{QStringLiteral("history takes at most one run, named as in the list")};
     const bool isJson = format == QLatin1String("json");
-    const QString dataDirectory = dataDirectoryOf(parser);
+    const QString dataDirectory = recordsDirectoryOf(parser);
     bool isDone = true;
     if (words.isEmpty()) {
         const QList<RunSummary> runs = listRuns(dataDirectory);

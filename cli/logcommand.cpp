@@ -53,7 +53,7 @@ ExitStatus runLog(const QCommandLineParser &parser)
         throw UsageError{choiceProblem(formatOption, {QStringLiteral("text"), QStringLiteral("json")}, format)};
     if (!parser.positionalArguments().isEmpty())
         throw UsageError{QStringLiteral("log takes no files")};
-    const QList<LogEntry> entries = OperationsLog(operationsLogPath(dataDirectoryOf(parser))).readAll();
+    const QList<LogEntry> entries = OperationsLog(operationsLogPath(recordsDirectoryOf(parser))).readAll();
     Output output;
     if (!output.open({}))
         return ExitStatus::SomeFailed;

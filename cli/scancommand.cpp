@@ -172,19 +172,6 @@ QString orderOf(const QCommandLineParser &parser)
     return order;
 }
 
-/// Looks for empty files instead of duplicates.
-void seekEmptyFiles(ScanOptions &options)
-{
-    const QStringList places = options.roots + options.files.mid(0, options.roots.isEmpty() ? 1 : 0);
-    for (const QString &place : places) {
-        const auto isOf = [&](const ScanLocation &location) { return location.path == place; };
-        if (std::none_of(options.locations.begin(), options.locations.end(), isOf))
-            options.locations.append({place, true, 0, false});
-    }
-    for (ScanLocation &location : options.locations)
-        location.findKind = static_cast<qint32>(FindKind::EmptyFiles);
-}
-
 /// Finds out before a long scan whether its report can be written. The file is not left open: its temporary name would
 /// be found by a scan of its folder.
 void refuseUnwritable(const QString &path)
@@ -271,6 +258,18 @@ ScanResult scanAndReportUnread(const ScanOptions &options, bool isQuiet)
     const ScanResult result = scanWithProgress(options, isQuiet);
     printUnread(result.unread);
     return result;
+}
+
+void seekEmptyFiles(ScanOptions &options)
+{
+    const QStringList places = options.roots + options.files.mid(0, options.roots.isEmpty() ? 1 : 0);
+    for (const QString &place : places) {
+        const auto isOf = [&](const ScanLocation &location) { return location.path == place; };
+        if (std::none_of(options.locations.begin(), options.locations.end(), isOf))
+            options.locations.append({place, true, 0, false});
+    }
+    for (ScanLocation &location : options.locations)
+        location.findKind = static_cast<qint32>(FindKind::EmptyFiles);
 }
 
 void addOutputOptions(QCommandLineParser &parser)

@@ -9,7 +9,6 @@
 #include "cli/progressline.h"
 #include "cli/terminal.h"
 
-#include <QCoreApplication>
 #include <QFile>
 
 #include <algorithm>
@@ -30,11 +29,13 @@ QString runMeant(const QCommandLineParser &parser)
     const QStringList words = parser.positionalArguments();
     if (words.size() != 1 || (words.constFirst() != lastWord && !isRunId(words.constFirst())))
         throw UsageError{QStringLiteral("undo takes one run, named as in \"history\", or \"last\"")};
-    const QString dataDirectory = dataDirectoryOf(parser);
+    const QString dataDirectory = recordsDirectoryOf(parser);
     if (words.constFirst() == lastWord) {
         const QList<RunSummary> runs = listRuns(dataDirectory);
         const auto found = std::find_if(runs.begin(), runs.end(), [](const RunSummary &run) {
-            return methodNamed(run.header.method).has_value(); // nor one that was killed before it began
+            const QString &method = run.header.method;
+            return methodNamed(method).has_value() ||
+                   method == emptyFoldersMethod; // nor one that was killed before it began
         });
         if (found == runs.end())
             printError(QStringLiteral("there is no run to undo"));
@@ -130,7 +131,7 @@ ExitStatus runUndo(const QCommandLineParser &parser)
     if (id.isEmpty())
         return ExitStatus::SomeFailed;
     catchInterrupts();
-    const QString dataDirectory = dataDirectoryOf(parser);
+    const QString dataDirectory = recordsDirectoryOf(parser);
     UndoPlan plan;
     {
         ProgressLine line;
@@ -147,8 +148,7 @@ ExitStatus runUndo(const QCommandLineParser &parser)
     if (!parser.isSet(applyOption))
         return printPlan(plan);
     OperationsLog log(operationsLogPath(dataDirectory));
-    const QString command = QCoreApplication::arguments().mid(1).join(QLatin1Char(' '));
-    return apply(plan, {log, dataDirectory, command});
+    return apply(plan, {log, dataDirectory, commandText()});
 }
 
 } // namespace MirrixCli

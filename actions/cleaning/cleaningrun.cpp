@@ -107,7 +107,7 @@ private:
         const Space earlier = m_account.total();
         if (outcome.problem.isEmpty()) {
             ++m_result.count;
-            m_account.add(before.sizeBytes, before.identity);
+            m_account.add(before.sizeBytes, before.allocatedBytes, before.identity);
         } else {
             m_result.errors.append(outcome.problem);
         }

@@ -5,7 +5,12 @@
 #include "actions/cleaning/redo.h"
 #include "actions/cleaning/undorecord.h"
 #include "actions/cleaning/undosource.h"
+#include "actions/cleaning/undotexts.h"
+#include "actions/nativefile.h"
 #include "actions/records/runjournal.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace Mirrix {
 
@@ -41,6 +46,7 @@ public:
                 break;
             isNoted = bringBack(i, items); // what cannot be recorded is not done; the end of the record says why
         }
+        markFolders();
         m_result.errors += m_record.end();
         return m_result;
     }
@@ -60,9 +66,23 @@ private:
             m_result.errors.append(back.problem);
         else
             ++m_result.count;
+        if (back.problem.isEmpty() && m_plan.run.summary.header.method == emptyFoldersMethod)
+            m_folders.append(item);
         if (!back.note.isEmpty())
             m_result.notes.append(back.note);
         return m_record.note(position, source, back);
+    }
+
+    /// Not before all of them are there: a folder made in another changes its time, and may not be made where the old
+    /// permissions forbid it.
+    void markFolders()
+    {
+        std::sort(m_folders.begin(), m_folders.end(),
+                  [](const RunItem &a, const RunItem &b) { return a.original.size() > b.original.size(); });
+        for (const RunItem &folder : std::as_const(m_folders)) {
+            if (!setFileMarks(folder.original, {folder.modifiedExact, folder.mode}))
+                m_result.notes.append(unmarkedText(folder.original));
+        }
     }
 
     /// Files that an undo brought back before it was killed.
@@ -81,6 +101,7 @@ private:
     CleaningMethod m_method;
     UndoSources m_sources;
     UndoRecord m_record;
+    QList<RunItem> m_folders; ///< that are back
     UndoResult m_result;
 };
 

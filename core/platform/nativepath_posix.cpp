@@ -1,5 +1,6 @@
 #include "core/platform/nativepath.h"
 
+#include "core/platform/openpath_posix.h"
 #include "core/platform/surrogates.h"
 
 #include <algorithm>
@@ -93,8 +94,7 @@ QString absolutePath(const QString &path)
 
 QString canonicalPath(const QString &path)
 {
-    const SystemText resolved(realpath(pathBytes(path).constData(), nullptr), &std::free);
-    return resolved ? pathFromBytes(resolved.get()) : QString();
+    return pathFromBytes(realPath(pathBytes(path)));
 }
 
 QString pathCaseKey(const QString &path)

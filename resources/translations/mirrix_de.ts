@@ -316,6 +316,10 @@
         <translation>Löschen fehlgeschlagen: %1</translation>
     </message>
     <message>
+        <source>文件夹已不为空，或不允许删除: %1</source>
+        <translation>Ordner ist nicht mehr leer oder darf nicht gelöscht werden: %1</translation>
+    </message>
+    <message>
         <source>无法移动: %1</source>
         <translation>Verschieben fehlgeschlagen: %1</translation>
     </message>
@@ -2392,6 +2396,10 @@ Dateien, die nicht zurückgelegt werden können (%1):
     <message>
         <source>移入回收站</source>
         <translation>In den Papierkorb</translation>
+    </message>
+    <message>
+        <source>删除空文件夹</source>
+        <translation>Leere Ordner löschen</translation>
     </message>
     <message>
         <source>移动到文件夹</source>

@@ -316,6 +316,10 @@
         <translation>Could not delete: %1</translation>
     </message>
     <message>
+        <source>文件夹已不为空，或不允许删除: %1</source>
+        <translation>Folder is no longer empty, or must not be deleted: %1</translation>
+    </message>
+    <message>
         <source>无法移动: %1</source>
         <translation>Could not move: %1</translation>
     </message>
@@ -2392,6 +2396,10 @@ Files that cannot be put back (%1):
     <message>
         <source>移入回收站</source>
         <translation>Moved to Recycle Bin</translation>
+    </message>
+    <message>
+        <source>删除空文件夹</source>
+        <translation>Delete empty folders</translation>
     </message>
     <message>
         <source>移动到文件夹</source>

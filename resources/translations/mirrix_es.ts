@@ -316,6 +316,10 @@
         <translation>No se pudo eliminar: %1</translation>
     </message>
     <message>
+        <source>文件夹已不为空，或不允许删除: %1</source>
+        <translation>La carpeta ya no está vacía o no se permite eliminarla: %1</translation>
+    </message>
+    <message>
         <source>无法移动: %1</source>
         <translation>No se pudo mover: %1</translation>
     </message>
@@ -2392,6 +2396,10 @@ Archivos que no se pueden devolver a su lugar (%1):
     <message>
         <source>移入回收站</source>
         <translation>Enviado a la Papelera</translation>
+    </message>
+    <message>
+        <source>删除空文件夹</source>
+        <translation>Eliminar carpetas vacías</translation>
     </message>
     <message>
         <source>移动到文件夹</source>

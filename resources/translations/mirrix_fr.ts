@@ -316,6 +316,10 @@
         <translation>Suppression impossible : %1</translation>
     </message>
     <message>
+        <source>文件夹已不为空，或不允许删除: %1</source>
+        <translation>Le dossier n’est plus vide ou ne peut pas être supprimé : %1</translation>
+    </message>
+    <message>
         <source>无法移动: %1</source>
         <translation>Déplacement impossible : %1</translation>
     </message>
@@ -2392,6 +2396,10 @@ Fichiers impossibles à remettre en place (%1) :
     <message>
         <source>移入回收站</source>
         <translation>Placé dans la Corbeille</translation>
+    </message>
+    <message>
+        <source>删除空文件夹</source>
+        <translation>Supprimer les dossiers vides</translation>
     </message>
     <message>
         <source>移动到文件夹</source>

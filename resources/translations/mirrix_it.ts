@@ -316,6 +316,10 @@
         <translation>Impossibile eliminare: %1</translation>
     </message>
     <message>
+        <source>文件夹已不为空，或不允许删除: %1</source>
+        <translation>La cartella non è più vuota o non può essere eliminata: %1</translation>
+    </message>
+    <message>
         <source>无法移动: %1</source>
         <translation>Impossibile spostare: %1</translation>
     </message>
@@ -2392,6 +2396,10 @@ File che non si possono rimettere a posto (%1):
     <message>
         <source>移入回收站</source>
         <translation>Spostati nel Cestino</translation>
+    </message>
+    <message>
+        <source>删除空文件夹</source>
+        <translation>Elimina cartelle vuote</translation>
     </message>
     <message>
         <source>移动到文件夹</source>

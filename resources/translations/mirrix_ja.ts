@@ -316,6 +316,10 @@
         <translation>削除できません: %1</translation>
     </message>
     <message>
+        <source>文件夹已不为空，或不允许删除: %1</source>
+        <translation>フォルダーが空でなくなったか、削除が許可されていません: %1</translation>
+    </message>
+    <message>
         <source>无法移动: %1</source>
         <translation>移動できません: %1</translation>
     </message>
@@ -2392,6 +2396,10 @@ raw、cr2、nef は常にスキャンされます。「対象」リストが空�
     <message>
         <source>移入回收站</source>
         <translation>ごみ箱に移動</translation>
+    </message>
+    <message>
+        <source>删除空文件夹</source>
+        <translation>空のフォルダーを削除</translation>
     </message>
     <message>
         <source>移动到文件夹</source>

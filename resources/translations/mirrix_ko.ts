@@ -316,6 +316,10 @@
         <translation>삭제할 수 없음: %1</translation>
     </message>
     <message>
+        <source>文件夹已不为空，或不允许删除: %1</source>
+        <translation>폴더가 더 이상 비어 있지 않거나 삭제할 수 없음: %1</translation>
+    </message>
+    <message>
         <source>无法移动: %1</source>
         <translation>이동할 수 없음: %1</translation>
     </message>
@@ -2392,6 +2396,10 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     <message>
         <source>移入回收站</source>
         <translation>휴지통으로 이동</translation>
+    </message>
+    <message>
+        <source>删除空文件夹</source>
+        <translation>빈 폴더 삭제</translation>
     </message>
     <message>
         <source>移动到文件夹</source>

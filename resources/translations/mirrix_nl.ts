@@ -316,6 +316,10 @@
         <translation>Verwijderen mislukt: %1</translation>
     </message>
     <message>
+        <source>文件夹已不为空，或不允许删除: %1</source>
+        <translation>Map is niet meer leeg of mag niet worden verwijderd: %1</translation>
+    </message>
+    <message>
         <source>无法移动: %1</source>
         <translation>Verplaatsen mislukt: %1</translation>
     </message>
@@ -2392,6 +2396,10 @@ Bestanden die niet teruggeplaatst kunnen worden (%1):
     <message>
         <source>移入回收站</source>
         <translation>Naar prullenbak</translation>
+    </message>
+    <message>
+        <source>删除空文件夹</source>
+        <translation>Lege mappen verwijderen</translation>
     </message>
     <message>
         <source>移动到文件夹</source>

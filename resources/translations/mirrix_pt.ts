@@ -316,6 +316,10 @@
         <translation>Não foi possível excluir: %1</translation>
     </message>
     <message>
+        <source>文件夹已不为空，或不允许删除: %1</source>
+        <translation>A pasta não está mais vazia ou não pode ser excluída: %1</translation>
+    </message>
+    <message>
         <source>无法移动: %1</source>
         <translation>Não foi possível mover: %1</translation>
     </message>
@@ -2392,6 +2396,10 @@ Arquivos que não podem ser devolvidos ao lugar (%1):
     <message>
         <source>移入回收站</source>
         <translation>Movidos para a Lixeira</translation>
+    </message>
+    <message>
+        <source>删除空文件夹</source>
+        <translation>Excluir pastas vazias</translation>
     </message>
     <message>
         <source>移动到文件夹</source>

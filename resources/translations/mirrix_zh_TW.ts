@@ -316,6 +316,10 @@
         <translation>無法刪除：%1</translation>
     </message>
     <message>
+        <source>文件夹已不为空，或不允许删除: %1</source>
+        <translation>資料夾已不為空，或不允許刪除：%1</translation>
+    </message>
+    <message>
         <source>无法移动: %1</source>
         <translation>無法移動：%1</translation>
     </message>
@@ -2392,6 +2396,10 @@ raw、cr2、nef 一律會掃描。僅在「已包含」清單為空時有效。<
     <message>
         <source>移入回收站</source>
         <translation>移至資源回收筒</translation>
+    </message>
+    <message>
+        <source>删除空文件夹</source>
+        <translation>刪除空資料夾</translation>
     </message>
     <message>
         <source>移动到文件夹</source>

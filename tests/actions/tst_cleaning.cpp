@@ -1,6 +1,7 @@
 #include "actions/backupstore.h"
 #include "actions/cleaning/cleaningrun.h"
 #include "actions/cleaning/emptyfolderremoval.h"
+#include "actions/nativefile.h"
 #include "actions/operationslog.h"
 #include "core/platform/filestatus.h"
 #include "core/scan/duplicatescanner.h"
@@ -36,7 +37,7 @@ const QList<CleaningMethod> allMethods = {CleaningMethod::Recycle,
 ScannedFile scanned(const QString &path)
 {
     const MirrixCore::FileStatus status = MirrixCore::fileStatus(path);
-    return {path, status.sizeBytes, status.modifiedMs, status.identity};
+    return {path, status.sizeBytes, status.modifiedMs, status.identity, pathState(path).allocatedBytes};
 }
 
 /// A bin that keeps what it is sent in a folder of the tree.
@@ -458,6 +459,16 @@ void CleaningTest::space()
     QCOMPARE(estimatedSpace(each), (Space{0, 0, 4}));
     each.method = CleaningMethod::Delete;
     QCOMPARE(run(each).space, (Space{4, 0, 0}));
+    QFile sparse(path("src/sparse"));
+    QVERIFY(sparse.open(QIODevice::WriteOnly) && sparse.resize(1 << 20));
+    sparse.close();
+    if (pathState(sparse.fileName()).allocatedBytes != 0)
+        QSKIP("no holes");
+    each.items = {item("src/sparse")};
+    each.items[0].isEqualContent = false;
+    QCOMPARE(estimatedSpace(each), Space());
+    QCOMPARE(run(each).count, 1);
+    QCOMPARE(run(each).space, Space());
 }
 
 void CleaningTest::putAwayCopiesAreNotKept()
@@ -513,10 +524,10 @@ void CleaningTest::emptyFoldersOnly()
     const bool hasLink = m_tree->symbolicLink(u"empty"_s, u"link"_s);
     m_tree->write(u"no folder"_s, {});
     OperationsLog unwritable(path("no folder/log"));
-    QCOMPARE(removeEmptyFolders({empty}, unwritable).count, 0);
+    QCOMPARE(removeEmptyFolders({empty}, {unwritable, path("data"), u"test"_s}).count, 0);
     QVERIFY(QFileInfo::exists(empty));
     OperationsLog log(path("data/log"));
-    const BatchResult result = removeEmptyFolders(kept + QStringList{empty}, log);
+    const CleaningResult result = removeEmptyFolders(kept + QStringList{empty}, {log, path("data"), u"test"_s});
     QCOMPARE(result.count, 1);
     QCOMPARE(result.errors.size(), 4);
     QVERIFY(!QFileInfo::exists(empty) && QFileInfo::exists(path("src/kept")));

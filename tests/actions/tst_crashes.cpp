@@ -192,8 +192,9 @@ void CrashesTest::killedAnywhere()
     if (isOnOtherVolume && !folderOnOtherVolume(QDir::tempPath()))
         QSKIP("no second volume");
     const QString action = QString::fromLatin1(QTest::currentDataTag()).trimmed();
-    const QStringList calls = {u"renameat2"_s, u"rename"_s, u"link"_s,  u"linkat"_s,    u"symlink"_s,   u"unlink"_s,
-                               u"write"_s,     u"fsync"_s,  u"mkdir"_s, u"fdatasync"_s, u"utimensat"_s, u"fchmod"_s};
+    const QStringList calls = {u"renameat2"_s, u"rename"_s,    u"linkat"_s, u"symlinkat"_s, u"unlinkat"_s,
+                               u"unlink"_s,    u"write"_s,     u"fsync"_s,  u"mkdir"_s,     u"mkdirat"_s,
+                               u"fdatasync"_s, u"utimensat"_s, u"fchmod"_s};
     for (const QString &call : action.contains(u"before"_s) ? calls.first(7) : calls) {
         sweep(call, action, isOnOtherVolume);
         if (QTest::currentTestFailed())
@@ -217,7 +218,7 @@ void CrashesTest::prepare(const QString &name, bool isOnOtherVolume)
     if (name.startsWith(u"restore"))
         act(u"back up"_s, m_tree->path(), m_store);
     if (name == u"restore, killed before") // when the first copy was in place and its source still there
-        QVERIFY(!runsThrough(u"unlink"_s, 1, {u"--act"_s, name, m_tree->path(), m_store}));
+        QVERIFY(!runsThrough(u"unlinkat"_s, 1, {u"--act"_s, name, m_tree->path(), m_store}));
 }
 
 /// Runs this program under a tracer that kills it before its n-th call of a kind; whether it ended by itself. The

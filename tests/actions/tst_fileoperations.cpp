@@ -299,7 +299,7 @@ void FileOperationsTest::volumeWithoutAttributes()
 {
     MIRRIX_IN_SCENE("MIRRIX_NO_ATTRIBUTES",
                     "MIRRIX_NO_ATTRIBUTES=1 ASAN_OPTIONS=detect_leaks=0 exec strace -f -qq -o \"$0/trace\" "
-                    "-e inject=fchmod,fchown,utimensat,fsetxattr,renameat2,link:error=ENOSYS \"$@\"");
+                    "-e inject=fchmod,fchown,utimensat,fsetxattr,renameat2,linkat:error=ENOSYS \"$@\"");
     const auto other = folderOnOtherVolume(m_tree->path());
     if (!other)
         QSKIP("no second volume");

@@ -5,6 +5,7 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QScopeGuard>
 #include <QTest>
 
 #include <memory>
@@ -22,9 +23,13 @@ private slots:
     void onlyTellsWithoutApply();
     void methods_data();
     void methods();
+    void longPaths_data();
+    void longPaths();
     void backUpAndRestoreAll();
     void restoreChosen();
     void emptyFolders();
+    void emptyFiles_data();
+    void emptyFiles();
     void failuresAreNamed();
     void interrupted();
     void unreadableIndexStays();
@@ -72,6 +77,17 @@ private:
         done = Program::ended(process);
         return process.error() != QProcess::FailedToStart;
     }
+    /// Times and permissions of folders in "src".
+    [[nodiscard]] QByteArray folderMarks(const QStringList &folders) const
+    {
+        QByteArray marks;
+        for (const QString &folder : folders) {
+            const std::filesystem::path path = exactNative(m_tree->path(u"src/"_s + folder));
+            marks += QByteArray::number(qint64(std::filesystem::last_write_time(path).time_since_epoch().count())) +
+                     ' ' + QByteArray::number(static_cast<int>(std::filesystem::status(path).permissions()), 8) + '\n';
+        }
+        return marks;
+    }
     [[nodiscard]] DiskTree source() const { return treeBelow(m_tree->path(u"src"_s)); }
     /// The log's records behind `skipped` ones, as "action: detail".
     [[nodiscard]] QStringList logged(int skipped = 0) const
@@ -81,6 +97,16 @@ private:
         for (const QJsonValue &item : items)
             lines.append(item[u"action"_s].toString() + u": "_s + item[u"detail"_s].toString());
         return lines.mid(skipped);
+    }
+
+    /// What the lines of Python print when they run in the folder "src"; null when they fail.
+    [[nodiscard]] QByteArray script(const QByteArray &lines) const
+    {
+        QProcess process;
+        process.setWorkingDirectory(m_tree->path(u"src"_s));
+        process.start(u"python3"_s, {u"-c"_s, QString::fromLatin1(lines)});
+        const bool isDone = process.waitForFinished() && process.exitCode() == 0;
+        return isDone ? process.readAll() + '.' : QByteArray();
     }
 
     std::unique_ptr<TempTree> m_tree;
@@ -161,6 +187,56 @@ void CleanCommandTest::methods()
     QCOMPARE(again.output, QByteArray("0 of 0 files processed (" + method.toLatin1() + ")\n"));
 }
 
+void CleanCommandTest::longPaths_data()
+{
+    QTest::addColumn<QByteArray>("cleaned");
+    const QByteArray kept = "kept 100640 1000000007 ";
+    for (const char *method : {"delete", "recycle", "move", "backup"})
+        QTest::newRow(method) << kept + "1 deep\n.";
+    QTest::newRow("symlink") << QByteArray("copy leads to kept\n" + kept + "1 deep\n.");
+    QTest::newRow("hardlink") << "copy" + kept.mid(4) + "2 deep\n" + kept + "2 deep\n.";
+}
+
+/// Files whose path is longer than what the system takes in one call.
+void CleanCommandTest::longPaths()
+{
+    QFETCH(QByteArray, cleaned);
+    const QByteArray look = "import os\n"
+                            "while os.path.isdir('d' * 200): os.chdir('d' * 200)\n"
+                            "for name in sorted(os.listdir()):\n"
+                            "    info = os.lstat(name)\n"
+                            "    if os.path.islink(name): print(name, 'leads to', os.readlink(name))\n"
+                            "    else: print(name, '%o %d' % (info.st_mode, info.st_mtime_ns), info.st_nlink, "
+                            "open(name).read())\n";
+    const auto removal = qScopeGuard([&] { QProcess::execute(u"rm"_s, {u"-rf"_s, m_tree->path(u"src"_s)}); });
+    const QByteArray before = script("import os\n"
+                                     "for level in range(26):\n"
+                                     "    os.mkdir('d' * 200)\n"
+                                     "    os.chdir('d' * 200)\n"
+                                     "for name in ('kept', 'copy'):\n"
+                                     "    open(name, 'w').write('deep')\n"
+                                     "    os.chmod(name, 0o640)\n"
+                                     "    os.utime(name, ns=(1, 1000000007 if name == 'kept' else 2000000007))\n" +
+                                     look.mid(look.indexOf("for")));
+    if (before.isNull())
+        QSKIP("no such paths here");
+    const QString method = QString::fromLatin1(QTest::currentDataTag());
+    const bool takesTarget = method == u"move"_s || method == u"backup"_s;
+    const ProgramRun done =
+        clean(method, QStringList(u"--apply"_s) +
+                          (takesTarget ? QStringList{u"--target"_s, m_tree->path(u"away"_s)} : QStringList()));
+    QCOMPARE(done.errors, QByteArray());
+    QCOMPARE(script(look), cleaned);
+    const ProgramRun undone = run({u"undo"_s, u"last"_s, u"--apply"_s});
+    QCOMPARE(undone.errors, QByteArray());
+    QCOMPARE(script(look), before);
+    if (method != u"backup"_s)
+        return;
+    QCOMPARE(clean(method, {u"--apply"_s}).status, 0);
+    QCOMPARE(run({u"restore"_s, u"--all"_s}).output, QByteArray("3 of 3 files restored\n"));
+    QCOMPARE(script(look), before);
+}
+
 void CleanCommandTest::backUpAndRestoreAll()
 {
     const DiskTree before = source();
@@ -210,6 +286,9 @@ void CleanCommandTest::emptyFolders()
              u"remove full/e\nremove e/f/g\nremove e/f\nremove e\n4 empty folders. Nothing was changed; run again "
              "with --apply to do this.\n"_s);
     QVERIFY(QFileInfo::exists(folder + u"e/f/g"_s));
+    std::filesystem::permissions(exactNative(folder + u"e/f"_s), std::filesystem::perms(0710));
+    const QStringList paths = {u"full/e"_s, u"e/f/g"_s, u"e/f"_s, u"e"_s};
+    const QByteArray before = folderMarks(paths);
     const ProgramRun done = run(arguments + QStringList(u"--apply"_s));
     QCOMPARE(done.output, "4 of 4 empty folders removed\n");
     QCOMPARE(done.status, 0);
@@ -218,11 +297,53 @@ void CleanCommandTest::emptyFolders()
     for (const QString &kept : {u"full/.hidden"_s, u"repo.git/refs"_s, u".svn"_s, u"out"_s, u"other"_s})
         QVERIFY2(QFileInfo::exists(folder + kept), qPrintable(kept));
     QVERIFY(!hasLink || QFileInfo(folder + u"linked/link"_s).isSymLink());
-    QStringList paths = {u"full/e"_s, u"e/f/g"_s, u"e/f"_s, u"e"_s};
     QCOMPARE(logged(), QStringList({u"empty_folders: "_s + folder + paths.join(u'|' + folder),
                                     u"empty_folders_removed: count=4 of=4"_s}));
+    QVERIFY(run({u"history"_s}).output.contains(" empty-folders            4/4 files"));
+    const ProgramRun undone = run({u"undo"_s, u"last"_s, u"--apply"_s});
+    QVERIFY(undone.output.startsWith("4 of 4 files undone"));
+    QCOMPARE(undone.errors, QByteArray());
+    QCOMPARE(folderMarks(paths), before);
+    const QString undo = QString::fromLatin1(undone.output.mid(undone.output.indexOf("(run ") + 5, 20));
+    QVERIFY(run({u"undo"_s, undo, u"--apply"_s}).output.startsWith("4 of 4 files undone"));
+    QVERIFY(!QFileInfo::exists(folder + u"e"_s) && !QFileInfo::exists(folder + u"full/e"_s));
     QCOMPARE(run({u"clean"_s, u"--empty-folders"_s, u"--keep"_s, u"newest"_s, folder}).errors,
              usageErrorText(u"--keep cannot be used with --empty-folders"_s));
+}
+
+void CleanCommandTest::emptyFiles_data()
+{
+    QTest::addColumn<QString>("method");
+    for (const char *method : {"delete", "recycle", "move", "backup"})
+        QTest::newRow(method) << QString::fromLatin1(method);
+}
+
+void CleanCommandTest::emptyFiles()
+{
+    QFETCH(QString, method);
+    for (const QString &name : {u"src/none"_s, u"src/deep/nothing"_s, u"src/.git/none"_s})
+        m_tree->write(name, {});
+    m_tree->setModified(u"src/none"_s, 1234567890000);
+    const DiskTree before = source();
+    QStringList arguments = {u"clean"_s, u"--empty-files"_s, u"--method"_s, method};
+    if (method == u"move"_s || method == u"backup"_s)
+        arguments += {u"--target"_s, m_tree->path(u"away"_s)};
+    arguments.append(m_tree->path(u"src"_s));
+    QVERIFY(run(arguments).output.contains("\n2 files, 0 B"));
+    QCOMPARE(source(), before);
+    const ProgramRun done = run(arguments + QStringList(u"--apply"_s));
+    QCOMPARE(done.errors, QByteArray());
+    QVERIFY(done.output.startsWith("2 of 2 files processed"));
+    DiskTree left = before;
+    left.removeIf([](const auto &file) { return file.value().startsWith(" @") && !file.key().startsWith(u".git/"_s); });
+    QCOMPARE(left.size(), before.size() - 2);
+    QCOMPARE(source(), left);
+    const ProgramRun undone = run({u"undo"_s, u"last"_s, u"--apply"_s});
+    QCOMPARE(undone.errors, QByteArray());
+    QCOMPARE(source(), before);
+    const QString undo = QString::fromLatin1(undone.output.mid(undone.output.indexOf("(run ") + 5, 20));
+    QVERIFY(run({u"undo"_s, undo, u"--apply"_s}).output.startsWith("2 of 2 files undone"));
+    QCOMPARE(source(), left);
 }
 
 void CleanCommandTest::failuresAreNamed()

@@ -659,6 +659,19 @@ void ScanCommandTest::namesOfBytes()
     QVERIFY(report.readAll().contains("scanned"));
     const MirrixCore::FileStatus cache = MirrixCore::fileStatus(odd + u"dir/fingerprint_cache"_s);
     QVERIFY(cache.kind == MirrixCore::FileStatus::Kind::Folder);
+    // Records are not kept under such names, nor under another one.
+    QProcess refused;
+    refused.start(u"sh"_s, {u"-c"_s,
+                            u"cd \"$1\"; cli=$2; shift 2; folder=$(printf 'x\\351'); for command; do "
+                            "\"$cli\" $command \"$folder\" 2>&1 || echo status $?; done; ls"_s,
+                            u"sh"_s, m_tree->path(), Program::builtExecutable(),
+                            u"clean --keep newest --method backup --apply . --data-dir"_s, u"undo last --data-dir"_s,
+                            u"history --data-dir"_s, u"log --data-dir"_s, u"restore --data-dir"_s,
+                            u"clean --keep newest --method backup --apply . --target"_s, u"restore --target"_s});
+    const QByteArray answers = Program::ended(refused).output;
+    QCOMPARE(answers.count("x\xE9: its name is not UTF-8\n"), 7);
+    QCOMPARE(answers.count("status 2\n"), 7);
+    QVERIFY2(!answers.contains("\nx"), answers.constData());
 }
 
 void ScanCommandTest::remembersDigests()

@@ -1,8 +1,10 @@
 #include "core/cache/cacheroot.h"
 #include "core/cache/fingerprintcache.h"
 #include "core/hash/contenthasher.h"
+#include "core/scan/duplicatescanner.h"
 #include "tests/support/disk.h"
 #include "tests/support/probes.h"
+#include "tests/support/scans.h"
 #include "tests/support/temptree.h"
 
 #include <QDir>
@@ -16,6 +18,7 @@
 #include <atomic>
 #include <memory>
 #include <numeric>
+#include <random>
 
 using namespace MirrixCore;
 using namespace MirrixTest;
@@ -50,6 +53,7 @@ private slots:
     void brokenEntryIsReplaced();
     void entryThatIsNoPlainFile_data();
     void entryThatIsNoPlainFile();
+    void hostileEntries();
     void unwritableFolderIsSilent();
     void offWithoutRoot();
     void oddNamesDoNotMeet();
@@ -267,6 +271,90 @@ void FingerprintCacheTest::entryThatIsNoPlainFile()
     QCOMPARE(contentOf(users), content);
     QVERIFY(lookupQuick(file, size, modified, digest));
     QVERIFY(QFileInfo(entryPath).isFile() && !QFileInfo(entryPath).isSymLink());
+}
+
+/// 1,000 entries, each spoilt in one of many ways: the groups are those that the contents make, and nothing outside of
+/// the cache is written.
+void FingerprintCacheTest::hostileEntries()
+{
+    constexpr int count = 1000;
+    QList<QStringList> expected(count / 2);
+    QStringList paths;
+    for (int i = 0; i < count; ++i) {
+        paths.append(m_tree->write(QStringLiteral("files/%1").arg(i, 4, 10, QLatin1Char('0')),
+                                   QByteArray::number(1000 + i / 2).repeated(3000)));
+        expected[i / 2].append(QStringLiteral("files/%1").arg(i, 4, 10, QLatin1Char('0')));
+    }
+    const ScanOptions options = optionsFor(*m_tree, {QStringLiteral("files")});
+    QCOMPARE(DuplicateScanner::scan(options, {}, {}).groups.size(), count / 2);
+    const QString users = m_tree->write(QStringLiteral("user's"), "own");
+    const DiskTree before = treeBelow(m_tree->path(QStringLiteral("files")));
+    std::mt19937 random(7);
+    const auto mutated = [&random](QByteArray text) {
+        for (int edit = 0; edit < 3; ++edit)
+            text[static_cast<qsizetype>(random() % static_cast<quint32>(text.size()))] =
+                "\"{}[]:,xg\\\0\xFF"[random() % 13]; // no digit: a whole digest is believed
+        return text;
+    };
+    for (int i = 0; i < count; ++i) {
+        const QString entryPath = cachePathFor(paths[i]);
+        const QString relative = QDir(m_tree->path()).relativeFilePath(entryPath);
+        QJsonObject told = QJsonDocument::fromJson(contentOf(entryPath)).object();
+        const QString same(32, QLatin1Char('a'));
+        QVERIFY(!told.isEmpty() && QFile::remove(entryPath));
+        const auto with = [&](const char *key, const QJsonValue &value) {
+            told.insert(QStringLiteral("quick"), same);
+            told.insert(QStringLiteral("full"), same);
+            told.insert(QLatin1String(key), value);
+            return QJsonDocument(told).toJson();
+        };
+        switch (i % 14) {
+        case 0:
+            m_tree->write(relative, with("size", told[QStringLiteral("size")].toInteger() + 1));
+            break;
+        case 1:
+            m_tree->write(relative, with("mtimeMs", 1e300));
+            break;
+        case 2:
+            m_tree->write(relative, with("algo", QStringLiteral("blake3")));
+            break;
+        case 3:
+            told.insert(QStringLiteral("full"), QStringLiteral("aa"));
+            m_tree->write(relative, QJsonDocument(told).toJson());
+            break;
+        case 4:
+            m_tree->write(relative, QByteArray(3 << 20, '['));
+            break;
+        case 5:
+            m_tree->write(relative, with("size", QJsonArray{told[QStringLiteral("size")]}));
+            break;
+        case 6:
+            m_tree->makeFolder(relative + QStringLiteral("/in"));
+            break;
+        case 7:
+            static_cast<void>(m_tree->symbolicLink(QStringLiteral("user's"), relative));
+            break;
+        case 8:
+            static_cast<void>(m_tree->hardLink(QStringLiteral("user's"), relative));
+            break;
+        case 9:
+            static_cast<void>(makePipe(entryPath));
+            break;
+        case 10:
+            QFile::link(QStringLiteral("/dev/zero"), entryPath);
+            break;
+        case 11:
+            QFile::link(entryPath, entryPath);
+            break;
+        default:
+            m_tree->write(relative, mutated(QJsonDocument(told).toJson().left(random() % 2 ? 90 : 1000)));
+        }
+    }
+    QList<QStringList> groups = groupsOf(DuplicateScanner::scan(options, {}, {}), *m_tree);
+    std::sort(groups.begin(), groups.end());
+    QCOMPARE(groups, expected);
+    QCOMPARE(treeBelow(m_tree->path(QStringLiteral("files"))), before);
+    QCOMPARE(contentOf(users), QByteArray("own"));
 }
 
 void FingerprintCacheTest::unwritableFolderIsSilent()

@@ -29,6 +29,7 @@ QString runMethodText(const RunHeader &run)
         {QStringLiteral("recycle"), Text::tr("移入回收站")}, {QStringLiteral("delete"), Text::tr("永久删除")},
         {QStringLiteral("move"), Text::tr("移动到文件夹")},  {QStringLiteral("symlink"), Text::tr("符号链接")},
         {QStringLiteral("hardlink"), Text::tr("硬链接")},    {QStringLiteral("backup"), Text::tr("移动到备份")},
+        {emptyFoldersMethod, Text::tr("删除空文件夹")},
     };
     QStringList parts;
     for (const QString &part : run.method.split(QLatin1Char('+')))
