@@ -3,8 +3,8 @@
 #include "app/datalocations.h"
 #include "app/languagecodes.h"
 #include "app/storedfile.h"
-#include "core/platform/nativefileio.h"
 #include "core/platform/filestatus.h"
+#include "core/platform/nativefileio.h"
 
 #include <QDir>
 #include <QFile>

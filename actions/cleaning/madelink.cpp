@@ -4,7 +4,7 @@
 #include "actions/fileoperations.h"
 #include "actions/movefile.h"
 #include "core/platform/nativepath.h"
-#include "core/walk/pathrules.h"
+#include "core/platform/pathtext.h"
 
 #include <QCryptographicHash>
 #include <QDir>
