@@ -7,7 +7,7 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QUuid>
+#include <QRandomGenerator>
 
 namespace Mirrix {
 
@@ -129,9 +129,9 @@ BackupPlaces::BackupPlaces(const QString &folder)
 BackupEntry BackupPlaces::entryFor(const QString &path, qint64 sizeBytes, const QString &digest) const
 {
     constexpr qsizetype mostBytes = 255 - 27; // what file systems allow, and what stands before the name
-    const QString name = QStringLiteral("%1__%2__%3")
-                             .arg(m_time, QUuid::createUuid().toString(QUuid::Id128).left(8),
-                                  shortenedName(fileNameOf(path), mostBytes));
+    const quint32 random = QRandomGenerator::system()->generate();
+    const QString name = QStringLiteral("%1__%2__").arg(m_time).arg(random, 8, 16, QLatin1Char('0')) +
+                         shortenedName(fileNameOf(path), mostBytes);
     return {MirrixCore::cleanedPath(MirrixCore::absolutePath(path)), joinedPath(m_folder, name), sizeBytes, m_atMs,
             digest};
 }
