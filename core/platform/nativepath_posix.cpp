@@ -81,7 +81,7 @@ bool makeFolders(const QString &path)
 QString absolutePath(const QString &path)
 {
     // Behind a link ".." leads elsewhere than the text says, so the system is asked; what does not exist stays.
-    if (path.split(QLatin1Char('/')).contains(QLatin1String(".."))) {
+    if (path.contains(QLatin1String("..")) && path.split(QLatin1Char('/')).contains(QLatin1String(".."))) {
         const QString resolved = canonicalPath(path);
         if (!resolved.isEmpty())
             return resolved;
