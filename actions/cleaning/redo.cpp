@@ -2,7 +2,6 @@
 
 #include "actions/cleaning/itemchecks.h"
 #include "actions/cleaning/madelink.h"
-#include "actions/cleaning/undorecord.h"
 #include "actions/cleaning/undosource.h"
 #include "actions/cleaning/undotexts.h"
 #include "actions/records/runjournal.h"
@@ -10,11 +9,6 @@
 namespace Mirrix {
 
 namespace {
-
-CleaningMethod methodOf(const StoredRun &undo)
-{
-    return methodNamed(undoneMethodName(undo.summary.header.method)).value_or(CleaningMethod::Backup);
-}
 
 ScannedFile asItIs(const QString &path)
 {
@@ -44,7 +38,7 @@ QString redoProblem(const RunItem &item, CleaningMethod method)
 QList<UndoStep> redoSteps(const StoredRun &undo, const BatchProgress &progress)
 {
     QList<UndoStep> steps;
-    const CleaningMethod method = methodOf(undo);
+    const CleaningMethod method = cleaningMethod(undo.summary.header);
     for (qsizetype i = 0; i < undo.items.size() && (!progress || progress(i, undo.items.size())); ++i) {
         const RunItem &item = undo.items[i];
         const bool isCut = undo.outcomes[i].state == ItemState::Planned && !undo.summary.isComplete &&
@@ -60,7 +54,7 @@ UndoResult redo(const UndoPlan &plan, const QList<qsizetype> &items, const Clean
 {
     const RunHeader &header = plan.run.summary.header;
     CleaningPlan cleaning;
-    cleaning.method = methodOf(plan.run);
+    cleaning.method = cleaningMethod(header);
     cleaning.targetFolder = header.target;
     cleaning.backupFolder = isBackingUp(cleaning.method) ? header.target : plan.backupFolder;
     cleaning.undoOf = header.id;
