@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
 """Times `mirrix-cli clean --apply` over pairs of equal files by every method, with one or two builds of the program in
 turn, and prints a table: what acting takes, that is without the scan, which has its digests in the cache, and the ratio
-of both builds."""
+of both builds. With --undo: what undoing the run takes, and whether everything is as it was."""
 
 import argparse
+import hashlib
 import os
 import pathlib
 import random
@@ -38,31 +39,54 @@ def make_pairs(root, count, size_bytes, is_fresh):
         os.sync()
 
 
-def run_clean(cli, work, method, *more):
+def listing(folder):
+    """Digest of what find and sha256sum say of everything below: kind, permissions, size, owner, time, name, content."""
+    command = r"find . -printf '%y %m %s %u %T@ %p %l\n' | grep -v '^d' | sort; find . -type f -print0 | sort -z | " \
+        "xargs -0 sha256sum"
+    return hashlib.sha256(subprocess.run(["bash", "-c", command], cwd=folder, capture_output=True, check=True).stdout).digest()
+
+
+def run(cli, work, command, *more):
     """Seconds that the command took, and what it printed last."""
-    command = [cli, "clean", "--data-dir", work / "data", "--keep", "oldest", "--method", method, *more]
-    if method == "move":
-        command += ["--target", work / "target"]
     environment = dict(os.environ, HOME=str(work / "home"), XDG_DATA_HOME=str(work / "home"), LC_ALL="C.UTF-8")
     start = time.monotonic()
-    done = subprocess.run([*command, work / "src"], env=environment, capture_output=True, text=True, check=False)
+    done = subprocess.run([cli, command, "--data-dir", work / "data", *more], env=environment, capture_output=True,
+                          text=True, check=False)
     seconds = time.monotonic() - start
     if done.returncode != 0:
-        raise SystemExit(f"{method}: status {done.returncode}\n{done.stdout[-500:]}{done.stderr[:2000]}")
+        raise SystemExit(f"{command}: status {done.returncode}\n{done.stdout[-500:]}{done.stderr[:2000]}")
     return seconds, done.stdout.strip().rsplit("\n", 1)[-1]
 
 
-def acting_seconds(cli, folder, method, count, size_bytes, is_fresh):
+def run_clean(cli, work, method, *more):
+    target = ["--target", work / "target"] if method == "move" else []
+    return run(cli, work, "clean", "--keep", "oldest", "--method", method, *target, *more, work / "src")
+
+
+def undo_seconds(cli, work, count, before):
+    seconds, told = run(cli, work, "undo", "last", "--apply")
+    if not told.startswith(f"{count} of {count} files undone") or listing(work / "src") != before:
+        raise SystemExit(f"not as it was: {told}")
+    _, told = run(cli, work, "undo", "last", "--apply")
+    if not told.startswith("0 of 0 files"):
+        raise SystemExit(f"something was left to undo: {told}")
+    return seconds
+
+
+def acting_seconds(cli, folder, method, count, size_bytes, is_fresh, is_undone):
+    """Seconds of cleaning, and of undoing that."""
     with tempfile.TemporaryDirectory(prefix="mirrix-cleaning-", dir=folder) as name:
         work = pathlib.Path(name)
         make_pairs(work / "src", count, size_bytes, is_fresh)
         (work / "home").mkdir()
         run_clean(cli, work, method)  # fills the cache
         planning, _ = run_clean(cli, work, method)
+        before = listing(work / "src") if is_undone else None
         whole, told = run_clean(cli, work, method, "--apply")
-        if not told.startswith(f"{count} of {count} files done"):
+        if not told.startswith(f"{count} of {count} files processed"):
             raise SystemExit(f"{method}: {told}")
-        return max(whole - planning, 0.001)
+        undone = undo_seconds(cli, work, count, before) if is_undone else 0
+        return max(whole - planning, 0.001), undone
 
 
 def main():
@@ -75,20 +99,25 @@ def main():
     parser.add_argument("--large", type=int, default=50, help="pairs of --large-mb; 0 leaves them out")
     parser.add_argument("--large-mb", type=int, default=100)
     parser.add_argument("--fresh", action="store_true", help="copies beside the kept files, nothing flushed before")
+    parser.add_argument("--undo", action="store_true", help="undo each run; then one build only")
     parser.add_argument("--runs", type=int, default=1, help="the quickest counts")
     given = parser.parse_args()
+    if given.undo and given.before:
+        parser.error("--undo takes one build")
     builds = [build.resolve() for build in (given.before, given.cli) if build]
-    print("| Pairs | Folder | Method | " + ("before s | after s | ratio |" if given.before else "s |"))
-    print("|---|---|---|" + "--:|" * (3 if given.before else 1))
+    columns = ["s", "undo s", "ratio"] if given.undo else ["before s", "after s", "ratio"] if given.before else ["s"]
+    print("| Pairs | Folder | Method | " + " | ".join(columns) + " |")
+    print("|---|---|---|" + "--:|" * len(columns))
     for count, size in ((given.small, 0), (given.large, given.large_mb << 20)):
         for folder in given.work if count else []:
             kind = f"{count:,} of {given.large_mb} MB" if size else f"{count:,} small"
             for method in given.methods:
-                runs = [[acting_seconds(build, folder, method, count, size, given.fresh) for build in builds]
-                        for _ in range(given.runs)]
-                best = [min(column) for column in zip(*runs)]
-                ratio = f" {best[1] / best[0]:.2f} |" if given.before else ""
-                print(f"| {kind} | {folder} | {method} | " + " | ".join(f"{s:.2f}" for s in best) + " |" + ratio,
+                runs = [[acting_seconds(build, folder, method, count, size, given.fresh, given.undo)
+                         for build in builds] for _ in range(given.runs)]
+                best = [min(seconds) for build in zip(*runs) for seconds in zip(*build)]
+                figures = best if given.undo else best[::2]
+                ratio = f" {figures[1] / figures[0]:.2f} |" if len(figures) > 1 else ""
+                print(f"| {kind} | {folder} | {method} | " + " | ".join(f"{s:.2f}" for s in figures) + " |" + ratio,
                       flush=True)
 
 
