@@ -83,6 +83,9 @@ void TestLogViewer::longTexts()
 {
     QCOMPARE(Mirrix::boxText(QStringLiteral("a\nb")).shown, QStringLiteral("a\nb"));
     QVERIFY(Mirrix::boxText(QStringLiteral("a\nb")).details.isEmpty());
+    const QString sentence = QStringLiteral("what happened ").repeated(20);
+    QCOMPARE(Mirrix::boxText(sentence).shown, sentence);
+    QVERIFY(Mirrix::boxText(QString(sentence).remove(QLatin1Char(' '))).shown.size() < 200);
     QStringList lines = {QStringLiteral("done")};
     for (int i = 0; i < 100000; ++i)
         lines.append(QStringLiteral("failed %1").arg(i));

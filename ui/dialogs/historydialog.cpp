@@ -343,11 +343,13 @@ void HistoryDialog::afterCommand(bool hasChanged)
 void HistoryDialog::fitColumns()
 {
     constexpr std::pair<HistoryModel::Column, int> letters[] = {{HistoryModel::KeptColumn, 20},
-                                                                {HistoryModel::StateColumn, 26},
+                                                                {HistoryModel::StateColumn, 31},
                                                                 {HistoryModel::FreedColumn, 11},
                                                                 {HistoryModel::HeldColumn, 11}};
     QHeaderView *header = m_tree->header();
     const int letter = fontMetrics().averageCharWidth();
+    constexpr int fewestLetters = 10;
+    header->setMinimumSectionSize(letter * fewestLetters);
     for (const auto &[column, count] : letters)
         header->resizeSection(column, std::max(letter * count, header->sectionSizeHint(column)));
     int widest = header->sectionSizeHint(HistoryModel::PlaceColumn);

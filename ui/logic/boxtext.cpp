@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+#include <algorithm>
+
 namespace Mirrix {
 
 namespace {
@@ -11,6 +13,16 @@ namespace {
 constexpr qsizetype mostLines = 14;
 constexpr qsizetype mostDetailLines = 5000; // a text field takes noticeable time for more
 constexpr qsizetype mostCharacters = 120;   // a long path takes some three lines of a box
+
+/// Whether a line is a sentence, which a box wraps, and no path.
+bool isProse(const QString &line)
+{
+    constexpr qsizetype mostProse = 400;
+    constexpr qsizetype longestWord = 40;
+    const QList<QStringView> words = QStringView(line).split(QLatin1Char(' '));
+    return line.size() <= mostProse &&
+           std::all_of(words.begin(), words.end(), [](QStringView word) { return word.size() <= longestWord; });
+}
 
 QString cut(const QString &line)
 {
@@ -42,7 +54,7 @@ BoxText boxText(const QString &text)
     const QString head = isLong ? text.left(startOfLine(text, mostLines - 2)).chopped(1) : text;
     QStringList lines;
     for (const QString &line : head.split(QLatin1Char('\n')))
-        lines.append(cut(line));
+        lines.append(lines.isEmpty() && isProse(line) ? line : cut(line));
     if (isLong) {
         lines.append(Text::tr("…… 另有 %1 行，见详细信息").arg(lineCount - mostLines + 1));
         lines.append(cut(text.mid(text.lastIndexOf(QLatin1Char('\n')) + 1)));
