@@ -343,9 +343,9 @@ void HistoryDialog::afterCommand(bool hasChanged)
 void HistoryDialog::fitColumns()
 {
     constexpr std::pair<HistoryModel::Column, int> letters[] = {{HistoryModel::KeptColumn, 20},
-                                                                {HistoryModel::StateColumn, 31},
-                                                                {HistoryModel::FreedColumn, 11},
-                                                                {HistoryModel::HeldColumn, 11}};
+                                                                {HistoryModel::StateColumn, 26},
+                                                                {HistoryModel::FreedColumn, 12},
+                                                                {HistoryModel::HeldColumn, 12}};
     QHeaderView *header = m_tree->header();
     const int letter = fontMetrics().averageCharWidth();
     constexpr int fewestLetters = 10;
@@ -355,7 +355,8 @@ void HistoryDialog::fitColumns()
     int widest = header->sectionSizeHint(HistoryModel::PlaceColumn);
     for (const auto method : {CleaningMethod::BackupAndSymbolicLink, CleaningMethod::BackupAndHardLink})
         widest = std::max(widest, fontMetrics().horizontalAdvance(methodText(method)) + 2 * letter);
-    header->resizeSection(HistoryModel::PlaceColumn, widest);
+    constexpr int mostLetters = 48; // leaves room for the times in every language
+    header->resizeSection(HistoryModel::PlaceColumn, std::min(widest, letter * mostLetters));
 }
 
 void HistoryDialog::changeEvent(QEvent *event)
