@@ -3,7 +3,6 @@
 #include "actions/cleaning/emptyfolderremoval.h"
 #include "actions/cleaning/itemchecks.h"
 #include "actions/cleaning/madelink.h"
-#include "actions/cleaning/undorecord.h"
 #include "actions/cleaning/undosource.h"
 #include "actions/cleaning/undotexts.h"
 #include "actions/records/runjournal.h"
@@ -11,11 +10,6 @@
 namespace Mirrix {
 
 namespace {
-
-CleaningMethod methodOf(const StoredRun &undo)
-{
-    return methodNamed(undoneMethodName(undo.summary.header.method)).value_or(CleaningMethod::Backup);
-}
 
 ScannedFile asItIs(const QString &path)
 {
@@ -50,7 +44,7 @@ CleaningResult cleanAgain(const UndoPlan &plan, const QList<qsizetype> &items, c
 {
     const RunHeader &header = plan.run.summary.header;
     CleaningPlan cleaning;
-    cleaning.method = methodOf(plan.run);
+    cleaning.method = cleaningMethod(header);
     cleaning.targetFolder = header.target;
     cleaning.backupFolder = isBackingUp(cleaning.method) ? header.target : plan.backupFolder;
     cleaning.undoOf = header.id;
@@ -73,7 +67,7 @@ CleaningResult removeAgain(const UndoPlan &plan, const QList<qsizetype> &items, 
 QList<UndoStep> redoSteps(const StoredRun &undo, const BatchProgress &progress)
 {
     QList<UndoStep> steps;
-    const CleaningMethod method = methodOf(undo);
+    const CleaningMethod method = cleaningMethod(undo.summary.header);
     for (qsizetype i = 0; i < undo.items.size() && (!progress || progress(i, undo.items.size())); ++i) {
         const RunItem &item = undo.items[i];
         if (areFolders(undo)) {

@@ -16,11 +16,6 @@ namespace Mirrix {
 
 namespace {
 
-bool isUndo(const UndoPlan &plan)
-{
-    return !undoneMethodName(plan.run.summary.header.method).isEmpty();
-}
-
 /// An undo under way.
 class Undo
 {
@@ -28,7 +23,7 @@ public:
     Undo(const UndoPlan &plan, const CleaningServices &services, const BatchProgress &progress)
         : m_plan(plan)
         , m_progress(progress)
-        , m_method(methodNamed(plan.run.summary.header.method).value_or(CleaningMethod::Backup))
+        , m_method(cleaningMethod(plan.run.summary.header))
         , m_sources(plan.run, plan.backupFolder)
         , m_record(plan, services)
     {}
@@ -107,11 +102,21 @@ private:
 
 } // namespace
 
+bool isUndoing(const RunHeader &run)
+{
+    return !undoneMethodName(run.method).isEmpty();
+}
+
+CleaningMethod cleaningMethod(const RunHeader &run)
+{
+    return methodNamed(isUndoing(run) ? undoneMethodName(run.method) : run.method).value_or(CleaningMethod::Backup);
+}
+
 UndoPlan planUndo(const QString &dataDirectory, const QString &runId, const BatchProgress &progress,
                   const QString &backupFolder)
 {
     UndoPlan plan{readRun(runJournalPath(dataDirectory, runId)), {}, {}, backupFolder};
-    if (isUndo(plan)) {
+    if (isUndoing(plan.run.summary.header)) {
         plan.steps = redoSteps(plan.run, progress);
         return plan;
     }
@@ -139,7 +144,7 @@ UndoResult undoRun(const UndoPlan &plan, const QList<UndoStep> &steps, const Cle
             problems.append(step.problem);
     }
     UndoResult result;
-    if (!items.isEmpty() && isUndo(plan))
+    if (!items.isEmpty() && isUndoing(plan.run.summary.header))
         result = redo(plan, items, services, progress);
     else if (!items.isEmpty() || !plan.home.isEmpty())
         result = Undo(plan, services, progress).run(items);

@@ -1710,6 +1710,10 @@ Bitte neu suchen.</translation>
         <translation>Wiederhergestellte Dateien: %1.</translation>
     </message>
     <message>
+        <source>已再次移除 %1 个文件。</source>
+        <translation>Erneut entfernte Dateien: %1.</translation>
+    </message>
+    <message>
         <source>失败</source>
         <translation>Fehlgeschlagen</translation>
     </message>
@@ -2124,6 +2128,14 @@ Dateien, die nicht zurückgelegt werden können (%1):
 </translation>
     </message>
     <message>
+        <source>
+无法再次移除的文件（%1 个）：
+</source>
+        <translation>
+Dateien, die nicht erneut entfernt werden können (%1):
+</translation>
+    </message>
+    <message>
         <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
         <translation>Nicht entfernt werden (Dateien: %1, %2): Verknüpfungen entstehen nur an freien Pfaden. Um die Dateien durch Verknüpfungen zu ersetzen, zuerst sichern.</translation>
     </message>
@@ -2220,6 +2232,10 @@ Dateien, die nicht zurückgelegt werden können (%1):
         <translation>Dateien an ihren Ort zurücklegen: %1. Fortfahren?</translation>
     </message>
     <message>
+        <source>将再次移除 %1 个文件（%2）。是否继续？</source>
+        <translation>Dateien erneut entfernen: %1 (%2). Fortfahren?</translation>
+    </message>
+    <message>
         <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
         <translation>Die Dateien dieser Bereinigung im Sicherungsordner (%1) werden endgültig gelöscht und können von dort nicht mehr wiederhergestellt werden. Fortfahren?</translation>
     </message>
@@ -2278,6 +2294,10 @@ Dateien, die nicht zurückgelegt werden können (%1):
     <message>
         <source>撤销清理</source>
         <translation>Bereinigung rückgängig machen</translation>
+    </message>
+    <message>
+        <source>重新清理</source>
+        <translation>Erneut bereinigen</translation>
     </message>
     <message>
         <source>文件仍在回收站中，可从那里恢复: %1</source>
@@ -2364,6 +2384,10 @@ Dateien, die nicht zurückgelegt werden können (%1):
     <message>
         <source>没有可以放回的文件。</source>
         <translation>Es gibt keine Dateien zum Zurücklegen.</translation>
+    </message>
+    <message>
+        <source>没有可以再次移除的文件。</source>
+        <translation>Es gibt keine Dateien, die erneut entfernt werden können.</translation>
     </message>
     <message>
         <source>没有更早的记录。</source>

@@ -1710,6 +1710,10 @@ Rescan to refresh.</translation>
         <translation>Restored %1 files.</translation>
     </message>
     <message>
+        <source>已再次移除 %1 个文件。</source>
+        <translation>Removed %1 files again.</translation>
+    </message>
+    <message>
         <source>失败</source>
         <translation>Failed</translation>
     </message>
@@ -2124,6 +2128,14 @@ Files that cannot be put back (%1):
 </translation>
     </message>
     <message>
+        <source>
+无法再次移除的文件（%1 个）：
+</source>
+        <translation>
+Files that cannot be removed again (%1):
+</translation>
+    </message>
+    <message>
         <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
         <translation>%1 files, %2, will not be removed: links are only made where the path is free. To replace the files by links, back up first.</translation>
     </message>
@@ -2220,6 +2232,10 @@ Files that cannot be put back (%1):
         <translation>%1 files will be put back where they were. Continue?</translation>
     </message>
     <message>
+        <source>将再次移除 %1 个文件（%2）。是否继续？</source>
+        <translation>%1 files will be removed again (%2). Continue?</translation>
+    </message>
+    <message>
         <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
         <translation>The files of this cleaning in the backup folder (%1) will be deleted permanently and can no longer be restored from there. Continue?</translation>
     </message>
@@ -2278,6 +2294,10 @@ Files that cannot be put back (%1):
     <message>
         <source>撤销清理</source>
         <translation>Undo cleaning</translation>
+    </message>
+    <message>
+        <source>重新清理</source>
+        <translation>Clean again</translation>
     </message>
     <message>
         <source>文件仍在回收站中，可从那里恢复: %1</source>
@@ -2364,6 +2384,10 @@ Files that cannot be put back (%1):
     <message>
         <source>没有可以放回的文件。</source>
         <translation>There are no files to put back.</translation>
+    </message>
+    <message>
+        <source>没有可以再次移除的文件。</source>
+        <translation>There are no files to remove again.</translation>
     </message>
     <message>
         <source>没有更早的记录。</source>

@@ -1710,6 +1710,10 @@ Repita el análisis para actualizar.</translation>
         <translation>Archivos restaurados: %1.</translation>
     </message>
     <message>
+        <source>已再次移除 %1 个文件。</source>
+        <translation>Archivos eliminados de nuevo: %1.</translation>
+    </message>
+    <message>
         <source>失败</source>
         <translation>Error</translation>
     </message>
@@ -2124,6 +2128,14 @@ Archivos que no se pueden devolver a su lugar (%1):
 </translation>
     </message>
     <message>
+        <source>
+无法再次移除的文件（%1 个）：
+</source>
+        <translation>
+Archivos que no se pueden volver a eliminar (%1):
+</translation>
+    </message>
+    <message>
         <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
         <translation>Archivos que no se eliminarán: %1 (%2). Solo se crean enlaces donde la ruta está libre. Para sustituir los archivos por enlaces, haga antes copia de seguridad.</translation>
     </message>
@@ -2220,6 +2232,10 @@ Archivos que no se pueden devolver a su lugar (%1):
         <translation>Archivos que se devolverán a su lugar: %1. ¿Continuar?</translation>
     </message>
     <message>
+        <source>将再次移除 %1 个文件（%2）。是否继续？</source>
+        <translation>Archivos que se volverán a eliminar: %1 (%2). ¿Continuar?</translation>
+    </message>
+    <message>
         <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
         <translation>Los archivos de esta limpieza en la carpeta de copias de seguridad (%1) se eliminarán de forma permanente y ya no se podrán restaurar. ¿Continuar?</translation>
     </message>
@@ -2278,6 +2294,10 @@ Archivos que no se pueden devolver a su lugar (%1):
     <message>
         <source>撤销清理</source>
         <translation>Deshacer limpieza</translation>
+    </message>
+    <message>
+        <source>重新清理</source>
+        <translation>Repetir limpieza</translation>
     </message>
     <message>
         <source>文件仍在回收站中，可从那里恢复: %1</source>
@@ -2364,6 +2384,10 @@ Archivos que no se pueden devolver a su lugar (%1):
     <message>
         <source>没有可以放回的文件。</source>
         <translation>No hay archivos que devolver a su lugar.</translation>
+    </message>
+    <message>
+        <source>没有可以再次移除的文件。</source>
+        <translation>No hay archivos que volver a eliminar.</translation>
     </message>
     <message>
         <source>没有更早的记录。</source>

@@ -1710,6 +1710,10 @@ Relancez l’analyse pour actualiser.</translation>
         <translation>Fichiers restaurés : %1.</translation>
     </message>
     <message>
+        <source>已再次移除 %1 个文件。</source>
+        <translation>Fichiers supprimés de nouveau : %1.</translation>
+    </message>
+    <message>
         <source>失败</source>
         <translation>Échec</translation>
     </message>
@@ -2124,6 +2128,14 @@ Fichiers impossibles à remettre en place (%1) :
 </translation>
     </message>
     <message>
+        <source>
+无法再次移除的文件（%1 个）：
+</source>
+        <translation>
+Fichiers impossibles à supprimer de nouveau (%1) :
+</translation>
+    </message>
+    <message>
         <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
         <translation>Fichiers non supprimés : %1 (%2). Un lien n’est créé que si le chemin est libre. Pour remplacer les fichiers par des liens, sauvegardez d’abord.</translation>
     </message>
@@ -2220,6 +2232,10 @@ Fichiers impossibles à remettre en place (%1) :
         <translation>Fichiers à remettre en place : %1. Continuer ?</translation>
     </message>
     <message>
+        <source>将再次移除 %1 个文件（%2）。是否继续？</source>
+        <translation>Fichiers à supprimer de nouveau : %1 (%2). Continuer ?</translation>
+    </message>
+    <message>
         <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
         <translation>Les fichiers de ce nettoyage dans le dossier de sauvegarde (%1) seront supprimés définitivement et ne pourront plus être restaurés. Continuer ?</translation>
     </message>
@@ -2278,6 +2294,10 @@ Fichiers impossibles à remettre en place (%1) :
     <message>
         <source>撤销清理</source>
         <translation>Annuler le nettoyage</translation>
+    </message>
+    <message>
+        <source>重新清理</source>
+        <translation>Refaire le nettoyage</translation>
     </message>
     <message>
         <source>文件仍在回收站中，可从那里恢复: %1</source>
@@ -2364,6 +2384,10 @@ Fichiers impossibles à remettre en place (%1) :
     <message>
         <source>没有可以放回的文件。</source>
         <translation>Aucun fichier à remettre en place.</translation>
+    </message>
+    <message>
+        <source>没有可以再次移除的文件。</source>
+        <translation>Aucun fichier à supprimer de nouveau.</translation>
     </message>
     <message>
         <source>没有更早的记录。</source>

@@ -1710,6 +1710,10 @@ Ripeti la scansione.</translation>
         <translation>File ripristinati: %1.</translation>
     </message>
     <message>
+        <source>已再次移除 %1 个文件。</source>
+        <translation>File rimossi di nuovo: %1.</translation>
+    </message>
+    <message>
         <source>失败</source>
         <translation>Non riuscito</translation>
     </message>
@@ -2124,6 +2128,14 @@ File che non si possono rimettere a posto (%1):
 </translation>
     </message>
     <message>
+        <source>
+无法再次移除的文件（%1 个）：
+</source>
+        <translation>
+File che non si possono rimuovere di nuovo (%1):
+</translation>
+    </message>
+    <message>
         <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
         <translation>File che non verranno rimossi: %1 (%2). I collegamenti si creano solo dove il percorso è libero. Per sostituire i file con collegamenti, fare prima il backup.</translation>
     </message>
@@ -2220,6 +2232,10 @@ File che non si possono rimettere a posto (%1):
         <translation>File da rimettere a posto: %1. Continuare?</translation>
     </message>
     <message>
+        <source>将再次移除 %1 个文件（%2）。是否继续？</source>
+        <translation>File da rimuovere di nuovo: %1 (%2). Continuare?</translation>
+    </message>
+    <message>
         <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
         <translation>I file di questa pulizia nella cartella di backup (%1) verranno eliminati definitivamente e non si potranno più ripristinare. Continuare?</translation>
     </message>
@@ -2278,6 +2294,10 @@ File che non si possono rimettere a posto (%1):
     <message>
         <source>撤销清理</source>
         <translation>Annulla pulizia</translation>
+    </message>
+    <message>
+        <source>重新清理</source>
+        <translation>Ripeti pulizia</translation>
     </message>
     <message>
         <source>文件仍在回收站中，可从那里恢复: %1</source>
@@ -2364,6 +2384,10 @@ File che non si possono rimettere a posto (%1):
     <message>
         <source>没有可以放回的文件。</source>
         <translation>Nessun file da rimettere a posto.</translation>
+    </message>
+    <message>
+        <source>没有可以再次移除的文件。</source>
+        <translation>Nessun file da rimuovere di nuovo.</translation>
     </message>
     <message>
         <source>没有更早的记录。</source>

@@ -1710,6 +1710,10 @@ raw、cr2、nef は常にスキャンされます。「対象」リストが空�
         <translation>%1 個のファイルを復元しました。</translation>
     </message>
     <message>
+        <source>已再次移除 %1 个文件。</source>
+        <translation>%1 個のファイルをもう一度削除しました。</translation>
+    </message>
+    <message>
         <source>失败</source>
         <translation>失敗</translation>
     </message>
@@ -2124,6 +2128,14 @@ raw、cr2、nef は常にスキャンされます。「対象」リストが空�
 </translation>
     </message>
     <message>
+        <source>
+无法再次移除的文件（%1 个）：
+</source>
+        <translation>
+もう一度削除できないファイル (%1 個):
+</translation>
+    </message>
+    <message>
         <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
         <translation>%1 個のファイル (%2) は削除されません。リンクはパスが空いている場合にのみ作成されます。ファイルをリンクに置き換えるには、先にバックアップしてください。</translation>
     </message>
@@ -2220,6 +2232,10 @@ raw、cr2、nef は常にスキャンされます。「対象」リストが空�
         <translation>%1 個のファイルを元に戻します。続行しますか？</translation>
     </message>
     <message>
+        <source>将再次移除 %1 个文件（%2）。是否继续？</source>
+        <translation>%1 個のファイルをもう一度削除します (%2)。続行しますか？</translation>
+    </message>
+    <message>
         <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
         <translation>このクリーンアップでバックアップフォルダーに残したファイル (%1) を完全に削除します。バックアップから復元できなくなります。続行しますか？</translation>
     </message>
@@ -2278,6 +2294,10 @@ raw、cr2、nef は常にスキャンされます。「対象」リストが空�
     <message>
         <source>撤销清理</source>
         <translation>クリーンアップの取り消し</translation>
+    </message>
+    <message>
+        <source>重新清理</source>
+        <translation>クリーンアップのやり直し</translation>
     </message>
     <message>
         <source>文件仍在回收站中，可从那里恢复: %1</source>
@@ -2364,6 +2384,10 @@ raw、cr2、nef は常にスキャンされます。「対象」リストが空�
     <message>
         <source>没有可以放回的文件。</source>
         <translation>元に戻せるファイルはありません。</translation>
+    </message>
+    <message>
+        <source>没有可以再次移除的文件。</source>
+        <translation>もう一度削除できるファイルはありません。</translation>
     </message>
     <message>
         <source>没有更早的记录。</source>

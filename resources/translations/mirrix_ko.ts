@@ -1710,6 +1710,10 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
         <translation>파일 %1개를 복원했습니다.</translation>
     </message>
     <message>
+        <source>已再次移除 %1 个文件。</source>
+        <translation>파일 %1개를 다시 제거했습니다.</translation>
+    </message>
+    <message>
         <source>失败</source>
         <translation>실패</translation>
     </message>
@@ -2124,6 +2128,14 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
 </translation>
     </message>
     <message>
+        <source>
+无法再次移除的文件（%1 个）：
+</source>
+        <translation>
+다시 제거할 수 없는 파일(%1개):
+</translation>
+    </message>
+    <message>
         <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
         <translation>파일 %1개(%2)는 제거되지 않습니다. 경로가 비어 있을 때만 링크를 만듭니다. 파일을 링크로 바꾸려면 먼저 백업하세요.</translation>
     </message>
@@ -2220,6 +2232,10 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
         <translation>파일 %1개를 원래 위치로 되돌립니다. 계속하시겠습니까?</translation>
     </message>
     <message>
+        <source>将再次移除 %1 个文件（%2）。是否继续？</source>
+        <translation>파일 %1개를 다시 제거합니다(%2). 계속하시겠습니까?</translation>
+    </message>
+    <message>
         <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
         <translation>이 정리가 백업 폴더에 남긴 파일(%1)을 영구 삭제합니다. 백업에서 복원할 수 없게 됩니다. 계속하시겠습니까?</translation>
     </message>
@@ -2278,6 +2294,10 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     <message>
         <source>撤销清理</source>
         <translation>정리 취소</translation>
+    </message>
+    <message>
+        <source>重新清理</source>
+        <translation>다시 정리</translation>
     </message>
     <message>
         <source>文件仍在回收站中，可从那里恢复: %1</source>
@@ -2364,6 +2384,10 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     <message>
         <source>没有可以放回的文件。</source>
         <translation>되돌릴 수 있는 파일이 없습니다.</translation>
+    </message>
+    <message>
+        <source>没有可以再次移除的文件。</source>
+        <translation>다시 제거할 수 있는 파일이 없습니다.</translation>
     </message>
     <message>
         <source>没有更早的记录。</source>

@@ -1710,6 +1710,10 @@ Scan opnieuw.</translation>
         <translation>Teruggezette bestanden: %1.</translation>
     </message>
     <message>
+        <source>已再次移除 %1 个文件。</source>
+        <translation>Opnieuw verwijderde bestanden: %1.</translation>
+    </message>
+    <message>
         <source>失败</source>
         <translation>Mislukt</translation>
     </message>
@@ -2124,6 +2128,14 @@ Bestanden die niet teruggeplaatst kunnen worden (%1):
 </translation>
     </message>
     <message>
+        <source>
+无法再次移除的文件（%1 个）：
+</source>
+        <translation>
+Bestanden die niet opnieuw verwijderd kunnen worden (%1):
+</translation>
+    </message>
+    <message>
         <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
         <translation>Bestanden die niet worden verwijderd: %1 (%2). Koppelingen worden alleen gemaakt waar het pad vrij is. Maak eerst een back-up om de bestanden door koppelingen te vervangen.</translation>
     </message>
@@ -2220,6 +2232,10 @@ Bestanden die niet teruggeplaatst kunnen worden (%1):
         <translation>Bestanden terugplaatsen: %1. Doorgaan?</translation>
     </message>
     <message>
+        <source>将再次移除 %1 个文件（%2）。是否继续？</source>
+        <translation>Bestanden opnieuw verwijderen: %1 (%2). Doorgaan?</translation>
+    </message>
+    <message>
         <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
         <translation>De bestanden van deze opruiming in de back-upmap (%1) worden definitief verwijderd en kunnen daar niet meer uit worden teruggezet. Doorgaan?</translation>
     </message>
@@ -2278,6 +2294,10 @@ Bestanden die niet teruggeplaatst kunnen worden (%1):
     <message>
         <source>撤销清理</source>
         <translation>Opruiming ongedaan maken</translation>
+    </message>
+    <message>
+        <source>重新清理</source>
+        <translation>Opnieuw opruimen</translation>
     </message>
     <message>
         <source>文件仍在回收站中，可从那里恢复: %1</source>
@@ -2364,6 +2384,10 @@ Bestanden die niet teruggeplaatst kunnen worden (%1):
     <message>
         <source>没有可以放回的文件。</source>
         <translation>Er zijn geen bestanden om terug te plaatsen.</translation>
+    </message>
+    <message>
+        <source>没有可以再次移除的文件。</source>
+        <translation>Er zijn geen bestanden om opnieuw te verwijderen.</translation>
     </message>
     <message>
         <source>没有更早的记录。</source>

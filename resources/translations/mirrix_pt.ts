@@ -1710,6 +1710,10 @@ Faça uma nova verificação para atualizar os resultados.</translation>
         <translation>Arquivos restaurados: %1.</translation>
     </message>
     <message>
+        <source>已再次移除 %1 个文件。</source>
+        <translation>Arquivos removidos novamente: %1.</translation>
+    </message>
+    <message>
         <source>失败</source>
         <translation>Falha</translation>
     </message>
@@ -2124,6 +2128,14 @@ Arquivos que não podem ser devolvidos ao lugar (%1):
 </translation>
     </message>
     <message>
+        <source>
+无法再次移除的文件（%1 个）：
+</source>
+        <translation>
+Arquivos que não podem ser removidos novamente (%1):
+</translation>
+    </message>
+    <message>
         <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
         <translation>Arquivos que não serão removidos: %1 (%2). Links só são criados onde o caminho está livre. Para trocar os arquivos por links, faça backup antes.</translation>
     </message>
@@ -2220,6 +2232,10 @@ Arquivos que não podem ser devolvidos ao lugar (%1):
         <translation>Arquivos a devolver ao lugar: %1. Continuar?</translation>
     </message>
     <message>
+        <source>将再次移除 %1 个文件（%2）。是否继续？</source>
+        <translation>Arquivos a remover novamente: %1 (%2). Continuar?</translation>
+    </message>
+    <message>
         <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
         <translation>Os arquivos desta limpeza na pasta de backup (%1) serão excluídos permanentemente e não poderão mais ser restaurados. Continuar?</translation>
     </message>
@@ -2278,6 +2294,10 @@ Arquivos que não podem ser devolvidos ao lugar (%1):
     <message>
         <source>撤销清理</source>
         <translation>Desfazer limpeza</translation>
+    </message>
+    <message>
+        <source>重新清理</source>
+        <translation>Refazer limpeza</translation>
     </message>
     <message>
         <source>文件仍在回收站中，可从那里恢复: %1</source>
@@ -2364,6 +2384,10 @@ Arquivos que não podem ser devolvidos ao lugar (%1):
     <message>
         <source>没有可以放回的文件。</source>
         <translation>Não há arquivos a devolver ao lugar.</translation>
+    </message>
+    <message>
+        <source>没有可以再次移除的文件。</source>
+        <translation>Não há arquivos a remover novamente.</translation>
     </message>
     <message>
         <source>没有更早的记录。</source>

@@ -1710,6 +1710,10 @@ raw、cr2、nef 一律會掃描。僅在「已包含」清單為空時有效。<
         <translation>已還原 %1 個檔案。</translation>
     </message>
     <message>
+        <source>已再次移除 %1 个文件。</source>
+        <translation>已再次移除 %1 個檔案。</translation>
+    </message>
+    <message>
         <source>失败</source>
         <translation>失敗</translation>
     </message>
@@ -2124,6 +2128,14 @@ raw、cr2、nef 一律會掃描。僅在「已包含」清單為空時有效。<
 </translation>
     </message>
     <message>
+        <source>
+无法再次移除的文件（%1 个）：
+</source>
+        <translation>
+無法再次移除的檔案（%1 個）：
+</translation>
+    </message>
+    <message>
         <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
         <translation>%1 個檔案（%2）不會被移除：只在路徑已空出時建立連結。要以連結取代檔案，請先備份。</translation>
     </message>
@@ -2220,6 +2232,10 @@ raw、cr2、nef 一律會掃描。僅在「已包含」清單為空時有效。<
         <translation>將把 %1 個檔案放回原處。是否繼續？</translation>
     </message>
     <message>
+        <source>将再次移除 %1 个文件（%2）。是否继续？</source>
+        <translation>將再次移除 %1 個檔案（%2）。是否繼續？</translation>
+    </message>
+    <message>
         <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
         <translation>將永久刪除此次清理留在備份資料夾中的檔案（%1），之後無法從備份還原。是否繼續？</translation>
     </message>
@@ -2278,6 +2294,10 @@ raw、cr2、nef 一律會掃描。僅在「已包含」清單為空時有效。<
     <message>
         <source>撤销清理</source>
         <translation>復原清理</translation>
+    </message>
+    <message>
+        <source>重新清理</source>
+        <translation>重新清理</translation>
     </message>
     <message>
         <source>文件仍在回收站中，可从那里恢复: %1</source>
@@ -2364,6 +2384,10 @@ raw、cr2、nef 一律會掃描。僅在「已包含」清單為空時有效。<
     <message>
         <source>没有可以放回的文件。</source>
         <translation>沒有可以放回的檔案。</translation>
+    </message>
+    <message>
+        <source>没有可以再次移除的文件。</source>
+        <translation>沒有可以再次移除的檔案。</translation>
     </message>
     <message>
         <source>没有更早的记录。</source>

@@ -11,7 +11,8 @@ struct BoxText
     QString details; ///< the whole text, up to some thousands of lines, when `shown` leaves anything out; else empty
 };
 
-/// The first lines and the last one stay, since that is where boxes say what happened and what to do. Thread-safe.
+/// The first lines and the last one stay, since that is where boxes say what happened and what to do.
+/// Thread-safe.
 [[nodiscard]] BoxText boxText(const QString &text);
 
 } // namespace Mirrix
