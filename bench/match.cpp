@@ -184,11 +184,14 @@ void benchSimilar(int count)
         options.similarPercent = percent;
         ScanResult result;
         std::printf("%d percent, %d threads\n", percent, QThread::idealThreadCount());
-        show("similar content", secondsOf([&] { result = matchSimilarContent(files, options, {}, {}); }));
+        show("similar content", secondsOf([&] { result = matchSimilarContent(files, {options, {}, {}}); }));
         expectGroups(result.groups.size(), (count + 2) / 4);
         for (const qint64 afterMs : {100, 3000})
-            showCancel([&](const CancelQuery &cancelled) { (void)matchSimilarContent(files, options, {}, cancelled); },
-                       afterMs);
+            showCancel(
+                [&](const CancelQuery &cancelled) {
+                    (void)matchSimilarContent(files, {options, {}, cancelled});
+                },
+                afterMs);
         showPeak();
     }
 }

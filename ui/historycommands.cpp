@@ -47,7 +47,7 @@ struct UndoTexts
 {
     explicit UndoTexts(const RunHeader &run)
         : isRedo(isUndoing(run))
-        , method(methodText(cleaningMethod(run)))
+        , method(undoneMethodText(run))
     {}
 
     [[nodiscard]] QString title() const { return isRedo ? Text::tr("重新清理") : Text::tr("撤销清理"); }

@@ -3,6 +3,7 @@
 #include "actions/cleaning/emptyfolderremoval.h"
 #include "actions/cleaning/itemchecks.h"
 #include "actions/cleaning/madelink.h"
+#include "actions/cleaning/undorecord.h"
 #include "actions/cleaning/undosource.h"
 #include "actions/cleaning/undotexts.h"
 #include "actions/records/runjournal.h"

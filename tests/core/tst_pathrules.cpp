@@ -1,5 +1,7 @@
 #include "core/walk/pathrules.h"
 
+#include "core/platform/pathtext.h"
+
 #include "tests/support/probes.h"
 #include "tests/support/temptree.h"
 

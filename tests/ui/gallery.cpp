@@ -281,7 +281,7 @@ void Gallery::visitQuestions(const std::function<void(const QString &, QWidget &
 
     Mirrix::HistoryCommands history(m_settings, m_prompts, m_log, m_window.get());
     const Mirrix::RunSummary run = Mirrix::listRuns(m_settings.directory).value(0);
-    static_cast<void>(history.undo(run.header.id));
+    static_cast<void>(history.undo(run.header));
     static_cast<void>(history.freeBackups(run));
     static_cast<void>(history.removeRecords({run.header.id}));
     m_prompts.look = {};

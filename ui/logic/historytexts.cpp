@@ -1,6 +1,7 @@
 #include "ui/logic/historytexts.h"
 
 #include "actions/cleaning/undo.h"
+#include "actions/cleaning/undorecord.h"
 #include "app/text.h"
 #include "ui/logic/logmodel.h"
 
@@ -45,6 +46,11 @@ QString runMethodText(const RunHeader &run)
 QString methodText(CleaningMethod method)
 {
     return namesText(methodName(method));
+}
+
+QString undoneMethodText(const RunHeader &run)
+{
+    return namesText(undoneMethodName(run.method));
 }
 
 QString runStateText(const RunSummary &run)

@@ -15,6 +15,9 @@ namespace Mirrix {
 /// The same for a method.
 [[nodiscard]] QString methodText(CleaningMethod method);
 
+/// The method of the run that `run` undid; empty where it is no undo.
+[[nodiscard]] QString undoneMethodText(const RunHeader &run);
+
 /// Whether the run came to its end, was undone or undid another.
 [[nodiscard]] QString runStateText(const RunSummary &run);
 
