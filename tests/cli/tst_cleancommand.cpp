@@ -481,7 +481,7 @@ void CleanCommandTest::collidingDigestsMoveNothing()
     if (method == u"move"_s)
         arguments += {u"--target"_s, m_tree->path(u"away"_s)};
     const DiskTree before = source();
-    QVERIFY(run(arguments).output.contains("\n1 files, 128 B"));
+    QVERIFY(run(arguments).output.contains("\n1 file, 128 B"));
     const ProgramRun done = run(arguments + QStringList{u"--apply"_s});
     QVERIFY2(done.output.startsWith("0 of 1 files processed"), done.output.constData());
     QVERIFY2(done.errors.contains("Content differs from the file to keep"), done.errors.constData());

@@ -48,6 +48,7 @@ const QHash<QString, QString> &facts()
         {u"scan --options my-scan.json"_s, u"Backups/new/a"_s},
         {u"clean --keep newest --method backup ~/Pictures"_s, u"Nothing was changed; run again with --apply"_s},
         {u"clean --empty-folders ~/Docs"_s, u"nothing.*Nothing was changed; run again with --apply"_s},
+        {u"clean --empty-files --method recycle ~/Docs"_s, u"empty.txt.*Nothing was changed; run again with --apply"_s},
         {u"history"_s, u"backup"_s},
         {u"undo last"_s, u"Before/second"_s},
         {u"restore"_s, u"Before/second  <-  "_s},

@@ -85,7 +85,12 @@ public:
     }
     void warn(QWidget *, const QString &, const QString &) override { look(); }
     void fail(QWidget *, const QString &, const QString &) override { look(); }
-    bool ask(QWidget *, const QString &, const QString &, const QString &) override { return look() && chance(2); }
+    bool ask(QWidget *, const QString &title, const QString &, const QString &) override
+    {
+        const bool isYes = look() && chance(2);
+        m_mayDestroy = isYes && (title == u"释放备份" || title == u"重新清理"); // emptying backups, undoing an undo
+        return isYes;
+    }
     qsizetype choose(QWidget *, const Mirrix::ChoiceRequest &request) override
     {
         look();
