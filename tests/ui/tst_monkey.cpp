@@ -1,3 +1,4 @@
+#include "app/text.h"
 #include "core/cache/cacheroot.h"
 #include "tests/ui/filewatch.h"
 #include "ui/dialogs/fileprogressdialog.h"
@@ -88,7 +89,9 @@ public:
     bool ask(QWidget *, const QString &title, const QString &, const QString &) override
     {
         const bool isYes = look() && chance(2);
-        m_mayDestroy = isYes && (title == u"释放备份" || title == u"重新清理"); // emptying backups, undoing an undo
+        const bool emptiesBackups = title == Mirrix::Text::tr("释放备份");
+        const bool undoesAnUndo = title == Mirrix::Text::tr("重新清理");
+        m_mayDestroy = isYes && (emptiesBackups || undoesAnUndo);
         return isYes;
     }
     qsizetype choose(QWidget *, const Mirrix::ChoiceRequest &request) override
