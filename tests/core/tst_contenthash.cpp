@@ -223,24 +223,6 @@ private slots:
         QVERIFY(notes.hasChanged);
     }
 
-    /// What the matchers rely on: names do not count, sizes count in fingerprints, the middle counts only in full
-    /// digests.
-    void whatDigestsCover()
-    {
-        const TempTree tree;
-        const QByteArray content = patternBytes(20000);
-        const QString file = tree.write(u"a"_s, content);
-        const QString same = tree.write(u"b"_s, content);
-        const QString shorter = tree.write(u"c"_s, content.first(8192) + content.last(8192));
-        const QString other = tree.write(u"d"_s, changed(content, 10000));
-        QCOMPARE(fullContentHash(same), fullContentHash(file));
-        QVERIFY(quickHash(shorter) != quickHash(file));
-        QVERIFY(prefixHash(shorter, 100) != prefixHash(file, 100));
-        QCOMPARE(quickHash(other), quickHash(file));
-        QVERIFY(fullContentHash(other) != fullContentHash(file));
-        QVERIFY(sampleHash(other) != sampleHash(file));
-    }
-
     void algorithmNames()
     {
         for (const char *other : {"BLAKE3", "md5", "sha256", ""})

@@ -363,7 +363,8 @@ private slots:
         const auto writeAll = [&](quint32 seed, qint64 timeMs) {
             tree.writeAll(u"large1 large2"_s, patternBytes(largeBytes));
             tree.writeAll(u"small1 small2"_s, patternBytes(smallBytes));
-            tree.write(u"large2"_s, patternBytes(largeBytes, seed));
+            tree.write(u"large2"_s, seed == 0 ? patternBytes(largeBytes) // else with equal quick digests
+                                              : withByteChanged(patternBytes(largeBytes), largeBytes / 2));
             tree.write(u"small2"_s, patternBytes(smallBytes, seed));
             for (const QString &name : {u"large1"_s, u"large2"_s, u"small1"_s, u"small2"_s})
                 tree.setModified(name, name.endsWith(u'2') ? timeMs : someTimeMs);
