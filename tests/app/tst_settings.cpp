@@ -59,6 +59,10 @@ class SettingsTest : public QObject
         return expected;
     }
 
+public:
+    /// Before the application exists: a system language that is not the one for unknown codes.
+    static void initMain() { qputenv("LC_ALL", "de_DE.UTF-8"); }
+
 private slots:
     void init() { m_tree = std::make_unique<TempTree>(); }
 
