@@ -1,6 +1,7 @@
 #include "actions/backupindex.h"
 
 #include "actions/movefile.h"
+#include "actions/records/jsontext.h"
 #include "actions/solelock.h"
 #include "app/storedfile.h"
 #include "core/platform/nativepath.h"
@@ -18,11 +19,11 @@ namespace Mirrix {
 
 namespace {
 
-const QString originalKey = QStringLiteral("original");
-const QString backupKey = QStringLiteral("backup");
-const QString sizeKey = QStringLiteral("size");
-const QString timeKey = QStringLiteral("at");
-const QString digestKey = QStringLiteral("digest");
+constexpr char originalKey[] = "original";
+constexpr char backupKey[] = "backup";
+constexpr char sizeKey[] = "size";
+constexpr char timeKey[] = "at";
+constexpr char digestKey[] = "digest";
 
 QString indexPath(const QString &folder)
 {
@@ -42,24 +43,20 @@ std::optional<QByteArray> indexText(const QString &folder)
 
 BackupEntry entryFrom(QJsonObject item)
 {
-    BackupEntry entry{item[originalKey].toString(), item[backupKey].toString(), item[sizeKey].toInteger(),
-                      item[timeKey].toInteger(), item[digestKey].toString()};
-    for (const QString &key : {originalKey, backupKey, sizeKey, timeKey, digestKey})
-        item.remove(key);
+    const auto taken = [&item](const char *key) { return item.take(QLatin1String(key)); };
+    BackupEntry entry{taken(originalKey).toString(), taken(backupKey).toString(), taken(sizeKey).toInteger(),
+                      taken(timeKey).toInteger(), taken(digestKey).toString()};
     entry.others = item;
     return entry;
 }
 
-QJsonObject itemFrom(const BackupEntry &entry)
+QByteArray textOf(const BackupEntry &entry)
 {
-    QJsonObject item = entry.others;
-    item[originalKey] = entry.original;
-    item[backupKey] = entry.backup;
-    item[sizeKey] = entry.sizeBytes;
-    item[timeKey] = entry.atMs;
+    JsonPieces members;
+    members.add(timeKey, entry.atMs).add(backupKey, entry.backup);
     if (!entry.digest.isEmpty())
-        item[digestKey] = entry.digest;
-    return item;
+        members.add(digestKey, entry.digest);
+    return members.add(originalKey, entry.original).add(sizeKey, entry.sizeBytes).addMembers(entry.others).object();
 }
 
 QList<BackupEntry> entriesIn(const QByteArray &text)
@@ -159,10 +156,11 @@ bool isAsideName(const QString &name)
 
 bool saveBackupIndex(const QString &folder, const QList<BackupEntry> &entries)
 {
-    QJsonArray items;
+    QByteArrayList items;
+    items.reserve(entries.size());
     for (const BackupEntry &entry : entries)
-        items.append(itemFrom(entry));
-    return makeFolders(folder) && replaceFile(indexPath(folder), QJsonDocument(items).toJson(QJsonDocument::Compact));
+        items.append(textOf(entry));
+    return makeFolders(folder) && replaceFile(indexPath(folder), '[' + items.join(',') + ']');
 }
 
 BackupIndexSession::BackupIndexSession(const QString &folder)

@@ -7,7 +7,7 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QUuid>
+#include <QRandomGenerator>
 
 namespace Mirrix {
 
@@ -50,7 +50,10 @@ BatchResult backupFiles(const QString &folder, const QStringList &paths, const B
 {
     BatchResult result;
     BackupIndexSession session(backupFolderPath(folder));
-    const QList<BackupEntry> planned = plannedBackups(folder, paths, digests);
+    const BackupPlaces places(folder);
+    QList<BackupEntry> planned;
+    for (const QString &path : paths)
+        planned.append(places.entryFor(path, pathState(path).sizeBytes, digests.value(planned.size())));
     if (!session.announce(planned)) {
         for (const QString &path : paths)
             result.errors.append(backupFailureText(path));
@@ -117,25 +120,26 @@ QString backupLine(const BackupEntry &entry)
     return QStringLiteral("%1  <-  %2").arg(entry.original, entry.backup);
 }
 
-QString backupName(const QString &path, qint64 atMs)
+BackupPlaces::BackupPlaces(const QString &folder)
+    : m_folder(backupFolderPath(folder))
+    , m_atMs(QDateTime::currentMSecsSinceEpoch())
+    , m_time(QDateTime::fromMSecsSinceEpoch(m_atMs).toString(QStringLiteral("yyyyMMdd_HHmmss")))
+{}
+
+BackupEntry BackupPlaces::entryFor(const QString &path, qint64 sizeBytes, const QString &digest) const
 {
     constexpr qsizetype mostBytes = 255 - 27; // what file systems allow, and what stands before the name
-    return QStringLiteral("%1__%2__%3")
-        .arg(QDateTime::fromMSecsSinceEpoch(atMs).toString(QStringLiteral("yyyyMMdd_HHmmss")),
-             QUuid::createUuid().toString(QUuid::Id128).left(8), shortenedName(fileNameOf(path), mostBytes));
+    const quint32 random = QRandomGenerator::system()->generate();
+    const QString name = QStringLiteral("%1__%2__").arg(m_time).arg(random, 8, 16, QLatin1Char('0')) +
+                         shortenedName(fileNameOf(path), mostBytes);
+    return {MirrixCore::cleanedPath(MirrixCore::absolutePath(path)), joinedPath(m_folder, name), sizeBytes, m_atMs,
+            digest};
 }
 
-QList<BackupEntry> plannedBackups(const QString &folder, const QStringList &paths, const QStringList &digests)
+BackupEntry BackupPlaces::asideEntryFor(const QString &path, qint64 sizeBytes, const QString &digest) const
 {
-    const qint64 atMs = QDateTime::currentMSecsSinceEpoch();
-    const QString absolute = backupFolderPath(folder);
-    QList<BackupEntry> planned;
-    planned.reserve(paths.size());
-    for (const QString &path : paths)
-        planned.append({MirrixCore::cleanedPath(MirrixCore::absolutePath(path)),
-                        joinedPath(absolute, backupName(path, atMs)), pathState(path).sizeBytes, atMs,
-                        digests.value(planned.size())});
-    return planned;
+    const QString original = MirrixCore::cleanedPath(MirrixCore::absolutePath(path));
+    return {original, passingName(original, QStringLiteral(".aside")), sizeBytes, m_atMs, digest};
 }
 
 BackupEntry storedEntry(const BackupEntry &planned)

@@ -13,9 +13,9 @@ namespace Mirrix {
 // is whole at its old path or at one that the index lists. Calls block; run long lists off the interface thread.
 // Several programs may use one folder, one batch after the other.
 
-/// Moves files into the backup folder, which is made as needed, under the names of backupName, and lists them in its
-/// index. Folders, links and files that lie in the backup folder already are left alone and reported. `digests` are for
-/// the index, as of plannedBackups.
+/// Moves files into the backup folder, which is made as needed, under names that BackupPlaces gives, and lists them in
+/// its index. Folders, links and files that lie in the backup folder already are left alone and reported. `digests` are
+/// for the index: one for each path, as backupDigest makes them, empty where unknown; or none at all.
 [[nodiscard]] BatchResult backupFiles(const QString &folder, const QStringList &paths, const BatchControl &control = {},
                                       const QStringList &digests = {});
 
@@ -39,13 +39,24 @@ bool restoreBackup(const QString &folder, const BackupEntry &entry, QString *err
 /// The line by which an entry is shown, chosen and logged: original and backup path.
 [[nodiscard]] QString backupLine(const BackupEntry &entry);
 
-/// The name of a file in the backup folder: local time of its batch, eight random hex digits, its own name.
-[[nodiscard]] QString backupName(const QString &path, qint64 atMs);
+/// Finds places in the backup folder for the files of one batch, which begins now. The names are made of the local time
+/// of the batch, eight random hex digits, and the file's own name. Thread-safe.
+class BackupPlaces
+{
+public:
+    explicit BackupPlaces(const QString &folder);
 
-/// The entries that a batch on `paths` would make, in their order, sizes included. `digests` holds one for each path,
-/// as backupDigest makes them, empty where unknown; or none at all.
-[[nodiscard]] QList<BackupEntry> plannedBackups(const QString &folder, const QStringList &paths,
-                                                const QStringList &digests = {});
+    /// The entry for the file `path`, which holds `sizeBytes`. Nothing is looked at.
+    [[nodiscard]] BackupEntry entryFor(const QString &path, qint64 sizeBytes, const QString &digest) const;
+
+    /// The same for a file that is to be set aside beside itself.
+    [[nodiscard]] BackupEntry asideEntryFor(const QString &path, qint64 sizeBytes, const QString &digest) const;
+
+private:
+    QString m_folder;
+    qint64 m_atMs;
+    QString m_time; ///< asking for the local time is dear
+};
 
 /// A planned entry after its file was moved: with the size that the file has now, and without the digest when that is
 /// another than planned.

@@ -7,7 +7,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFileInfo>
 
 namespace Mirrix {
 
@@ -72,8 +71,8 @@ bool link(const QString &linkPath, const QString &targetPath, FileFault (*make)(
 /// where both lie on one volume. Links on the way make the text lead elsewhere, so those are resolved first.
 FileFault makeShortestSymbolicLink(const QString &target, const QString &linkPath)
 {
-    const QString linkFolder = QFileInfo(folderOf(MirrixCore::absolutePath(linkPath))).canonicalFilePath();
-    const QString targetFolder = QFileInfo(folderOf(target)).canonicalFilePath();
+    const QString linkFolder = MirrixCore::canonicalPath(folderOf(MirrixCore::absolutePath(linkPath)));
+    const QString targetFolder = MirrixCore::canonicalPath(folderOf(target));
     const bool isOneVolume =
         !linkFolder.isEmpty() && !targetFolder.isEmpty() &&
         MirrixCore::fileStatus(linkFolder).identity.volume == MirrixCore::fileStatus(targetFolder).identity.volume;

@@ -2,6 +2,7 @@
 
 #include "actions/pathstate_posix.h"
 #include "core/platform/nativepath.h"
+#include "core/platform/openpath_posix.h"
 
 #include <cerrno>
 #include <csignal>
@@ -58,7 +59,7 @@ bool HeldFile::open(const QString &path, Purpose)
 {
     close();
     State &state = *m_state;
-    state.descriptor = ::open(pathBytes(path).constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK | O_NOFOLLOW);
+    state.descriptor = MirrixCore::openPath(pathBytes(path), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK | O_NOFOLLOW);
     if (state.descriptor < 0)
         return false;
     state.isInUse = !state.takeLease();

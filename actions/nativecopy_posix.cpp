@@ -1,6 +1,7 @@
 #include "actions/nativefile.h"
 
 #include "core/platform/nativepath.h"
+#include "core/platform/openpath_posix.h"
 
 #include <QByteArrayList>
 
@@ -17,6 +18,7 @@ namespace Mirrix {
 
 namespace {
 
+using MirrixCore::openPath;
 using MirrixCore::pathBytes;
 
 constexpr size_t pieceBytes = 1 << 20;
@@ -152,12 +154,11 @@ bool copyAttributes(int from, int to, const struct stat &info, const FileMarks *
 
 FileFault copyToNewFile(const QString &from, const QString &to, const FileMarks *marks)
 {
-    const Descriptor source(open(pathBytes(from).constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
+    const Descriptor source(openPath(pathBytes(from), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
     struct stat info = {};
     if (source.get() < 0 || fstat(source.get(), &info) != 0 || !S_ISREG(info.st_mode))
         return FileFault::Failed;
-    const QByteArray path = pathBytes(to);
-    Descriptor target(open(path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    Descriptor target(openPath(pathBytes(to), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
     if (target.get() < 0)
         return errno == EEXIST ? FileFault::Occupied : FileFault::Failed;
     bool isWhole = copyContent(source.get(), target.get(), info) &&
@@ -166,18 +167,20 @@ FileFault copyToNewFile(const QString &from, const QString &to, const FileMarks 
     posix_fadvise(target.get(), 0, 0, POSIX_FADV_DONTNEED);
     isWhole = target.close() && isWhole;
     if (!isWhole)
-        unlink(path.constData());
+        static_cast<void>(removeFile(to));
     return isWhole ? FileFault::None : FileFault::Failed;
 }
 
 bool setFileMarks(const QString &path, const FileMarks &marks)
 {
-    const Descriptor file(open(pathBytes(path).constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
+    const Descriptor file(openPath(pathBytes(path), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
     struct stat info = {};
-    if (file.get() < 0 || fstat(file.get(), &info) != 0 || !S_ISREG(info.st_mode))
+    const bool isKnown = file.get() >= 0 && fstat(file.get(), &info) == 0;
+    if (!isKnown || (!S_ISREG(info.st_mode) && !S_ISDIR(info.st_mode)))
         return false;
+    const mode_t mode = S_ISDIR(info.st_mode) ? marks.mode & 07777 : harmlessMode(marks.mode, info.st_mode);
     const std::array<timespec, 2> times = {timespec{0, UTIME_OMIT}, timeFrom(marks.modifiedExact)};
-    return fchmod(file.get(), harmlessMode(marks.mode, info.st_mode)) == 0 && futimens(file.get(), times.data()) == 0;
+    return fchmod(file.get(), mode) == 0 && futimens(file.get(), times.data()) == 0;
 }
 
 } // namespace Mirrix

@@ -64,7 +64,7 @@ bool setFileMarks(const QString &path, const FileMarks &marks)
     const DWORD present = GetFileAttributesW(native.c_str());
     const UniqueHandle file(CreateFileW(native.c_str(), FILE_WRITE_ATTRIBUTES,
                                         FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
-                                        FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+                                        FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
     const FILETIME modified = timeFrom(marks.modifiedExact);
     return present != INVALID_FILE_ATTRIBUTES && file && SetFileTime(file.get(), nullptr, nullptr, &modified) &&
            SetFileAttributesW(native.c_str(), markedAttributes(present, marks));

@@ -24,6 +24,7 @@ struct PathState
 
     Kind kind = Kind::Unknown;
     qint64 sizeBytes = 0;
+    qint64 allocatedBytes = -1; ///< on the volume; below 0 = unknown
     qint64 modifiedMs = 0;      ///< milliseconds since the Unix epoch
     qint64 modifiedExact = 0;   ///< the same time in the system's own finest unit
     qint64 changedExact = 0;    ///< last change of content or attributes, in the same unit; 0 = unknown
@@ -67,6 +68,9 @@ enum class FileFault
 /// Makes `link` a symbolic link to `target`, absolute or as seen from the link's folder, which need not exist.
 [[nodiscard]] FileFault makeSymbolicLink(const QString &target, const QString &link);
 
+/// The text of a symbolic link with forward slashes, absolute or as seen from its folder; empty when it cannot be read.
+[[nodiscard]] QString symbolicLinkText(const QString &link);
+
 /// Makes `link` a further name of the file `target`.
 [[nodiscard]] FileFault makeHardLink(const QString &target, const QString &link);
 
@@ -83,8 +87,8 @@ struct FileMarks
 /// Leaves nothing behind on failure.
 [[nodiscard]] FileFault copyToNewFile(const QString &from, const QString &to, const FileMarks *marks = nullptr);
 
-/// Gives a plain file these marks, not to wait until they are on the disk. Bits that lend the owner's rights are never
-/// added. False when the file has not got them.
+/// Gives a plain file or a folder these marks, not to wait until they are on the disk. Bits that lend the owner's
+/// rights are never added to a file. False when it has not got them.
 [[nodiscard]] bool setFileMarks(const QString &path, const FileMarks &marks);
 
 /// Makes an empty file at the free path `path`.

@@ -6,6 +6,9 @@
 
 #include <QDir>
 
+#include <filesystem>
+#include <system_error>
+
 namespace Mirrix {
 
 namespace {
@@ -144,6 +147,13 @@ FileFault makeSymbolicLink(const QString &target, const QString &link)
     if (GetLastError() == ERROR_INVALID_PARAMETER && CreateSymbolicLinkW(path.c_str(), native.c_str(), 0))
         return FileFault::None;
     return faultOf(GetLastError());
+}
+
+QString symbolicLinkText(const QString &link)
+{
+    std::error_code failure;
+    const std::filesystem::path text = std::filesystem::read_symlink(MirrixCore::filesystemPath(link), failure);
+    return failure ? QString() : QDir::fromNativeSeparators(MirrixCore::textFromWide(text.c_str()));
 }
 
 FileFault makeHardLink(const QString &target, const QString &link)

@@ -21,6 +21,7 @@ inline PathState pathStateFrom(const struct stat &info)
                  : S_ISDIR(info.st_mode) ? PathState::Kind::Folder
                                          : PathState::Kind::Other;
     state.sizeBytes = info.st_size;
+    state.allocatedBytes = qint64(info.st_blocks) * 512; // the unit everywhere
     state.modifiedMs = MirrixCore::epochMsFrom(info.st_mtim.tv_sec, info.st_mtim.tv_nsec);
     state.modifiedExact = nanosecondsOf(info.st_mtim);
     state.changedExact = nanosecondsOf(info.st_ctim);

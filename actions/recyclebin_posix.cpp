@@ -6,7 +6,6 @@
 
 #include <QDateTime>
 #include <QDir>
-#include <QFileInfo>
 #include <QRandomGenerator>
 
 #include <cerrno>
@@ -23,13 +22,18 @@ using MirrixCore::pathBytes;
 // The freedesktop.org trash: "files" holds what was thrown away, "info" a note on each. QFile::moveToTrash tries for
 // ever where a note cannot be written: on a full disk, or for a name near the longest.
 
-/// Others may write into a volume's topmost folder, so what stands there already must be ours.
-bool makePrivateFolder(const QString &path)
+bool isPrivateFolder(const QByteArray &path)
 {
     struct stat info = {};
+    return lstat(path.constData(), &info) == 0 && S_ISDIR(info.st_mode) && info.st_uid == geteuid();
+}
+
+/// Others may write into a volume's topmost folder, so what stands there already must be ours. Looked for first: making
+/// a folder that is there costs several times as much.
+bool makePrivateFolder(const QString &path)
+{
     const QByteArray bytes = pathBytes(path);
-    return mkdir(bytes.constData(), 0700) == 0 ||
-           (lstat(bytes.constData(), &info) == 0 && S_ISDIR(info.st_mode) && info.st_uid == geteuid());
+    return isPrivateFolder(bytes) || mkdir(bytes.constData(), 0700) == 0 || isPrivateFolder(bytes);
 }
 
 QByteArray noteOn(const QString &path, const BinFolder &trash)
@@ -91,7 +95,10 @@ FileFault throwInto(const BinFolder &trash, const QString &path, QString &placed
 bool canTake(const QString &)
 {
     const QString trash = homeTrash().folder;
-    return QDir().mkpath(trash) && QFileInfo(trash).isWritable();
+    const auto isWritableFolder = [&trash] {
+        return access(pathBytes(trash + QLatin1String("/.")).constData(), W_OK) == 0;
+    };
+    return isWritableFolder() || (QDir().mkpath(trash) && isWritableFolder());
 }
 
 RecycleBin::Answer moveToTrash(const QStringList &paths)

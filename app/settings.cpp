@@ -3,6 +3,8 @@
 #include "app/datalocations.h"
 #include "app/languagecodes.h"
 #include "app/storedfile.h"
+#include "core/platform/filestatus.h"
+#include "core/platform/nativefileio.h"
 
 #include <QDir>
 #include <QFile>
@@ -185,9 +187,10 @@ const QString languageKey = QStringLiteral("uiLanguage");
 
 void Settings::load()
 {
-    QFile file(settingsFilePath(directory));
-    isFileUnread = file.exists();
-    if (!file.open(QIODevice::ReadOnly))
+    QFile file;
+    const QString path = settingsFilePath(directory);
+    isFileUnread = MirrixCore::fileStatus(path).kind != MirrixCore::FileStatus::Kind::Missing;
+    if (!MirrixCore::openNatively(file, path, QIODevice::ReadOnly))
         return;
     const QJsonDocument document = QJsonDocument::fromJson(file.readAll());
     if (!document.isObject())

@@ -1,6 +1,6 @@
-// Benchmark of the matchers: bench_match [rules|names|similar] [FILES]. Each makes its files (1,000,000, 200,000 and
-// 20,000), in memory for the first two, and prints times, how long the matcher goes on once cancelled, and the peak of
-// memory where the system tells it. Exit status 1 when the groups found are not those made.
+// Benchmark of the matchers: bench_match [rules|names|letters|similar] [FILES]. Each makes its files (1,000,000,
+// 200,000 and 20,000), in memory for the first two, and prints times, how long the matcher goes on once cancelled, and
+// the peak of memory where the system tells it. Exit status 1 when the groups found are not those made.
 
 #include "core/hash/samples.h"
 #include "core/match/rulekeys.h"
@@ -131,6 +131,26 @@ void benchNames(int count)
     showPeak();
 }
 
+/// The hardest names for the index: long ones of two letters, in which all pieces occur everywhere.
+void benchLetters(int count)
+{
+    constexpr int length = 200;
+    QRandomGenerator random(1);
+    QList<FileEntry> files(count);
+    for (FileEntry &file : files) {
+        file.path = QStringLiteral("/");
+        for (int i = 0; i < length; ++i)
+            file.path += QLatin1Char(random.bounded(2) ? 'a' : 'b');
+    }
+    ScanOptions options;
+    options.similarNames = true;
+    options.nameTolerance = 20;
+    show("similar names of 200 letters, tolerance 20",
+         secondsOf([&] { (void)groupByRuleKeys(files, options, false); }));
+    showCancel([&](const CancelQuery &cancelled) { (void)groupByRuleKeys(files, options, false, cancelled); }, 1000);
+    showPeak();
+}
+
 /// A file with random samples and holes between them. Of four files the first two are alike.
 void makeSampled(const QString &path, qint64 size, int number)
 {
@@ -164,11 +184,14 @@ void benchSimilar(int count)
         options.similarPercent = percent;
         ScanResult result;
         std::printf("%d percent, %d threads\n", percent, QThread::idealThreadCount());
-        show("similar content", secondsOf([&] { result = matchSimilarContent(files, options, {}, {}); }));
+        show("similar content", secondsOf([&] { result = matchSimilarContent(files, {options, {}, {}}); }));
         expectGroups(result.groups.size(), (count + 2) / 4);
         for (const qint64 afterMs : {100, 3000})
-            showCancel([&](const CancelQuery &cancelled) { (void)matchSimilarContent(files, options, {}, cancelled); },
-                       afterMs);
+            showCancel(
+                [&](const CancelQuery &cancelled) {
+                    (void)matchSimilarContent(files, {options, {}, cancelled});
+                },
+                afterMs);
         showPeak();
     }
 }
@@ -183,6 +206,8 @@ int main(int argc, char **argv)
         benchRules(count ? count : 1000000);
     if (kind == "names" || kind.isEmpty())
         benchNames(count ? count : 200000);
+    if (kind == "letters" || kind.isEmpty())
+        benchLetters(count ? count : 20000);
     if (kind == "similar" || kind.isEmpty())
         benchSimilar(count ? count : 20000);
     return failures ? 1 : 0;

@@ -39,7 +39,7 @@ class Run:
 
 
 def is_first(run: Run) -> bool:
-    """Whether it had to read the pictures. Another run gives the same groups from what was remembered."""
+    """Whether it had to read the pictures. Another run gives the same groups from the cache."""
     return "first" in run.name or "without" in run.name
 
 
@@ -162,7 +162,7 @@ def main(arguments: list[str]) -> int:
     print(recall_table(answers, bases.total()), end="\n\n")
     print("The same by kind of picture, percent of all edits:\n")
     print(kinds_table(answers, dict(bases)), end="\n\n")
-    print("The time, from remembered features but for the first runs:\n")
+    print("The time, with cached features except for the first runs:\n")
     print(speed_table(runs, len(pictures)))
     return 0
 

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Measures what the search for alike pictures finds, misses and takes for alike, beside another finder; see README.md.
+# Measures what the search for similar pictures finds, misses and wrongly takes for similar, beside another finder; see
+# README.md.
 set -euo pipefail
 export LC_ALL=C.UTF-8
 

@@ -5,67 +5,19 @@
 //
 // Runs without a display with QT_QPA_PLATFORM=offscreen.
 
+#include "bench/consent.h"
 #include "bench/watchdog.h"
 #include "core/cache/cacheroot.h"
 #include "ui/mainmenu.h"
 #include "ui/mirrix.h"
-#include "ui/prompts.h"
 #include "ui/theme.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QFileInfo>
-#include <QLineEdit>
-#include <QListView>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// Says yes to everything.
-class Consent : public Mirrix::Prompts
-{
-public:
-    explicit Consent(const QString &folder)
-        : m_folder(folder)
-    {}
-
-    int exportFormat = 0; ///< the number of the next export's form
-
-    void inform(QWidget *, const QString &, const QString &, const QString &) override {}
-    bool informWithAction(QWidget *, const QString &, const QString &, const QString &, const QString &) override
-    {
-        return false;
-    }
-    void warn(QWidget *, const QString &, const QString &text) override { complain(text); }
-    void fail(QWidget *, const QString &, const QString &text) override { complain(text); }
-    bool ask(QWidget *, const QString &, const QString &, const QString &) override { return true; }
-    qsizetype choose(QWidget *, const Mirrix::ChoiceRequest &) override { return 0; }
-    Mirrix::Confirmation confirm(QWidget *, const Mirrix::ConfirmationRequest &) override { return {true, false}; }
-    QStringList chooseFiles(QWidget *, const QString &, const QString &) override { return {}; }
-    QString chooseFolder(QWidget *, const QString &, const QString &) override { return {}; }
-    QString chooseSaveFile(QWidget *, const QString &, const QString &, const QString &) override { return {}; }
-
-    bool run(QDialog &dialog) override
-    {
-        if (auto *format = dialog.findChild<QAbstractButton *>(u"ExportFormat%1"_s.arg(exportFormat))) {
-            format->click();
-            dialog.findChild<QLineEdit *>(u"OutputPathEdit"_s)->setText(m_folder + u"/export%1"_s.arg(exportFormat));
-        } else if (auto *list = dialog.findChild<QListView *>(u"RestoreList"_s)) {
-            dialog.show();
-            list->selectAll();
-        }
-        return true;
-    }
-
-private:
-    static void complain(const QString &text) { std::printf("  %s\n", qPrintable(text.left(300))); }
-
-    QString m_folder;
-};
-
-} // namespace
 
 int main(int argc, char **argv)
 {

@@ -6,14 +6,13 @@
 #include "app/sizetext.h"
 #include "cli/cleanplan.h"
 #include "cli/colours.h"
+#include "cli/counted.h"
 #include "cli/emptyfolderscommand.h"
 #include "cli/output.h"
 #include "cli/progressline.h"
 #include "cli/scancommand.h"
 #include "cli/terminal.h"
 #include "cli/unread.h"
-
-#include <QCoreApplication>
 
 #include <utility>
 
@@ -63,10 +62,10 @@ bool printPlan(const CleaningPlan &plan, const QString &colour, bool isQuiet)
     }
     if (isQuiet)
         return output.finish();
-    output.write(QStringLiteral("%1 files, %2 (%3). Nothing was changed; run again with --apply to do this.\n")
-                     .arg(plan.items.size())
-                     .arg(sizeText(bytes), spaceText(estimatedSpace(plan)))
-                     .toUtf8());
+    output.write(
+        QStringLiteral("%1, %2 (%3). Nothing was changed; run again with --apply to do this.\n")
+            .arg(counted(plan.items.size(), QStringLiteral("file")), sizeText(bytes), spaceText(estimatedSpace(plan)))
+            .toUtf8());
     return output.finish();
 }
 
@@ -122,7 +121,7 @@ ExitStatus runClean(const QCommandLineParser &parser)
         return cleanEmptyFolders(parser, isApplied);
     }
     CleanRequest request = cleanRequestOf(parser);
-    OperationsLog log(operationsLogPath(dataDirectoryOf(parser)));
+    OperationsLog log(operationsLogPath(recordsDirectoryOf(parser)));
     prepareScan(parser);
     if (isApplied && !log.append({scanStartedEvent(request.options)})) {
         printError(QStringLiteral("cannot write the log %1; nothing was done").arg(log.filePath()));
@@ -132,16 +131,17 @@ ExitStatus runClean(const QCommandLineParser &parser)
     if (isInterrupted())
         return cancelled();
     CleaningPlan &plan = request.plan;
-    plan.items = surplusByRule(result.groups, request.rule);
+    plan.items = request.wantsEmptyFiles ? itemsWithoutKept(result.groups) : surplusByRule(result.groups, request.rule);
     const bool isComplete = !isAnyWanted(result.unread, request.options);
     if (!isApplied)
         return printPlan(plan, colour, quiet) && isComplete ? ExitStatus::Done : ExitStatus::SomeFailed;
-    const bool isLogged = log.append({scanDoneEvent(result.groups.size(), result.wastedBytes, result.candidates),
-                                      markedByRuleEvent(request.rule, plan.items.size())});
+    QList<LogEntry> events = {scanDoneEvent(result.groups.size(), result.wastedBytes, result.candidates)};
+    if (!request.wantsEmptyFiles)
+        events.append(markedByRuleEvent(request.rule, plan.items.size()));
+    const bool isLogged = log.append(events);
     if (!isLogged)
         printError(QStringLiteral("cannot write the log %1").arg(log.filePath()));
-    const QString command = QCoreApplication::arguments().mid(1).join(QLatin1Char(' '));
-    return apply(plan, {log, dataDirectoryOf(parser), command}, isComplete && isLogged, quiet);
+    return apply(plan, {log, recordsDirectoryOf(parser), commandText()}, isComplete && isLogged, quiet);
 }
 
 } // namespace MirrixCli

@@ -7,6 +7,7 @@
 #include "cli/selection.h"
 #include "core/platform/nativepath.h"
 #include "core/platform/pathtext.h"
+#include "core/walk/namepatterns.h"
 
 #include <array>
 
@@ -22,6 +23,7 @@ using MirrixCore::SearchMode;
 const QString keepOption = QStringLiteral("keep");
 const QString methodOption = QStringLiteral("method");
 const QString targetOption = QStringLiteral("target");
+const QString emptyFilesOption = QStringLiteral("empty-files");
 const QString compareOption = QStringLiteral("compare-contents");
 
 constexpr std::array methods = {CleaningMethod::Recycle,      CleaningMethod::Delete,   CleaningMethod::Move,
@@ -54,7 +56,10 @@ void readFolders(const QCommandLineParser &parser, CleaningPlan &plan)
     if (isMoveTarget)
         plan.targetFolder = backupFolderPath(given);
     plan.backupFolder =
-        backupFolderPath(given.isEmpty() || isMoveTarget ? readSettings(dataDirectoryOf(parser)).backupRoot : given);
+        backupFolderPath(given.isEmpty() || isMoveTarget ? readSettings(recordsDirectoryOf(parser)).backupRoot : given);
+    requireUnicodeName(given.isEmpty() || isMoveTarget ? QStringLiteral("the backup folder of the settings")
+                                                       : QStringLiteral("--target"),
+                       plan.backupFolder);
 }
 
 /// A root inside the folder that takes the files would be left out of the scan, and nothing would be done without a
@@ -64,9 +69,19 @@ void refuseRootsInside(const QString &folder, const ScanOptions &options)
     TargetFolder target(folder);
     for (const QString &root : options.roots + options.files) {
         if (target.isAtOrAbove(MirrixCore::cleanedPath(MirrixCore::absolutePath(root))))
-            throw UsageError{
-                QStringLiteral("%1, where files are put away, is the scanned folder %2 or holds it").arg(folder, root)};
+            throw UsageError{QStringLiteral("the target folder %1 must not be the scanned folder %2 or contain it")
+                                 .arg(folder, root)};
     }
+}
+
+/// Nothing stays for an empty file, to which a link could lead.
+void refuseForEmptyFiles(const QCommandLineParser &parser, CleaningMethod method)
+{
+    const QString other = parser.isSet(keepOption) ? keepOption
+                          : isLinking(method)      ? methodOption + QLatin1Char(' ') + methodName(method)
+                                                   : QString();
+    if (!other.isEmpty())
+        throw UsageError{QStringLiteral("--%1 cannot be used with --%2").arg(other, emptyFilesOption)};
 }
 
 /// Only equal contents are proof enough to act without a person looking.
@@ -87,7 +102,7 @@ void addPlanOptions(QCommandLineParser &parser)
         {keepOption,
          QStringLiteral(
              "Which file of each group to keep: newest, oldest, shallowest or deepest. On a tie, the first one "
-             "listed. Required unless --empty-folders is given."),
+             "listed. Required unless --empty-files or --empty-folders is given."),
          QStringLiteral("RULE")},
         {methodOption,
          QStringLiteral(
@@ -100,6 +115,9 @@ void addPlanOptions(QCommandLineParser &parser)
          QStringLiteral("DIR")},
         {compareOption,
          QStringLiteral("Compare whole contents before every removal, not only before those that destroy a file.")},
+        {emptyFilesOption,
+         QStringLiteral("Remove files that hold nothing, instead of copies. Takes no --keep and makes no links. Bins, "
+                        "backup folders, snapshots and what version control keeps are left alone.")},
     });
     addSelectionOptions(parser);
     addPreparationOptions(parser);
@@ -107,7 +125,7 @@ void addPlanOptions(QCommandLineParser &parser)
 
 void refusePlanOptions(const QCommandLineParser &parser)
 {
-    for (const QString &option : {keepOption, methodOption, targetOption, compareOption}) {
+    for (const QString &option : {keepOption, methodOption, targetOption, compareOption, emptyFilesOption}) {
         if (parser.isSet(option))
             throw UsageError{QStringLiteral("--%1 cannot be used with --empty-folders").arg(option)};
     }
@@ -116,15 +134,23 @@ void refusePlanOptions(const QCommandLineParser &parser)
 CleanRequest cleanRequestOf(const QCommandLineParser &parser)
 {
     CleanRequest request;
-    request.rule = named(keepOption, parser.value(keepOption), rules, ruleName);
-    request.plan.rule = ruleName(request.rule);
+    request.wantsEmptyFiles = parser.isSet(emptyFilesOption);
+    if (!request.wantsEmptyFiles)
+        request.rule = named(keepOption, parser.value(keepOption), rules, ruleName);
+    request.plan.rule = request.wantsEmptyFiles ? emptyFilesOption : ruleName(request.rule);
     request.plan.method = named(methodOption, parser.value(methodOption), methods, methodName);
+    if (request.wantsEmptyFiles)
+        refuseForEmptyFiles(parser, request.plan.method);
     readFolders(parser, request.plan);
     request.plan.comparesWholeContents =
-        parser.isSet(compareOption) || readSettings(dataDirectoryOf(parser)).compareWholeContents;
+        parser.isSet(compareOption) || readSettings(recordsDirectoryOf(parser)).compareWholeContents;
     request.options.collapseHardLinks = true;
     readSelection(parser, request.options);
     refuseLooseMatching(request.options);
+    if (request.wantsEmptyFiles) {
+        request.options.excludeNames += MirrixCore::versionControlNames();
+        seekEmptyFiles(request.options);
+    }
     // What was put away is neither surplus nor a reason to put away the last copy in use.
     for (const QString &folder : {request.plan.backupFolder, request.plan.targetFolder}) {
         if (folder.isEmpty())

@@ -10,6 +10,7 @@ namespace MirrixCli {
 /// What the command line of "clean" asks for.
 struct CleanRequest
 {
+    bool wantsEmptyFiles = false; ///< instead of surplus copies: then no rule counts
     Mirrix::KeepRule rule = Mirrix::KeepRule::Newest;
     Mirrix::CleaningPlan plan; ///< without its items, which only the scan tells
     MirrixCore::ScanOptions options;
@@ -18,7 +19,7 @@ struct CleanRequest
 /// Declares the options that make up the request.
 void addPlanOptions(QCommandLineParser &parser);
 
-/// Throws UsageError when one of them is given.
+/// Throws UsageError when one of them is given, which cleaning of empty folders does not take.
 void refusePlanOptions(const QCommandLineParser &parser);
 
 /// Throws UsageError.

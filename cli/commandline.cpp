@@ -12,6 +12,7 @@
 #include "cli/restorecommand.h"
 #include "cli/scancommand.h"
 #include "cli/undocommand.h"
+#include "core/platform/nativefileio.h"
 #include "core/platform/nativepath.h"
 #include "core/platform/pathtext.h"
 
@@ -48,10 +49,10 @@ const QList<Command> &commands()
         {QStringLiteral("restore"), QStringLiteral("list or restore backed-up files"), addRestoreOptions, runRestore},
         {QStringLiteral("history"), QStringLiteral("list the cleaning runs, or the files of one"), addHistoryOptions,
          runHistory},
-        {QStringLiteral("undo"), QStringLiteral("bring back what a cleaning run took away"), addUndoOptions, runUndo},
-        {QStringLiteral("log"), QStringLiteral("print what was done"), addLogOptions, runLog},
-        {QStringLiteral("hash"), QStringLiteral("print digests of files"), addHashOptions, runHash},
-        {QStringLiteral("info"), QStringLiteral("print what is known of files"), addInfoOptions, runInfo},
+        {QStringLiteral("undo"), QStringLiteral("undo a cleaning run"), addUndoOptions, runUndo},
+        {QStringLiteral("log"), QStringLiteral("show the log of what was done"), addLogOptions, runLog},
+        {QStringLiteral("hash"), QStringLiteral("print checksums of files"), addHashOptions, runHash},
+        {QStringLiteral("info"), QStringLiteral("show what is known about files"), addInfoOptions, runInfo},
         {QStringLiteral("options"), QStringLiteral("describe the scan options that --set takes"), addOptionsOptions,
          runOptions},
         {QStringLiteral("completion"), QStringLiteral("print a completion script for a shell"), addCompletionOptions,
@@ -89,11 +90,20 @@ void prepare(QCommandLineParser &parser, const Command &command)
     parser.setApplicationDescription(QStringLiteral("%1: %2.").arg(command.name, command.summary));
     command.addOptions(parser);
     parser.addOption({dataDirOption,
-                      QStringLiteral("Folder of settings, caches and records (default: the program's own)."),
+                      QStringLiteral("Folder for settings, caches and records (default: the program's own)."),
                       QStringLiteral("DIR")});
-    parser.addOption({portableOption, QStringLiteral("Keep settings and caches beside the program.")});
+    parser.addOption(
+        {portableOption, QStringLiteral("Keep settings, caches and records in the folder Data beside the program.")});
     parser.addOption({versionOption, QStringLiteral("Show the version.")});
     parser.addOption({{QStringLiteral("h"), helpOption}, QStringLiteral("Show this help.")});
+}
+
+/// The parser's help, which begins with the program as it was called and knows no commands.
+QString helpText(const QCommandLineParser &parser, const Command &command)
+{
+    QString text = parser.helpText();
+    const qsizetype end = text.indexOf(QLatin1String("[options]"));
+    return text.replace(0, end, QStringLiteral("Usage: mirrix-cli %1 ").arg(command.name));
 }
 
 ExitStatus runParsed(const Command &command, const QStringList &arguments)
@@ -103,8 +113,7 @@ ExitStatus runParsed(const Command &command, const QStringList &arguments)
     if (!parser.parse(arguments))
         throw UsageError{parser.errorText()};
     if (parser.isSet(helpOption) || parser.isSet(versionOption)) {
-        QString text = parser.isSet(helpOption) ? parser.helpText() : versionText();
-        printText(text.replace(QLatin1String("[options]"), command.name + QLatin1String(" [options]")));
+        printText(parser.isSet(helpOption) ? helpText(parser, command) : versionText());
         return ExitStatus::Done;
     }
     return command.run(parser);
@@ -170,10 +179,28 @@ QString choiceProblem(const QString &option, const QStringList &choices, const Q
                            : QStringLiteral("--%1 must be %2, not \"%3\"").arg(option, known, value);
 }
 
+QString commandText()
+{
+    return QCoreApplication::arguments().mid(1).join(QLatin1Char(' '));
+}
+
+void requireUnicodeName(const QString &source, const QString &folder)
+{
+    if (!MirrixCore::isQtPath(folder))
+        throw UsageError{QStringLiteral("%1 cannot be %2: its name is not UTF-8").arg(source, folder)};
+}
+
 QString dataDirectoryOf(const QCommandLineParser &parser)
 {
     const QString chosen = parser.value(dataDirOption);
     return chosen.isEmpty() ? Mirrix::dataDirectory() : MirrixCore::cleanedPath(MirrixCore::absolutePath(chosen));
+}
+
+QString recordsDirectoryOf(const QCommandLineParser &parser)
+{
+    const QString directory = dataDirectoryOf(parser);
+    requireUnicodeName(QStringLiteral("--") + dataDirOption, directory);
+    return directory;
 }
 
 } // namespace MirrixCli

@@ -32,7 +32,17 @@ struct UsageError
 /// The help of each command that the usage lists.
 [[nodiscard]] QList<CommandHelp> commandHelps();
 
-/// The data directory that the common options choose, absolute.
+/// The command line as the record of a run keeps it.
+[[nodiscard]] QString commandText();
+
+/// Throws UsageError for a folder whose name is no proper Unicode: the indexes, journals and locks kept in it would end
+/// up under another name. `source` tells where the folder was given, such as "--target".
+void requireUnicodeName(const QString &source, const QString &folder);
+
+/// The data directory that the common options choose, absolute: for settings and caches, whatever its name.
 [[nodiscard]] QString dataDirectoryOf(const QCommandLineParser &parser);
+
+/// The same for records, too. Throws UsageError as requireUnicodeName.
+[[nodiscard]] QString recordsDirectoryOf(const QCommandLineParser &parser);
 
 } // namespace MirrixCli

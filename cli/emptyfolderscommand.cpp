@@ -4,6 +4,7 @@
 #include "actions/cleaning/emptyfolderremoval.h"
 #include "actions/operationslog.h"
 #include "app/settings.h"
+#include "cli/counted.h"
 #include "cli/output.h"
 #include "cli/progressline.h"
 #include "cli/scancommand.h"
@@ -27,7 +28,7 @@ MirrixCore::ScanOptions optionsOf(const QCommandLineParser &parser)
     readSelection(parser, options);
     if (!options.files.isEmpty())
         throw UsageError{QStringLiteral("--empty-folders takes folders only, not %1").arg(options.files.constFirst())};
-    const QString dataDirectory = dataDirectoryOf(parser);
+    const QString dataDirectory = recordsDirectoryOf(parser);
     options.excludeFolders += {dataDirectory, backupFolderPath(readSettings(dataDirectory).backupRoot)};
     return options;
 }
@@ -40,8 +41,8 @@ bool printFolders(const QStringList &folders, bool isQuiet)
     for (const QString &folder : folders)
         output.write("remove " + shownPath(folder, true) + '\n');
     if (!isQuiet)
-        output.write(QStringLiteral("%1 empty folders. Nothing was changed; run again with --apply to do this.\n")
-                         .arg(folders.size())
+        output.write(QStringLiteral("%1. Nothing was changed; run again with --apply to do this.\n")
+                         .arg(counted(folders.size(), QStringLiteral("empty folder")))
                          .toUtf8());
     return output.finish();
 }
@@ -49,8 +50,10 @@ bool printFolders(const QStringList &folders, bool isQuiet)
 /// False when some folders stayed.
 bool removeFolders(const QStringList &folders, const QCommandLineParser &parser)
 {
-    OperationsLog log(operationsLogPath(dataDirectoryOf(parser)));
-    const BatchResult result = removeEmptyFolders(folders, log, [](auto, auto) { return !isInterrupted(); });
+    const QString dataDirectory = recordsDirectoryOf(parser);
+    OperationsLog log(operationsLogPath(dataDirectory));
+    const CleaningResult result =
+        removeEmptyFolders(folders, {log, dataDirectory, commandText()}, [](auto, auto) { return !isInterrupted(); });
     for (const QString &error : result.errors)
         printError(error);
     if (!isQuiet(parser))
@@ -67,10 +70,10 @@ bool wantsEmptyFolders(const QCommandLineParser &parser)
 
 void addEmptyFoldersOption(QCommandLineParser &parser)
 {
-    parser.addOption({emptyFoldersOption,
-                      QStringLiteral("Remove folders that hold nothing, or nothing but such folders, instead of "
-                                     "copies. Takes no --keep and no --method. Bins, backup folders, snapshots and "
-                                     "folders of version control are left alone.")});
+    parser.addOption(
+        {emptyFoldersOption, QStringLiteral("Remove folders that are empty or contain only empty folders, instead of "
+                                            "copies. --keep and --method cannot be used with it. Recycle bins, backup "
+                                            "folders, snapshots and version control folders are left alone.")});
 }
 
 ExitStatus cleanEmptyFolders(const QCommandLineParser &parser, bool isApplied)

@@ -1,6 +1,7 @@
 #include "cli/filelist.h"
 
 #include "cli/commandline.h"
+#include "core/platform/nativefileio.h"
 #include "core/platform/nativepath.h"
 
 #include <QFile>
@@ -12,10 +13,11 @@ namespace MirrixCli {
 QStringList readFileList(const QString &path, bool isNulSeparated)
 {
     QFile file;
+    QString reason;
     const bool isStandard = path == QLatin1String("-");
-    file.setFileName(path);
-    if (!(isStandard ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly)))
-        throw UsageError{QStringLiteral("cannot read %1: %2").arg(path, file.errorString())};
+    if (!(isStandard ? file.open(stdin, QIODevice::ReadOnly)
+                     : MirrixCore::openNatively(file, path, QIODevice::ReadOnly, &reason)))
+        throw UsageError{QStringLiteral("cannot read %1: %2").arg(path, isStandard ? file.errorString() : reason)};
     const QByteArray text = file.readAll();
     if (file.error() != QFileDevice::NoError)
         throw UsageError{QStringLiteral("cannot read %1: %2").arg(path, file.errorString())};

@@ -148,7 +148,8 @@ void addHistoryOptions(QCommandLineParser &parser)
 {
     parser.addOption({formatOption, QStringLiteral("Output format: text (default) or json."), QStringLiteral("FORMAT"),
                       QStringLiteral("text")});
-    parser.addPositionalArgument(QStringLiteral("RUN"), QStringLiteral("The run to print with its files."),
+    parser.addPositionalArgument(QStringLiteral("RUN"),
+                                 QStringLiteral("Show this run with its files, named as in the list."),
                                  QStringLiteral("[RUN]"));
 }
 
@@ -156,12 +157,12 @@ ExitStatus runHistory(const QCommandLineParser &parser)
 {
     const QString format = parser.value(formatOption);
     if (format != QLatin1String("text") && format != QLatin1String("json"))
-        throw UsageError{QStringLiteral("--format needs text or json, not \"%1\"").arg(format)};
+        throw UsageError{choiceProblem(formatOption, {QStringLiteral("text"), QStringLiteral("json")}, format)};
     const QStringList words = parser.positionalArguments();
     if (words.size() > 1 || (!words.isEmpty() && !isRunId(words.constFirst())))
-        throw UsageError{QStringLiteral("history takes one run at most, as it is named in the list")};
+        throw UsageError{QStringLiteral("history takes at most one run, named as in the list")};
     const bool isJson = format == QLatin1String("json");
-    const QString dataDirectory = dataDirectoryOf(parser);
+    const QString dataDirectory = recordsDirectoryOf(parser);
     bool isDone = true;
     if (words.isEmpty()) {
         const QList<RunSummary> runs = listRuns(dataDirectory);

@@ -21,6 +21,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 
 namespace MirrixCli {
 
@@ -93,10 +94,25 @@ QString timeText(qint64 timeMs)
                       : QDateTime::fromMSecsSinceEpoch(timeMs).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
 }
 
+/// "1:02:03".
+QString durationText(qint64 ms)
+{
+    const auto twoDigits = [](qint64 number) { return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0')); };
+    const qint64 seconds = ms / 1000;
+    return QStringLiteral("%1:%2:%3").arg(seconds / 3600).arg(twoDigits(seconds / 60 % 60), twoDigits(seconds % 60));
+}
+
 QString bytesText(qint64 bytes)
 {
     return bytes < 1024 ? Mirrix::sizeText(bytes)
                         : QStringLiteral("%1 (%2 bytes)").arg(Mirrix::sizeText(bytes)).arg(bytes);
+}
+
+/// "cameraMake" as "camera make".
+QString worded(const QString &name)
+{
+    static const QRegularExpression boundary(QStringLiteral("(?<=[a-z])(?=[A-Z])"));
+    return QString(name).replace(boundary, QStringLiteral(" ")).toLower();
 }
 
 /// The facts whose names and values are put into words.
@@ -117,6 +133,15 @@ QList<std::pair<QString, QString>> wordedFacts(QJsonObject &facts)
                               digest[part].toString() + QStringLiteral(" (remembered)")});
         }
     }
+    if (facts.contains(QStringLiteral("width")))
+        lines.append({QStringLiteral("dimensions"), QStringLiteral("%1 x %2")
+                                                        .arg(facts.take(QStringLiteral("width")).toInteger())
+                                                        .arg(facts.take(QStringLiteral("height")).toInteger())});
+    if (const QJsonValue duration = facts.take(QStringLiteral("durationMs")); !duration.isUndefined())
+        lines.append({QStringLiteral("duration"), durationText(duration.toInteger())});
+    facts.remove(QStringLiteral("shotMs")); // the date taken says it
+    if (const QString place = facts.take(QStringLiteral("place")).toString(); !place.isEmpty())
+        lines.append({QStringLiteral("place"), worded(place)});
     if (facts.take(QStringLiteral("digestsOutOfDate")).toBool())
         lines.append({QStringLiteral("digest"), QStringLiteral("remembered, but out of date")});
     return lines;
@@ -127,10 +152,10 @@ void writeText(QJsonObject facts, Output &output)
     output.write(shownPath(facts.take(QStringLiteral("path")).toString(), output.isTerminal()) + '\n');
     QList<std::pair<QString, QString>> lines = wordedFacts(facts);
     const QJsonObject tags = facts.take(QStringLiteral("tags")).toObject();
-    for (const QJsonObject &rest : {facts, tags}) {
-        for (auto it = rest.begin(); it != rest.end(); ++it)
-            lines.append({it.key(), it.value().toVariant().toString()});
-    }
+    for (auto it = facts.constBegin(); it != facts.constEnd(); ++it)
+        lines.append({worded(it.key()), it.value().toVariant().toString()});
+    for (auto it = tags.constBegin(); it != tags.constEnd(); ++it)
+        lines.append({it.key(), it.value().toString()});
     for (const auto &[name, value] : lines)
         output.write("  " + shownPath(name.leftJustified(14) + QLatin1Char(' ') + value, output.isTerminal()) + '\n');
 }

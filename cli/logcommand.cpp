@@ -1,6 +1,7 @@
 #include "cli/logcommand.h"
 
 #include "actions/operationslog.h"
+#include "cli/logtexts.h"
 #include "cli/output.h"
 
 #include <QDateTime>
@@ -21,7 +22,7 @@ void writeText(const QList<LogEntry> &entries, Output &output)
     for (const LogEntry &entry : entries) {
         const QString time =
             QDateTime::fromMSecsSinceEpoch(entry.timeMs).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
-        QString line = QStringLiteral("%1  %2  %3").arg(time, entry.action, entry.detail);
+        QString line = time + QLatin1String("  ") + logText(entry);
         line.replace(QLatin1Char('\n'), QLatin1Char('?')); // a file name could forge a record
         output.write(shownPath(line, output.isTerminal()) + '\n');
     }
@@ -52,7 +53,7 @@ ExitStatus runLog(const QCommandLineParser &parser)
         throw UsageError{choiceProblem(formatOption, {QStringLiteral("text"), QStringLiteral("json")}, format)};
     if (!parser.positionalArguments().isEmpty())
         throw UsageError{QStringLiteral("log takes no files")};
-    const QList<LogEntry> entries = OperationsLog(operationsLogPath(dataDirectoryOf(parser))).readAll();
+    const QList<LogEntry> entries = OperationsLog(operationsLogPath(recordsDirectoryOf(parser))).readAll();
     Output output;
     if (!output.open({}))
         return ExitStatus::SomeFailed;

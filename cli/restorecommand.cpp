@@ -152,7 +152,7 @@ ExitStatus restoreChosen(const QCommandLineParser &parser, const QString &folder
     const qsizetype missing = dropMissing(chosen);
     catchInterrupts();
     const RestoreResult result = chosen.isEmpty() ? RestoreResult() : restoreWithProgress(folder, chosen);
-    logRestored(dataDirectoryOf(parser), result.restored);
+    logRestored(recordsDirectoryOf(parser), result.restored);
     for (const QString &message : result.errors + result.notes)
         printError(message);
     printText(QStringLiteral("%1 of %2 files restored\n").arg(result.count).arg(total));
@@ -170,9 +170,9 @@ void addRestoreOptions(QCommandLineParser &parser)
 {
     parser.addOptions({
         {targetOption, QStringLiteral("The backup folder (default: from the settings)."), QStringLiteral("DIR")},
-        {listOption, QStringLiteral("List what can be restored. This is also what happens without options.")},
+        {listOption, QStringLiteral("List what can be restored (the default).")},
         {allOption, QStringLiteral("Restore everything.")},
-        {verifyOption, QStringLiteral("Check that all backups are there and as they were, and change nothing.")},
+        {verifyOption, QStringLiteral("Check that every backup is present and unchanged. Nothing is restored.")},
     });
     parser.addPositionalArgument(
         QStringLiteral("ENTRY"),
@@ -185,9 +185,11 @@ ExitStatus runRestore(const QCommandLineParser &parser)
     const bool hasWords = !parser.positionalArguments().isEmpty();
     if (parser.isSet(listOption) + parser.isSet(allOption) + parser.isSet(verifyOption) + hasWords > 1)
         throw UsageError{QStringLiteral("--list, --all, --verify and ENTRY cannot be combined")};
-    const QString dataDirectory = dataDirectoryOf(parser);
+    const QString dataDirectory = recordsDirectoryOf(parser);
     const QString given = parser.value(targetOption);
     const QString folder = backupFolderPath(given.isEmpty() ? readSettings(dataDirectory).backupRoot : given);
+    requireUnicodeName(
+        given.isEmpty() ? QStringLiteral("the backup folder of the settings") : QStringLiteral("--target"), folder);
     bool isRead = false;
     const Entries entries = locatedEntries(folder, &isRead);
     if (!isRead) {

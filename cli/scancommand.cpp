@@ -172,19 +172,6 @@ QString orderOf(const QCommandLineParser &parser)
     return order;
 }
 
-/// Looks for empty files instead of duplicates.
-void seekEmptyFiles(ScanOptions &options)
-{
-    const QStringList places = options.roots + options.files.mid(0, options.roots.isEmpty() ? 1 : 0);
-    for (const QString &place : places) {
-        const auto isOf = [&](const ScanLocation &location) { return location.path == place; };
-        if (std::none_of(options.locations.begin(), options.locations.end(), isOf))
-            options.locations.append({place, true, 0, false});
-    }
-    for (ScanLocation &location : options.locations)
-        location.findKind = static_cast<qint32>(FindKind::EmptyFiles);
-}
-
 /// Finds out before a long scan whether its report can be written. The file is not left open: its temporary name would
 /// be found by a scan of its folder.
 void refuseUnwritable(const QString &path)
@@ -273,6 +260,18 @@ ScanResult scanAndReportUnread(const ScanOptions &options, bool isQuiet)
     return result;
 }
 
+void seekEmptyFiles(ScanOptions &options)
+{
+    const QStringList places = options.roots + options.files.mid(0, options.roots.isEmpty() ? 1 : 0);
+    for (const QString &place : places) {
+        const auto isOf = [&](const ScanLocation &location) { return location.path == place; };
+        if (std::none_of(options.locations.begin(), options.locations.end(), isOf))
+            options.locations.append({place, true, 0, false});
+    }
+    for (ScanLocation &location : options.locations)
+        location.findKind = static_cast<qint32>(FindKind::EmptyFiles);
+}
+
 void addOutputOptions(QCommandLineParser &parser)
 {
     parser.addOption({{QStringLiteral("q"), quietOption},
@@ -291,21 +290,19 @@ void addScanOptions(QCommandLineParser &parser)
     addPreparationOptions(parser);
     parser.addOptions({
         {modeOption,
-         QStringLiteral(
-             "How files are compared: content (default; identical bytes), similar-content (at least "
-             "similarPercent of samples agree), rules (names, sizes, dates and paths only), images (visual "
-             "similarity, within imageMaxDistance), audio or video (content samples, then the opening or the "
-             "whole file, depending on mediaCompareDepth for audio, mediaCompareDepthAlt for video)."),
+         QStringLiteral("How files are compared: content (default; identical bytes), similar-content (at least "
+                        "similarPercent of samples agree), rules (names, sizes, dates and paths only), images (visual "
+                        "similarity, within imageMaxDistance), audio or video (content samples, then the beginning or "
+                        "the whole file, depending on mediaCompareDepth for audio, mediaCompareDepthAlt for video)."),
          QStringLiteral("MODE")},
         {optionsOption, QStringLiteral("Read scan options from a JSON file."), QStringLiteral("FILE")},
         {emptyFilesOption, QStringLiteral("List empty files instead of duplicates.")},
         {emptyFoldersOption,
-         QStringLiteral(
-             "List folders that hold nothing, or nothing but such folders, instead of duplicates. May be used "
-             "with --empty-files.")},
+         QStringLiteral("List folders that are empty or contain only empty folders, instead of duplicates. May be used "
+                        "with --empty-files.")},
         {formatOption,
-         QStringLiteral("Report format: text (default), json, csv (groups only) or nul (paths that each end with a NUL "
-                        "byte, an empty one between groups)."),
+         QStringLiteral("Report format: text (default), json, csv (groups only) or nul (each path ends with a NUL "
+                        "byte, and an empty path stands between groups)."),
          QStringLiteral("FORMAT"), QStringLiteral("text")},
         {sortOption,
          QStringLiteral("Order of the groups: waste (default; most first), path (of the first file), size (of the "

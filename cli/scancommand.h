@@ -28,6 +28,9 @@ void prepareScan(const QCommandLineParser &parser);
 /// Scans, with a progress line unless `isQuiet`, and names what could not be read on standard error.
 [[nodiscard]] MirrixCore::ScanResult scanAndReportUnread(const MirrixCore::ScanOptions &options, bool isQuiet);
 
+/// Looks for empty files instead of duplicates.
+void seekEmptyFiles(MirrixCore::ScanOptions &options);
+
 /// Declares --quiet and --color.
 void addOutputOptions(QCommandLineParser &parser);
 [[nodiscard]] bool isQuiet(const QCommandLineParser &parser);

@@ -3,6 +3,7 @@
 #include "actions/exporttexts.h"
 #include "app/sizetext.h"
 #include "cli/colours.h"
+#include "cli/counted.h"
 #include "cli/jsonreport.h"
 #include "core/platform/nativepath.h"
 
@@ -13,11 +14,6 @@ namespace MirrixCli {
 namespace {
 
 using namespace MirrixCore;
-
-QString counted(qint64 count, const QString &noun)
-{
-    return QStringLiteral("%1 %2%3").arg(count).arg(noun, count == 1 ? QString() : QStringLiteral("s"));
-}
 
 /// How much the members agree, of a group by similar content: "SIM:93%" and what rules add to it.
 QString agreement(const QString &key)
@@ -78,13 +74,30 @@ private:
     const bool m_isColoured;
 };
 
+/// What removing all files but one of each group would free, however sparse they are.
+qint64 reclaimableBytes(const QList<DuplicateGroup> &groups)
+{
+    qint64 sum = 0;
+    for (const DuplicateGroup &group : groups) {
+        qint64 all = 0;
+        qint64 largest = 0;
+        for (const FileEntry &file : group.files) {
+            const qint64 bytes = MirrixCore::freeableBytes(file.size, file.allocatedBytes);
+            all += bytes;
+            largest = std::max(largest, bytes);
+        }
+        sum += std::min(group.wastedBytes, all - largest);
+    }
+    return sum;
+}
+
 QString summaryOf(const ScanReport &report)
 {
     const ScanResult &result = report.result;
     QStringList found;
     if (!result.groups.isEmpty())
         found.append(counted(result.groups.size(), QStringLiteral("group")) +
-                     QStringLiteral(", %1 reclaimable").arg(Mirrix::sizeText(result.wastedBytes)));
+                     QStringLiteral(", %1 reclaimable").arg(Mirrix::sizeText(reclaimableBytes(result.groups))));
     else if (report.hasFiles)
         found.append(QStringLiteral("No duplicates found"));
     if (report.hasFolders)

@@ -126,15 +126,15 @@ void addSelectionOptions(QCommandLineParser &parser)
          QStringLiteral("Skip files and folders whose names match this pattern, such as '*.git'. May be repeated."),
          QStringLiteral("PATTERN")},
         {newerOption,
-         QStringLiteral("Only files modified since: an age (12h, 30d, 4w, 1y) or a date (2024-01-31, local time)."),
+         QStringLiteral(
+             "Only files modified within this time (12h, 30d, 4w, 1y) or since this date (2024-01-31, local time)."),
          QStringLiteral("AGE|DATE")},
         {excludeOption, QStringLiteral("Skip this folder. May be repeated."), QStringLiteral("DIR")},
         {oneFileSystemOption, QStringLiteral("Do not enter other file systems mounted below a folder.")},
         {filesFromOption,
-         QStringLiteral(
-             "Also scan the files and folders that this file lists, one a line; - reads standard input. Names "
-             "with line breaks need a list separated by NUL bytes, which is recognised. Equal folders are "
-             "not searched for when single files are listed."),
+         QStringLiteral("Also scan the files and folders listed in this file, one per line; - reads standard input. A "
+                        "list separated by NUL bytes is recognised; names with line breaks need one. Equal folders are "
+                        "not searched for when single files are listed."),
          QStringLiteral("FILE")},
         {{QStringLiteral("0"), nullOption}, QStringLiteral("The list of --files-from is separated by NUL bytes.")},
         {setOption,

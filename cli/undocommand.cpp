@@ -9,7 +9,6 @@
 #include "cli/progressline.h"
 #include "cli/terminal.h"
 
-#include <QCoreApplication>
 #include <QFile>
 
 #include <algorithm>
@@ -29,12 +28,14 @@ QString runMeant(const QCommandLineParser &parser)
 {
     const QStringList words = parser.positionalArguments();
     if (words.size() != 1 || (words.constFirst() != lastWord && !isRunId(words.constFirst())))
-        throw UsageError{QStringLiteral("undo takes one run, as \"history\" names it, or \"last\"")};
-    const QString dataDirectory = dataDirectoryOf(parser);
+        throw UsageError{QStringLiteral("undo takes one run, named as in \"history\", or \"last\"")};
+    const QString dataDirectory = recordsDirectoryOf(parser);
     if (words.constFirst() == lastWord) {
         const QList<RunSummary> runs = listRuns(dataDirectory);
         const auto found = std::find_if(runs.begin(), runs.end(), [](const RunSummary &run) {
-            return methodNamed(run.header.method).has_value(); // nor one that was killed before it began
+            const QString &method = run.header.method;
+            return methodNamed(method).has_value() ||
+                   method == emptyFoldersMethod; // nor one that was killed before it began
         });
         if (found == runs.end())
             printError(QStringLiteral("there is no run to undo"));
@@ -78,7 +79,8 @@ ExitStatus printPlan(const UndoPlan &plan)
         const QString line = step.from.isEmpty() ? original : backupLine({original, step.from});
         output.write(shownPath(line, output.isTerminal()) + '\n');
     }
-    output.write(QStringLiteral("%1 of %2 files of run %3 (%4) can be undone; nothing was done (--apply does it)\n")
+    output.write(QStringLiteral("%1 of %2 files of run %3 (%4) can be brought back. Nothing was changed; run again "
+                                "with --apply to do this.\n")
                      .arg(possible)
                      .arg(plan.steps.size())
                      .arg(plan.run.summary.header.id, plan.run.summary.header.method)
@@ -115,9 +117,12 @@ ExitStatus apply(const UndoPlan &plan, const CleaningServices &services)
 
 void addUndoOptions(QCommandLineParser &parser)
 {
-    parser.addOption({applyOption, QStringLiteral("Do it. Without this, what would come back is printed.")});
+    parser.addOption(
+        {applyOption,
+         QStringLiteral(
+             "Bring the files back. Without it, nothing is changed; what would come back is only printed.")});
     parser.addPositionalArgument(QStringLiteral("RUN"),
-                                 QStringLiteral("The run to undo, as \"history\" names it, or \"last\"."));
+                                 QStringLiteral("The run to undo, named as in \"history\", or \"last\"."));
 }
 
 ExitStatus runUndo(const QCommandLineParser &parser)
@@ -126,7 +131,7 @@ ExitStatus runUndo(const QCommandLineParser &parser)
     if (id.isEmpty())
         return ExitStatus::SomeFailed;
     catchInterrupts();
-    const QString dataDirectory = dataDirectoryOf(parser);
+    const QString dataDirectory = recordsDirectoryOf(parser);
     UndoPlan plan;
     {
         ProgressLine line;
@@ -143,8 +148,7 @@ ExitStatus runUndo(const QCommandLineParser &parser)
     if (!parser.isSet(applyOption))
         return printPlan(plan);
     OperationsLog log(operationsLogPath(dataDirectory));
-    const QString command = QCoreApplication::arguments().mid(1).join(QLatin1Char(' '));
-    return apply(plan, {log, dataDirectory, command});
+    return apply(plan, {log, dataDirectory, commandText()});
 }
 
 } // namespace MirrixCli

@@ -1,5 +1,6 @@
 #include "ui/historycommands.h"
 
+#include "actions/backupstore.h"
 #include "actions/cleaning/undo.h"
 #include "actions/records/runjournal.h"
 #include "app/settings.h"
@@ -8,6 +9,7 @@
 #include "ui/logic/asidethreads.h"
 #include "ui/logic/batchtexts.h"
 #include "ui/logic/bytetext.h"
+#include "ui/logic/historytexts.h"
 #include "ui/prompts.h"
 
 #include <QSet>
@@ -40,12 +42,54 @@ WantedUndo wantedUndo(UndoPlan plan, const QList<qsizetype> &items)
     return wanted;
 }
 
-QString problemText(const QStringList &problems)
+/// What the boxes say: files are put back, or after an undo removed again.
+struct UndoTexts
 {
-    return problems.isEmpty()
-               ? QString()
-               : Text::tr("\n无法放回的文件（%1 个）：\n").arg(problems.size()) + problems.join(QLatin1Char('\n'));
-}
+    explicit UndoTexts(const RunHeader &run)
+        : isRedo(isUndoing(run))
+        , method(undoneMethodText(run))
+    {}
+
+    [[nodiscard]] QString title() const { return isRedo ? Text::tr("重新清理") : Text::tr("撤销清理"); }
+
+    [[nodiscard]] QString question(qsizetype count) const
+    {
+        return isRedo ? Text::tr("将再次移除 %1 个文件（%2）。是否继续？").arg(QString::number(count), method)
+                      : Text::tr("将把 %1 个文件放回原处。是否继续？").arg(count);
+    }
+
+    [[nodiscard]] QString nothing() const
+    {
+        return isRedo ? Text::tr("没有可以再次移除的文件。") : Text::tr("没有可以放回的文件。");
+    }
+
+    [[nodiscard]] QString working() const
+    {
+        return isRedo ? Text::tr("正在移除文件… (%1/%2)") : Text::tr("正在恢复文件… (%1/%2)");
+    }
+
+    [[nodiscard]] QString problems(const QStringList &problems) const
+    {
+        if (problems.isEmpty())
+            return {};
+        const QString heading =
+            isRedo ? Text::tr("\n无法再次移除的文件（%1 个）：\n") : Text::tr("\n无法放回的文件（%1 个）：\n");
+        return heading.arg(problems.size()) + problems.join(QLatin1Char('\n'));
+    }
+
+    [[nodiscard]] QString outcome(const UndoResult &result) const
+    {
+        QString text =
+            (isRedo ? Text::tr("已再次移除 %1 个文件。") : Text::tr("已恢复 %1 个文件。")).arg(result.count) +
+            failureText(result);
+        if (!result.notes.isEmpty())
+            text += QLatin1Char('\n') + result.notes.join(QLatin1Char('\n'));
+        return text;
+    }
+
+    bool isRedo;
+    QString method;
+};
 
 } // namespace
 
@@ -61,31 +105,29 @@ CleaningServices HistoryCommands::services() const
     return {m_log, m_settings.directory, QStringLiteral("window")};
 }
 
-bool HistoryCommands::undo(const QString &runId, const QList<qsizetype> &items)
+bool HistoryCommands::undo(const RunHeader &run, const QList<qsizetype> &items)
 {
-    const QString title = Text::tr("撤销清理");
+    const UndoTexts texts(run);
+    const QString runId = run.id; // the list of runs may be read again meanwhile
     WantedUndo wanted;
     QString problems;
     FileProgressDialog planning(Text::tr("正在检查文件… (%1/%2)"), m_window);
     runUnderProgress(planning, [&](const BatchProgress &progress) {
-        wanted = wantedUndo(planUndo(m_settings.directory, runId, progress), items);
-        problems = problemText(wanted.problems);
+        const QString backups = backupFolderPath(m_settings.backupRoot);
+        wanted = wantedUndo(planUndo(m_settings.directory, runId, progress, backups), items);
+        problems = texts.problems(wanted.problems);
     });
     UndoResult result;
     QString outcome;
-    const bool goesOn =
-        !planning.isStopped() && !wanted.possible.isEmpty() &&
-        m_prompts.ask(m_window, title,
-                      Text::tr("将把 %1 个文件放回原处。是否继续？").arg(wanted.possible.size()) + problems);
+    const bool goesOn = !planning.isStopped() && !wanted.possible.isEmpty() &&
+                        m_prompts.ask(m_window, texts.title(), texts.question(wanted.possible.size()) + problems);
     if (!planning.isStopped() && wanted.possible.isEmpty()) {
-        m_prompts.inform(m_window, title, Text::tr("没有可以放回的文件。") + problems);
+        m_prompts.inform(m_window, texts.title(), texts.nothing() + problems);
     } else if (goesOn) {
-        FileProgressDialog working(Text::tr("正在恢复文件… (%1/%2)"), m_window);
+        FileProgressDialog working(texts.working(), m_window);
         runUnderProgress(working, [&](const BatchProgress &progress) {
             result = undoRun(wanted.plan, wanted.possible, services(), progress);
-            outcome = Text::tr("已恢复 %1 个文件。").arg(result.count) + failureText(result);
-            if (!result.notes.isEmpty())
-                outcome += QLatin1Char('\n') + result.notes.join(QLatin1Char('\n'));
+            outcome = texts.outcome(result);
         });
         m_prompts.inform(m_window, Text::tr("完成"), outcome);
     }

@@ -22,8 +22,9 @@ public:
     /// Keeps references to everything; `window` is the parent of all boxes.
     HistoryCommands(const Settings &settings, Prompts &prompts, OperationsLog &log, QWidget *window);
 
-    /// Brings files of a run back: those with these indices in its list, or all.
-    bool undo(const QString &runId, const QList<qsizetype> &items = {});
+    /// Brings files of a run back, or puts those away again that an undo has brought back: those with these indices in
+    /// its list, or all.
+    bool undo(const RunHeader &run, const QList<qsizetype> &items = {});
 
     /// Deletes what a run has left in the backup folder.
     bool freeBackups(const RunSummary &run);

@@ -95,7 +95,8 @@ bool isBackingUp(CleaningMethod method)
 
 ScannedFile scannedFile(const FileEntry &file)
 {
-    return {file.path, file.size, file.modifiedMs, {file.volumeSerial, file.fileIndex, file.linkCount, file.hasFileId}};
+    const MirrixCore::FileIdentity identity = {file.volumeSerial, file.fileIndex, file.linkCount, file.hasFileId};
+    return {file.path, file.size, file.modifiedMs, identity, file.allocatedBytes};
 }
 
 CleaningItem cleaningItem(const DuplicateGroup &group, qsizetype file, qsizetype kept)
@@ -138,6 +139,18 @@ QList<CleaningItem> surplusByRule(const QList<DuplicateGroup> &groups, KeepRule 
         const GroupChoice choice = chooseInGroup(group.files, rule);
         for (const qsizetype file : choice.surplus)
             items.append(cleaningItem(group, file, choice.kept));
+    }
+    return items;
+}
+
+QList<CleaningItem> itemsWithoutKept(const QList<DuplicateGroup> &groups)
+{
+    QList<CleaningItem> items;
+    for (const DuplicateGroup &group : groups) {
+        for (qsizetype file = 0; file < group.files.size(); ++file) {
+            if (MirrixCore::mayBeKept(group.files[file].place))
+                items.append(cleaningItem(group, file, -1));
+        }
     }
     return items;
 }

@@ -46,6 +46,7 @@ struct ScannedFile
     qint64 sizeBytes = 0;
     qint64 modifiedMs = 0;             ///< milliseconds since the Unix epoch
     MirrixCore::FileIdentity identity; ///< unknown where the scan did not read it
+    qint64 allocatedBytes = -1;        ///< on the volume; below 0 = unknown
 };
 
 [[nodiscard]] ScannedFile scannedFile(const MirrixCore::FileEntry &file);
@@ -97,6 +98,9 @@ struct GroupChoice
 
 /// The same, keeping the first file that may be kept.
 [[nodiscard]] GroupChoice chooseFirstInGroup(const QList<MirrixCore::FileEntry> &files);
+
+/// All files of the groups that may go without any copy staying for them: empty ones.
+[[nodiscard]] QList<CleaningItem> itemsWithoutKept(const QList<MirrixCore::DuplicateGroup> &groups);
 
 /// The surplus files of all groups by a rule, in the groups' order.
 [[nodiscard]] QList<CleaningItem> surplusByRule(const QList<MirrixCore::DuplicateGroup> &groups, KeepRule rule);

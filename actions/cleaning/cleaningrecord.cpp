@@ -29,8 +29,12 @@ QStringList CleaningRecord::begin()
 {
     if (!m_services.log.append(QList<LogEntry>()))
         return {unrecordedText(m_services.log.filePath())};
-    m_planned = plannedEntries();
-    if (!m_plan.items.isEmpty() && !beginJournal())
+    QList<PathState> states;
+    states.reserve(m_plan.items.size());
+    for (const CleaningItem &item : m_plan.items)
+        states.append(pathState(item.file.path));
+    m_planned = plannedEntries(states);
+    if (!m_plan.items.isEmpty() && !beginJournal(states))
         return {m_journal.errorText()};
     if (m_planned.isEmpty())
         return {};
@@ -46,7 +50,7 @@ QStringList CleaningRecord::begin()
     return problems.isEmpty() ? QStringList(unrecordedText(m_plan.backupFolder)) : problems;
 }
 
-bool CleaningRecord::beginJournal()
+bool CleaningRecord::beginJournal(const QList<PathState> &states)
 {
     RunHeader header;
     header.startedMs = QDateTime::currentMSecsSinceEpoch();
@@ -55,23 +59,22 @@ bool CleaningRecord::beginJournal()
     header.target = takingFolder(m_plan);
     header.rule = m_plan.rule;
     header.undoOf = m_plan.undoOf;
-    return m_journal.create(m_services.dataDirectory, header, plannedItems());
+    return m_journal.create(m_services.dataDirectory, header, plannedItems(states));
 }
 
-QList<RunItem> CleaningRecord::plannedItems() const
+QList<RunItem> CleaningRecord::plannedItems(const QList<PathState> &states) const
 {
     QList<RunItem> items;
     items.reserve(m_plan.items.size());
     for (qsizetype i = 0; i < m_plan.items.size(); ++i) {
         const CleaningItem &item = m_plan.items[i];
-        const PathState state = pathState(item.file.path);
         RunItem planned;
         planned.original = item.file.path;
         planned.kept = item.kept.path;
         planned.sizeBytes = item.file.sizeBytes;
         planned.modifiedMs = item.file.modifiedMs;
-        planned.modifiedExact = state.modifiedExact;
-        planned.mode = state.mode;
+        planned.modifiedExact = states[i].modifiedExact;
+        planned.mode = states[i].mode;
         planned.digest = item.digest;
         planned.aside = placeOf(i);
         planned.linkTarget = item.linkTarget;
@@ -113,20 +116,17 @@ QStringList CleaningRecord::end(qsizetype doneCount)
     return problems;
 }
 
-QList<BackupEntry> CleaningRecord::plannedEntries() const
+QList<BackupEntry> CleaningRecord::plannedEntries(const QList<PathState> &states) const
 {
     if (!isBackingUp(m_plan.method) && !isDestroying(m_plan.method))
         return {};
-    QStringList paths;
-    QStringList digests;
-    for (const CleaningItem &item : m_plan.items) {
-        paths.append(item.file.path);
-        digests.append(item.digest);
-    }
-    QList<BackupEntry> entries = plannedBackups(m_plan.backupFolder, paths, digests);
-    if (isDestroying(m_plan.method)) {
-        for (BackupEntry &entry : entries)
-            entry.backup = passingName(entry.original, QStringLiteral(".aside"));
+    const BackupPlaces places(m_plan.backupFolder);
+    const auto entryFor = isDestroying(m_plan.method) ? &BackupPlaces::asideEntryFor : &BackupPlaces::entryFor;
+    QList<BackupEntry> entries;
+    entries.reserve(states.size());
+    for (qsizetype i = 0; i < states.size(); ++i) {
+        const CleaningItem &item = m_plan.items[i];
+        entries.append((places.*entryFor)(item.file.path, states[i].sizeBytes, item.digest));
     }
     return entries;
 }

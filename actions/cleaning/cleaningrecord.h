@@ -36,9 +36,9 @@ public:
     [[nodiscard]] QStringList end(qsizetype doneCount);
 
 private:
-    [[nodiscard]] bool beginJournal();
-    [[nodiscard]] QList<RunItem> plannedItems() const;
-    [[nodiscard]] QList<BackupEntry> plannedEntries() const;
+    [[nodiscard]] bool beginJournal(const QList<PathState> &states);
+    [[nodiscard]] QList<RunItem> plannedItems(const QList<PathState> &states) const;
+    [[nodiscard]] QList<BackupEntry> plannedEntries(const QList<PathState> &states) const;
 
     const CleaningPlan &m_plan;
     const CleaningServices &m_services;

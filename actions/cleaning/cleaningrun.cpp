@@ -53,23 +53,21 @@ private:
     /// False when what was done could not be written down.
     [[nodiscard]] bool handle(qsizetype first, const QList<CleaningItem> &items)
     {
-        QList<PathState> before;
-        for (const CleaningItem &item : items)
-            before.append(pathState(item.file.path));
         const StopQuery isStopped = [this, first] { return !mayGoOn(first); };
         const QList<CleaningOutcome> outcomes = m_plan.method == CleaningMethod::Recycle
                                                     ? recycleBatch(items, isStopped)
                                                     : QList{clean(items.constFirst(), first, isStopped)};
         bool isNoted = true;
         for (qsizetype i = 0; i < items.size(); ++i)
-            isNoted = note(first + i, before[i], outcomes[i]) && isNoted;
+            isNoted = note(first + i, outcomes[i]) && isNoted;
         return isNoted;
     }
 
     [[nodiscard]] QList<CleaningOutcome> recycleBatch(const QList<CleaningItem> &items, const StopQuery &isStopped)
     {
         const auto isAlias = [this](const CleaningItem &item) { return m_aliases.isSameFile(item); };
-        return recycle(m_services.bin, items, {m_plan.comparesWholeContents, isStopped, isAlias}, m_result.errors);
+        return recycle(m_services.bin, items, {m_plan.comparesWholeContents, m_volumes, isStopped, isAlias},
+                       m_result.errors);
     }
 
     /// A folder from which copies go changes with each; flushing it for each would wait for the disk as often.
@@ -90,24 +88,25 @@ private:
         if (isDestroying(m_plan.method)) {
             if (index % flushedAhead == 0)
                 flushAhead(index, isStopped);
-            return discard(item, m_plan.method, m_record.placeOf(index), m_durable, isStopped);
+            return discard(item, m_plan.method, m_record.placeOf(index), m_durable, m_volumes, isStopped);
         }
         if (m_aliases.isSameFile(item))
             return {sameFileText(item.file.path), {}};
         if (m_plan.method != CleaningMethod::Move)
-            return transfer(item, m_plan.method, m_record.placeOf(index), m_plan.comparesWholeContents, isStopped);
+            return transfer(item, m_plan.method, m_record.placeOf(index), m_plan.comparesWholeContents, m_volumes,
+                            isStopped);
         if (!makeFolders(m_plan.targetFolder))
             return {QCoreApplication::translate("Mirrix", "无法创建目标目录: %1").arg(m_plan.targetFolder), {}};
         return transfer(item, m_plan.method, joinedPath(m_plan.targetFolder, fileNameOf(item.file.path)),
-                        m_plan.comparesWholeContents, isStopped);
+                        m_plan.comparesWholeContents, m_volumes, isStopped);
     }
 
-    [[nodiscard]] bool note(qsizetype index, const PathState &before, const CleaningOutcome &outcome)
+    [[nodiscard]] bool note(qsizetype index, const CleaningOutcome &outcome)
     {
         const Space earlier = m_account.total();
         if (outcome.problem.isEmpty()) {
             ++m_result.count;
-            m_account.add(before.sizeBytes, before.identity);
+            m_account.add(outcome.before.sizeBytes, outcome.before.allocatedBytes, outcome.before.identity);
         } else {
             m_result.errors.append(outcome.problem);
         }
@@ -120,6 +119,7 @@ private:
     CleaningRecord m_record;
     TargetFolder m_target;
     FolderAliases m_aliases;
+    VolumeTraits m_volumes;
     SpaceAccount m_account;
     DurableFiles m_durable;
     CleaningResult m_result;

@@ -46,7 +46,7 @@ public:
         }
         if (m_result.problem.isEmpty())
             tidyUp();
-        else if (m_source.way == Way::Copy)
+        else if (m_source.way == Way::Copy || m_source.way == Way::EmptyFile)
             static_cast<void>(removeOwnCopy(m_part));
         return m_result;
     }
@@ -59,7 +59,15 @@ private:
             return notBackText(m_item.original);
         if (m_source.way == Way::Backup)
             return backupProblem();
+        if (m_source.way == Way::EmptyFile)
+            return emptyFileProblem();
         return m_source.way == Way::Copy ? copyProblem() : QString();
+    }
+
+    [[nodiscard]] QString emptyFileProblem() const
+    {
+        static_cast<void>(removeOwnCopy(m_part)); // of an undo that was killed
+        return makeEmptyFile(m_part) == FileFault::None ? QString() : notBackText(m_item.original);
     }
 
     [[nodiscard]] QString backupProblem() const
@@ -117,7 +125,10 @@ private:
         case Way::Aside:
             return renameExclusively(m_source.from, m_item.original);
         case Way::Copy:
+        case Way::EmptyFile:
             return renameExclusively(m_part, m_item.original);
+        case Way::EmptyFolder:
+            return makeFolder(m_item.original);
         case Way::None:
         case Way::Home:
             break;
@@ -133,8 +144,9 @@ private:
             m_result.note = text(QT_TRANSLATE_NOOP("Mirrix", "已恢复，但原链接无法删除: %1"), m_item.original);
         else if (m_result.isLeft)
             m_result.note = text(QT_TRANSLATE_NOOP("Mirrix", "已恢复，但备份无法删除: %1"), m_source.from);
-        else if (!hasMarks && !setFileMarks(m_item.original, {m_item.modifiedExact, m_item.mode}))
-            m_result.note = text(QT_TRANSLATE_NOOP("Mirrix", "已恢复，但无法还原修改时间或权限: %1"), m_item.original);
+        else if (!hasMarks && m_source.way != Way::EmptyFolder && // whose time its contents change
+                 !setFileMarks(m_item.original, {m_item.modifiedExact, m_item.mode}))
+            m_result.note = unmarkedText(m_item.original);
     }
 
     [[nodiscard]] BackupEntry backup() const

@@ -33,9 +33,9 @@ public:
     {}
 
     /// What speaks against removing the file; everything up to the flush.
-    [[nodiscard]] QString proofProblem(DurableFiles &durable, const StopQuery &isStopped)
+    [[nodiscard]] QString proofProblem(DurableFiles &durable, VolumeTraits &volumes, const StopQuery &isStopped)
     {
-        QString problem = isBesideKept() ? sameFileText(m_item.file.path) : keptProblem(m_item);
+        QString problem = isBesideKept() ? sameFileText(m_item.file.path) : keptProblem(m_item, volumes);
         if (!problem.isEmpty())
             return problem;
         if (!m_surplus.open(m_asidePath, HeldFile::Purpose::Remove))
@@ -143,20 +143,21 @@ private:
 } // namespace
 
 CleaningOutcome discard(const CleaningItem &item, CleaningMethod method, const QString &asidePath,
-                        DurableFiles &durable, const StopQuery &isStopped)
+                        DurableFiles &durable, VolumeTraits &volumes, const StopQuery &isStopped)
 {
-    QString problem = itemProblem(item);
+    PathState before;
+    QString problem = itemProblem(item, &before);
     if (problem.isEmpty() && isLinking(method))
         problem = accessProblem(item.file.path, item.kept.path);
     if (!problem.isEmpty())
         return {problem, {}};
-    if (pathState(item.file.path).isUndeletable || renameExclusively(item.file.path, asidePath) != FileFault::None)
+    if (before.isUndeletable || renameExclusively(item.file.path, asidePath) != FileFault::None)
         return {undeletableText(item), {}};
     Discard step(item, method, asidePath);
-    problem = step.proofProblem(durable, isStopped);
+    problem = step.proofProblem(durable, volumes, isStopped);
     if (problem.isEmpty())
         problem = step.act();
-    return problem.isEmpty() ? CleaningOutcome{{}, {}, step.digest()} : step.putBack(problem);
+    return problem.isEmpty() ? CleaningOutcome{{}, {}, step.digest(), before} : step.putBack(problem);
 }
 
 } // namespace Mirrix

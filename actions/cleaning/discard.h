@@ -2,6 +2,7 @@
 
 #include "actions/cleaning/cleaningplan.h"
 #include "actions/cleaning/durablefiles.h"
+#include "actions/cleaning/volumetraits.h"
 #include "actions/heldfile.h"
 
 #include <QString>
@@ -11,9 +12,10 @@ namespace Mirrix {
 /// What working on one file came to.
 struct CleaningOutcome
 {
-    QString problem;     ///< why nothing was done, translated; empty when the file was dealt with
-    QString now;         ///< where the file is, when that is neither its old place nor nowhere
-    QString digest = {}; ///< "blake3:HEX" of the content that was found equal; empty where it was not read whole
+    QString problem;       ///< why nothing was done, translated; empty when the file was dealt with
+    QString now;           ///< where the file is, when that is neither its old place nor nowhere
+    QString digest = {};   ///< "blake3:HEX" of the content that was found equal; empty where it was not read whole
+    PathState before = {}; ///< the file as it was found; of one that was dealt with
 };
 
 /// Destroys the surplus file of `item`, or puts a link in its place, once it is proved that the kept file is another
@@ -24,6 +26,6 @@ struct CleaningOutcome
 /// after it has set its own aside. In a group that is not one of equal contents the comparison is left out, and without
 /// a kept file everything about it. Blocks for as long as reading both files takes; `isStopped` ends that.
 [[nodiscard]] CleaningOutcome discard(const CleaningItem &item, CleaningMethod method, const QString &asidePath,
-                                      DurableFiles &durable, const StopQuery &isStopped);
+                                      DurableFiles &durable, VolumeTraits &volumes, const StopQuery &isStopped);
 
 } // namespace Mirrix

@@ -1,16 +1,15 @@
 #pragma once
 
-#include "actions/batch.h"
+#include "actions/cleaning/cleaningrun.h"
 
 namespace Mirrix {
 
-class OperationsLog;
-
-/// Removes folders that are empty at that moment, in the order given: a folder after those in it. The log names them
-/// before the first one goes; when it cannot be written, none is removed. Each is removed by the one call of the system
-/// that fails for a folder with anything in it, so nothing is lost but the folder itself. What is a link by now, or is
-/// no longer empty, stays and is named with its reason. Blocks; cancels between folders.
-[[nodiscard]] BatchResult removeEmptyFolders(const QStringList &folders, OperationsLog &log,
-                                             const BatchProgress &progress = {});
+/// Removes folders that are empty at that moment, in the order given: a folder after those in it. It is a run as those
+/// of runCleaning, with the method emptyFoldersMethod: what cannot be recorded is not done, and undoing makes the
+/// folders again. Each is removed by the one call of the system that fails for a folder with anything in it, so nothing
+/// is lost but the folder itself. What is a link by now, or is no longer empty, stays and is named. `undoOf` as in
+/// CleaningPlan. Blocks; cancels between folders.
+[[nodiscard]] CleaningResult removeEmptyFolders(const QStringList &folders, const CleaningServices &services,
+                                                const BatchProgress &progress = {}, const QString &undoOf = {});
 
 } // namespace Mirrix

@@ -35,9 +35,11 @@ bool isAsScanned(const PathState &state, const ScannedFile &file)
            (!state.identity.isOtherThan(file.identity) || mayNumberAnew(file.path));
 }
 
-QString itemProblem(const CleaningItem &item)
+QString itemProblem(const CleaningItem &item, PathState *surplus)
 {
     const PathState file = pathState(item.file.path);
+    if (surplus)
+        *surplus = file;
     if (file.kind == PathState::Kind::Missing)
         return text(QT_TRANSLATE_NOOP("Mirrix", "文件不存在: %1"), item.file.path);
     if (!isAsScanned(file, item.file))
@@ -52,13 +54,14 @@ QString itemProblem(const CleaningItem &item)
     return {};
 }
 
-QString keptProblem(const CleaningItem &item)
+QString keptProblem(const CleaningItem &item, VolumeTraits &volumes)
 {
     if (!item.hasKept())
         return {};
     const PathState kept = pathState(item.kept.path);
-    const bool isGone = kept.kind == PathState::Kind::Missing ||
-                        (mayNumberAnew(item.kept.path) && !MirrixCore::FileReader().open(item.kept.path));
+    const bool isGone =
+        kept.kind == PathState::Kind::Missing ||
+        (volumes.mayNumberAnew(item.kept.path, kept.identity) && !MirrixCore::FileReader().open(item.kept.path));
     if (isGone)
         return sameFileText(item.file.path);
     return isAsScanned(kept, item.kept) ? QString() : keptChangedText(item);

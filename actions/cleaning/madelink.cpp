@@ -4,25 +4,31 @@
 #include "actions/fileoperations.h"
 #include "actions/movefile.h"
 #include "core/platform/nativepath.h"
+#include "core/platform/pathtext.h"
 
 #include <QCryptographicHash>
-
-#include <filesystem>
+#include <QDir>
 
 namespace Mirrix {
 
 namespace {
 
+/// `path` without links and dots as far as it exists.
+QString resolvedPath(const QString &path)
+{
+    const QString resolved = MirrixCore::canonicalPath(path);
+    const QString folder = folderOf(path);
+    if (!resolved.isEmpty() || folder.isEmpty() || folder == path)
+        return resolved.isEmpty() ? path : resolved;
+    return MirrixCore::cleanedPath(joinedPath(resolvedPath(folder), fileNameOf(path)));
+}
+
 /// Whether the text of a symbolic link names `target`, which may be gone.
 bool names(const QString &link, const QString &target)
 {
-    std::error_code error;
-    const std::filesystem::path text = std::filesystem::read_symlink(MirrixCore::filesystemPath(link), error);
-    if (error)
-        return false;
-    const std::filesystem::path folder = MirrixCore::filesystemPath(folderOf(link));
-    const std::filesystem::path named = std::filesystem::weakly_canonical(folder / text, error);
-    return !error && named == std::filesystem::weakly_canonical(MirrixCore::filesystemPath(target), error) && !error;
+    const QString text = symbolicLinkText(link);
+    const QString named = QDir::isAbsolutePath(text) ? text : joinedPath(folderOf(link), text);
+    return !text.isEmpty() && resolvedPath(named) == resolvedPath(target);
 }
 
 /// A name of our own that stays the same for one file of one run, so that what a crash left can be found again.

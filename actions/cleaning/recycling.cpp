@@ -14,9 +14,9 @@ QString text(const char *source, const QString &path)
     return QCoreApplication::translate("Mirrix", source).arg(path);
 }
 
-QString obstacle(const RecycleBin &bin, const CleaningItem &item, const RecyclingChecks &checks)
+QString obstacle(const RecycleBin &bin, const CleaningItem &item, const RecyclingChecks &checks, PathState &before)
 {
-    QString problem = itemProblem(item);
+    QString problem = itemProblem(item, &before);
     if (problem.isEmpty() && checks.isAlias(item))
         problem = sameFileText(item.file.path);
     if (problem.isEmpty() && !bin.canTake(item.file.path))
@@ -25,14 +25,14 @@ QString obstacle(const RecycleBin &bin, const CleaningItem &item, const Recyclin
 }
 
 /// What has become of a file that was handed to the bin.
-CleaningOutcome outcomeOf(const RecycleBin &bin, const CleaningItem &item, const QString &placed)
+CleaningOutcome outcomeOf(const RecycleBin &bin, const CleaningItem &item, const QString &placed, VolumeTraits &volumes)
 {
     const PathState::Kind left = pathState(item.file.path).kind;
     const bool isInBin = left == PathState::Kind::Missing ||
                          (left == PathState::Kind::Unknown && pathState(placed).kind == PathState::Kind::File);
     if (!isInBin)
         return {text(QT_TRANSLATE_NOOP("Mirrix", "未移入回收站，仍在原处: %1"), item.file.path), {}};
-    const QString problem = keptProblem(item);
+    const QString problem = keptProblem(item, volumes);
     if (problem.isEmpty())
         return {{}, placed};
     if (bin.putBack && bin.putBack(item.file.path, placed))
@@ -50,7 +50,7 @@ QList<CleaningOutcome> recycle(const RecycleBin &bin, const QList<CleaningItem> 
     QStringList batch;
     QList<qsizetype> sent;
     for (qsizetype i = 0; i < items.size(); ++i) {
-        outcomes[i].problem = obstacle(bin, items[i], checks);
+        outcomes[i].problem = obstacle(bin, items[i], checks, outcomes[i].before);
         if (!outcomes[i].problem.isEmpty())
             continue;
         batch.append(items[i].file.path);
@@ -61,8 +61,11 @@ QList<CleaningOutcome> recycle(const RecycleBin &bin, const QList<CleaningItem> 
     const RecycleBin::Answer answer = bin.send(batch);
     if (answer.code != 0 || answer.isAborted)
         batchErrors.append(binFailureText(answer.code, batch.size()));
-    for (qsizetype i = 0; i < sent.size(); ++i)
-        outcomes[sent[i]] = outcomeOf(bin, items[sent[i]], answer.placed.value(i));
+    for (qsizetype i = 0; i < sent.size(); ++i) {
+        const PathState before = outcomes[sent[i]].before;
+        outcomes[sent[i]] = outcomeOf(bin, items[sent[i]], answer.placed.value(i), checks.volumes);
+        outcomes[sent[i]].before = before;
+    }
     return outcomes;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "actions/cleaning/discard.h"
+#include "actions/cleaning/volumetraits.h"
 #include "actions/recyclebin.h"
 
 #include <QList>
@@ -14,6 +15,7 @@ namespace Mirrix {
 struct RecyclingChecks
 {
     bool comparesWholeContents = false;
+    VolumeTraits &volumes;
     StopQuery isStopped;
     std::function<bool(const CleaningItem &)> isAlias; ///< whether surplus and kept file are one
 };

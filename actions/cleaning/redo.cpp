@@ -1,5 +1,6 @@
 #include "actions/cleaning/redo.h"
 
+#include "actions/cleaning/emptyfolderremoval.h"
 #include "actions/cleaning/itemchecks.h"
 #include "actions/cleaning/madelink.h"
 #include "actions/cleaning/undorecord.h"
@@ -11,17 +12,12 @@ namespace Mirrix {
 
 namespace {
 
-CleaningMethod methodOf(const StoredRun &undo)
-{
-    return methodNamed(undoneMethodName(undo.summary.header.method)).value_or(CleaningMethod::Backup);
-}
-
 ScannedFile asItIs(const QString &path)
 {
     if (path.isEmpty())
         return {};
     const PathState state = pathState(path);
-    return {path, state.sizeBytes, state.modifiedMs, state.identity};
+    return {path, state.sizeBytes, state.modifiedMs, state.identity, state.allocatedBytes};
 }
 
 CleaningItem cleaningItem(const RunItem &item)
@@ -29,14 +25,42 @@ CleaningItem cleaningItem(const RunItem &item)
     return {asItIs(item.original), asItIs(item.kept), item.linkTarget, item.digest, !item.digest.isEmpty()};
 }
 
+bool areFolders(const StoredRun &undo)
+{
+    return undoneMethodName(undo.summary.header.method) == emptyFoldersMethod;
+}
+
 /// Without a proof nothing is destroyed a second time.
 QString redoProblem(const RunItem &item, CleaningMethod method)
 {
     if (!isAsRecorded(pathState(item.original), item))
         return changedText(item.original);
-    if (isDestroying(method) && (item.kept.isEmpty() || item.digest.isEmpty()))
+    if (isDestroying(method) && item.sizeBytes > 0 && (item.kept.isEmpty() || item.digest.isEmpty()))
         return notComparedText(item.original);
     return itemProblem(cleaningItem(item));
+}
+
+CleaningResult cleanAgain(const UndoPlan &plan, const QList<qsizetype> &items, const CleaningServices &services,
+                          const BatchProgress &progress)
+{
+    const RunHeader &header = plan.run.summary.header;
+    CleaningPlan cleaning;
+    cleaning.method = cleaningMethod(header);
+    cleaning.targetFolder = header.target;
+    cleaning.backupFolder = isBackingUp(cleaning.method) ? header.target : plan.backupFolder;
+    cleaning.undoOf = header.id;
+    for (const qsizetype item : items)
+        cleaning.items.append(cleaningItem(plan.run.items[item]));
+    return runCleaning(cleaning, services, progress);
+}
+
+CleaningResult removeAgain(const UndoPlan &plan, const QList<qsizetype> &items, const CleaningServices &services,
+                           const BatchProgress &progress)
+{
+    QStringList folders;
+    for (const qsizetype item : items) // in the order in which they were removed the first time
+        folders.append(plan.run.items[item].original);
+    return removeEmptyFolders(folders, services, progress, plan.run.summary.header.id);
 }
 
 } // namespace
@@ -44,9 +68,15 @@ QString redoProblem(const RunItem &item, CleaningMethod method)
 QList<UndoStep> redoSteps(const StoredRun &undo, const BatchProgress &progress)
 {
     QList<UndoStep> steps;
-    const CleaningMethod method = methodOf(undo);
+    const CleaningMethod method = cleaningMethod(undo.summary.header);
     for (qsizetype i = 0; i < undo.items.size() && (!progress || progress(i, undo.items.size())); ++i) {
         const RunItem &item = undo.items[i];
+        if (areFolders(undo)) {
+            const bool isThere = pathState(item.original).kind == PathState::Kind::Folder;
+            if (undo.outcomes[i].state == ItemState::Done && isThere)
+                steps.append(UndoStep{i, {}});
+            continue;
+        }
         const bool isCut = undo.outcomes[i].state == ItemState::Planned && !undo.summary.isComplete &&
                            isAsRecorded(pathState(item.original), item) && !MadeLink(item, method).isInPlace();
         if (undo.outcomes[i].state == ItemState::Done || isCut)
@@ -58,15 +88,8 @@ QList<UndoStep> redoSteps(const StoredRun &undo, const BatchProgress &progress)
 UndoResult redo(const UndoPlan &plan, const QList<qsizetype> &items, const CleaningServices &services,
                 const BatchProgress &progress)
 {
-    const RunHeader &header = plan.run.summary.header;
-    CleaningPlan cleaning;
-    cleaning.method = methodOf(plan.run);
-    cleaning.targetFolder = header.target;
-    cleaning.backupFolder = isBackingUp(cleaning.method) ? header.target : plan.backupFolder;
-    cleaning.undoOf = header.id;
-    for (const qsizetype item : items)
-        cleaning.items.append(cleaningItem(plan.run.items[item]));
-    const CleaningResult cleaned = runCleaning(cleaning, services, progress);
+    const CleaningResult cleaned = areFolders(plan.run) ? removeAgain(plan, items, services, progress)
+                                                        : cleanAgain(plan, items, services, progress);
     UndoResult result{{cleaned.count, cleaned.errors, cleaned.isCancelled}, {}, cleaned.runId};
     if (cleaned.runId.isEmpty())
         return result;
@@ -75,7 +98,7 @@ UndoResult redo(const UndoPlan &plan, const QList<qsizetype> &items, const Clean
     for (ItemOutcome &outcome : undone)
         outcome = {items[outcome.item], ItemState::Undone, {}, {}, {}, 0, 0};
     QString error;
-    if (!appendUndone(services.dataDirectory, header.id, undone, &error))
+    if (!appendUndone(services.dataDirectory, plan.run.summary.header.id, undone, &error))
         result.notes.append(error);
     return result;
 }

@@ -28,17 +28,18 @@ SpaceAccount::SpaceAccount(CleaningMethod method, const QString &targetFolder)
         m_target = nearestFolder(targetFolder);
 }
 
-void SpaceAccount::add(qint64 sizeBytes, const FileIdentity &identity)
+void SpaceAccount::add(qint64 sizeBytes, qint64 allocatedBytes, const FileIdentity &identity)
 {
     if (!isLastName(identity))
         return;
+    const qint64 bytes = MirrixCore::freeableBytes(sizeBytes, allocatedBytes);
     const bool leavesVolume = m_target.isKnown && identity.isKnown && m_target.volume != identity.volume;
     if (isDestroying(m_method) || leavesVolume)
-        m_total.freedBytes += sizeBytes;
+        m_total.freedBytes += bytes;
     if (m_method == CleaningMethod::Recycle)
-        m_total.heldInBinBytes += sizeBytes;
+        m_total.heldInBinBytes += bytes;
     if (isBackingUp(m_method))
-        m_total.heldInBackupBytes += sizeBytes;
+        m_total.heldInBackupBytes += bytes;
 }
 
 bool SpaceAccount::isLastName(const FileIdentity &identity)
@@ -52,7 +53,7 @@ Space estimatedSpace(const CleaningPlan &plan)
 {
     SpaceAccount account(plan.method, takingFolder(plan));
     for (const CleaningItem &item : plan.items)
-        account.add(item.file.sizeBytes, item.file.identity);
+        account.add(item.file.sizeBytes, item.file.allocatedBytes, item.file.identity);
     return account.total();
 }
 

@@ -30,8 +30,8 @@ class SpaceAccount
 public:
     SpaceAccount(CleaningMethod method, const QString &targetFolder);
 
-    /// One more file of `sizeBytes` given up.
-    void add(qint64 sizeBytes, const MirrixCore::FileIdentity &identity);
+    /// One more file given up; the sizes as of freeableBytes.
+    void add(qint64 sizeBytes, qint64 allocatedBytes, const MirrixCore::FileIdentity &identity);
 
     [[nodiscard]] const Space &total() const { return m_total; }
 

@@ -22,12 +22,12 @@ QString linkTarget(const CleaningItem &item)
 }
 
 /// What speaks against putting a link in the file's place.
-QString linkObstacle(const CleaningItem &item)
+QString linkObstacle(const CleaningItem &item, const PathState &file)
 {
     const PathState target = pathState(linkTarget(item));
     if (target.kind != PathState::Kind::File)
         return text(QT_TRANSLATE_NOOP("Mirrix", "链接目标不是可用的文件: %1"), linkTarget(item));
-    if (!pathState(item.file.path).identity.isOtherThan(target.identity))
+    if (!file.identity.isOtherThan(target.identity))
         return text(QT_TRANSLATE_NOOP("Mirrix", "与要保留的文件可能是同一个文件，未处理: %1"), item.file.path);
     return accessProblem(item.file.path, linkTarget(item));
 }
@@ -49,11 +49,12 @@ CleaningOutcome putBack(const CleaningItem &item, const QString &from, const QSt
 } // namespace
 
 CleaningOutcome transfer(const CleaningItem &item, CleaningMethod method, const QString &to, bool comparesWholeContents,
-                         const StopQuery &isStopped)
+                         VolumeTraits &volumes, const StopQuery &isStopped)
 {
-    QString problem = itemProblem(item);
+    PathState before;
+    QString problem = itemProblem(item, &before);
     if (problem.isEmpty() && isLinking(method))
-        problem = linkObstacle(item);
+        problem = linkObstacle(item, before);
     if (problem.isEmpty())
         problem = contentProblem(item, comparesWholeContents, isStopped);
     if (!problem.isEmpty())
@@ -63,13 +64,13 @@ CleaningOutcome transfer(const CleaningItem &item, CleaningMethod method, const 
         return {text(QT_TRANSLATE_NOOP("Mirrix", "目标已存在: %1"), to), {}};
     if (fault != FileFault::None)
         return {failureText(item, method), {}};
-    problem = keptProblem(item);
+    problem = keptProblem(item, volumes);
     const bool wantsLink = problem.isEmpty() && isLinking(method);
     if (wantsLink && method == CleaningMethod::BackupAndHardLink)
         static_cast<void>(createHardLink(item.file.path, linkTarget(item), &problem));
     else if (wantsLink)
         static_cast<void>(createSymbolicLink(item.file.path, linkTarget(item), &problem));
-    return problem.isEmpty() ? CleaningOutcome{{}, to} : putBack(item, to, problem);
+    return problem.isEmpty() ? CleaningOutcome{{}, to, {}, before} : putBack(item, to, problem);
 }
 
 } // namespace Mirrix

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "actions/cleaning/discard.h"
+#include "actions/cleaning/volumetraits.h"
 
 namespace Mirrix {
 
@@ -9,6 +10,6 @@ namespace Mirrix {
 /// still be there, else the surplus file comes back, as it does when the link fails. Where that fails `now` is `to`; it
 /// is that, too, when all went well. Blocks.
 [[nodiscard]] CleaningOutcome transfer(const CleaningItem &item, CleaningMethod method, const QString &to,
-                                       bool comparesWholeContents, const StopQuery &isStopped);
+                                       bool comparesWholeContents, VolumeTraits &volumes, const StopQuery &isStopped);
 
 } // namespace Mirrix

@@ -5,16 +5,16 @@
 #include "actions/cleaning/redo.h"
 #include "actions/cleaning/undorecord.h"
 #include "actions/cleaning/undosource.h"
+#include "actions/cleaning/undotexts.h"
+#include "actions/nativefile.h"
 #include "actions/records/runjournal.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace Mirrix {
 
 namespace {
-
-bool isUndo(const UndoPlan &plan)
-{
-    return !undoneMethodName(plan.run.summary.header.method).isEmpty();
-}
 
 /// An undo under way.
 class Undo
@@ -23,7 +23,7 @@ public:
     Undo(const UndoPlan &plan, const CleaningServices &services, const BatchProgress &progress)
         : m_plan(plan)
         , m_progress(progress)
-        , m_method(methodNamed(plan.run.summary.header.method).value_or(CleaningMethod::Backup))
+        , m_method(cleaningMethod(plan.run.summary.header))
         , m_sources(plan.run, plan.backupFolder)
         , m_record(plan, services)
     {}
@@ -41,6 +41,7 @@ public:
                 break;
             isNoted = bringBack(i, items); // what cannot be recorded is not done; the end of the record says why
         }
+        markFolders();
         m_result.errors += m_record.end();
         return m_result;
     }
@@ -60,9 +61,23 @@ private:
             m_result.errors.append(back.problem);
         else
             ++m_result.count;
+        if (back.problem.isEmpty() && m_plan.run.summary.header.method == emptyFoldersMethod)
+            m_folders.append(item);
         if (!back.note.isEmpty())
             m_result.notes.append(back.note);
         return m_record.note(position, source, back);
+    }
+
+    /// Not before all of them are there: a folder made in another changes its time, and may not be made where the old
+    /// permissions forbid it.
+    void markFolders()
+    {
+        std::sort(m_folders.begin(), m_folders.end(),
+                  [](const RunItem &a, const RunItem &b) { return a.original.size() > b.original.size(); });
+        for (const RunItem &folder : std::as_const(m_folders)) {
+            if (!setFileMarks(folder.original, {folder.modifiedExact, folder.mode}))
+                m_result.notes.append(unmarkedText(folder.original));
+        }
     }
 
     /// Files that an undo brought back before it was killed.
@@ -81,16 +96,27 @@ private:
     CleaningMethod m_method;
     UndoSources m_sources;
     UndoRecord m_record;
+    QList<RunItem> m_folders; ///< that are back
     UndoResult m_result;
 };
 
 } // namespace
 
+bool isUndoing(const RunHeader &run)
+{
+    return !undoneMethodName(run.method).isEmpty();
+}
+
+CleaningMethod cleaningMethod(const RunHeader &run)
+{
+    return methodNamed(isUndoing(run) ? undoneMethodName(run.method) : run.method).value_or(CleaningMethod::Backup);
+}
+
 UndoPlan planUndo(const QString &dataDirectory, const QString &runId, const BatchProgress &progress,
                   const QString &backupFolder)
 {
     UndoPlan plan{readRun(runJournalPath(dataDirectory, runId)), {}, {}, backupFolder};
-    if (isUndo(plan)) {
+    if (isUndoing(plan.run.summary.header)) {
         plan.steps = redoSteps(plan.run, progress);
         return plan;
     }
@@ -118,7 +144,7 @@ UndoResult undoRun(const UndoPlan &plan, const QList<UndoStep> &steps, const Cle
             problems.append(step.problem);
     }
     UndoResult result;
-    if (!items.isEmpty() && isUndo(plan))
+    if (!items.isEmpty() && isUndoing(plan.run.summary.header))
         result = redo(plan, items, services, progress);
     else if (!items.isEmpty() || !plan.home.isEmpty())
         result = Undo(plan, services, progress).run(items);

@@ -27,6 +27,13 @@ struct UndoPlan
     QString backupFolder = {};  ///< as given to planUndo
 };
 
+/// Whether the run brought files back; undoing it puts them away again.
+[[nodiscard]] bool isUndoing(const RunHeader &run);
+
+/// The method by which the files of a run were given up, or those of the run that it undid; of a journal that cannot be
+/// read any method.
+[[nodiscard]] CleaningMethod cleaningMethod(const RunHeader &run);
+
 /// Reads a run and looks where its files are; contents are not read. Files that the run did not touch, that are back
 /// already or that stand at their place have no step. What a run that was cut short did with a file, the disk tells.
 /// For a run that was an undo itself the steps are to put the files away again, if nothing has changed since. Not for

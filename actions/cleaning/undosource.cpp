@@ -33,6 +33,8 @@ UndoSource UndoSources::of(qsizetype index)
     if (outcome.state == ItemState::Undone || (outcome.state == ItemState::Failed && outcome.now.isEmpty()) ||
         (isOpen && m_run.summary.isComplete))
         return {};
+    if (m_run.summary.header.method == emptyFoldersMethod)
+        return asFolder(index);
     if (!m_method)
         return {Way::Copy, {}, notBackText(item.original)};
     const PathState there = pathState(item.original);
@@ -44,6 +46,21 @@ UndoSource UndoSources::of(qsizetype index)
         source.problem =
             there.kind == PathState::Kind::Unknown ? notBackText(item.original) : occupiedText(item.original);
     return source;
+}
+
+UndoSource UndoSources::asFolder(qsizetype index) const
+{
+    const QString &original = m_run.items[index].original;
+    switch (pathState(original).kind) {
+    case PathState::Kind::Missing:
+        return {Way::EmptyFolder, {}};
+    case PathState::Kind::Folder:
+        return {m_run.outcomes[index].state == ItemState::Planned ? Way::None : Way::Home, {}};
+    case PathState::Kind::Unknown:
+        return {Way::EmptyFolder, {}, notBackText(original)};
+    default:
+        return {Way::EmptyFolder, {}, occupiedText(original)};
+    }
 }
 
 UndoSource UndoSources::whereIs(qsizetype index)
@@ -123,6 +140,8 @@ UndoSource UndoSources::asCopy(qsizetype index) const
 {
     const RunItem &item = m_run.items[index];
     const QString digest = digestOf(index);
+    if (item.sizeBytes == 0 && item.kept.isEmpty())
+        return {Way::EmptyFile, {}};
     if (item.kept.isEmpty() || digest.isEmpty())
         return {Way::Copy, item.kept, notComparedText(item.original)};
     const PathState kept = pathState(item.kept);

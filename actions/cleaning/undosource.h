@@ -22,7 +22,9 @@ struct UndoSource
         Folder, ///< from where it was moved
         Aside,  ///< from beside its place
         Bin,
-        Copy ///< made again from the kept copy
+        Copy,      ///< made again from the kept copy
+        EmptyFile, ///< made again, since there is nothing in it
+        EmptyFolder
     };
 
     Way way = Way::None;
@@ -43,6 +45,7 @@ public:
     [[nodiscard]] UndoSource of(qsizetype item);
 
 private:
+    [[nodiscard]] UndoSource asFolder(qsizetype item) const;
     [[nodiscard]] UndoSource whereIs(qsizetype item);
     [[nodiscard]] UndoSource whereInterrupted(qsizetype item);
     [[nodiscard]] UndoSource inStore(qsizetype item, const QString &backup) const;

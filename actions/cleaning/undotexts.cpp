@@ -31,6 +31,11 @@ QString notInBinText(const QString &path)
     return QCoreApplication::translate("Mirrix", "已不在回收站中，无法恢复: %1").arg(path);
 }
 
+QString unmarkedText(const QString &path)
+{
+    return QCoreApplication::translate("Mirrix", "已恢复，但无法还原修改时间或权限: %1").arg(path);
+}
+
 QString notThereText(const QString &path, const QString &where)
 {
     const bool hasFolder = pathState(folderOf(where)).kind != PathState::Kind::Missing;

@@ -12,6 +12,9 @@ namespace Mirrix {
 [[nodiscard]] QString keptCopyGoneText(const QString &path, const QString &where);
 [[nodiscard]] QString notInBinText(const QString &path);
 
+/// It is back, but without its old time or permissions.
+[[nodiscard]] QString unmarkedText(const QString &path);
+
 /// The file is not at `where` or is another one; or, where that is so, the folder or volume is not there.
 [[nodiscard]] QString notThereText(const QString &path, const QString &where);
 

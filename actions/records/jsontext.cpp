@@ -1,5 +1,7 @@
 #include "actions/records/jsontext.h"
 
+#include <QJsonDocument>
+
 namespace Mirrix {
 
 namespace {
@@ -50,6 +52,36 @@ void appendJsonText(QByteArray &out, const QString &text)
         }
     }
     out.append('"');
+}
+
+JsonPieces &JsonPieces::add(const QString &text)
+{
+    separate();
+    appendJsonText(m_text, text);
+    return *this;
+}
+
+JsonPieces &JsonPieces::add(qint64 number)
+{
+    separate();
+    m_text.append(QByteArray::number(number));
+    return *this;
+}
+
+JsonPieces &JsonPieces::addMembers(const QJsonObject &object)
+{
+    if (object.isEmpty())
+        return *this;
+    separate();
+    m_text.append(QJsonDocument(object).toJson(QJsonDocument::Compact).sliced(1).chopped(1));
+    return *this;
+}
+
+void JsonPieces::separate()
+{
+    if (!m_isFirst)
+        m_text.append(',');
+    m_isFirst = false;
 }
 
 } // namespace Mirrix

@@ -84,7 +84,7 @@ LogEntry emptyFoldersRemovedEvent(qsizetype count, qsizetype total)
 
 LogEntry restoredEvent(const BackupEntry &entry)
 {
-    return logEntryNow(QStringLiteral("restore"), backupLine(entry));
+    return logEntryNow(QStringLiteral("restore"), entry.backup.isEmpty() ? entry.original : backupLine(entry));
 }
 
 LogEntry exportedEvent(const QString &path, bool isCopy)

@@ -30,45 +30,6 @@ void addTo(qint64 &sum, qint64 bytes, int sign)
     sum = static_cast<qint64>(static_cast<quint64>(sum) + static_cast<quint64>(bytes) * static_cast<quint64>(sign));
 }
 
-/// Builds one row, or one object's members.
-class JsonPieces
-{
-public:
-    JsonPieces &add(const QString &text)
-    {
-        separate();
-        appendJsonText(m_text, text);
-        return *this;
-    }
-    JsonPieces &add(qint64 number)
-    {
-        separate();
-        m_text.append(QByteArray::number(number));
-        return *this;
-    }
-    template <typename Value>
-    JsonPieces &add(const char *name, const Value &value)
-    {
-        separate();
-        m_text.append('"').append(name).append("\":");
-        m_isFirst = true;
-        return add(value);
-    }
-    [[nodiscard]] QByteArray row() const { return '[' + m_text + ']'; }
-    [[nodiscard]] QByteArray object() const { return '{' + m_text + '}'; }
-
-private:
-    void separate()
-    {
-        if (!m_isFirst)
-            m_text.append(',');
-        m_isFirst = false;
-    }
-
-    QByteArray m_text;
-    bool m_isFirst = true;
-};
-
 } // namespace
 
 QString stateName(ItemState state)

@@ -12,18 +12,20 @@ namespace Mirrix {
 
 // What is kept about one cleaning run: what it was, the files it was to act on, and what was done with each.
 
+/// The method of a run that removed empty folders; its items are these.
+inline const QString emptyFoldersMethod = QStringLiteral("empty-folders");
+
 /// What a run was asked to do.
 struct RunHeader
 {
     QString id;           ///< see newRunId
     qint64 startedMs = 0; ///< milliseconds since the Unix epoch
     QString command;      ///< "window", or the console's command line
-    QString
-        method; ///< "recycle", "delete", "move", "symlink", "hardlink", "backup", "backup+symlink", "backup+hardlink"
-    QString target;     ///< folder of a move or backup; may be empty
-    QString rule;       ///< what chose the files; may be empty
-    qint64 planned = 0; ///< number of files
-    QString undoOf;     ///< id of the run that this one undoes; may be empty
+    QString method;       ///< a name as of methodName, emptyFoldersMethod, or "undo " and one of these
+    QString target;       ///< folder of a move or backup; may be empty
+    QString rule;         ///< what chose the files; may be empty
+    qint64 planned = 0;   ///< number of files
+    QString undoOf;       ///< id of the run that this one undoes; may be empty
 
     bool operator==(const RunHeader &) const = default;
 };

@@ -86,7 +86,10 @@ bool isValidFor(const QJsonObject &entry, qint64 sizeBytes, qint64 modifiedMs)
 /// none, that some algorithm gives.
 QByteArray digestIn(const QJsonObject &entry, const QString &key)
 {
-    const QByteArray digest = QByteArray::fromHex(entry[key].toString().toLatin1());
+    const QByteArray text = entry[key].toString().toLatin1();
+    const QByteArray digest = QByteArray::fromHex(text);
+    if (digest.toHex() != text.toLower()) // fromHex passes over what is no digit
+        return {};
     const bool isOfAny = entry[Key::algorithm].toString().isEmpty() && (digest.size() == 16 || digest.size() == 32);
     return isOfAny || digest.size() == currentDigestLength() ? digest : QByteArray();
 }

@@ -10,6 +10,19 @@ namespace MirrixCore {
 namespace {
 constexpr qsizetype wordBits = 64;
 constexpr size_t asciiUnits = 128;
+constexpr qint32 mostDiagonals = 31; ///< on each side of the middle one that one word has room for
+/// The word of bits that begins at `start`, which may be negative; zeros before the first and behind the last.
+quint64 bitsFrom(const std::array<quint64, 4> &bits, qsizetype start)
+{
+    if (start < 0)
+        return bits[0] << -start;
+    const auto word = static_cast<size_t>(start / wordBits);
+    const qsizetype shift = start % wordBits;
+    const quint64 low = word < bits.size() ? bits[word] >> shift : 0;
+    const bool hasHigh = shift > 0 && word + 1 < bits.size();
+    return hasHigh ? low | bits[word + 1] << (wordBits - shift) : low;
+}
+
 } // namespace
 
 qint32 boundedEditDistance(QStringView a, QStringView b, qint32 limit)
@@ -63,6 +76,8 @@ bool EditMatcher::isWithin(QStringView other, qint32 limit) const
 {
     if (std::abs(m_name.size() - other.size()) > limit)
         return false;
+    if (m_words > 0 && limit <= mostDiagonals)
+        return isWithinByDiagonals(other, limit);
     switch (m_words) {
     case 1:
         return isWithinByBits<1>(other, limit);
@@ -75,6 +90,33 @@ bool EditMatcher::isWithin(QStringView other, qint32 limit) const
     default:
         return boundedEditDistance(m_name, other, limit) <= limit;
     }
+}
+
+bool EditMatcher::isWithinByDiagonals(QStringView other, qint32 limit) const
+{
+    // The word follows the diagonals: for the other name's unit j its last bit is this name's unit j + limit, so a
+    // cell's left neighbour has the bit above. What lies before the first unit has no bits set and so differs as the
+    // table's border does.
+    const auto last = static_cast<int>(wordBits - 1);
+    quint64 up = ~quint64(0) << (last - limit);
+    quint64 down = 0;
+    // Values never fall along a diagonal, and the distance is the last one on this.
+    const qsizetype diagonal = m_name.size() - other.size();
+    const quint64 watched = quint64(1) << (last - limit + diagonal);
+    qsizetype distance = std::abs(diagonal);
+    for (qsizetype column = 0; column < other.size(); ++column) {
+        const Bits &positions = positionsOf(other[column].unicode());
+        const quint64 equal = bitsFrom(positions, column + limit - last);
+        const quint64 same = (((equal & up) + up) ^ up) | equal | down;
+        const quint64 right = down | ~(same | up);
+        const quint64 left = up & same;
+        distance += column + diagonal >= 0 && !(same & watched) ? 1 : 0;
+        if (distance > limit)
+            return false;
+        up = left | ~((same >> 1) | right);
+        down = (same >> 1) & right;
+    }
+    return true;
 }
 
 template <qsizetype words>

@@ -19,7 +19,9 @@ namespace MirrixCore {
 /// Answers for one name, again and again, whether another is within a number of edits: the same as
 /// boundedEditDistance(...) <= limit, much faster. Up to 256 units it goes by Myers' bit-parallel algorithm ("A fast
 /// bit-vector algorithm for approximate string matching", 1999), one step per unit of the other name and 64 of this
-/// one. Not thread-safe.
+/// one; up to 31 edits one step per unit of the other name, most names being dismissed long before their end, by
+/// Hyyrö's variant for the diagonals near the middle one ("A bit-vector algorithm for computing Levenshtein and Damerau
+/// edit distances", 2003). Not thread-safe.
 class EditMatcher
 {
 public:
@@ -32,6 +34,7 @@ private:
     using Bits = std::array<quint64, mostWords>;
 
     [[nodiscard]] const Bits &positionsOf(char16_t unit) const;
+    [[nodiscard]] bool isWithinByDiagonals(QStringView other, qint32 limit) const;
     template <qsizetype words>
     [[nodiscard]] bool isWithinByBits(QStringView other, qint32 limit) const;
 

@@ -1,11 +1,9 @@
 #include "core/match/memberorder.h"
 
+#include "core/match/copywords.h"
 #include "core/match/emptyfiles.h"
 #include "core/match/groups.h"
-#include "core/match/similarnames.h"
 #include "core/platform/pathtext.h"
-
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <vector>
@@ -48,21 +46,6 @@ void orderFiles(QList<FileEntry> &files)
 }
 
 } // namespace
-
-bool hasCopyWord(const QString &name)
-{
-    static const QRegularExpression words(
-        QStringLiteral("^copy (?:\\(\\d+\\) )?of .|\\((?:[^()]* )?copy(?: \\d+)?\\)$"),
-        QRegularExpression::CaseInsensitiveOption);
-    const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
-    const QString base = dot < 1 ? name : name.left(dot);
-    const QString stripped = stripCopySuffix(base);
-    if (!stripped.isEmpty() && stripped != base.trimmed())
-        return true;
-    const bool mayMatch =
-        base.endsWith(QLatin1Char(')')) || base.startsWith(QLatin1String("copy "), Qt::CaseInsensitive);
-    return mayMatch && words.match(base).hasMatch();
-}
 
 void orderMembers(QList<DuplicateGroup> &groups)
 {

@@ -6,10 +6,6 @@
 
 namespace MirrixCore {
 
-/// Whether a file name says that the file is a copy: at its end, extension aside, as stripCopySuffix knows it or as
-/// "(copy)", "(another copy)", "(copy 2)", or at its start as "Copy of", "Copy (2) of". Thread-safe.
-[[nodiscard]] bool hasCopyWord(const QString &name);
-
 /// Sorts the files of each group: names without copy words first, then shorter paths, then by code points; and the
 /// groups by wastedBytes, largest first, then by their first paths. The order of a walk is the file system's whim, and
 /// the first file is the one that keep rules leave in place when they find no difference. The group of empty files

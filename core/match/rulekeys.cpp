@@ -49,7 +49,7 @@ void appendNameParts(QStringList &parts, const FileEntry &entry, const ScanOptio
 {
     const QString name = nameOf(entry.path).toString();
     if (options.sameName)
-        parts.append(QLatin1String("FN:") + cased(options.ignoreCopyWords ? stripCopySuffix(name) : name, options));
+        parts.append(QLatin1String("FN:") + cased(withoutIgnoredCopyWords(name, options), options));
     if (options.sameExtension)
         parts.append(QLatin1String("EXT:") + lowerSuffix(name));
 }

@@ -1,12 +1,11 @@
 #include "core/match/similarnames.h"
 
+#include "core/match/copywords.h"
 #include "core/match/editdistance.h"
 #include "core/match/groups.h"
 #include "core/match/segmentindex.h"
 #include "core/platform/pathtext.h"
 #include "core/threads/stage.h"
-
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <vector>
@@ -111,16 +110,12 @@ private:
 
 } // namespace
 
-QString stripCopySuffix(const QString &text)
+QString withoutIgnoredCopyWords(const QString &name, const ScanOptions &options)
 {
-    // Most names end in none of these, and searching them costs more than all else about their keys.
-    static const QString lastCharacters = QStringLiteral("0123456789)]}yY本贝\n");
-    if (text.isEmpty() || !lastCharacters.contains(text.back()))
-        return text.trimmed();
-    static const QRegularExpression suffix(
-        QStringLiteral("\\s*(?:-\\s*(?:副本|拷贝|Copy)|[\\(\\[\\{]\\d+[\\)\\]\\}]|副本\\d*|Copy\\d*)$"),
-        QRegularExpression::CaseInsensitiveOption);
-    return QString(text).remove(suffix).trimmed();
+    if (!options.ignoreCopyWords)
+        return name;
+    const QString stripped = stripCopySuffix(name);
+    return options.copyWordsInAllLanguages ? stripCopyWords(stripped) : stripped;
 }
 
 QString normalizedBaseName(const QString &path, const ScanOptions &options)
@@ -129,8 +124,7 @@ QString normalizedBaseName(const QString &path, const ScanOptions &options)
     const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
     if (dot >= 0)
         name.truncate(dot);
-    if (options.ignoreCopyWords)
-        name = stripCopySuffix(name);
+    name = withoutIgnoredCopyWords(name, options);
     return options.caseSensitive ? name : name.toLower();
 }
 

@@ -10,11 +10,11 @@ namespace MirrixCore {
 
 class StageProgress;
 
-/// `text` without what marks a copy at its very end ("- Copy", "(2)", "副本3", ...), trimmed. Thread-safe.
-[[nodiscard]] QString stripCopySuffix(const QString &text);
+/// `name` without its copy suffix if `ignoreCopyWords`, and then, if `copyWordsInAllLanguages`, without all copy words.
+[[nodiscard]] QString withoutIgnoredCopyWords(const QString &name, const ScanOptions &options);
 
-/// The name that similar names are compared by: without folder and last extension, without copy suffix if
-/// `ignoreCopyWords`, lower case unless `caseSensitive`.
+/// The name that similar names are compared by: without folder, last extension and ignored copy words, lower case
+/// unless `caseSensitive`.
 [[nodiscard]] QString normalizedBaseName(const QString &path, const ScanOptions &options);
 
 /// Groups of two or more members whose names are within `nameTolerance` edits, directly or through others. A pair is

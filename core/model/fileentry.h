@@ -47,6 +47,13 @@ struct FileEntry
     bool operator==(const FileEntry &) const = default;
 };
 
+/// What goes when a content of `sizeBytes` goes, of which `allocatedBytes` are taken on the volume: holes take nothing.
+/// What a volume takes beyond the content, and what is unknown (below 0), is not counted.
+[[nodiscard]] constexpr qint64 freeableBytes(qint64 sizeBytes, qint64 allocatedBytes)
+{
+    return allocatedBytes < 0 || allocatedBytes > sizeBytes ? sizeBytes : allocatedBytes;
+}
+
 } // namespace MirrixCore
 
 Q_DECLARE_TYPEINFO(MirrixCore::FileEntry, Q_RELOCATABLE_TYPE);

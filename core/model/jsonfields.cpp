@@ -176,22 +176,22 @@ QString jsonTypeName(bool)
 
 QString jsonTypeName(qint32)
 {
-    return QStringLiteral("a whole number of 32 bits");
+    return QStringLiteral("a 32-bit integer");
 }
 
 QString jsonTypeName(qint64)
 {
-    return QStringLiteral("a whole number");
+    return QStringLiteral("an integer");
 }
 
 QString jsonTypeName(const QString &)
 {
-    return QStringLiteral("a text");
+    return QStringLiteral("a string");
 }
 
 QString jsonTypeName(const QStringList &)
 {
-    return QStringLiteral("a list of texts");
+    return QStringLiteral("a list of strings");
 }
 
 QString jsonTypeName(const QList<ScanLocation> &)

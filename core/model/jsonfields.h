@@ -25,7 +25,7 @@ namespace MirrixCore {
 [[nodiscard]] bool fromJson(const QJsonValue &json, QList<ScanLocation> &value); ///< unknown members are refused
 [[nodiscard]] bool fromJson(const QJsonValue &json, QList<TagEntry> &value);     ///< unknown members are refused
 
-/// What a value of the member's type looks like, for error messages ("true or false", "a whole number", ...).
+/// What a value of the member's type looks like, for error messages ("true or false", "an integer", ...).
 [[nodiscard]] QString jsonTypeName(bool);
 [[nodiscard]] QString jsonTypeName(qint32);
 [[nodiscard]] QString jsonTypeName(qint64);

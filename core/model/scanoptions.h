@@ -115,6 +115,7 @@ struct ScanOptions
     bool sameExtension = false;
     bool similarNames = false;
     bool ignoreCopyWords = true;
+    bool copyWordsInAllLanguages = false; ///< with ignoreCopyWords
     bool sameSize = false;
     qint64 sizeTolerance = 0; ///< bytes
     bool sameCreated = false;

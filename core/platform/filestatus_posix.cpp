@@ -5,37 +5,18 @@
 #include "core/platform/openpath_posix.h"
 
 #include <cerrno>
-#include <climits>
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace MirrixCore {
-
-namespace {
-
-/// 0, or the system's error number.
-int readStatus(const QByteArray &path, struct stat &info)
-{
-    if (path.size() < PATH_MAX)
-        return stat(path.constData(), &info) == 0 ? 0 : errno;
-    const int descriptor = openPath(path, O_PATH | O_CLOEXEC);
-    if (descriptor < 0)
-        return errno;
-    const int failure = fstat(descriptor, &info) == 0 ? 0 : errno;
-    close(descriptor);
-    return failure;
-}
-
-} // namespace
 
 FileStatus fileStatus(const QString &path)
 {
     FileStatus status;
     struct stat info = {};
-    if (const int failure = readStatus(pathBytes(path), info); failure != 0) {
-        if (failure != ENOENT && failure != ENOTDIR)
-            status.reason = systemErrorText(failure);
+    const auto read = [&info](int folder, const char *rest) { return fstatat(folder, rest, &info, 0); };
+    if (atPath(pathBytes(path), read) != 0) {
+        if (errno != ENOENT && errno != ENOTDIR)
+            status.reason = systemErrorText(errno);
         return status;
     }
     status.kind = S_ISREG(info.st_mode)   ? FileStatus::Kind::File

@@ -1,5 +1,6 @@
 #include "core/platform/nativepath.h"
 
+#include "core/platform/openpath_posix.h"
 #include "core/platform/surrogates.h"
 
 #include <algorithm>
@@ -80,7 +81,7 @@ bool makeFolders(const QString &path)
 QString absolutePath(const QString &path)
 {
     // Behind a link ".." leads elsewhere than the text says, so the system is asked; what does not exist stays.
-    if (path.split(QLatin1Char('/')).contains(QLatin1String(".."))) {
+    if (path.contains(QLatin1String("..")) && path.split(QLatin1Char('/')).contains(QLatin1String(".."))) {
         const QString resolved = canonicalPath(path);
         if (!resolved.isEmpty())
             return resolved;
@@ -93,8 +94,7 @@ QString absolutePath(const QString &path)
 
 QString canonicalPath(const QString &path)
 {
-    const SystemText resolved(realpath(pathBytes(path).constData(), nullptr), &std::free);
-    return resolved ? pathFromBytes(resolved.get()) : QString();
+    return pathFromBytes(realPath(pathBytes(path)));
 }
 
 QString pathCaseKey(const QString &path)

@@ -31,8 +31,7 @@ public:
         , m_cancelled(cancelled)
         , m_unread(unread)
         , m_rules(options)
-        , m_names(options.excludeNames + QStringList{QStringLiteral("*.git"), QStringLiteral(".hg"),
-                                                     QStringLiteral(".svn"), QStringLiteral(".bzr")})
+        , m_names(options.excludeNames + versionControlNames())
     {
         for (const QString &root : options.roots)
             m_roots.insert(cleanedPath(root));

@@ -65,6 +65,11 @@ bool matchesPattern(QStringView name, QStringView pattern)
     return std::all_of(pattern.begin(), pattern.end(), [](QChar unit) { return unit == u'*'; });
 }
 
+QStringList versionControlNames()
+{
+    return {QStringLiteral("*.git"), QStringLiteral(".hg"), QStringLiteral(".svn"), QStringLiteral(".bzr")};
+}
+
 NamePatterns::NamePatterns(const QStringList &patterns)
 {
     for (const QString &pattern : patterns)

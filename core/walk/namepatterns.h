@@ -12,6 +12,9 @@ namespace MirrixCore {
 /// Compares as they stand: fold the case of both before. Thread-safe.
 [[nodiscard]] bool matchesPattern(QStringView name, QStringView pattern);
 
+/// Patterns of the names under which version control keeps its files and folders.
+[[nodiscard]] QStringList versionControlNames();
+
 /// Several such patterns, letter case ignored.
 class NamePatterns
 {

@@ -316,6 +316,10 @@
         <translation>Löschen fehlgeschlagen: %1</translation>
     </message>
     <message>
+        <source>文件夹已不为空，或不允许删除: %1</source>
+        <translation>Ordner ist nicht mehr leer oder darf nicht gelöscht werden: %1</translation>
+    </message>
+    <message>
         <source>无法移动: %1</source>
         <translation>Verschieben fehlgeschlagen: %1</translation>
     </message>
@@ -1304,6 +1308,14 @@ raw, cr2 und nef werden immer durchsucht. Gilt nur, solange die Liste „Einbezo
         <translation>„Copy“, „(2)“ usw. in Dateinamen ignorieren</translation>
     </message>
     <message>
+        <source>包括其他语言</source>
+        <translation>auch in anderen Sprachen</translation>
+    </message>
+    <message>
+        <source>也忽略其他语言的系统和文件管理器给副本起的名称，例如“- Kopie”、“(otra copia)”</source>
+        <translation>Ignoriert auch, was Systeme und Dateimanager in anderen Sprachen an die Namen von Kopien hängen, etwa „- Kopie“ oder „(otra copia)“</translation>
+    </message>
+    <message>
         <source>相同文件大小</source>
         <translation>Gleiche Größe</translation>
     </message>
@@ -1696,6 +1708,10 @@ Bitte neu suchen.</translation>
     <message>
         <source>已恢复 %1 个文件。</source>
         <translation>Wiederhergestellte Dateien: %1.</translation>
+    </message>
+    <message>
+        <source>已再次移除 %1 个文件。</source>
+        <translation>Erneut entfernte Dateien: %1.</translation>
     </message>
     <message>
         <source>失败</source>
@@ -2112,6 +2128,14 @@ Dateien, die nicht zurückgelegt werden können (%1):
 </translation>
     </message>
     <message>
+        <source>
+无法再次移除的文件（%1 个）：
+</source>
+        <translation>
+Dateien, die nicht erneut entfernt werden können (%1):
+</translation>
+    </message>
+    <message>
         <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
         <translation>Nicht entfernt werden (Dateien: %1, %2): Verknüpfungen entstehen nur an freien Pfaden. Um die Dateien durch Verknüpfungen zu ersetzen, zuerst sichern.</translation>
     </message>
@@ -2208,6 +2232,10 @@ Dateien, die nicht zurückgelegt werden können (%1):
         <translation>Dateien an ihren Ort zurücklegen: %1. Fortfahren?</translation>
     </message>
     <message>
+        <source>将再次移除 %1 个文件（%2）。是否继续？</source>
+        <translation>Dateien erneut entfernen: %1 (%2). Fortfahren?</translation>
+    </message>
+    <message>
         <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
         <translation>Die Dateien dieser Bereinigung im Sicherungsordner (%1) werden endgültig gelöscht und können von dort nicht mehr wiederhergestellt werden. Fortfahren?</translation>
     </message>
@@ -2266,6 +2294,10 @@ Dateien, die nicht zurückgelegt werden können (%1):
     <message>
         <source>撤销清理</source>
         <translation>Bereinigung rückgängig machen</translation>
+    </message>
+    <message>
+        <source>重新清理</source>
+        <translation>Erneut bereinigen</translation>
     </message>
     <message>
         <source>文件仍在回收站中，可从那里恢复: %1</source>
@@ -2354,6 +2386,10 @@ Dateien, die nicht zurückgelegt werden können (%1):
         <translation>Es gibt keine Dateien zum Zurücklegen.</translation>
     </message>
     <message>
+        <source>没有可以再次移除的文件。</source>
+        <translation>Es gibt keine Dateien, die erneut entfernt werden können.</translation>
+    </message>
+    <message>
         <source>没有更早的记录。</source>
         <translation>Es gibt keine älteren Einträge.</translation>
     </message>
@@ -2384,6 +2420,10 @@ Dateien, die nicht zurückgelegt werden können (%1):
     <message>
         <source>移入回收站</source>
         <translation>In den Papierkorb</translation>
+    </message>
+    <message>
+        <source>删除空文件夹</source>
+        <translation>Leere Ordner löschen</translation>
     </message>
     <message>
         <source>移动到文件夹</source>
@@ -2514,6 +2554,26 @@ GPS: %1, %2</translation>
     <message>
         <source>程序启动</source>
         <translation>Programm gestartet</translation>
+    </message>
+    <message>
+        <source>扫描开始</source>
+        <translation>Suche gestartet</translation>
+    </message>
+    <message>
+        <source>备份已恢复</source>
+        <translation>Sicherung wiederhergestellt</translation>
+    </message>
+    <message>
+        <source>要移除的空文件夹</source>
+        <translation>Zu entfernende leere Ordner</translation>
+    </message>
+    <message>
+        <source>空文件夹已移除</source>
+        <translation>Leere Ordner entfernt</translation>
+    </message>
+    <message>
+        <source>程序退出</source>
+        <translation>Programm beendet</translation>
     </message>
     <message>
         <source>扫描完成</source>

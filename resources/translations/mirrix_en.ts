@@ -316,6 +316,10 @@
         <translation>Could not delete: %1</translation>
     </message>
     <message>
+        <source>文件夹已不为空，或不允许删除: %1</source>
+        <translation>Folder is no longer empty, or must not be deleted: %1</translation>
+    </message>
+    <message>
         <source>无法移动: %1</source>
         <translation>Could not move: %1</translation>
     </message>
@@ -1304,6 +1308,14 @@ raw, cr2 and nef are always scanned. Applies only while the Included list is emp
         <translation>Ignore "copy" in file names</translation>
     </message>
     <message>
+        <source>包括其他语言</source>
+        <translation>also in other languages</translation>
+    </message>
+    <message>
+        <source>也忽略其他语言的系统和文件管理器给副本起的名称，例如“- Kopie”、“(otra copia)”</source>
+        <translation>Also ignores what systems and file managers in other languages add to the names of copies, such as “- Kopie” or “(otra copia)”</translation>
+    </message>
+    <message>
         <source>相同文件大小</source>
         <translation>Same file size</translation>
     </message>
@@ -1696,6 +1708,10 @@ Rescan to refresh.</translation>
     <message>
         <source>已恢复 %1 个文件。</source>
         <translation>Restored %1 files.</translation>
+    </message>
+    <message>
+        <source>已再次移除 %1 个文件。</source>
+        <translation>Removed %1 files again.</translation>
     </message>
     <message>
         <source>失败</source>
@@ -2112,6 +2128,14 @@ Files that cannot be put back (%1):
 </translation>
     </message>
     <message>
+        <source>
+无法再次移除的文件（%1 个）：
+</source>
+        <translation>
+Files that cannot be removed again (%1):
+</translation>
+    </message>
+    <message>
         <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
         <translation>%1 files, %2, will not be removed: links are only made where the path is free. To replace the files by links, back up first.</translation>
     </message>
@@ -2208,6 +2232,10 @@ Files that cannot be put back (%1):
         <translation>%1 files will be put back where they were. Continue?</translation>
     </message>
     <message>
+        <source>将再次移除 %1 个文件（%2）。是否继续？</source>
+        <translation>%1 files will be removed again (%2). Continue?</translation>
+    </message>
+    <message>
         <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
         <translation>The files of this cleaning in the backup folder (%1) will be deleted permanently and can no longer be restored from there. Continue?</translation>
     </message>
@@ -2266,6 +2294,10 @@ Files that cannot be put back (%1):
     <message>
         <source>撤销清理</source>
         <translation>Undo cleaning</translation>
+    </message>
+    <message>
+        <source>重新清理</source>
+        <translation>Clean again</translation>
     </message>
     <message>
         <source>文件仍在回收站中，可从那里恢复: %1</source>
@@ -2354,6 +2386,10 @@ Files that cannot be put back (%1):
         <translation>There are no files to put back.</translation>
     </message>
     <message>
+        <source>没有可以再次移除的文件。</source>
+        <translation>There are no files to remove again.</translation>
+    </message>
+    <message>
         <source>没有更早的记录。</source>
         <translation>There are no older records.</translation>
     </message>
@@ -2384,6 +2420,10 @@ Files that cannot be put back (%1):
     <message>
         <source>移入回收站</source>
         <translation>Moved to Recycle Bin</translation>
+    </message>
+    <message>
+        <source>删除空文件夹</source>
+        <translation>Delete empty folders</translation>
     </message>
     <message>
         <source>移动到文件夹</source>
@@ -2514,6 +2554,26 @@ GPS: %1, %2</translation>
     <message>
         <source>程序启动</source>
         <translation>Program started</translation>
+    </message>
+    <message>
+        <source>扫描开始</source>
+        <translation>Scan started</translation>
+    </message>
+    <message>
+        <source>备份已恢复</source>
+        <translation>Restored from backup</translation>
+    </message>
+    <message>
+        <source>要移除的空文件夹</source>
+        <translation>Empty folders to remove</translation>
+    </message>
+    <message>
+        <source>空文件夹已移除</source>
+        <translation>Empty folders removed</translation>
+    </message>
+    <message>
+        <source>程序退出</source>
+        <translation>Program exited</translation>
     </message>
     <message>
         <source>扫描完成</source>

@@ -316,6 +316,10 @@
         <translation>No se pudo eliminar: %1</translation>
     </message>
     <message>
+        <source>文件夹已不为空，或不允许删除: %1</source>
+        <translation>La carpeta ya no está vacía o no se permite eliminarla: %1</translation>
+    </message>
+    <message>
         <source>无法移动: %1</source>
         <translation>No se pudo mover: %1</translation>
     </message>
@@ -1304,6 +1308,14 @@ raw, cr2 y nef se analizan siempre. Solo tiene efecto si la lista «Incluido» e
         <translation>Ignorar «Copy», «(2)», etc. en los nombres de archivo</translation>
     </message>
     <message>
+        <source>包括其他语言</source>
+        <translation>también en otros idiomas</translation>
+    </message>
+    <message>
+        <source>也忽略其他语言的系统和文件管理器给副本起的名称，例如“- Kopie”、“(otra copia)”</source>
+        <translation>Ignora también lo que los sistemas y gestores de archivos en otros idiomas añaden al nombre de las copias, como «- Kopie» o «(otra copia)»</translation>
+    </message>
+    <message>
         <source>相同文件大小</source>
         <translation>Mismo tamaño de archivo</translation>
     </message>
@@ -1696,6 +1708,10 @@ Repita el análisis para actualizar.</translation>
     <message>
         <source>已恢复 %1 个文件。</source>
         <translation>Archivos restaurados: %1.</translation>
+    </message>
+    <message>
+        <source>已再次移除 %1 个文件。</source>
+        <translation>Archivos eliminados de nuevo: %1.</translation>
     </message>
     <message>
         <source>失败</source>
@@ -2112,6 +2128,14 @@ Archivos que no se pueden devolver a su lugar (%1):
 </translation>
     </message>
     <message>
+        <source>
+无法再次移除的文件（%1 个）：
+</source>
+        <translation>
+Archivos que no se pueden volver a eliminar (%1):
+</translation>
+    </message>
+    <message>
         <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
         <translation>Archivos que no se eliminarán: %1 (%2). Solo se crean enlaces donde la ruta está libre. Para sustituir los archivos por enlaces, haga antes copia de seguridad.</translation>
     </message>
@@ -2208,6 +2232,10 @@ Archivos que no se pueden devolver a su lugar (%1):
         <translation>Archivos que se devolverán a su lugar: %1. ¿Continuar?</translation>
     </message>
     <message>
+        <source>将再次移除 %1 个文件（%2）。是否继续？</source>
+        <translation>Archivos que se volverán a eliminar: %1 (%2). ¿Continuar?</translation>
+    </message>
+    <message>
         <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
         <translation>Los archivos de esta limpieza en la carpeta de copias de seguridad (%1) se eliminarán de forma permanente y ya no se podrán restaurar. ¿Continuar?</translation>
     </message>
@@ -2266,6 +2294,10 @@ Archivos que no se pueden devolver a su lugar (%1):
     <message>
         <source>撤销清理</source>
         <translation>Deshacer limpieza</translation>
+    </message>
+    <message>
+        <source>重新清理</source>
+        <translation>Repetir limpieza</translation>
     </message>
     <message>
         <source>文件仍在回收站中，可从那里恢复: %1</source>
@@ -2354,6 +2386,10 @@ Archivos que no se pueden devolver a su lugar (%1):
         <translation>No hay archivos que devolver a su lugar.</translation>
     </message>
     <message>
+        <source>没有可以再次移除的文件。</source>
+        <translation>No hay archivos que volver a eliminar.</translation>
+    </message>
+    <message>
         <source>没有更早的记录。</source>
         <translation>No hay registros anteriores.</translation>
     </message>
@@ -2384,6 +2420,10 @@ Archivos que no se pueden devolver a su lugar (%1):
     <message>
         <source>移入回收站</source>
         <translation>Enviado a la Papelera</translation>
+    </message>
+    <message>
+        <source>删除空文件夹</source>
+        <translation>Eliminar carpetas vacías</translation>
     </message>
     <message>
         <source>移动到文件夹</source>
@@ -2514,6 +2554,26 @@ GPS: %1, %2</translation>
     <message>
         <source>程序启动</source>
         <translation>Programa iniciado</translation>
+    </message>
+    <message>
+        <source>扫描开始</source>
+        <translation>Análisis iniciado</translation>
+    </message>
+    <message>
+        <source>备份已恢复</source>
+        <translation>Copia de seguridad restaurada</translation>
+    </message>
+    <message>
+        <source>要移除的空文件夹</source>
+        <translation>Carpetas vacías para eliminar</translation>
+    </message>
+    <message>
+        <source>空文件夹已移除</source>
+        <translation>Carpetas vacías eliminadas</translation>
+    </message>
+    <message>
+        <source>程序退出</source>
+        <translation>Programa cerrado</translation>
     </message>
     <message>
         <source>扫描完成</source>

@@ -316,6 +316,10 @@
         <translation>Suppression impossible : %1</translation>
     </message>
     <message>
+        <source>文件夹已不为空，或不允许删除: %1</source>
+        <translation>Le dossier n’est plus vide ou ne peut pas être supprimé : %1</translation>
+    </message>
+    <message>
         <source>无法移动: %1</source>
         <translation>Déplacement impossible : %1</translation>
     </message>
@@ -1304,6 +1308,14 @@ raw, cr2 et nef sont toujours analysés. Valable seulement si la liste « Inclu
         <translation>Ignorer « Copy », « (2) », etc. dans les noms de fichiers</translation>
     </message>
     <message>
+        <source>包括其他语言</source>
+        <translation>toutes les langues</translation>
+    </message>
+    <message>
+        <source>也忽略其他语言的系统和文件管理器给副本起的名称，例如“- Kopie”、“(otra copia)”</source>
+        <translation>Ignore aussi ce que les systèmes et gestionnaires de fichiers dans d’autres langues ajoutent au nom des copies, par exemple « - Kopie » ou « (otra copia) »</translation>
+    </message>
+    <message>
         <source>相同文件大小</source>
         <translation>Même taille de fichier</translation>
     </message>
@@ -1696,6 +1708,10 @@ Relancez l’analyse pour actualiser.</translation>
     <message>
         <source>已恢复 %1 个文件。</source>
         <translation>Fichiers restaurés : %1.</translation>
+    </message>
+    <message>
+        <source>已再次移除 %1 个文件。</source>
+        <translation>Fichiers supprimés de nouveau : %1.</translation>
     </message>
     <message>
         <source>失败</source>
@@ -2112,6 +2128,14 @@ Fichiers impossibles à remettre en place (%1) :
 </translation>
     </message>
     <message>
+        <source>
+无法再次移除的文件（%1 个）：
+</source>
+        <translation>
+Fichiers impossibles à supprimer de nouveau (%1) :
+</translation>
+    </message>
+    <message>
         <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
         <translation>Fichiers non supprimés : %1 (%2). Un lien n’est créé que si le chemin est libre. Pour remplacer les fichiers par des liens, sauvegardez d’abord.</translation>
     </message>
@@ -2208,6 +2232,10 @@ Fichiers impossibles à remettre en place (%1) :
         <translation>Fichiers à remettre en place : %1. Continuer ?</translation>
     </message>
     <message>
+        <source>将再次移除 %1 个文件（%2）。是否继续？</source>
+        <translation>Fichiers à supprimer de nouveau : %1 (%2). Continuer ?</translation>
+    </message>
+    <message>
         <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
         <translation>Les fichiers de ce nettoyage dans le dossier de sauvegarde (%1) seront supprimés définitivement et ne pourront plus être restaurés. Continuer ?</translation>
     </message>
@@ -2266,6 +2294,10 @@ Fichiers impossibles à remettre en place (%1) :
     <message>
         <source>撤销清理</source>
         <translation>Annuler le nettoyage</translation>
+    </message>
+    <message>
+        <source>重新清理</source>
+        <translation>Refaire le nettoyage</translation>
     </message>
     <message>
         <source>文件仍在回收站中，可从那里恢复: %1</source>
@@ -2354,6 +2386,10 @@ Fichiers impossibles à remettre en place (%1) :
         <translation>Aucun fichier à remettre en place.</translation>
     </message>
     <message>
+        <source>没有可以再次移除的文件。</source>
+        <translation>Aucun fichier à supprimer de nouveau.</translation>
+    </message>
+    <message>
         <source>没有更早的记录。</source>
         <translation>Aucune entrée plus ancienne.</translation>
     </message>
@@ -2384,6 +2420,10 @@ Fichiers impossibles à remettre en place (%1) :
     <message>
         <source>移入回收站</source>
         <translation>Placé dans la Corbeille</translation>
+    </message>
+    <message>
+        <source>删除空文件夹</source>
+        <translation>Supprimer les dossiers vides</translation>
     </message>
     <message>
         <source>移动到文件夹</source>
@@ -2514,6 +2554,26 @@ GPS : %1, %2</translation>
     <message>
         <source>程序启动</source>
         <translation>Programme démarré</translation>
+    </message>
+    <message>
+        <source>扫描开始</source>
+        <translation>Analyse démarrée</translation>
+    </message>
+    <message>
+        <source>备份已恢复</source>
+        <translation>Sauvegarde restaurée</translation>
+    </message>
+    <message>
+        <source>要移除的空文件夹</source>
+        <translation>Dossiers vides à supprimer</translation>
+    </message>
+    <message>
+        <source>空文件夹已移除</source>
+        <translation>Dossiers vides supprimés</translation>
+    </message>
+    <message>
+        <source>程序退出</source>
+        <translation>Programme fermé</translation>
     </message>
     <message>
         <source>扫描完成</source>

@@ -316,6 +316,10 @@
         <translation>Impossibile eliminare: %1</translation>
     </message>
     <message>
+        <source>文件夹已不为空，或不允许删除: %1</source>
+        <translation>La cartella non è più vuota o non può essere eliminata: %1</translation>
+    </message>
+    <message>
         <source>无法移动: %1</source>
         <translation>Impossibile spostare: %1</translation>
     </message>
@@ -1304,6 +1308,14 @@ raw, cr2 e nef vengono sempre scansionati. Vale solo se l'elenco “Incluso” �
         <translation>Ignora “Copy”, “(2)” ecc. nei nomi</translation>
     </message>
     <message>
+        <source>包括其他语言</source>
+        <translation>anche in altre lingue</translation>
+    </message>
+    <message>
+        <source>也忽略其他语言的系统和文件管理器给副本起的名称，例如“- Kopie”、“(otra copia)”</source>
+        <translation>Ignora anche ciò che i sistemi e i gestori di file in altre lingue aggiungono ai nomi delle copie, come “- Kopie” o “(otra copia)”</translation>
+    </message>
+    <message>
         <source>相同文件大小</source>
         <translation>Stessa dimensione</translation>
     </message>
@@ -1696,6 +1708,10 @@ Ripeti la scansione.</translation>
     <message>
         <source>已恢复 %1 个文件。</source>
         <translation>File ripristinati: %1.</translation>
+    </message>
+    <message>
+        <source>已再次移除 %1 个文件。</source>
+        <translation>File rimossi di nuovo: %1.</translation>
     </message>
     <message>
         <source>失败</source>
@@ -2112,6 +2128,14 @@ File che non si possono rimettere a posto (%1):
 </translation>
     </message>
     <message>
+        <source>
+无法再次移除的文件（%1 个）：
+</source>
+        <translation>
+File che non si possono rimuovere di nuovo (%1):
+</translation>
+    </message>
+    <message>
         <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
         <translation>File che non verranno rimossi: %1 (%2). I collegamenti si creano solo dove il percorso è libero. Per sostituire i file con collegamenti, fare prima il backup.</translation>
     </message>
@@ -2208,6 +2232,10 @@ File che non si possono rimettere a posto (%1):
         <translation>File da rimettere a posto: %1. Continuare?</translation>
     </message>
     <message>
+        <source>将再次移除 %1 个文件（%2）。是否继续？</source>
+        <translation>File da rimuovere di nuovo: %1 (%2). Continuare?</translation>
+    </message>
+    <message>
         <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
         <translation>I file di questa pulizia nella cartella di backup (%1) verranno eliminati definitivamente e non si potranno più ripristinare. Continuare?</translation>
     </message>
@@ -2266,6 +2294,10 @@ File che non si possono rimettere a posto (%1):
     <message>
         <source>撤销清理</source>
         <translation>Annulla pulizia</translation>
+    </message>
+    <message>
+        <source>重新清理</source>
+        <translation>Ripeti pulizia</translation>
     </message>
     <message>
         <source>文件仍在回收站中，可从那里恢复: %1</source>
@@ -2354,6 +2386,10 @@ File che non si possono rimettere a posto (%1):
         <translation>Nessun file da rimettere a posto.</translation>
     </message>
     <message>
+        <source>没有可以再次移除的文件。</source>
+        <translation>Nessun file da rimuovere di nuovo.</translation>
+    </message>
+    <message>
         <source>没有更早的记录。</source>
         <translation>Nessuna voce precedente.</translation>
     </message>
@@ -2384,6 +2420,10 @@ File che non si possono rimettere a posto (%1):
     <message>
         <source>移入回收站</source>
         <translation>Spostati nel Cestino</translation>
+    </message>
+    <message>
+        <source>删除空文件夹</source>
+        <translation>Elimina cartelle vuote</translation>
     </message>
     <message>
         <source>移动到文件夹</source>
@@ -2514,6 +2554,26 @@ GPS: %1, %2</translation>
     <message>
         <source>程序启动</source>
         <translation>Programma avviato</translation>
+    </message>
+    <message>
+        <source>扫描开始</source>
+        <translation>Avvio scansione</translation>
+    </message>
+    <message>
+        <source>备份已恢复</source>
+        <translation>Backup ripristinato</translation>
+    </message>
+    <message>
+        <source>要移除的空文件夹</source>
+        <translation>Cartelle vuote da rimuovere</translation>
+    </message>
+    <message>
+        <source>空文件夹已移除</source>
+        <translation>Cartelle vuote rimosse</translation>
+    </message>
+    <message>
+        <source>程序退出</source>
+        <translation>Chiusura del programma</translation>
     </message>
     <message>
         <source>扫描完成</source>

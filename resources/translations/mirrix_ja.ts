@@ -316,6 +316,10 @@
         <translation>削除できません: %1</translation>
     </message>
     <message>
+        <source>文件夹已不为空，或不允许删除: %1</source>
+        <translation>フォルダーが空でなくなったか、削除が許可されていません: %1</translation>
+    </message>
+    <message>
         <source>无法移动: %1</source>
         <translation>移動できません: %1</translation>
     </message>
@@ -1304,6 +1308,14 @@ raw、cr2、nef は常にスキャンされます。「対象」リストが空�
         <translation>ファイル名末尾の Copy、副本、(2) などを無視</translation>
     </message>
     <message>
+        <source>包括其他语言</source>
+        <translation>他の言語も含める</translation>
+    </message>
+    <message>
+        <source>也忽略其他语言的系统和文件管理器给副本起的名称，例如“- Kopie”、“(otra copia)”</source>
+        <translation>他の言語のシステムやファイルマネージャーがコピーの名前に付ける文字（「- Kopie」「(otra copia)」など）も無視します</translation>
+    </message>
+    <message>
         <source>相同文件大小</source>
         <translation>同じファイルサイズ</translation>
     </message>
@@ -1696,6 +1708,10 @@ raw、cr2、nef は常にスキャンされます。「対象」リストが空�
     <message>
         <source>已恢复 %1 个文件。</source>
         <translation>%1 個のファイルを復元しました。</translation>
+    </message>
+    <message>
+        <source>已再次移除 %1 个文件。</source>
+        <translation>%1 個のファイルをもう一度削除しました。</translation>
     </message>
     <message>
         <source>失败</source>
@@ -2112,6 +2128,14 @@ raw、cr2、nef は常にスキャンされます。「対象」リストが空�
 </translation>
     </message>
     <message>
+        <source>
+无法再次移除的文件（%1 个）：
+</source>
+        <translation>
+もう一度削除できないファイル (%1 個):
+</translation>
+    </message>
+    <message>
         <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
         <translation>%1 個のファイル (%2) は削除されません。リンクはパスが空いている場合にのみ作成されます。ファイルをリンクに置き換えるには、先にバックアップしてください。</translation>
     </message>
@@ -2208,6 +2232,10 @@ raw、cr2、nef は常にスキャンされます。「対象」リストが空�
         <translation>%1 個のファイルを元に戻します。続行しますか？</translation>
     </message>
     <message>
+        <source>将再次移除 %1 个文件（%2）。是否继续？</source>
+        <translation>%1 個のファイルをもう一度削除します (%2)。続行しますか？</translation>
+    </message>
+    <message>
         <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
         <translation>このクリーンアップでバックアップフォルダーに残したファイル (%1) を完全に削除します。バックアップから復元できなくなります。続行しますか？</translation>
     </message>
@@ -2266,6 +2294,10 @@ raw、cr2、nef は常にスキャンされます。「対象」リストが空�
     <message>
         <source>撤销清理</source>
         <translation>クリーンアップの取り消し</translation>
+    </message>
+    <message>
+        <source>重新清理</source>
+        <translation>クリーンアップのやり直し</translation>
     </message>
     <message>
         <source>文件仍在回收站中，可从那里恢复: %1</source>
@@ -2354,6 +2386,10 @@ raw、cr2、nef は常にスキャンされます。「対象」リストが空�
         <translation>元に戻せるファイルはありません。</translation>
     </message>
     <message>
+        <source>没有可以再次移除的文件。</source>
+        <translation>もう一度削除できるファイルはありません。</translation>
+    </message>
+    <message>
         <source>没有更早的记录。</source>
         <translation>それより古い記録はありません。</translation>
     </message>
@@ -2384,6 +2420,10 @@ raw、cr2、nef は常にスキャンされます。「対象」リストが空�
     <message>
         <source>移入回收站</source>
         <translation>ごみ箱に移動</translation>
+    </message>
+    <message>
+        <source>删除空文件夹</source>
+        <translation>空のフォルダーを削除</translation>
     </message>
     <message>
         <source>移动到文件夹</source>
@@ -2514,6 +2554,26 @@ GPS: %1, %2</translation>
     <message>
         <source>程序启动</source>
         <translation>プログラムの起動</translation>
+    </message>
+    <message>
+        <source>扫描开始</source>
+        <translation>スキャン開始</translation>
+    </message>
+    <message>
+        <source>备份已恢复</source>
+        <translation>バックアップから復元</translation>
+    </message>
+    <message>
+        <source>要移除的空文件夹</source>
+        <translation>削除する空のフォルダー</translation>
+    </message>
+    <message>
+        <source>空文件夹已移除</source>
+        <translation>空のフォルダーを削除</translation>
+    </message>
+    <message>
+        <source>程序退出</source>
+        <translation>プログラム終了</translation>
     </message>
     <message>
         <source>扫描完成</source>

@@ -316,6 +316,10 @@
         <translation>삭제할 수 없음: %1</translation>
     </message>
     <message>
+        <source>文件夹已不为空，或不允许删除: %1</source>
+        <translation>폴더가 더 이상 비어 있지 않거나 삭제할 수 없음: %1</translation>
+    </message>
+    <message>
         <source>无法移动: %1</source>
         <translation>이동할 수 없음: %1</translation>
     </message>
@@ -1304,6 +1308,14 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
         <translation>파일 이름 끝의 Copy, (2) 등 무시</translation>
     </message>
     <message>
+        <source>包括其他语言</source>
+        <translation>다른 언어 포함</translation>
+    </message>
+    <message>
+        <source>也忽略其他语言的系统和文件管理器给副本起的名称，例如“- Kopie”、“(otra copia)”</source>
+        <translation>다른 언어의 시스템과 파일 관리자가 사본 이름에 붙이는 말(“- Kopie”, “(otra copia)” 등)도 무시합니다</translation>
+    </message>
+    <message>
         <source>相同文件大小</source>
         <translation>같은 파일 크기</translation>
     </message>
@@ -1696,6 +1708,10 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     <message>
         <source>已恢复 %1 个文件。</source>
         <translation>파일 %1개를 복원했습니다.</translation>
+    </message>
+    <message>
+        <source>已再次移除 %1 个文件。</source>
+        <translation>파일 %1개를 다시 제거했습니다.</translation>
     </message>
     <message>
         <source>失败</source>
@@ -2112,6 +2128,14 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
 </translation>
     </message>
     <message>
+        <source>
+无法再次移除的文件（%1 个）：
+</source>
+        <translation>
+다시 제거할 수 없는 파일(%1개):
+</translation>
+    </message>
+    <message>
         <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
         <translation>파일 %1개(%2)는 제거되지 않습니다. 경로가 비어 있을 때만 링크를 만듭니다. 파일을 링크로 바꾸려면 먼저 백업하세요.</translation>
     </message>
@@ -2208,6 +2232,10 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
         <translation>파일 %1개를 원래 위치로 되돌립니다. 계속하시겠습니까?</translation>
     </message>
     <message>
+        <source>将再次移除 %1 个文件（%2）。是否继续？</source>
+        <translation>파일 %1개를 다시 제거합니다(%2). 계속하시겠습니까?</translation>
+    </message>
+    <message>
         <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
         <translation>이 정리가 백업 폴더에 남긴 파일(%1)을 영구 삭제합니다. 백업에서 복원할 수 없게 됩니다. 계속하시겠습니까?</translation>
     </message>
@@ -2266,6 +2294,10 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     <message>
         <source>撤销清理</source>
         <translation>정리 취소</translation>
+    </message>
+    <message>
+        <source>重新清理</source>
+        <translation>다시 정리</translation>
     </message>
     <message>
         <source>文件仍在回收站中，可从那里恢复: %1</source>
@@ -2354,6 +2386,10 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
         <translation>되돌릴 수 있는 파일이 없습니다.</translation>
     </message>
     <message>
+        <source>没有可以再次移除的文件。</source>
+        <translation>다시 제거할 수 있는 파일이 없습니다.</translation>
+    </message>
+    <message>
         <source>没有更早的记录。</source>
         <translation>더 오래된 기록이 없습니다.</translation>
     </message>
@@ -2384,6 +2420,10 @@ raw, cr2, nef는 항상 스캔합니다. '포함' 목록이 비어 있을 때만
     <message>
         <source>移入回收站</source>
         <translation>휴지통으로 이동</translation>
+    </message>
+    <message>
+        <source>删除空文件夹</source>
+        <translation>빈 폴더 삭제</translation>
     </message>
     <message>
         <source>移动到文件夹</source>
@@ -2514,6 +2554,26 @@ GPS: %1, %2</translation>
     <message>
         <source>程序启动</source>
         <translation>프로그램 시작</translation>
+    </message>
+    <message>
+        <source>扫描开始</source>
+        <translation>스캔 시작</translation>
+    </message>
+    <message>
+        <source>备份已恢复</source>
+        <translation>백업 복원</translation>
+    </message>
+    <message>
+        <source>要移除的空文件夹</source>
+        <translation>제거할 빈 폴더</translation>
+    </message>
+    <message>
+        <source>空文件夹已移除</source>
+        <translation>빈 폴더 제거</translation>
+    </message>
+    <message>
+        <source>程序退出</source>
+        <translation>프로그램 종료</translation>
     </message>
     <message>
         <source>扫描完成</source>

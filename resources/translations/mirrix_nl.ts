@@ -316,6 +316,10 @@
         <translation>Verwijderen mislukt: %1</translation>
     </message>
     <message>
+        <source>文件夹已不为空，或不允许删除: %1</source>
+        <translation>Map is niet meer leeg of mag niet worden verwijderd: %1</translation>
+    </message>
+    <message>
         <source>无法移动: %1</source>
         <translation>Verplaatsen mislukt: %1</translation>
     </message>
@@ -1304,6 +1308,14 @@ raw, cr2 en nef worden altijd gescand. Geldt alleen zolang de lijst ‘Opgenomen
         <translation>‘Copy’, ‘(2)’ enz. in bestandsnamen negeren</translation>
     </message>
     <message>
+        <source>包括其他语言</source>
+        <translation>ook in andere talen</translation>
+    </message>
+    <message>
+        <source>也忽略其他语言的系统和文件管理器给副本起的名称，例如“- Kopie”、“(otra copia)”</source>
+        <translation>Negeert ook wat systemen en bestandsbeheerders in andere talen aan de namen van kopieën toevoegen, zoals ‘- Kopie’ of ‘(otra copia)’</translation>
+    </message>
+    <message>
         <source>相同文件大小</source>
         <translation>Zelfde grootte</translation>
     </message>
@@ -1696,6 +1708,10 @@ Scan opnieuw.</translation>
     <message>
         <source>已恢复 %1 个文件。</source>
         <translation>Teruggezette bestanden: %1.</translation>
+    </message>
+    <message>
+        <source>已再次移除 %1 个文件。</source>
+        <translation>Opnieuw verwijderde bestanden: %1.</translation>
     </message>
     <message>
         <source>失败</source>
@@ -2112,6 +2128,14 @@ Bestanden die niet teruggeplaatst kunnen worden (%1):
 </translation>
     </message>
     <message>
+        <source>
+无法再次移除的文件（%1 个）：
+</source>
+        <translation>
+Bestanden die niet opnieuw verwijderd kunnen worden (%1):
+</translation>
+    </message>
+    <message>
         <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
         <translation>Bestanden die niet worden verwijderd: %1 (%2). Koppelingen worden alleen gemaakt waar het pad vrij is. Maak eerst een back-up om de bestanden door koppelingen te vervangen.</translation>
     </message>
@@ -2208,6 +2232,10 @@ Bestanden die niet teruggeplaatst kunnen worden (%1):
         <translation>Bestanden terugplaatsen: %1. Doorgaan?</translation>
     </message>
     <message>
+        <source>将再次移除 %1 个文件（%2）。是否继续？</source>
+        <translation>Bestanden opnieuw verwijderen: %1 (%2). Doorgaan?</translation>
+    </message>
+    <message>
         <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
         <translation>De bestanden van deze opruiming in de back-upmap (%1) worden definitief verwijderd en kunnen daar niet meer uit worden teruggezet. Doorgaan?</translation>
     </message>
@@ -2266,6 +2294,10 @@ Bestanden die niet teruggeplaatst kunnen worden (%1):
     <message>
         <source>撤销清理</source>
         <translation>Opruiming ongedaan maken</translation>
+    </message>
+    <message>
+        <source>重新清理</source>
+        <translation>Opnieuw opruimen</translation>
     </message>
     <message>
         <source>文件仍在回收站中，可从那里恢复: %1</source>
@@ -2354,6 +2386,10 @@ Bestanden die niet teruggeplaatst kunnen worden (%1):
         <translation>Er zijn geen bestanden om terug te plaatsen.</translation>
     </message>
     <message>
+        <source>没有可以再次移除的文件。</source>
+        <translation>Er zijn geen bestanden om opnieuw te verwijderen.</translation>
+    </message>
+    <message>
         <source>没有更早的记录。</source>
         <translation>Er zijn geen oudere vermeldingen.</translation>
     </message>
@@ -2384,6 +2420,10 @@ Bestanden die niet teruggeplaatst kunnen worden (%1):
     <message>
         <source>移入回收站</source>
         <translation>Naar prullenbak</translation>
+    </message>
+    <message>
+        <source>删除空文件夹</source>
+        <translation>Lege mappen verwijderen</translation>
     </message>
     <message>
         <source>移动到文件夹</source>
@@ -2514,6 +2554,26 @@ GPS: %1, %2</translation>
     <message>
         <source>程序启动</source>
         <translation>Programma gestart</translation>
+    </message>
+    <message>
+        <source>扫描开始</source>
+        <translation>Scan gestart</translation>
+    </message>
+    <message>
+        <source>备份已恢复</source>
+        <translation>Back-up teruggezet</translation>
+    </message>
+    <message>
+        <source>要移除的空文件夹</source>
+        <translation>Te verwijderen lege mappen</translation>
+    </message>
+    <message>
+        <source>空文件夹已移除</source>
+        <translation>Lege mappen verwijderd</translation>
+    </message>
+    <message>
+        <source>程序退出</source>
+        <translation>Programma afgesloten</translation>
     </message>
     <message>
         <source>扫描完成</source>

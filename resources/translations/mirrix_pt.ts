@@ -316,6 +316,10 @@
         <translation>Não foi possível excluir: %1</translation>
     </message>
     <message>
+        <source>文件夹已不为空，或不允许删除: %1</source>
+        <translation>A pasta não está mais vazia ou não pode ser excluída: %1</translation>
+    </message>
+    <message>
         <source>无法移动: %1</source>
         <translation>Não foi possível mover: %1</translation>
     </message>
@@ -1304,6 +1308,14 @@ raw, cr2 e nef são sempre verificados. Só tem efeito se a lista “Incluído�
         <translation>Ignorar “Copy”, “(2)” etc. nos nomes de arquivo</translation>
     </message>
     <message>
+        <source>包括其他语言</source>
+        <translation>também em outros idiomas</translation>
+    </message>
+    <message>
+        <source>也忽略其他语言的系统和文件管理器给副本起的名称，例如“- Kopie”、“(otra copia)”</source>
+        <translation>Ignora também o que sistemas e gerenciadores de arquivos em outros idiomas acrescentam ao nome das cópias, como “- Kopie” ou “(otra copia)”</translation>
+    </message>
+    <message>
         <source>相同文件大小</source>
         <translation>Mesmo tamanho de arquivo</translation>
     </message>
@@ -1696,6 +1708,10 @@ Faça uma nova verificação para atualizar os resultados.</translation>
     <message>
         <source>已恢复 %1 个文件。</source>
         <translation>Arquivos restaurados: %1.</translation>
+    </message>
+    <message>
+        <source>已再次移除 %1 个文件。</source>
+        <translation>Arquivos removidos novamente: %1.</translation>
     </message>
     <message>
         <source>失败</source>
@@ -2112,6 +2128,14 @@ Arquivos que não podem ser devolvidos ao lugar (%1):
 </translation>
     </message>
     <message>
+        <source>
+无法再次移除的文件（%1 个）：
+</source>
+        <translation>
+Arquivos que não podem ser removidos novamente (%1):
+</translation>
+    </message>
+    <message>
         <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
         <translation>Arquivos que não serão removidos: %1 (%2). Links só são criados onde o caminho está livre. Para trocar os arquivos por links, faça backup antes.</translation>
     </message>
@@ -2208,6 +2232,10 @@ Arquivos que não podem ser devolvidos ao lugar (%1):
         <translation>Arquivos a devolver ao lugar: %1. Continuar?</translation>
     </message>
     <message>
+        <source>将再次移除 %1 个文件（%2）。是否继续？</source>
+        <translation>Arquivos a remover novamente: %1 (%2). Continuar?</translation>
+    </message>
+    <message>
         <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
         <translation>Os arquivos desta limpeza na pasta de backup (%1) serão excluídos permanentemente e não poderão mais ser restaurados. Continuar?</translation>
     </message>
@@ -2266,6 +2294,10 @@ Arquivos que não podem ser devolvidos ao lugar (%1):
     <message>
         <source>撤销清理</source>
         <translation>Desfazer limpeza</translation>
+    </message>
+    <message>
+        <source>重新清理</source>
+        <translation>Refazer limpeza</translation>
     </message>
     <message>
         <source>文件仍在回收站中，可从那里恢复: %1</source>
@@ -2354,6 +2386,10 @@ Arquivos que não podem ser devolvidos ao lugar (%1):
         <translation>Não há arquivos a devolver ao lugar.</translation>
     </message>
     <message>
+        <source>没有可以再次移除的文件。</source>
+        <translation>Não há arquivos a remover novamente.</translation>
+    </message>
+    <message>
         <source>没有更早的记录。</source>
         <translation>Não há registros mais antigos.</translation>
     </message>
@@ -2384,6 +2420,10 @@ Arquivos que não podem ser devolvidos ao lugar (%1):
     <message>
         <source>移入回收站</source>
         <translation>Movidos para a Lixeira</translation>
+    </message>
+    <message>
+        <source>删除空文件夹</source>
+        <translation>Excluir pastas vazias</translation>
     </message>
     <message>
         <source>移动到文件夹</source>
@@ -2514,6 +2554,26 @@ GPS: %1, %2</translation>
     <message>
         <source>程序启动</source>
         <translation>Programa iniciado</translation>
+    </message>
+    <message>
+        <source>扫描开始</source>
+        <translation>Verificação iniciada</translation>
+    </message>
+    <message>
+        <source>备份已恢复</source>
+        <translation>Backup restaurado</translation>
+    </message>
+    <message>
+        <source>要移除的空文件夹</source>
+        <translation>Pastas vazias a remover</translation>
+    </message>
+    <message>
+        <source>空文件夹已移除</source>
+        <translation>Pastas vazias removidas</translation>
+    </message>
+    <message>
+        <source>程序退出</source>
+        <translation>Programa encerrado</translation>
     </message>
     <message>
         <source>扫描完成</source>

@@ -316,6 +316,10 @@
         <translation>無法刪除：%1</translation>
     </message>
     <message>
+        <source>文件夹已不为空，或不允许删除: %1</source>
+        <translation>資料夾已不為空，或不允許刪除：%1</translation>
+    </message>
+    <message>
         <source>无法移动: %1</source>
         <translation>無法移動：%1</translation>
     </message>
@@ -1304,6 +1308,14 @@ raw、cr2、nef 一律會掃描。僅在「已包含」清單為空時有效。<
         <translation>忽略檔名結尾的 Copy、副本、(2) 等字樣</translation>
     </message>
     <message>
+        <source>包括其他语言</source>
+        <translation>包括其他語言</translation>
+    </message>
+    <message>
+        <source>也忽略其他语言的系统和文件管理器给副本起的名称，例如“- Kopie”、“(otra copia)”</source>
+        <translation>也忽略其他語言的系統和檔案管理員為副本加上的字樣，例如「- Kopie」、「(otra copia)」</translation>
+    </message>
+    <message>
         <source>相同文件大小</source>
         <translation>相同檔案大小</translation>
     </message>
@@ -1696,6 +1708,10 @@ raw、cr2、nef 一律會掃描。僅在「已包含」清單為空時有效。<
     <message>
         <source>已恢复 %1 个文件。</source>
         <translation>已還原 %1 個檔案。</translation>
+    </message>
+    <message>
+        <source>已再次移除 %1 个文件。</source>
+        <translation>已再次移除 %1 個檔案。</translation>
     </message>
     <message>
         <source>失败</source>
@@ -2112,6 +2128,14 @@ raw、cr2、nef 一律會掃描。僅在「已包含」清單為空時有效。<
 </translation>
     </message>
     <message>
+        <source>
+无法再次移除的文件（%1 个）：
+</source>
+        <translation>
+無法再次移除的檔案（%1 個）：
+</translation>
+    </message>
+    <message>
         <source>%1 个文件（%2）不会被移除：只在路径已空出时创建链接。要用链接代替文件，请先备份。</source>
         <translation>%1 個檔案（%2）不會被移除：只在路徑已空出時建立連結。要以連結取代檔案，請先備份。</translation>
     </message>
@@ -2208,6 +2232,10 @@ raw、cr2、nef 一律會掃描。僅在「已包含」清單為空時有效。<
         <translation>將把 %1 個檔案放回原處。是否繼續？</translation>
     </message>
     <message>
+        <source>将再次移除 %1 个文件（%2）。是否继续？</source>
+        <translation>將再次移除 %1 個檔案（%2）。是否繼續？</translation>
+    </message>
+    <message>
         <source>将永久删除此次清理留在备份文件夹中的文件（%1），之后无法从备份恢复。是否继续？</source>
         <translation>將永久刪除此次清理留在備份資料夾中的檔案（%1），之後無法從備份還原。是否繼續？</translation>
     </message>
@@ -2266,6 +2294,10 @@ raw、cr2、nef 一律會掃描。僅在「已包含」清單為空時有效。<
     <message>
         <source>撤销清理</source>
         <translation>復原清理</translation>
+    </message>
+    <message>
+        <source>重新清理</source>
+        <translation>重新清理</translation>
     </message>
     <message>
         <source>文件仍在回收站中，可从那里恢复: %1</source>
@@ -2354,6 +2386,10 @@ raw、cr2、nef 一律會掃描。僅在「已包含」清單為空時有效。<
         <translation>沒有可以放回的檔案。</translation>
     </message>
     <message>
+        <source>没有可以再次移除的文件。</source>
+        <translation>沒有可以再次移除的檔案。</translation>
+    </message>
+    <message>
         <source>没有更早的记录。</source>
         <translation>沒有更早的記錄。</translation>
     </message>
@@ -2384,6 +2420,10 @@ raw、cr2、nef 一律會掃描。僅在「已包含」清單為空時有效。<
     <message>
         <source>移入回收站</source>
         <translation>移至資源回收筒</translation>
+    </message>
+    <message>
+        <source>删除空文件夹</source>
+        <translation>刪除空資料夾</translation>
     </message>
     <message>
         <source>移动到文件夹</source>
@@ -2514,6 +2554,26 @@ GPS：%1, %2</translation>
     <message>
         <source>程序启动</source>
         <translation>程式啟動</translation>
+    </message>
+    <message>
+        <source>扫描开始</source>
+        <translation>掃描開始</translation>
+    </message>
+    <message>
+        <source>备份已恢复</source>
+        <translation>備份已還原</translation>
+    </message>
+    <message>
+        <source>要移除的空文件夹</source>
+        <translation>要移除的空資料夾</translation>
+    </message>
+    <message>
+        <source>空文件夹已移除</source>
+        <translation>空資料夾已移除</translation>
+    </message>
+    <message>
+        <source>程序退出</source>
+        <translation>程式結束</translation>
     </message>
     <message>
         <source>扫描完成</source>

@@ -247,6 +247,17 @@ void FileOperationsTest::acrossVolumes()
         QVERIFY(treeBelow(m_tree->path()).isEmpty());
         QVERIFY(QFile::remove(other->filePath(name)));
     }
+    const QString readOnly = m_tree->write(u"read-only"_s, "content"); // where it cannot be removed, no copy is left
+    QFile::setPermissions(readOnly, QFile::ReadOwner | QFile::ReadUser);
+    const DiskTree expected = treeBelow(m_tree->path());
+    const bool isMoved = moveToFolder(readOnly, other->path());
+    QCOMPARE(isMoved, deletesReadOnly());
+    QCOMPARE(treeBelow(isMoved ? other->path() : m_tree->path()), expected);
+    QVERIFY(treeBelow(isMoved ? m_tree->path() : other->path()).isEmpty());
+    for (const QString &path : {readOnly, other->filePath(u"read-only"_s)}) {
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
+        QFile::remove(path);
+    }
     QString error;
     const QString link = other->filePath(u"link"_s);
     QVERIFY(!createHardLink(link, m_tree->write(u"target"_s, "x"), &error));
@@ -288,7 +299,7 @@ void FileOperationsTest::volumeWithoutAttributes()
 {
     MIRRIX_IN_SCENE("MIRRIX_NO_ATTRIBUTES",
                     "MIRRIX_NO_ATTRIBUTES=1 ASAN_OPTIONS=detect_leaks=0 exec strace -f -qq -o \"$0/trace\" "
-                    "-e inject=fchmod,fchown,utimensat,fsetxattr,renameat2,link:error=ENOSYS \"$@\"");
+                    "-e inject=fchmod,fchown,utimensat,fsetxattr,renameat2,linkat:error=ENOSYS \"$@\"");
     const auto other = folderOnOtherVolume(m_tree->path());
     if (!other)
         QSKIP("no second volume");

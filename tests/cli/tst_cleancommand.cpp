@@ -5,9 +5,11 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QScopeGuard>
 #include <QTest>
 
 #include <memory>
+#include <tuple>
 
 using namespace MirrixTest;
 using namespace Qt::StringLiterals;
@@ -21,20 +23,27 @@ private slots:
     void onlyTellsWithoutApply();
     void methods_data();
     void methods();
+    void longPaths_data();
+    void longPaths();
     void backUpAndRestoreAll();
     void restoreChosen();
     void emptyFolders();
+    void emptyFiles_data();
+    void emptyFiles();
     void failuresAreNamed();
     void interrupted();
     void unreadableIndexStays();
     void twoAtOnce();
     void rememberedDigestsDestroyNothing_data();
     void rememberedDigestsDestroyNothing();
+    void collidingDigestsMoveNothing_data();
+    void collidingDigestsMoveNothing();
     void twoPathsToOneFolder_data();
     void twoPathsToOneFolder();
     void keptFileIsOnTheDiskFirst();
     void onlyCopiesInPlaceAreKept_data();
     void onlyCopiesInPlaceAreKept();
+    void exclusionThroughLink_data();
     void exclusionThroughLink();
     void linksNeedEqualAccess_data();
     void linksNeedEqualAccess();
@@ -68,6 +77,17 @@ private:
         done = Program::ended(process);
         return process.error() != QProcess::FailedToStart;
     }
+    /// Times and permissions of folders in "src".
+    [[nodiscard]] QByteArray folderMarks(const QStringList &folders) const
+    {
+        QByteArray marks;
+        for (const QString &folder : folders) {
+            const std::filesystem::path path = exactNative(m_tree->path(u"src/"_s + folder));
+            marks += QByteArray::number(qint64(std::filesystem::last_write_time(path).time_since_epoch().count())) +
+                     ' ' + QByteArray::number(static_cast<int>(std::filesystem::status(path).permissions()), 8) + '\n';
+        }
+        return marks;
+    }
     [[nodiscard]] DiskTree source() const { return treeBelow(m_tree->path(u"src"_s)); }
     /// The log's records behind `skipped` ones, as "action: detail".
     [[nodiscard]] QStringList logged(int skipped = 0) const
@@ -77,6 +97,16 @@ private:
         for (const QJsonValue &item : items)
             lines.append(item[u"action"_s].toString() + u": "_s + item[u"detail"_s].toString());
         return lines.mid(skipped);
+    }
+
+    /// What the lines of Python print when they run in the folder "src"; null when they fail.
+    [[nodiscard]] QByteArray script(const QByteArray &lines) const
+    {
+        QProcess process;
+        process.setWorkingDirectory(m_tree->path(u"src"_s));
+        process.start(u"python3"_s, {u"-c"_s, QString::fromLatin1(lines)});
+        const bool isDone = process.waitForFinished() && process.exitCode() == 0;
+        return isDone ? process.readAll() + '.' : QByteArray();
     }
 
     std::unique_ptr<TempTree> m_tree;
@@ -148,8 +178,63 @@ void CleanCommandTest::methods()
     QCOMPARE(logged(),
              (QStringList{u"scan_start: "_s + m_tree->path(u"src"_s), u"scan_done: groups=1 wasted=14 candidates=4"_s,
                           u"auto_keep: rule=1 count=2"_s, record}));
+    const QStringList said = QString::fromUtf8(run({u"log"_s}).output).split(u'\n', Qt::SkipEmptyParts);
+    QCOMPARE(said.size(), 4);
+    QVERIFY2(said[1].endsWith(u"  scan finished: 1 group, 14 B reclaimable"_s), qPrintable(said[1]));
+    QVERIFY2(said[2].endsWith(u"  surplus files chosen: 2 files, keeping the oldest"_s), qPrintable(said[2]));
+    QVERIFY2(said[3].endsWith(u": 2 files"_s) && !said[3].contains(u"_batch"_s), qPrintable(said[3]));
     const ProgramRun again = clean(method, more);
     QCOMPARE(again.output, QByteArray("0 of 0 files processed (" + method.toLatin1() + ")\n"));
+}
+
+void CleanCommandTest::longPaths_data()
+{
+    QTest::addColumn<QByteArray>("cleaned");
+    const QByteArray kept = "kept 100640 1000000007 ";
+    for (const char *method : {"delete", "recycle", "move", "backup"})
+        QTest::newRow(method) << kept + "1 deep\n.";
+    QTest::newRow("symlink") << QByteArray("copy leads to kept\n" + kept + "1 deep\n.");
+    QTest::newRow("hardlink") << "copy" + kept.mid(4) + "2 deep\n" + kept + "2 deep\n.";
+}
+
+/// Files whose path is longer than what the system takes in one call.
+void CleanCommandTest::longPaths()
+{
+    QFETCH(QByteArray, cleaned);
+    const QByteArray look = "import os\n"
+                            "while os.path.isdir('d' * 200): os.chdir('d' * 200)\n"
+                            "for name in sorted(os.listdir()):\n"
+                            "    info = os.lstat(name)\n"
+                            "    if os.path.islink(name): print(name, 'leads to', os.readlink(name))\n"
+                            "    else: print(name, '%o %d' % (info.st_mode, info.st_mtime_ns), info.st_nlink, "
+                            "open(name).read())\n";
+    const auto removal = qScopeGuard([&] { QProcess::execute(u"rm"_s, {u"-rf"_s, m_tree->path(u"src"_s)}); });
+    const QByteArray before = script("import os\n"
+                                     "for level in range(26):\n"
+                                     "    os.mkdir('d' * 200)\n"
+                                     "    os.chdir('d' * 200)\n"
+                                     "for name in ('kept', 'copy'):\n"
+                                     "    open(name, 'w').write('deep')\n"
+                                     "    os.chmod(name, 0o640)\n"
+                                     "    os.utime(name, ns=(1, 1000000007 if name == 'kept' else 2000000007))\n" +
+                                     look.mid(look.indexOf("for")));
+    if (before.isNull())
+        QSKIP("no such paths here");
+    const QString method = QString::fromLatin1(QTest::currentDataTag());
+    const bool takesTarget = method == u"move"_s || method == u"backup"_s;
+    const ProgramRun done =
+        clean(method, QStringList(u"--apply"_s) +
+                          (takesTarget ? QStringList{u"--target"_s, m_tree->path(u"away"_s)} : QStringList()));
+    QCOMPARE(done.errors, QByteArray());
+    QCOMPARE(script(look), cleaned);
+    const ProgramRun undone = run({u"undo"_s, u"last"_s, u"--apply"_s});
+    QCOMPARE(undone.errors, QByteArray());
+    QCOMPARE(script(look), before);
+    if (method != u"backup"_s)
+        return;
+    QCOMPARE(clean(method, {u"--apply"_s}).status, 0);
+    QCOMPARE(run({u"restore"_s, u"--all"_s}).output, QByteArray("3 of 3 files restored\n"));
+    QCOMPARE(script(look), before);
 }
 
 void CleanCommandTest::backUpAndRestoreAll()
@@ -201,6 +286,9 @@ void CleanCommandTest::emptyFolders()
              u"remove full/e\nremove e/f/g\nremove e/f\nremove e\n4 empty folders. Nothing was changed; run again "
              "with --apply to do this.\n"_s);
     QVERIFY(QFileInfo::exists(folder + u"e/f/g"_s));
+    std::filesystem::permissions(exactNative(folder + u"e/f"_s), std::filesystem::perms(0710));
+    const QStringList paths = {u"full/e"_s, u"e/f/g"_s, u"e/f"_s, u"e"_s};
+    const QByteArray before = folderMarks(paths);
     const ProgramRun done = run(arguments + QStringList(u"--apply"_s));
     QCOMPARE(done.output, "4 of 4 empty folders removed\n");
     QCOMPARE(done.status, 0);
@@ -209,11 +297,53 @@ void CleanCommandTest::emptyFolders()
     for (const QString &kept : {u"full/.hidden"_s, u"repo.git/refs"_s, u".svn"_s, u"out"_s, u"other"_s})
         QVERIFY2(QFileInfo::exists(folder + kept), qPrintable(kept));
     QVERIFY(!hasLink || QFileInfo(folder + u"linked/link"_s).isSymLink());
-    QStringList paths = {u"full/e"_s, u"e/f/g"_s, u"e/f"_s, u"e"_s};
     QCOMPARE(logged(), QStringList({u"empty_folders: "_s + folder + paths.join(u'|' + folder),
                                     u"empty_folders_removed: count=4 of=4"_s}));
+    QVERIFY(run({u"history"_s}).output.contains(" empty-folders            4/4 files"));
+    const ProgramRun undone = run({u"undo"_s, u"last"_s, u"--apply"_s});
+    QVERIFY(undone.output.startsWith("4 of 4 files undone"));
+    QCOMPARE(undone.errors, QByteArray());
+    QCOMPARE(folderMarks(paths), before);
+    const QString undo = QString::fromLatin1(undone.output.mid(undone.output.indexOf("(run ") + 5, 20));
+    QVERIFY(run({u"undo"_s, undo, u"--apply"_s}).output.startsWith("4 of 4 files undone"));
+    QVERIFY(!QFileInfo::exists(folder + u"e"_s) && !QFileInfo::exists(folder + u"full/e"_s));
     QCOMPARE(run({u"clean"_s, u"--empty-folders"_s, u"--keep"_s, u"newest"_s, folder}).errors,
              usageErrorText(u"--keep cannot be used with --empty-folders"_s));
+}
+
+void CleanCommandTest::emptyFiles_data()
+{
+    QTest::addColumn<QString>("method");
+    for (const char *method : {"delete", "recycle", "move", "backup"})
+        QTest::newRow(method) << QString::fromLatin1(method);
+}
+
+void CleanCommandTest::emptyFiles()
+{
+    QFETCH(QString, method);
+    for (const QString &name : {u"src/none"_s, u"src/deep/nothing"_s, u"src/.git/none"_s})
+        m_tree->write(name, {});
+    m_tree->setModified(u"src/none"_s, 1234567890000);
+    const DiskTree before = source();
+    QStringList arguments = {u"clean"_s, u"--empty-files"_s, u"--method"_s, method};
+    if (method == u"move"_s || method == u"backup"_s)
+        arguments += {u"--target"_s, m_tree->path(u"away"_s)};
+    arguments.append(m_tree->path(u"src"_s));
+    QVERIFY(run(arguments).output.contains("\n2 files, 0 B"));
+    QCOMPARE(source(), before);
+    const ProgramRun done = run(arguments + QStringList(u"--apply"_s));
+    QCOMPARE(done.errors, QByteArray());
+    QVERIFY(done.output.startsWith("2 of 2 files processed"));
+    DiskTree left = before;
+    left.removeIf([](const auto &file) { return file.value().startsWith(" @") && !file.key().startsWith(u".git/"_s); });
+    QCOMPARE(left.size(), before.size() - 2);
+    QCOMPARE(source(), left);
+    const ProgramRun undone = run({u"undo"_s, u"last"_s, u"--apply"_s});
+    QCOMPARE(undone.errors, QByteArray());
+    QCOMPARE(source(), before);
+    const QString undo = QString::fromLatin1(undone.output.mid(undone.output.indexOf("(run ") + 5, 20));
+    QVERIFY(run({u"undo"_s, undo, u"--apply"_s}).output.startsWith("2 of 2 files undone"));
+    QCOMPARE(source(), left);
 }
 
 void CleanCommandTest::failuresAreNamed()
@@ -325,6 +455,40 @@ void CleanCommandTest::rememberedDigestsDestroyNothing()
     QCOMPARE(source(), expected);
 }
 
+void CleanCommandTest::collidingDigestsMoveNothing_data()
+{
+    QTest::addColumn<QString>("method");
+    for (const char *method : {"recycle", "delete", "move", "symlink", "hardlink", "backup"})
+        QTest::newRow(method) << QString::fromLatin1(method);
+}
+
+/// Two contents of one MD5, published by Wang and others in 2004, are a group to the scan and two files to the cleaner.
+void CleanCommandTest::collidingDigestsMoveNothing()
+{
+    QByteArray content = QByteArray::fromHex("d131dd02c5e6eec4693d9a0698aff95c2fcab58712467eab4004583eb8fb7f89"
+                                             "55ad340609f4b30283e488832571415a085125e8f7cdc99fd91dbdf280373c5b"
+                                             "d8823e3156348f5bae6dacd436c919c6dd53e2b487da03fd02396306d248cda0"
+                                             "e99f33420f577ee8ce54b67080a80d1ec69821bcb6a8839396f9652b6ff72a70");
+    m_tree->write(u"src/collision/one"_s, content);
+    for (const int place : {19, 45, 59, 83, 109, 123})
+        content[place] = static_cast<char>(content[place] ^ 0x80);
+    m_tree->write(u"src/collision/two"_s, content);
+    QFETCH(QString, method);
+    // Without the cache small files have no quick digests, which begin with the size and so do not collide.
+    QStringList arguments = {u"clean"_s,    u"--no-cache"_s, u"--hash"_s,
+                             u"md5"_s,      u"--keep"_s,     u"newest"_s,
+                             u"--method"_s, method,          m_tree->path(u"src/collision"_s)};
+    if (method == u"move"_s)
+        arguments += {u"--target"_s, m_tree->path(u"away"_s)};
+    const DiskTree before = source();
+    QVERIFY(run(arguments).output.contains("\n1 files, 128 B"));
+    const ProgramRun done = run(arguments + QStringList{u"--apply"_s});
+    QVERIFY2(done.output.startsWith("0 of 1 files processed"), done.output.constData());
+    QVERIFY2(done.errors.contains("Content differs from the file to keep"), done.errors.constData());
+    QCOMPARE(done.status, 1);
+    QCOMPARE(source(), before);
+}
+
 void CleanCommandTest::twoPathsToOneFolder_data()
 {
     QTest::addColumn<bool>("isCollapsed");
@@ -414,29 +578,53 @@ void CleanCommandTest::onlyCopiesInPlaceAreKept()
     }
 }
 
+void CleanCommandTest::exclusionThroughLink_data()
+{
+    QTest::addColumn<QString>("link"); // to what
+    QTest::addColumn<QString>("excluded");
+    QTest::newRow("the excluded folder") << u"src/deep"_s << u"%1/link"_s;
+    QTest::newRow("above, relative") << QString() << u"src/deep"_s;
+    QTest::newRow("above, absolute") << QString() << u"%1/link/src/deep"_s;
+}
+
 void CleanCommandTest::exclusionThroughLink()
 {
-    if (!m_tree->symbolicLink(u"src/deep"_s, u"link"_s))
+    QFETCH(QString, link);
+    QFETCH(QString, excluded);
+    if (!m_tree->symbolicLink(link, u"link"_s))
         QSKIP("no symbolic links");
-    QCOMPARE(clean(u"delete"_s, {u"--apply"_s, u"--exclude"_s, m_tree->path(u"link"_s)}).status, 0);
+    const QString folder = m_tree->path(link.isEmpty() ? u"link"_s : QString());
+    const ProgramRun done = m_program->run({u"clean"_s, u"--data-dir"_s, m_program->dataFolder(), u"--keep"_s,
+                                            u"oldest"_s, u"--method"_s, u"delete"_s, u"--apply"_s, u"--exclude"_s,
+                                            excluded.replace(u"%1"_s, m_tree->path()), folder + u"/src"_s},
+                                           folder);
+    QCOMPARE(done.status, 0);
     QCOMPARE(source().keys(), (QStringList{u"b"_s, u"deep/日本"_s, u"other"_s}));
 }
 
 void CleanCommandTest::linksNeedEqualAccess_data()
 {
     QTest::addColumn<QString>("method");
-    QTest::newRow("symbolic") << u"symlink"_s;
-    QTest::newRow("hard") << u"hardlink"_s;
+    QTest::addColumn<QStringList>("change"); // of the kept file
+    for (const char *method : {"symlink", "hardlink"}) {
+        QTest::addRow("%s, permissions", method) << QString::fromLatin1(method) << QStringList{u"chmod"_s, u"600"_s};
+        QTest::addRow("%s, owner", method) << QString::fromLatin1(method) << QStringList{u"chown"_s, u"65534"_s};
+        QTest::addRow("%s, group", method) << QString::fromLatin1(method) << QStringList{u"chgrp"_s, u"65534"_s};
+    }
 }
 
 /// A link from a private file to a public one, or the other way round, changes who may read.
 void CleanCommandTest::linksNeedEqualAccess()
 {
     QFETCH(QString, method);
-    const QString kept = m_tree->path(u"src/b"_s);
-    if (!QFile::setPermissions(kept, QFile::ReadOwner | QFile::WriteOwner) ||
-        QFileInfo(kept).permissions() == QFileInfo(m_tree->path(u"src/a"_s)).permissions())
-        QSKIP("no permissions here");
+    QFETCH(QStringList, change);
+    const auto access = [this](const char *name) {
+        const QFileInfo info(m_tree->path(QLatin1String(name)));
+        return std::tuple(info.permissions().toInt(), info.ownerId(), info.groupId());
+    };
+    QProcess::execute(change[0], {change[1], m_tree->path(u"src/b"_s)});
+    if (access("src/b") == access("src/a"))
+        QSKIP("the system does not let access differ here");
     const DiskTree before = source();
     const ProgramRun done = clean(method, {u"--apply"_s});
     QCOMPARE(done.status, 1);
@@ -453,6 +641,8 @@ void CleanCommandTest::targetHoldsTheFolder_data()
     for (const char *method : {"move", "backup", "symlink"}) {
         QTest::addRow("%s, the folder", method) << QString::fromLatin1(method) << u"src"_s;
         QTest::addRow("%s, its parent", method) << QString::fromLatin1(method) << QString();
+        QTest::addRow("%s, in other letters", method) << QString::fromLatin1(method) << u"SRC"_s;
+        QTest::addRow("%s, by a link", method) << QString::fromLatin1(method) << u"link"_s;
     }
 }
 
@@ -460,9 +650,13 @@ void CleanCommandTest::targetHoldsTheFolder()
 {
     QFETCH(QString, method);
     QFETCH(QString, target);
+    if (target == u"link" && !m_tree->symbolicLink(u"src"_s, target))
+        QSKIP("no symbolic links");
+    if (!QFileInfo::exists(m_tree->path(target)))
+        QSKIP("letter case matters here");
     const DiskTree before = source();
     const ProgramRun done = clean(method, {u"--apply"_s, u"--target"_s, m_tree->path(target)});
-    QCOMPARE(done.errors, usageErrorText(u"%1, where files are put away, is the scanned folder %2 or holds it"_s.arg(
+    QCOMPARE(done.errors, usageErrorText(u"the target folder %1 must not be the scanned folder %2 or contain it"_s.arg(
                               QDir::cleanPath(m_tree->path(target)), m_tree->path(u"src"_s))));
     QCOMPARE(done.status, 2);
     QCOMPARE(source(), before);
@@ -499,7 +693,8 @@ void CleanCommandTest::mistakes_data()
     row(u"clean --keep newest --method delete"_s, u"no folder to scan"_s);
     row(u"clean --keep newest --method move /a"_s, u"--method move needs --target DIR"_s);
     row(u"clean --keep newest --method delete --target /b /a"_s, u"--target cannot be used with --method delete"_s);
-    for (const QString &loose : {u"contentMatch=2"_s, u"searchMode=1"_s})
+    for (const QString &loose :
+         {u"contentMatch=2"_s, u"searchMode=1"_s, uR"(locations=[{"path":"/a","findKind":1}])"_s})
         row(u"clean --keep newest --method delete --set "_s + loose + u" /a"_s,
             u"clean acts on files of identical content only"_s);
     row(u"clean --keep newest --method delete --exclude /a/typo /a"_s,

@@ -1,10 +1,10 @@
 #include "cli/commandline.h"
 #include "cli/examples.h"
-#include "cli/shellcompletion.h"
 #include "tests/support/program.h"
 #include "tests/support/temptree.h"
 
 #include <QDir>
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -22,40 +22,23 @@ class ReferenceTest : public QObject
 private slots:
     void scanOptions();
     void files();
-    void completesInBash_data();
-    void completesInBash();
-    void completionOfEachShell();
+    void completes_data();
+    void completes();
+    void completesInPowerShell();
     void manualPages();
     void examplesRun_data();
     void examplesRun();
 
 private:
-    [[nodiscard]] ProgramRun shell(const QString &script, const QString &folder) const;
-
     Program m_program;
 };
-
-/// Runs a script in which mirrix-cli is the built program.
-ProgramRun ReferenceTest::shell(const QString &script, const QString &folder) const
-{
-    QProcess process;
-    m_program.prepare(process, {u"-c"_s, script});
-    QProcessEnvironment environment = process.processEnvironment();
-    const QString path = QCoreApplication::applicationDirPath() + u':' + environment.value(u"PATH"_s);
-    environment.insert(u"PATH"_s, path);
-    process.setProcessEnvironment(environment);
-    process.setWorkingDirectory(folder);
-    process.setProgram(u"bash"_s);
-    process.start();
-    return Program::ended(process);
-}
 
 void ReferenceTest::scanOptions()
 {
     QCOMPARE(m_program.run({u"options"_s, u"similarPercent"_s, u"roots"_s}).output,
-             "similarPercent = 90\n    a whole number of 32 bits, 1 to 100. Least share of equal sampled bytes of "
-             "similar contents, in percent.\n"
-             "roots = []\n    a list of texts. Folders to scan, including their subfolders.\n");
+             "similarPercent = 90\n    a 32-bit integer, 1 to 100. Minimum percentage of sampled bytes that must be "
+             "equal in similar contents.\n"
+             "roots = []\n    a list of strings. Folders to scan, including their subfolders.\n");
     const QJsonArray all =
         QJsonDocument::fromJson(m_program.run({u"options"_s, u"--format"_s, u"json"_s}).output).array();
     QVERIFY(all.size() > 60);
@@ -99,39 +82,60 @@ void ReferenceTest::files()
     QCOMPARE(facts[u"pictureHash"_s].toString().size(), 16);
 }
 
-void ReferenceTest::completesInBash_data()
+void ReferenceTest::completes_data()
 {
-    QTest::addColumn<QString>("words");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("command") << u"h"_s << u"history hash"_s;
-    QTest::newRow("option") << u"scan --max"_s << u"--max-size"_s;
-    QTest::newRow("choice") << u"clean --method s"_s << u"symlink"_s;
-    QTest::newRow("choices of the command") << u"log --format ''"_s << u"text json"_s;
-    QTest::newRow("modes") << u"scan --mode ''"_s << u"content similar-content rules images audio video"_s;
-    QTest::newRow("scan option") << u"scan --set simil"_s << u"similarPercent= similarNames="_s;
-    QTest::newRow("described option") << u"options similarP"_s << u"similarPercent"_s;
-    QTest::newRow("file") << u"scan --output x"_s << QString();
-}
-
-void ReferenceTest::completesInBash()
-{
-    QFETCH(QString, words);
-    if (QStandardPaths::findExecutable(u"bash"_s).isEmpty())
-        QSKIP("no bash");
-    const QString script = u"eval \"$(mirrix-cli completion bash)\"; COMP_WORDS=(mirrix-cli %1); "
-                           "COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); _mirrix_cli 2>/dev/null; echo \"${COMPREPLY[*]}\""_s;
-    const ProgramRun run = shell(script.arg(words), QDir::tempPath());
-    QCOMPARE(run.errors, "");
-    QTEST(QString::fromUtf8(run.output).trimmed(), "expected");
-}
-
-void ReferenceTest::completionOfEachShell()
-{
-    for (const QString &name : MirrixCli::completionShells()) {
-        const QByteArray script = m_program.run({u"completion"_s, name}).output;
-        for (const char *word : {"restore", "similar-content", "min-size", "imageMaxDistance="})
-            QVERIFY2(script.contains(word), qPrintable(name + u' ' + QLatin1String(word)));
+    QTest::addColumn<QString>("shellName");
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QStringList>("expected");
+    const QList<std::pair<QString, QStringList>> rows = {
+        {u"h"_s, {u"hash"_s, u"history"_s}},
+        {u"scan --max"_s, {u"--max-size"_s}},
+        {u"clean --method s"_s, {u"symlink"_s}},
+        {u"log --format "_s, {u"json"_s, u"text"_s}},
+        {u"scan --sort="_s, {u"modified"_s, u"path"_s, u"size"_s, u"waste"_s}},
+        {u"scan --set simil"_s, {u"similarNames="_s, u"similarPercent="_s}},
+        {u"options similarP"_s, {u"similarPercent"_s}},
+        {u"scan --output a"_s, {u"aFile"_s}},
+        {u"scan "_s, {u"aFile"_s, u"clean"_s}},
+        {u"scan clean --meth"_s, {}}, // the folder, not the command
+    };
+    for (const QString &name : {u"bash"_s, u"zsh"_s, u"fish"_s}) {
+        for (const auto &[line, expected] : rows)
+            QTest::newRow(qPrintable(name + u": "_s + line)) << name << u"mirrix-cli "_s + line << expected;
     }
+}
+
+void ReferenceTest::completes()
+{
+    QFETCH(QString, shellName);
+    QFETCH(QString, line);
+    if (QStandardPaths::findExecutable(shellName).isEmpty() || QStandardPaths::findExecutable(u"bash"_s).isEmpty())
+        QSKIP("this shell is not installed");
+    const TempTree scripts;
+    const QHash<QString, QString> nameOf = {
+        {u"bash"_s, u"mirrix-cli"_s}, {u"zsh"_s, u"_mirrix-cli"_s}, {u"fish"_s, u"mirrix-cli.fish"_s}};
+    scripts.write(nameOf[shellName], m_program.run({u"completion"_s, shellName}).output);
+    const QString driver = scripts.write(u"driver"_s, testData(u"cli/completions."_s + shellName));
+    const TempTree tree;
+    tree.write(u"aFile"_s, {});
+    tree.makeFolder(u"clean"_s);
+    const ProgramRun run =
+        m_program.runInShell(u"%1 '%2' '%3' '%4'"_s.arg(shellName, driver, scripts.path(), line), tree.path());
+    QCOMPARE(run.errors, "");
+    QStringList offered = QString::fromUtf8(run.output).split(u'\n', Qt::SkipEmptyParts);
+    for (QString &word : offered)
+        word.remove(u'/');
+    offered.sort();
+    offered.removeDuplicates();
+    QTEST(offered, "expected");
+}
+
+void ReferenceTest::completesInPowerShell()
+{
+    const QByteArray script = m_program.run({u"completion"_s, u"powershell"_s}).output;
+    for (const char *line :
+         {"'scan --mode' = 'content similar-content", "'restore -' = '--target", "'scan --output' = ''"})
+        QVERIFY2(script.contains(line), line);
     QCOMPARE(m_program.run({u"completion"_s, u"csh"_s}).status, 2);
 }
 
@@ -152,7 +156,7 @@ void ReferenceTest::manualPages()
     if (QStandardPaths::findExecutable(u"groff"_s).isEmpty())
         QSKIP("nothing to check the pages with");
     for (const QString &page : pages)
-        QCOMPARE(shell(u"groff -man -ww -Tutf8 "_s + page + u" > /dev/null"_s, tree.path()).errors, "");
+        QCOMPARE(m_program.runInShell(u"groff -man -ww -Tutf8 "_s + page + u" > /dev/null"_s, tree.path()).errors, "");
 }
 
 void ReferenceTest::examplesRun_data()
@@ -174,7 +178,7 @@ void ReferenceTest::examplesRun()
          {u"Pictures/a.jpg"_s, u"Pictures/b.jpg"_s, u"Downloads/a.jpg"_s, u"Downloads/film.mkv"_s})
         tree.write(name, "abc");
     tree.makeFolder(u"Downloads/empty"_s);
-    const ProgramRun run = shell(u"set -o pipefail; "_s + line, tree.path());
+    const ProgramRun run = m_program.runInShell(u"set -o pipefail; "_s + line, tree.path());
     QCOMPARE(run.errors, "");
     QCOMPARE(run.status, 0);
 }

@@ -425,7 +425,7 @@ void ScanCommandTest::mistakes_data()
     row({u"--set"_s, u"minSize"_s, u"/a"_s}, u"--set takes NAME=VALUE, not \"minSize\""_s);
     row({u"--set"_s, u"=5"_s, u"/a"_s}, u"--set takes NAME=VALUE, not \"=5\""_s);
     row({u"--set"_s, u"noSuch=5"_s, u"/a"_s}, u"unknown option \"noSuch\""_s);
-    row({u"--set"_s, u"minSize=1k"_s, u"/a"_s}, u"option \"minSize\" needs a whole number, not \"1k\""_s);
+    row({u"--set"_s, u"minSize=1k"_s, u"/a"_s}, u"option \"minSize\" needs an integer, not \"1k\""_s);
     row({u"--set"_s, u"skipHidden=yes"_s, u"/a"_s}, u"option \"skipHidden\" needs true or false, not \"yes\""_s);
     row({u"--set"_s}, u"Missing value after '--set'."_s);
     row({u"--threads"_s, u"-1"_s, u"/a"_s}, threads.arg(u"-1"_s));
@@ -479,7 +479,7 @@ void ScanCommandTest::brokenOptionFiles_data()
     QTest::newRow("no JSON") << QByteArray("nonsense") << u"illegal value"_s;
     QTest::newRow("array") << QByteArray("[1]") << u"not a JSON object"_s;
     QTest::newRow("unknown option") << QByteArray(R"({"minsize": 1})") << u"unknown option \"minsize\""_s;
-    QTest::newRow("wrong type") << QByteArray(R"({"minSize": "1"})") << u"option \"minSize\" needs a whole number"_s;
+    QTest::newRow("wrong type") << QByteArray(R"({"minSize": "1"})") << u"option \"minSize\" needs an integer"_s;
 }
 
 void ScanCommandTest::brokenOptionFiles()
@@ -659,6 +659,19 @@ void ScanCommandTest::namesOfBytes()
     QVERIFY(report.readAll().contains("scanned"));
     const MirrixCore::FileStatus cache = MirrixCore::fileStatus(odd + u"dir/fingerprint_cache"_s);
     QVERIFY(cache.kind == MirrixCore::FileStatus::Kind::Folder);
+    // Records are not kept under such names, nor under another one.
+    QProcess refused;
+    refused.start(u"sh"_s, {u"-c"_s,
+                            u"cd \"$1\"; cli=$2; shift 2; folder=$(printf 'x\\351'); for command; do "
+                            "\"$cli\" $command \"$folder\" 2>&1 || echo status $?; done; ls"_s,
+                            u"sh"_s, m_tree->path(), Program::builtExecutable(),
+                            u"clean --keep newest --method backup --apply . --data-dir"_s, u"undo last --data-dir"_s,
+                            u"history --data-dir"_s, u"log --data-dir"_s, u"restore --data-dir"_s,
+                            u"clean --keep newest --method backup --apply . --target"_s, u"restore --target"_s});
+    const QByteArray answers = Program::ended(refused).output;
+    QCOMPARE(answers.count("x\xE9: its name is not UTF-8\n"), 7);
+    QCOMPARE(answers.count("status 2\n"), 7);
+    QVERIFY2(!answers.contains("\nx"), answers.constData());
 }
 
 void ScanCommandTest::remembersDigests()

@@ -449,6 +449,15 @@ private slots:
     /// whole entry for the file's very state are the only ones that are believed.
     void survivesHostileCache()
     {
+        // Done to an entry whose digests would make all files equal if they were believed.
+        const QList<std::pair<QByteArray, QByteArray>> edits = {{"\"size\":", "\"size\":1"},
+                                                                {"\"size\":", "\"size\":1e400,\"other\":"},
+                                                                {"\"size\":", "\"size\":[1],\"other\":"},
+                                                                {"\"mtimeMs\":", "\"mtimeMs\":-"},
+                                                                {"\"mtimeMs\":", "\"mtimeMs\":1e300,\"other\":"},
+                                                                {"\"md5\"", "\"blake3\""},
+                                                                {"a\"", "g\""},
+                                                                {"a\"", "\""}};
         const TempTree cache;
         const TempTree tree;
         setCacheRoot(cache.path());
@@ -457,43 +466,39 @@ private slots:
         QList<QStringList> pairs;
         for (int i = 0; i < 1000; i += 2) {
             pairs.append({QString::number(i), QString::number(i + 1)});
-            tree.writeAll(pairs.constLast().join(u' '), patternBytes(200 + i, quint32(i / 2)));
+            tree.writeAll(pairs.constLast().join(u' '), patternBytes(i < 200 ? 200 + i : largeBytes, quint32(i)));
         }
         QCOMPARE(foundIn(tree), sortedText(pairs));
+        const DiskTree before = treeBelow(tree.path());
         for (int i = 0; i < 1000; ++i) {
             const QString entry = cachePathFor(tree.path(QString::number(i)));
             QByteArray text = contentOf(entry);
-            QVERIFY(QFile::remove(entry));
-            switch (random.bounded(8)) {
-            case 0:
-                QVERIFY(QFile::link(outside, entry));
+            QVERIFY(!text.isEmpty() && QFile::remove(entry));
+            const int kind = random.bounded(16);
+            if ((kind == 8 && QFile::link(outside, entry)) || (kind == 9 && QFile::link(u"/dev/zero"_s, entry)) ||
+                (kind == 10 && QFile::link(entry, entry)) || (kind == 11 && QDir().mkpath(entry + u"/in"_s)) ||
+                (kind == 12 && i % 10 == 0 && makePipe(entry)) || // making one takes a process
+                (kind == 13 && tree.hardLink(u"outside"_s, QDir(tree.path()).relativeFilePath(entry))))
                 continue;
-            case 1:
-                if (i % 40 == 0 && makePipe(entry)) // making one takes a process
-                    continue;
-                break;
-            case 2:
-                QVERIFY(QDir().mkpath(entry));
-                continue;
-            case 3:
+            if (kind < edits.size()) {
+                for (const char *key : {"\"quick\":\"", "\"full\":\""}) {
+                    if (const qsizetype at = text.indexOf(key); at >= 0)
+                        text.replace(at + qsizetype(qstrlen(key)), 32, QByteArray(32, 'a'));
+                }
+                text.replace(edits[kind].first, edits[kind].second);
+            } else if (kind < 14) {
+                text = QByteArray(random.bounded(3 << 20), '[');
+            } else if (kind == 14) {
                 text.truncate(random.bounded(static_cast<int>(text.size())));
-                break;
-            case 4:
-                text.replace(R"("size":)", R"("size":1e400,"other":)");
-                break;
-            case 5:
-                text.replace(R"("full":")", R"("full":"00)");
-                break;
-            case 6:
-                text = QByteArray(random.bounded(100000), '[');
-                break;
-            default:
-                text.replace(R"("mtimeMs":)", R"("mtimeMs":-)");
+            } else {
+                for (int edit = 0; edit < 3; ++edit) // no digit: a whole digest is believed
+                    text[random.bounded(static_cast<int>(text.size()))] = "\"{}[]:,xg\\\0\xFF"[random.bounded(12)];
             }
             cache.write(QDir(cache.path()).relativeFilePath(entry), text);
         }
         for (int round = 0; round < 2; ++round)
             QCOMPARE(foundIn(tree), sortedText(pairs));
+        QCOMPARE(treeBelow(tree.path()).keys(), before.keys());
         QCOMPARE(contentOf(outside), "mine");
     }
 

@@ -37,7 +37,7 @@ const QJsonObject &allDefaults()
         "skipHidden": false, "skipSystemFolders": false, "readFileIdentity": false, "collapseHardLinks": false,
         "searchMode": 0, "contentMatch": 0, "threads": 0, "mediaCompareDepth": 0, "mediaCompareDepthAlt": 0,
         "similarPercent": 90, "sameName": false, "sameExtension": false, "similarNames": false,
-        "ignoreCopyWords": true, "sameSize": false, "sizeTolerance": 0, "sameCreated": false,
+        "ignoreCopyWords": true, "copyWordsInAllLanguages": false, "sameSize": false, "sizeTolerance": 0, "sameCreated": false,
         "createdDateOnly": false, "sameModified": false, "modifiedDateOnly": false, "sameDrive": false,
         "sameFolderName": false, "sameFolderPath": false, "folderPathDepth": 1, "samePathUnderRoot": false,
         "ignoreSameFolderGroups": false, "caseSensitive": false, "nameTolerance": 3, "duplicateFoldersOnly": false,

@@ -1,3 +1,4 @@
+#include "core/match/copywords.h"
 #include "core/match/editdistance.h"
 #include "core/match/similarnames.h"
 #include "tests/support/coretest.h"
@@ -86,6 +87,29 @@ private slots:
             QCOMPARE(stripCopySuffix(text), expected);
     }
 
+    void stripsCopyWords()
+    {
+        const QString copies =
+            u"a - Copy|a (2)|a - Copy (2)|a copy 2|a (copy)|a (3rd copy)|Copy of a|Copy (2) of a|a - Kopie|"
+            "a - Kopie (3)|a Kopie 2|a (3. Kopie)|Kopie von a|Kopie (2) von a|a - kopie|a (andere kopie)|Kopie van a|"
+            "a - Copie|a (autre copie)|Copie de a|a - copia|a - COPIA (2)|a copia 2|a (otra copia)|Copia de a|"
+            "a (altra copia)|Copia di a|a - Cópia|a - CÓPIA|a - Co\u0301pia|a (outra cópia)|Cópia de a|a - コピー|"
+            "aのコピー|aのコピー2|a (コピー)|コピー ～ a|a - 복사본|a - 복사본 (2)|a 복사본 2|복사본 a|a - 副本|"
+            "a 副本 2|复件 (2) a|a - 複製|a - 複製 (2)|a 拷貝|a（副本）|Copy of a (2)"_s;
+        const QString others = u"a - Shortcut|a - Verknüpfung|Fotokopie|Hardkopie 2|細胞複製|ハードコピー|Copyright|"
+                               "Kopie|(copia)|Copie de|(1)|copiado|a (my copy notes)|"_s;
+        for (const QString &name : (copies + u'|' + others).split(u'|')) {
+            const QString expected = others.split(u'|').contains(name) ? name : u"a"_s;
+            QCOMPARE(stripCopyWords(name), expected);
+            QVERIFY2(hasCopyWord(name + u".txt"_s) == (name != expected), qPrintable(name));
+            ScanOptions options;
+            options.caseSensitive = true;
+            QCOMPARE(normalizedBaseName(name + u".txt"_s, options), stripCopySuffix(name));
+            options.copyWordsInAllLanguages = true;
+            QCOMPARE(normalizedBaseName(name + u".txt"_s, options), stripCopyWords(stripCopySuffix(name)));
+        }
+    }
+
     void normalizes()
     {
         ScanOptions options;
@@ -125,11 +149,11 @@ private slots:
         for (int round = 0; round < rounds; ++round) {
             const QString a = randomName(random, longest);
             QString b = random() % 2 ? randomName(random, longest) : a;
-            for (quint32 edits = random() % 4; edits > 0 && !b.isEmpty(); --edits)
+            for (quint32 edits = random() % (round % 2 ? 4 : 40); edits > 0 && !b.isEmpty(); --edits)
                 b.replace(static_cast<qsizetype>(random() % static_cast<quint32>(b.size())), random() % 2 ? 1 : 0,
                           randomName(random, 2));
             const qint32 distance = plainDistance(a, b);
-            for (const qint32 limit : {0, 1, 3, 7, 100, distance - 1}) {
+            for (const qint32 limit : {0, 1, 3, 7, 20, 31, 32, 100, distance - 1, distance}) {
                 const QByteArray what = u"'%1' '%2' %3"_s.arg(a, b).arg(limit).toUtf8();
                 const bool isWithin = distance <= limit;
                 const qint32 bounded = boundedEditDistance(a, b, limit);

@@ -262,6 +262,8 @@ WRAP_TRANSFER(pwrite, (int file, const void *buffer, size_t length, off_t offset
 WRAP_READDIR(dirent, readdir)
 WRAP_READDIR(dirent64, readdir64)
 WRAP(int, rename, (const char *from, const char *to), (from, to), isBelow(from) || isBelow(to))
+WRAP(int, renameat, (int folder, const char *from, int toFolder, const char *to), (folder, from, toFolder, to),
+     isAtBelow(folder, from) || isAtBelow(toFolder, to))
 WRAP_UNKNOWN(int, renameat2, (int folder, const char *from, int toFolder, const char *to, unsigned flags),
              (folder, from, toFolder, to, flags), isAtBelow(folder, from) || isAtBelow(toFolder, to), plainness > 0,
              EINVAL)
@@ -269,11 +271,12 @@ WRAP(int, unlink, (const char *path), (path), isBelow(path))
 WRAP(int, unlinkat, (int folder, const char *path, int flags), (folder, path, flags), isAtBelow(folder, path))
 WRAP(int, remove, (const char *path), (path), isBelow(path))
 WRAP(int, rmdir, (const char *path), (path), isBelow(path))
-WRAP_UNKNOWN(int, link, (const char *from, const char *to), (from, to), isBelow(to), plainness > 1, EPERM)
-WRAP(int, linkat, (int folder, const char *from, int toFolder, const char *to, int flags),
-     (folder, from, toFolder, to, flags), isAtBelow(toFolder, to))
-WRAP(int, symlink, (const char *target, const char *path), (target, path), isBelow(path))
+WRAP_UNKNOWN(int, linkat, (int folder, const char *from, int toFolder, const char *to, int flags),
+             (folder, from, toFolder, to, flags), isAtBelow(toFolder, to), plainness > 1, EPERM)
+WRAP(int, symlinkat, (const char *target, int folder, const char *path), (target, folder, path),
+     isAtBelow(folder, path))
 WRAP(int, mkdir, (const char *path, mode_t mode), (path, mode), isBelow(path))
+WRAP(int, mkdirat, (int folder, const char *path, mode_t mode), (folder, path, mode), isAtBelow(folder, path))
 WRAP_FLUSH(fsync)
 WRAP_FLUSH(fdatasync)
 WRAP(int, ftruncate, (int file, off_t length), (file, length), isOpenBelow(file))

@@ -4,6 +4,7 @@
 #include "actions/operationslog.h"
 #include "tests/support/program.h"
 
+#include <QDateTime>
 #include <QJsonDocument>
 #include <QMap>
 #include <QRegularExpression>
@@ -155,6 +156,21 @@ void Scene::turnToUndo()
 {
     static_cast<void>(run(arguments()));
     m_isUndo = true;
+}
+
+void Scene::makeDigestsStale()
+{
+    QStringList scan = arguments();
+    scan.removeOne(u"--apply"_s);
+    static_cast<void>(run(scan));
+    for (const QString &file : {u"src/x/a1"_s, u"src/keep/b1"_s}) {
+        const qint64 modifiedMs = QFileInfo(path(file)).lastModified().toMSecsSinceEpoch();
+        QByteArray content = contentOf(path(file));
+        content[content.size() / 2] = '!';
+        m_tree.write(file, content);
+        m_tree.setModified(file, modifiedMs);
+    }
+    m_before = treeBelow(path(u"src"_s));
 }
 
 QString Scene::problemAfterUndo(const ProgramRun &undo, bool mayLeave) const

@@ -52,6 +52,10 @@ public:
     /// Runs the flow undisturbed; from then on the flow is to undo it.
     void turnToUndo();
 
+    /// Lets the program remember all digests, and then gives a surplus file and a file that stays other contents under
+    /// the old sizes and times: one of three surplus files still is one.
+    void makeDigestsStale();
+
     /// What is wrong on the disk after an undo, and after it was repeated. A link that could not be removed may be
     /// left, if that was said.
     [[nodiscard]] QString problemAfterUndo(const ProgramRun &undo, bool mayLeave) const;

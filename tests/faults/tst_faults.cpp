@@ -66,6 +66,8 @@ class FaultsTest : public QObject
 private slots:
     void cleaning_data();
     void cleaning();
+    void staleDigests_data();
+    void staleDigests();
     void undoing_data();
     void undoing();
     void scanning();
@@ -75,7 +77,8 @@ private slots:
 
 private:
     /// Runs `check` for every fault on every n-th call, and the flow before it, until the flow ends untouched. With
-    /// "undo" for the action, the flow is to undo what the method did.
+    /// "undo" for the action, the flow is to undo what the method did; with "stale", what is remembered of some files
+    /// is not true any more.
     void sweep(const QString &method, bool isOnOtherVolume, const QString &action,
                const std::function<QString(const Scene &, const Run &, const Fault &)> &check);
     [[nodiscard]] Run run(const Scene &scene, const QString &action, const Fault &fault, int number) const;
@@ -103,7 +106,7 @@ Run FaultsTest::run(const Scene &scene, const QString &action, const Fault &faul
     if (fault.isCut)
         environment.insert(u"MIRRIX_FAULT_CUT"_s, u"1"_s);
     process.setProcessEnvironment(environment);
-    if (action.isEmpty() || action == u"undo")
+    if (action.isEmpty() || action == u"undo" || action == u"stale")
         process.start(Program::builtExecutable(), scene.arguments());
     else
         process.start(QCoreApplication::applicationFilePath(), {u"--act"_s, action, scene.path({})});
@@ -126,6 +129,8 @@ void FaultsTest::sweep(const QString &method, bool isOnOtherVolume, const QStrin
             Scene scene(method, isOnOtherVolume);
             if (action == u"undo")
                 scene.turnToUndo();
+            if (action == u"stale")
+                scene.makeDigestsStale();
             if (fault.isCut)
                 scene.acceptEmptyNotes();
             if (m_world.contains(u"UNFLUSHED"_s))
@@ -175,6 +180,27 @@ void FaultsTest::cleaning()
         // A file that is not there any more is no failure of a scan.
         const QString problem =
             scene.problem(run.program.status, run.program.output, fault.code == ENOENT, !fault.isPassing());
+        return problem.isEmpty() ? scene.problemAfterRecovery() : problem;
+    });
+}
+
+void FaultsTest::staleDigests_data()
+{
+    QTest::addColumn<QString>("method");
+    for (const char *method : {"delete", "symlink"})
+        QTest::newRow(method) << QString::fromLatin1(method);
+}
+
+/// Whatever fails meanwhile, files that differ but have remembered digests in common are not destroyed for each other.
+void FaultsTest::staleDigests()
+{
+    QFETCH(QString, method);
+    Scene undisturbed(method, false);
+    undisturbed.makeDigestsStale();
+    QVERIFY(undisturbed.run(undisturbed.arguments()).startsWith("1 of 3 files processed"));
+    QCOMPARE(undisturbed.problem(1, "1 of 3 files", false, false), QString());
+    sweep(method, false, u"stale"_s, [](const Scene &scene, const Run &run, const Fault &fault) {
+        const QString problem = scene.problem(run.program.status, run.program.output, true, !fault.isPassing());
         return problem.isEmpty() ? scene.problemAfterRecovery() : problem;
     });
 }

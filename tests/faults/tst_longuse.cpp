@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QTest>
 #include <QThreadPool>
+#include <QtEndian>
 
 #include <malloc.h>
 #include <sys/resource.h>
@@ -49,10 +50,13 @@ void scanOnce(const TempTree &tree, int number)
     QCOMPARE(ended, 1);
 }
 
-/// One colour, 8192 x 8192 pixels without loss: head, no transformation, and five codes of one symbol each.
-QByteArray largeWebp()
+/// One colour without loss in 34 bytes: head, width and height less one in 14 bits each, no transformation, and five
+/// codes of one symbol each.
+QByteArray promisingWebp(quint32 side)
 {
-    return QByteArray("RIFF\x1A\0\0\0WEBPVP8L\x0E\0\0\0\x2F", 21) + QByteArray::fromHex("FFDFFF07888808") +
+    const quint32 sides = qToLittleEndian((side - 1) | (side - 1) << 14);
+    return QByteArray("RIFF\x1A\0\0\0WEBPVP8L\x0E\0\0\0\x2F", 21) +
+           QByteArray(reinterpret_cast<const char *>(&sides), sizeof sides) + QByteArray::fromHex("888808") +
            QByteArray(6, '\0');
 }
 
@@ -63,19 +67,35 @@ class LongUseTest : public QObject
     Q_OBJECT
 
 private slots:
-    /// Pictures of 34 bytes that promise half a gigabyte each are not all decoded at once.
+    void promisedPicturesTakeTurns_data()
+    {
+        QTest::addColumn<int>("pictures"); // and threads
+        QTest::addColumn<quint32>("side");
+        QTest::addColumn<qint64>("memoryBytes"); // a quarter of it is for pictures, at most twice that for one alone
+        QTest::addColumn<qint64>("decodingBytes");
+        constexpr qint64 gibi = qint64(1) << 30;
+        // The system reports the use of the largest child so far, so the largest row comes last.
+        QTest::newRow("each beyond twice that") << 8 << 16383U << 3 * gibi << qint64(0);
+        QTest::newRow("within the memory for pictures") << 4 << 8192U << 3 * gibi << 3 * gibi / 4;
+        QTest::newRow("each beyond it") << 2 << 16383U << 6 * gibi << qint64(8) * 16383 * 16383;
+    }
+
+    /// Pictures of 34 bytes that promise gigabytes are not all decoded at once.
     void promisedPicturesTakeTurns()
     {
-        constexpr rlim_t allowedBytes = rlim_t(3) << 30; // a quarter of it is for pictures
+        QFETCH(int, pictures);
+        QFETCH(quint32, side);
+        QFETCH(qint64, memoryBytes);
+        QFETCH(qint64, decodingBytes);
         const TempTree tree;
         const Program program;
-        for (int i = 0; i < 4; ++i)
-            tree.write(u"%1.webp"_s.arg(i), largeWebp());
+        for (int i = 0; i < pictures; ++i)
+            tree.write(u"%1.webp"_s.arg(i), promisingWebp(side));
         QProcess process;
-        program.prepare(process, {u"scan"_s, u"--no-cache"_s, u"--mode"_s, u"images"_s, u"--set"_s, u"threads=4"_s,
-                                  u"--data-dir"_s, program.dataFolder(), tree.path()});
-        process.setChildProcessModifier([] {
-            const rlimit limit = {allowedBytes, allowedBytes};
+        program.prepare(process, {u"scan"_s, u"--no-cache"_s, u"--mode"_s, u"images"_s, u"--set"_s,
+                                  u"threads=%1"_s.arg(pictures), u"--data-dir"_s, program.dataFolder(), tree.path()});
+        process.setChildProcessModifier([memoryBytes] {
+            const rlimit limit = {rlim_t(memoryBytes), rlim_t(memoryBytes)};
             setrlimit(RLIMIT_AS, &limit);
         });
         process.start();
@@ -84,7 +104,7 @@ private slots:
         QCOMPARE(getrusage(RUSAGE_CHILDREN, &use), 0);
         qInfo("%ld KiB at most", use.ru_maxrss);
         constexpr long programKiB = 300 * 1024;
-        QVERIFY(use.ru_maxrss < long(allowedBytes / 4 / 1024) + programKiB);
+        QVERIFY(use.ru_maxrss < long(decodingBytes / 1024) + programKiB);
     }
 
     /// 200 scans in a row leave neither memory nor files nor threads behind.

@@ -2,6 +2,9 @@
 #include "tests/support/program.h"
 #include "tests/support/temptree.h"
 
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileInfo>
 #include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QSet>
@@ -221,7 +224,7 @@ public:
         }
         if (m_paths.size() - files.size() != told || (method == u"symlink" && links != told))
             return u"%1 files and %2 links left, %3 told"_s.arg(files.size()).arg(links).arg(told);
-        const QStringList names = treeBelow(m_tree.path(u"src"_s)).keys();
+        const QStringList names = QDir(m_tree.path(u"src"_s)).entryList(QDir::Files | QDir::Hidden | QDir::System);
         return names.filter(u".mirrix-"_s).isEmpty() ? QString() : u"left behind: "_s + names.join(u' ');
     }
 
@@ -231,24 +234,64 @@ private:
     QByteArrayList m_contents;
 };
 
-/// Writes a stamp into one file after the other until it is told to end; what each file, by its number, was given last.
-QHash<ino_t, QByteArray> stampUntil(const QStringList &paths, const std::atomic_bool &isOver, quint32 seed)
+/// Writes stamps into files until it is told to end.
+class Editor
 {
-    QRandomGenerator random(seed);
-    QHash<ino_t, QByteArray> stamps;
-    for (int count = 0; !isOver; ++count) {
-        const QByteArray path = paths[random.bounded(int(paths.size()))].toUtf8();
-        const QByteArray stamp = QByteArray::number(count).rightJustified(stampBytes, '0');
-        const int file = open(path.constData(), O_WRONLY | O_NOFOLLOW | O_CLOEXEC);
+public:
+    Editor(const QStringList &paths, quint32 seed)
+        : m_paths(paths)
+        , m_folder(QFileInfo(paths[0]).path())
+        , m_random(seed)
+    {}
+
+    /// What each file, by its number, was given last.
+    [[nodiscard]] QHash<ino_t, QByteArray> run(const std::atomic_bool &isOver)
+    {
+        while (!isOver) {
+            if (m_random.bounded(100) == 0)
+                stamp(m_paths[m_random.bounded(int(m_paths.size()))]);
+            stampFilesSetAside();
+            usleep(30);
+        }
+        return m_stamps;
+    }
+
+private:
+    /// Only files set aside just now, whose comparison goes on for a while: a write between the last check of a file
+    /// and its removal cannot be noticed.
+    void stampFilesSetAside()
+    {
+        constexpr qint64 justNowNs = 150'000;
+        const QStringList found = QDir(m_folder).entryList({u".mirrix-*.aside"_s}, QDir::Files | QDir::Hidden);
+        for (const QString &name : found) {
+            if (m_known.contains(name))
+                continue;
+            m_known.insert(name);
+            if (m_sinceLastLook.isValid() && m_sinceLastLook.nsecsElapsed() < justNowNs)
+                stamp(m_folder + u'/' + name);
+        }
+        m_sinceLastLook.start();
+    }
+
+    void stamp(const QString &path)
+    {
+        const QByteArray stamp = QByteArray::number(++m_count).rightJustified(stampBytes, '0');
+        const int file = open(path.toUtf8().constData(), O_WRONLY | O_NOFOLLOW | O_CLOEXEC);
         struct stat status = {};
         if (file >= 0 && fstat(file, &status) == 0 && pwrite(file, stamp.constData(), stampBytes, 0) == stampBytes)
-            stamps.insert(status.st_ino, stamp);
+            m_stamps.insert(status.st_ino, stamp);
         if (file >= 0)
             close(file);
-        usleep(random.bounded(8000));
     }
-    return stamps;
-}
+
+    QStringList m_paths;
+    QString m_folder;
+    QRandomGenerator m_random;
+    QHash<ino_t, QByteArray> m_stamps;
+    QSet<QString> m_known;
+    QElapsedTimer m_sinceLastLook;
+    int m_count = 0;
+};
 
 void addMethods(const QByteArrayList &methods)
 {
@@ -354,9 +397,10 @@ void RacesTest::editsMeanwhile()
 {
     QFETCH(QString, method);
     const int rounds = std::max(34, qEnvironmentVariableIntValue("MIRRIX_RACE_ROUNDS") / 6);
+    const bool isCompared = method == u"delete" || method.endsWith(u"link");
     int disturbed = 0;
     for (int round = 0; round < rounds; ++round) {
-        const Pairs pairs(200000);
+        const Pairs pairs(isCompared ? 1 << 20 : 200000); // takes longer to compare than to come in
         const Program program;
         QHash<QString, ino_t> numbers;
         for (const QString &path : pairs.paths()) {
@@ -366,7 +410,7 @@ void RacesTest::editsMeanwhile()
         }
         std::atomic_bool isOver = false;
         auto editor = std::async(std::launch::async, [&, seed = QRandomGenerator::global()->generate()] {
-            return stampUntil(pairs.paths(), isOver, seed);
+            return Editor(pairs.paths(), seed).run(isOver);
         });
         QProcess process;
         program.prepare(process, commandFor(method, pairs.tree()));

@@ -65,6 +65,21 @@ public:
         return ended(process);
     }
 
+    /// Runs a script of bash in which mirrix-cli is the built program.
+    [[nodiscard]] ProgramRun runInShell(const QString &script, const QString &folder) const
+    {
+        QProcess process;
+        prepare(process, {QStringLiteral("-c"), script});
+        QProcessEnvironment environment = process.processEnvironment();
+        const QString path = environment.value(QStringLiteral("PATH"));
+        environment.insert(QStringLiteral("PATH"), QCoreApplication::applicationDirPath() + QLatin1Char(':') + path);
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(folder);
+        process.setProgram(QStringLiteral("bash"));
+        process.start();
+        return ended(process);
+    }
+
 private:
     QString m_executable;
     TempTree m_home;

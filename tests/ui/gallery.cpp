@@ -12,16 +12,22 @@
 #include "ui/dialogs/logviewer.h"
 #include "ui/dialogs/optionsdialog.h"
 #include "ui/dialogs/restoredialog.h"
+#include "ui/historycommands.h"
 #include "ui/locations/drivepicker.h"
 #include "ui/mirrix.h"
 
+#include <QApplication>
+#include <QCheckBox>
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QLinearGradient>
 #include <QPainter>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QTabWidget>
 #include <QTest>
+#include <QTimer>
 #include <QTreeView>
 
 namespace MirrixTest {
@@ -111,6 +117,19 @@ void makeHistory(const QString &directory, const QString &root)
     add(3, u"backup"_qs, 4, Mirrix::ItemState::Done, true);
 }
 
+/// The dialog describes each choice in a sentence of its own.
+void visitMethods(Mirrix::FileRemovalDialog &removal, const std::function<void(const QString &, QWidget &)> &look)
+{
+    const auto methods = removal.findChildren<QRadioButton *>();
+    for (const bool backsUp : {true, false}) {
+        removal.findChild<QCheckBox *>(u"BackUpFirstBox"_qs)->setChecked(backsUp);
+        for (QRadioButton *method : methods) {
+            method->click();
+            look(method->objectName() + (backsUp ? u"-backed-up"_qs : QString()), removal);
+        }
+    }
+}
+
 QList<Mirrix::Drive> sampleDrives()
 {
     constexpr qint64 giga = qint64(1) << 30;
@@ -120,6 +139,42 @@ QList<Mirrix::Drive> sampleDrives()
 }
 
 } // namespace
+
+void SeenPrompts::see(const std::function<void()> &show) const
+{
+    if (!look)
+        return;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+        QWidget *box = QApplication::activeModalWidget();
+        if (!box)
+            return;
+        timer.stop();
+        look(*box);
+        box->close();
+    });
+    timer.start(0);
+    show();
+}
+
+bool SeenPrompts::ask(QWidget *parent, const QString &title, const QString &text, const QString &below)
+{
+    see([&] { static_cast<void>(m_shown.ask(parent, title, text, below)); });
+    return ScriptedPrompts::ask(parent, title, text, below);
+}
+
+bool SeenPrompts::informWithAction(QWidget *parent, const QString &title, const QString &text, const QString &below,
+                                   const QString &action)
+{
+    see([&] { static_cast<void>(m_shown.informWithAction(parent, title, text, below, action)); });
+    return ScriptedPrompts::informWithAction(parent, title, text, below, action);
+}
+
+qsizetype SeenPrompts::choose(QWidget *parent, const Mirrix::ChoiceRequest &request)
+{
+    see([&] { static_cast<void>(m_shown.choose(parent, request)); });
+    return ScriptedPrompts::choose(parent, request);
+}
 
 Gallery::Gallery(const std::function<void(Mirrix::Settings &)> &tweak)
     : m_settings(Mirrix::defaultSettings(m_tree.makeFolder(u"data"_qs)))
@@ -201,14 +256,48 @@ std::vector<std::pair<QString, std::unique_ptr<QDialog>>> Gallery::dialogs()
     return made;
 }
 
+void Gallery::visitQuestions(const std::function<void(const QString &, QWidget &)> &look)
+{
+    int number = 0;
+    m_prompts.look = [&](QWidget &box) { look(QStringLiteral("question-%1").arg(++number), box); };
+    const auto click = [this](const QString &name) { m_window->findChild<QPushButton *>(name)->click(); };
+    m_prompts.answers.clear();
+    m_window->goToStep(2);
+    click(u"SelectAllButton"_qs);
+    m_prompts.answers = {true, false}; // the dialog, deleting for good
+    m_prompts.onRun = [](QDialog &removal) {
+        removal.findChild<QAbstractButton *>(u"RemovalMethod1"_qs)->click();
+        removal.findChild<QCheckBox *>(u"BackUpFirstBox"_qs)->setChecked(false);
+    };
+    click(u"DeleteSelectedButton"_qs);
+    m_prompts.onRun = {};
+    m_prompts.answers = {true};
+    click(u"MoveToBackupButton"_qs);
+    auto *groups = m_window->findChild<QTreeView *>(u"DuplicateFilesTree"_qs)->model();
+    const QModelIndex documents = groups->index(0, 0);
+    for (int file = 0; file < groups->rowCount(documents); ++file)
+        groups->setData(groups->index(file, 0, documents), Qt::Checked, Qt::CheckStateRole);
+    click(u"MoveToBackupButton"_qs); // would leave no copy
+
+    Mirrix::HistoryCommands history(m_settings, m_prompts, m_log, m_window.get());
+    const Mirrix::RunSummary run = Mirrix::listRuns(m_settings.directory).value(0);
+    static_cast<void>(history.undo(run.header));
+    static_cast<void>(history.freeBackups(run));
+    static_cast<void>(history.removeRecords({run.header.id}));
+    m_prompts.look = {};
+}
+
 void Gallery::visitAll(const std::function<void(const QString &, QWidget &)> &look)
 {
     visitPages(look);
     for (const auto &[name, dialog] : dialogs()) {
         dialog->show();
         look(name, *dialog);
+        if (auto *removal = qobject_cast<Mirrix::FileRemovalDialog *>(dialog.get()))
+            visitMethods(*removal, look);
         dialog->close();
     }
+    visitQuestions(look);
 }
 
 } // namespace MirrixTest

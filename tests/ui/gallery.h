@@ -17,6 +17,23 @@ class Mirrix;
 
 namespace MirrixTest {
 
+/// Shows each box to a visitor before it answers from the script.
+class SeenPrompts : public ScriptedPrompts
+{
+public:
+    std::function<void(QWidget &box)> look; ///< nothing is shown without
+
+    bool ask(QWidget *parent, const QString &title, const QString &text, const QString &below) override;
+    bool informWithAction(QWidget *parent, const QString &title, const QString &text, const QString &below,
+                          const QString &action) override;
+    qsizetype choose(QWidget *parent, const Mirrix::ChoiceRequest &request) override;
+
+private:
+    void see(const std::function<void()> &show) const;
+
+    Mirrix::DialogPrompts m_shown;
+};
+
 /// Every window of the program, filled from sample files that it makes itself: pictures and documents of one person
 /// with their copies.
 class Gallery
@@ -39,14 +56,17 @@ public:
     /// All dialogs, not yet shown, under their names. Those with pages come once a page.
     [[nodiscard]] std::vector<std::pair<QString, std::unique_ptr<QDialog>>> dialogs();
 
-    /// visitPages and then each dialog, shown.
+    /// Cleans, restores and undoes on the sample, and shows the boxes that come with that.
+    void visitQuestions(const std::function<void(const QString &name, QWidget &window)> &look);
+
+    /// visitPages, then each dialog, shown, and visitQuestions.
     void visitAll(const std::function<void(const QString &name, QWidget &window)> &look);
 
 private:
     TempTree m_tree;
     Mirrix::Settings m_settings;
     Mirrix::OperationsLog m_log;
-    ScriptedPrompts m_prompts;
+    SeenPrompts m_prompts;
     std::unique_ptr<MirrixUi::Mirrix> m_window;
 };
 

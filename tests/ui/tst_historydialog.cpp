@@ -5,6 +5,7 @@
 #include "ui/logic/historymodel.h"
 
 #include <QAbstractItemModelTester>
+#include <QClipboard>
 #include <QDateTime>
 #include <QDir>
 #include <QLabel>
@@ -126,6 +127,11 @@ void TestHistoryDialog::runsAndFiles()
     QCOMPARE(QDir::fromNativeSeparators(scene.row(0, run)), text("/new/file0|/now/new||已移除|2.0 KB|"));
     QCOMPARE(QDir::fromNativeSeparators(scene.row(1, run)), text("/new/file1|||失败：in use||"));
     QCOMPARE(run.model()->index(0, 0, run).data(Mirrix::HistoryModel::pathRole).toString(), QStringLiteral("/now/new"));
+
+    scene.view()->setCurrentIndex(run.model()->index(0, 0, run));
+    scene.view()->selectionModel()->select(run.model()->index(1, 0, run), QItemSelectionModel::Select);
+    scene.view()->actions().constFirst()->trigger();
+    QTRY_COMPARE(QDir::fromNativeSeparators(QGuiApplication::clipboard()->text()), text("/new/file0\n/new/file1"));
 }
 
 void TestHistoryDialog::filtering()
@@ -182,21 +188,35 @@ void TestHistoryDialog::undoesAndFrees()
     const auto entries = Mirrix::restorableEntries(scene.backup());
     QCOMPARE(entries.size(), 2);
     QVERIFY(QFile::remove(entries[0].backup));
-    const auto backedUp = [&] {
+    const auto runBy = [&](const char *method) {
         const QAbstractItemModel *model = scene.view()->model();
-        for (int row = 0; row < model->rowCount(); ++row) {
-            if (model->index(row, 1).data().toString() == text("移动到备份"))
-                return model->index(row, 0);
-        }
-        return QModelIndex();
+        const QModelIndexList found =
+            model->match(model->index(0, 1), Qt::DisplayRole, text(method), 1, Qt::MatchExactly);
+        return found.isEmpty() ? QModelIndex() : found.constFirst().siblingAtColumn(0);
     };
-    scene.view()->setCurrentIndex(backedUp());
+    scene.view()->setCurrentIndex(runBy("移动到备份"));
     scene.prompts.answers = {true};
     scene.press("UndoRunButton");
     QVERIFY(!scene.has("a") && scene.has("c"));
     QVERIFY(scene.prompts.asked[3].contains(text("将把 1 个文件放回原处")));
     QVERIFY(scene.prompts.asked[3].contains(scene.path("a")));
-    QVERIFY(backedUp().siblingAtColumn(Mirrix::HistoryModel::StateColumn).data().toString() == text("部分已撤销"));
+    const auto stateOf = [](const QModelIndex &run) {
+        return run.siblingAtColumn(Mirrix::HistoryModel::StateColumn).data().toString();
+    };
+    QCOMPARE(stateOf(runBy("移动到备份")), text("部分已撤销"));
+
+    // Undoing an undo, of either file, puts the file away again.
+    QVERIFY(scene.has("sought"));
+    const QString undone = stateOf(runBy("撤销清理"));
+    QVERIFY(undone.startsWith(text("撤销了 ")));
+    scene.view()->setCurrentIndex(runBy("撤销清理"));
+    scene.prompts.asked.clear();
+    scene.prompts.answers = {true};
+    scene.press("UndoRunButton");
+    QCOMPARE(scene.prompts.asked, QStringList({text("重新清理|将再次移除 1 个文件（移动到备份）。是否继续？"),
+                                               text("完成|已再次移除 1 个文件。")}));
+    QVERIFY(scene.has("sought") != scene.has("c"));
+    QCOMPARE(Mirrix::restorableEntries(scene.backup()).size(), 1);
 }
 
 void TestHistoryDialog::removesRecords()

@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QRegularExpression>
 #include <QStatusBar>
@@ -138,6 +139,8 @@ private slots:
             settle();
             for (const QString &problem : MirrixTest::clippedTexts(window))
                 problems.append(name + u": "_qs + problem);
+            if (const auto *box = qobject_cast<QMessageBox *>(&window); box && !box->detailedText().isEmpty())
+                problems.append(name + u": shortened "_qs + box->text());
             if (window.isModal() || qobject_cast<QDialog *>(&window))
                 QVERIFY2(window.width() <= 1008 && window.height() <= 684, qUtf8Printable(name));
         });

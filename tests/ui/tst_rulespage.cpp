@@ -54,8 +54,8 @@ RulesState everythingChanged()
 {
     RulesState rules;
     rules.mode = 2;
-    rules.general = {1,    40,   true, true, true, false, true, 12,   2,    true, true,
-                     true, true, true, true, true, 7,     true, true, true, 11};
+    rules.general = {1,    40,   true, true, true, false, true, true, 12,   2,    true,
+                     true, true, true, true, true, true,  7,    true, true, true, 11};
     rules.image = {4,    true, 9,    false, false, false, true,
                    true, 300,  true, 42,    false, false, {false, {{u"Make"_qs, 1}, {u"Flash"_qs, 2}, {QString(), 0}}}};
     rules.audio = {3, true, 77, {true, {}}};
@@ -97,6 +97,7 @@ void TestRulesPage::controls_data()
     row("SameExtensionCheck", u"相同文件拓展名 off"_qs);
     row("SimilarNamesCheck", u"相似文件名 off"_qs);
     row("IgnoreCopyWordsCheck", u"忽略文件名中「副本」字样 on"_qs);
+    row("CopyWordsInAllLanguagesCheck", u"包括其他语言 off"_qs);
     row("SameSizeCheck", u"相同文件大小 off"_qs);
     row("SizeToleranceSpin", u"-0..1048576 [0]"_qs);
     row("SizeToleranceUnitCombo", u"-B/KB/MB/GB [0]"_qs);

@@ -140,6 +140,7 @@ void TestScanOptionsFrom::eachControl_data()
     ROW(0, r.general.sameExtension = true, R"("sameExtension":true)");
     ROW(0, r.general.similarNames = true, R"("similarNames":true)");
     ROW(0, r.general.ignoreCopyWords = false, R"("ignoreCopyWords":false)");
+    ROW(0, r.general.copyWordsInAllLanguages = true, R"("copyWordsInAllLanguages":true)");
     ROW(0, r.general.sameSize = true, R"("sameSize":true)");
     ROW(0, r.general.sizeTolerance = 7, R"("sizeTolerance":7)");
     ROW(0, (r.general.sizeTolerance = 7, r.general.sizeToleranceUnit = 1), R"("sizeTolerance":7168)");

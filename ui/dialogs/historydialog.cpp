@@ -8,6 +8,7 @@
 #include "ui/locations/runaside.h"
 #include "ui/logic/bytetext.h"
 #include "ui/logic/historymodel.h"
+#include "ui/logic/historytexts.h"
 #include "ui/logic/resulttexts.h"
 #include "ui/results/resultmenu.h"
 
@@ -153,7 +154,7 @@ void HistoryDialog::connectParts()
     connect(m_tree, &QWidget::customContextMenuRequested, this, &HistoryDialog::openMenu);
     connect(m_undoRun, &QPushButton::clicked, this, [this] {
         if (const RunSummary *run = currentRun())
-            afterCommand(m_commands.undo(run->header.id));
+            afterCommand(m_commands.undo(run->header));
     });
     connect(m_undoSelected, &QPushButton::clicked, this, &HistoryDialog::undoSelected);
     connect(m_free, &QPushButton::clicked, this, [this] {
@@ -284,7 +285,7 @@ QList<qsizetype> HistoryDialog::selectedItems() const
 void HistoryDialog::updateControls()
 {
     const RunSummary *run = currentRun();
-    const bool isUndoable = run && run->isReadable && run->header.undoOf.isEmpty();
+    const bool isUndoable = run && run->isReadable;
     const qint64 held = isUndoable ? heldInBackup(*run) : 0;
     const QItemSelection ranges = m_tree->selectionModel()->selection();
     const auto isOfFiles = [](const QItemSelectionRange &range) { return range.parent().isValid(); };
@@ -313,12 +314,10 @@ void HistoryDialog::openMenu(const QPoint &place)
 
 void HistoryDialog::copyPaths()
 {
-    QStringList paths;
-    const QItemSelection ranges = m_tree->selectionModel()->selection();
-    for (const QItemSelectionRange &range : ranges)
-        paths += m_model->namesIn(range.parent(), range.top(), range.bottom());
-    if (!paths.isEmpty())
-        QGuiApplication::clipboard()->setText(paths.join(QLatin1Char('\n')));
+    runAside(this, m_model->namesOf(m_tree->selectionModel()->selection()), [](const QString &names) {
+        if (!names.isEmpty())
+            QGuiApplication::clipboard()->setText(names);
+    });
 }
 
 void HistoryDialog::undoSelected()
@@ -326,7 +325,7 @@ void HistoryDialog::undoSelected()
     const RunSummary *run = currentRun();
     const QList<qsizetype> items = selectedItems();
     if (run && !items.isEmpty())
-        afterCommand(m_commands.undo(run->header.id, items));
+        afterCommand(m_commands.undo(run->header, items));
 }
 
 void HistoryDialog::removeOlder()
@@ -343,15 +342,21 @@ void HistoryDialog::afterCommand(bool hasChanged)
 
 void HistoryDialog::fitColumns()
 {
-    constexpr std::pair<HistoryModel::Column, int> letters[] = {{HistoryModel::PlaceColumn, 32},
-                                                                {HistoryModel::KeptColumn, 27},
+    constexpr std::pair<HistoryModel::Column, int> letters[] = {{HistoryModel::KeptColumn, 20},
                                                                 {HistoryModel::StateColumn, 26},
                                                                 {HistoryModel::FreedColumn, 12},
                                                                 {HistoryModel::HeldColumn, 12}};
     QHeaderView *header = m_tree->header();
+    const int letter = fontMetrics().averageCharWidth();
+    constexpr int fewestLetters = 10;
+    header->setMinimumSectionSize(letter * fewestLetters);
     for (const auto &[column, count] : letters)
-        header->resizeSection(column,
-                              std::max(fontMetrics().averageCharWidth() * count, header->sectionSizeHint(column)));
+        header->resizeSection(column, std::max(letter * count, header->sectionSizeHint(column)));
+    int widest = header->sectionSizeHint(HistoryModel::PlaceColumn);
+    for (const auto method : {CleaningMethod::BackupAndSymbolicLink, CleaningMethod::BackupAndHardLink})
+        widest = std::max(widest, fontMetrics().horizontalAdvance(methodText(method)) + 2 * letter);
+    constexpr int mostLetters = 48; // leaves room for the times in every language
+    header->resizeSection(HistoryModel::PlaceColumn, std::min(widest, letter * mostLetters));
 }
 
 void HistoryDialog::changeEvent(QEvent *event)

@@ -9,15 +9,17 @@ namespace Mirrix {
 namespace {
 
 constexpr qsizetype mostLines = 14;
-constexpr qsizetype mostDetailLines = 5000; // a text field takes noticeable time for more
-constexpr qsizetype mostCharacters = 120;   // a long path takes some three lines of a box
+constexpr qsizetype mostDetailLines = 5000;   // a text field takes noticeable time for more
+constexpr qsizetype mostPathCharacters = 120; // some three lines of a box
+constexpr qsizetype mostCharacters = 360;     // more than any sentence of ours has, which must not lose its verb
 
 QString cut(const QString &line)
 {
-    if (line.size() <= mostCharacters)
+    const bool hasPath = line.contains(QLatin1Char('/')) || line.contains(QLatin1Char('\\'));
+    const qsizetype most = hasPath ? mostPathCharacters : mostCharacters;
+    if (line.size() <= most)
         return line;
-    constexpr qsizetype half = mostCharacters / 2;
-    return line.left(half) + QStringLiteral("…") + line.right(half);
+    return line.left(most / 2) + QStringLiteral("…") + line.right(most / 2);
 }
 
 /// Where line number `count` begins; the length when there are fewer lines.

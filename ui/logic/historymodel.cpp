@@ -1,5 +1,6 @@
 #include "ui/logic/historymodel.h"
 
+#include "actions/cleaning/undo.h"
 #include "app/text.h"
 #include "ui/logic/asidethreads.h"
 #include "ui/logic/bytetext.h"
@@ -131,14 +132,31 @@ QList<qsizetype> HistoryModel::itemsIn(const QModelIndex &run, int top, int bott
     return items;
 }
 
-QStringList HistoryModel::namesIn(const QModelIndex &run, int top, int bottom) const
+std::function<QString()> HistoryModel::namesOf(const QItemSelection &rows) const
 {
-    QStringList names;
-    names.reserve(bottom - top + 1);
-    for (int row = top; row <= bottom; ++row)
-        names.append(run.isValid() ? fileText(*m_runs[runOf(run)].files, itemAt(runOf(run), row), NameColumn)
-                                   : runText(m_runs[m_shown[size_t(row)]].summary, NameColumn));
-    return names;
+    struct Piece
+    {
+        std::shared_ptr<const StoredRun> files; ///< none: the names are known
+        QList<qsizetype> items;
+        QStringList names;
+    };
+    QList<Piece> pieces;
+    for (const QItemSelectionRange &range : rows) {
+        const QModelIndex run = range.parent();
+        if (run.isValid())
+            pieces.append({m_runs[runOf(run)].files, itemsIn(run, range.top(), range.bottom()), {}});
+        for (int row = range.top(); row <= range.bottom() && !run.isValid(); ++row)
+            pieces.append({{}, {}, {runText(m_runs[m_shown[size_t(row)]].summary, NameColumn)}});
+    }
+    return [pieces] {
+        QStringList names;
+        for (const Piece &piece : pieces) {
+            names += piece.names;
+            for (const qsizetype item : piece.items)
+                names.append(shownPath(piece.files->items[item].original));
+        }
+        return names.join(QLatin1Char('\n'));
+    };
 }
 
 int HistoryModel::fileCount(const Run &run) const
@@ -226,9 +244,11 @@ QVariant HistoryModel::data(const QModelIndex &index, int role) const
         return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
     const bool isTip = role == Qt::ToolTipRole;
     if (!isFile(index)) {
-        if (isTip && !run.summary.message.isEmpty())
-            return tip(run.summary.message);
-        return role == Qt::DisplayRole ? QVariant(runText(run.summary, index.column())) : QVariant();
+        if (role != Qt::DisplayRole && !isTip)
+            return {};
+        const bool isProblem = isTip && !run.summary.message.isEmpty();
+        const QString text = isProblem ? run.summary.message : runText(run.summary, index.column());
+        return isTip ? tip(text) : text;
     }
     const qsizetype item = itemAt(runOf(index), index.row());
     if (role == pathRole) {
@@ -244,7 +264,7 @@ QVariant HistoryModel::data(const QModelIndex &index, int role) const
 
 QString HistoryModel::runText(const RunSummary &run, int column) const
 {
-    const bool isOwnRun = run.header.undoOf.isEmpty();
+    const bool isOwnRun = !isUndoing(run.header);
     switch (column) {
     case NameColumn:
         return secondText(run.header.startedMs);
@@ -274,7 +294,7 @@ QString HistoryModel::fileText(const StoredRun &run, qsizetype item, int column)
     case KeptColumn:
         return shownPath(run.items[item].kept);
     case StateColumn:
-        return fileStateText(outcome);
+        return fileStateText(run.summary.header, outcome);
     case FreedColumn:
         return outcome.state == ItemState::Done ? sizeOrNone(outcome.freedBytes) : QString();
     case HeldColumn:

@@ -3,9 +3,11 @@
 #include "ui/logic/historysearch.h"
 
 #include <QAbstractItemModel>
+#include <QItemSelection>
 #include <QList>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -67,8 +69,8 @@ public:
     /// The indices in their run's list of the files in these rows below it.
     [[nodiscard]] QList<qsizetype> itemsIn(const QModelIndex &run, int top, int bottom) const;
 
-    /// The names of the same; those of the runs in these rows when `run` is invalid.
-    [[nodiscard]] QStringList namesIn(const QModelIndex &run, int top, int bottom) const;
+    /// Makes the list of the names in these rows, a line each. To be called in any thread, with the model as it is now.
+    [[nodiscard]] std::function<QString()> namesOf(const QItemSelection &rows) const;
 
     void retranslate();
 

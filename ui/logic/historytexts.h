@@ -1,5 +1,6 @@
 #pragma once
 
+#include "actions/cleaning/cleaningplan.h"
 #include "actions/records/runhistory.h"
 
 #include <QString>
@@ -11,10 +12,16 @@ namespace Mirrix {
 /// How the files of a run were given up, such as "Moved to backup + Symbolic link"; for an undoing, that it is one.
 [[nodiscard]] QString runMethodText(const RunHeader &run);
 
+/// The same for a method.
+[[nodiscard]] QString methodText(CleaningMethod method);
+
+/// The method of the run that `run` undid; empty where it is no undo.
+[[nodiscard]] QString undoneMethodText(const RunHeader &run);
+
 /// Whether the run came to its end, was undone or undid another.
 [[nodiscard]] QString runStateText(const RunSummary &run);
 
-/// What was done with a file, and why not where it failed.
-[[nodiscard]] QString fileStateText(const ItemOutcome &outcome);
+/// What a run did with a file, and why not where it failed.
+[[nodiscard]] QString fileStateText(const RunHeader &run, const ItemOutcome &outcome);
 
 } // namespace Mirrix

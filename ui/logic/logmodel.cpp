@@ -79,7 +79,7 @@ QString eventText(const QString &action)
 {
     const QHash<QString, QString> texts = {
         {QStringLiteral("app_start"), Text::tr("程序启动")},
-        {QStringLiteral("scan_start"), Text::tr("开始扫描")},
+        {QStringLiteral("scan_start"), Text::tr("扫描开始")},
         {QStringLiteral("scan_done"), Text::tr("扫描完成")},
         {QStringLiteral("auto_keep"), Text::tr("按规则勾选")},
         {QStringLiteral("backup_batch"), Text::tr("移动到备份")},
@@ -87,8 +87,10 @@ QString eventText(const QString &action)
         {QStringLiteral("remove_batch"), Text::tr("移除文件")},
         {QStringLiteral("export"), Text::tr("导出")},
         {QStringLiteral("export_copy"), Text::tr("导出副本")},
-        {QStringLiteral("restore"), Text::tr("恢复备份")},
-        {QStringLiteral("app_quit"), Text::tr("退出程序")},
+        {QStringLiteral("restore"), Text::tr("备份已恢复")},
+        {QStringLiteral("empty_folders"), Text::tr("要移除的空文件夹")},
+        {QStringLiteral("empty_folders_removed"), Text::tr("空文件夹已移除")},
+        {QStringLiteral("app_quit"), Text::tr("程序退出")},
     };
     return texts.value(action, action);
 }

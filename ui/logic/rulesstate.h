@@ -45,6 +45,7 @@ struct GeneralRules
     bool sameExtension = false;
     bool similarNames = false;
     bool ignoreCopyWords = true;
+    bool copyWordsInAllLanguages = false;
     bool sameSize = false;
     qint32 sizeTolerance = 0;     ///< in sizeToleranceUnit
     qint32 sizeToleranceUnit = 0; ///< 0 bytes, 1 KB, 2 MB, 3 GB

@@ -67,6 +67,7 @@ void addGeneralRules(const GeneralRules &rules, ScanOptions &options)
     options.sameExtension = rules.sameExtension;
     options.similarNames = rules.similarNames;
     options.ignoreCopyWords = rules.ignoreCopyWords;
+    options.copyWordsInAllLanguages = rules.copyWordsInAllLanguages;
     options.sameSize = rules.sameSize;
     options.sizeTolerance = sizeToleranceBytes(rules);
     options.sameCreated = rules.sameCreated;

@@ -99,8 +99,11 @@ void GeneralRulesTab::layOutNamesAndSizes(QBoxLayout *layout)
     m_sameExtension = makeCheck(m_criteriaBox, QStringLiteral("SameExtensionCheck"));
     m_similarNames = makeCheck(m_criteriaBox, QStringLiteral("SimilarNamesCheck"));
     m_ignoreCopyWords = makeCheck(m_criteriaBox, QStringLiteral("IgnoreCopyWordsCheck"));
-    for (QCheckBox *check : {m_sameName, m_sameExtension, m_similarNames, m_ignoreCopyWords})
+    m_copyWordsInAllLanguages = makeCheck(m_criteriaBox, QStringLiteral("CopyWordsInAllLanguagesCheck"));
+    for (QCheckBox *check : {m_sameName, m_sameExtension, m_similarNames})
         layout->addWidget(check);
+    addRow(layout, {m_ignoreCopyWords, m_copyWordsInAllLanguages});
+    enableWhile(m_ignoreCopyWords, {m_copyWordsInAllLanguages});
 
     m_sizeTitle = addSection(layout, m_criteriaBox);
     m_sameSize = makeCheck(m_criteriaBox, QStringLiteral("SameSizeCheck"));
@@ -165,6 +168,7 @@ void GeneralRulesTab::bind()
     m_binding.add(m_sameExtension, &GeneralRules::sameExtension);
     m_binding.add(m_similarNames, &GeneralRules::similarNames);
     m_binding.add(m_ignoreCopyWords, &GeneralRules::ignoreCopyWords);
+    m_binding.add(m_copyWordsInAllLanguages, &GeneralRules::copyWordsInAllLanguages);
     m_binding.add(m_sameSize, &GeneralRules::sameSize);
     m_binding.add(m_sizeTolerance, &GeneralRules::sizeTolerance);
     m_binding.add(m_sizeUnit, &GeneralRules::sizeToleranceUnit);
@@ -213,6 +217,9 @@ void GeneralRulesTab::retranslateNamesAndSizes()
     m_sameExtension->setText(Text::tr("相同文件拓展名"));
     m_similarNames->setText(Text::tr("相似文件名"));
     m_ignoreCopyWords->setText(Text::tr("忽略文件名中「副本」字样"));
+    m_copyWordsInAllLanguages->setText(Text::tr("包括其他语言"));
+    m_copyWordsInAllLanguages->setToolTip(
+        Text::tr("也忽略其他语言的系统和文件管理器给副本起的名称，例如“- Kopie”、“(otra copia)”"));
     m_sizeTitle->setText(Text::tr("文件大小"));
     m_sameSize->setText(Text::tr("相同文件大小"));
     m_sizeToleranceLabel->setText(Text::tr("容差"));

@@ -59,6 +59,7 @@ private:
     QCheckBox *m_sameExtension;
     QCheckBox *m_similarNames;
     QCheckBox *m_ignoreCopyWords;
+    QCheckBox *m_copyWordsInAllLanguages;
     QLabel *m_sizeTitle;
     QCheckBox *m_sameSize;
     QLabel *m_sizeToleranceLabel;

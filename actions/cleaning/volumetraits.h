@@ -1,0 +1,28 @@
+#pragma once
+
+#include "actions/nativefile.h"
+
+#include <QHash>
+
+namespace Mirrix {
+
+/// Remembers during one run what its volumes are like: asking the system for each file costs as much as another look at
+/// the file. One thread at a time.
+class VolumeTraits
+{
+public:
+    /// As the function of that name, for the file `path` of that identity.
+    [[nodiscard]] bool mayNumberAnew(const QString &path, const MirrixCore::FileIdentity &identity)
+    {
+        if (!identity.isKnown)
+            return Mirrix::mayNumberAnew(path);
+        const auto known = m_mayNumberAnew.constFind(identity.volume);
+        return known != m_mayNumberAnew.cend() ? *known
+                                               : *m_mayNumberAnew.insert(identity.volume, Mirrix::mayNumberAnew(path));
+    }
+
+private:
+    QHash<quint32, bool> m_mayNumberAnew;
+};
+
+} // namespace Mirrix
