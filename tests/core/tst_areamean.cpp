@@ -1,14 +1,11 @@
 #include "core/media/areamean.h"
-
-#include <QTest>
+#include "tests/support/coretest.h"
 
 #include <opencv2/core.hpp>
 #include <opencv2/imgproc.hpp>
 
 #include <cmath>
 #include <random>
-
-using namespace MirrixCore;
 
 namespace {
 
@@ -46,70 +43,48 @@ class AreaMeanTest : public QObject
     Q_OBJECT
 
 private slots:
-    void wholeFactorsAreTheLibrarys_data();
-    void wholeFactorsAreTheLibrarys();
-    void otherFactorsAreExact_data();
-    void otherFactorsAreExact();
-    void rowsMayLieApart();
-};
-
-void AreaMeanTest::wholeFactorsAreTheLibrarys_data()
-{
-    QTest::addColumn<int>("width");
-    QTest::addColumn<int>("height");
-    QTest::addColumn<int>("levels");
-    QTest::newRow("same size") << usualSide << usualSide << 256;
-    QTest::newRow("one way only") << usualSide << 4 * usualSide << 256;
-    QTest::newRow("product beside a half") << 7 * usualSide << 2 * usualSide << 256;
-    QTest::newRow("many halves") << 640 << 480 << 2;
-    QTest::newRow("all levels") << 640 << 480 << 256;
-    QTest::newRow("large and white") << 64 << 300 * usualSide << 1;
-    QTest::newRow("photograph") << 4000 << 3008 << 256;
-}
-
-void AreaMeanTest::wholeFactorsAreTheLibrarys()
-{
-    QFETCH(int, width);
-    QFETCH(int, height);
-    QFETCH(int, levels);
-    std::vector<uchar> pixels = noise(width, height, levels);
-    std::vector<uchar> expected(usualSide * usualSide);
-    cv::Mat small(usualSide, usualSide, CV_8U, expected.data());
-    cv::resize(cv::Mat(height, width, CV_8U, pixels.data()), small, small.size(), 0, 0, cv::INTER_AREA);
-    QCOMPARE(areaMeans(pixels.data(), width, height, static_cast<size_t>(width), usualSide), expected);
-}
-
-void AreaMeanTest::otherFactorsAreExact_data()
-{
-    QTest::addColumn<int>("width");
-    QTest::addColumn<int>("height");
-    QTest::addColumn<int>("side");
-    QTest::newRow("a bit larger") << 33 << 39 << 32;
-    QTest::newRow("half pixels") << 80 << 48 << 32;
-    QTest::newRow("whole one way") << 96 << 75 << 32;
-    QTest::newRow("high") << 5 << 1201 << 4;
-}
-
-void AreaMeanTest::otherFactorsAreExact()
-{
-    QFETCH(int, width);
-    QFETCH(int, height);
-    QFETCH(int, side);
-    for (const int levels : {1, 2, 256}) {
-        const std::vector<uchar> pixels = noise(width, height, levels);
-        QCOMPARE(areaMeans(pixels.data(), width, height, static_cast<size_t>(width), side),
-                 meansOfPieces(pixels, width, height, side));
+    void wholeFactorsAreTheLibrarys_data()
+    {
+        const auto row = columns<int, int, int>({"width", "height", "levels"});
+        row("same size", usualSide, usualSide, 256);
+        row("one way only", usualSide, 4 * usualSide, 256);
+        row("product beside a half", 7 * usualSide, 2 * usualSide, 256);
+        row("many halves", 640, 480, 2);
+        row("large and white", 64, 300 * usualSide, 1);
+        row("photograph", 4000, 3008, 256);
     }
-}
 
-void AreaMeanTest::rowsMayLieApart()
-{
-    const std::vector<uchar> pixels = noise(100, 75, 256);
-    std::vector<uchar> apart(128 * 75);
-    for (size_t y = 0; y < 75; ++y)
-        std::copy_n(pixels.data() + y * 100, 100, apart.data() + y * 128);
-    QCOMPARE(areaMeans(apart.data(), 100, 75, 128, usualSide), areaMeans(pixels.data(), 100, 75, 100, usualSide));
-}
+    void wholeFactorsAreTheLibrarys()
+    {
+        QFETCH(int, width);
+        QFETCH(int, height);
+        QFETCH(int, levels);
+        std::vector<uchar> pixels = noise(width, height, levels);
+        std::vector<uchar> expected(usualSide * usualSide);
+        cv::Mat small(usualSide, usualSide, CV_8U, expected.data());
+        cv::resize(cv::Mat(height, width, CV_8U, pixels.data()), small, small.size(), 0, 0, cv::INTER_AREA);
+        QCOMPARE(areaMeans(pixels.data(), width, height, static_cast<size_t>(width), usualSide), expected);
+    }
+
+    /// In rows that lie apart, too.
+    void otherFactorsAreExact()
+    {
+        using Sizes = std::array<int, 3>; // width, height, side
+        for (const auto &[width, height, side] :
+             {Sizes{33, 39, 32}, Sizes{80, 48, 32}, Sizes{96, 75, 32}, Sizes{5, 1201, 4}}) {
+            for (const int levels : {1, 2, 256}) {
+                const std::vector<uchar> pixels = noise(width, height, levels);
+                const auto length = static_cast<size_t>(width);
+                std::vector<uchar> apart(static_cast<size_t>(height) * (length + 28));
+                for (size_t y = 0; y < static_cast<size_t>(height); ++y)
+                    std::copy_n(pixels.data() + y * length, length, apart.data() + y * (length + 28));
+                const std::vector<uchar> expected = meansOfPieces(pixels, width, height, side);
+                QCOMPARE(areaMeans(pixels.data(), width, height, length, side), expected);
+                QCOMPARE(areaMeans(apart.data(), width, height, length + 28, side), expected);
+            }
+        }
+    }
+};
 
 QTEST_APPLESS_MAIN(AreaMeanTest)
 #include "tst_areamean.moc"

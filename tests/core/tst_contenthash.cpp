@@ -1,7 +1,7 @@
 #include "core/hash/contenthash.h"
+#include "core/hash/samples.h"
 #include "core/platform/mappedreader.h"
-#include "tests/support/probes.h"
-#include "tests/support/temptree.h"
+#include "tests/support/coretest.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -9,12 +9,9 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
-#include <QTest>
 
 #include <filesystem>
-
-using namespace MirrixCore;
-using namespace MirrixTest;
+#include <limits>
 
 namespace {
 
@@ -23,17 +20,17 @@ QString hexOf(const QByteArray &digest)
     return QString::fromLatin1(digest.toHex());
 }
 
-/// The digests that scripts/make-hash-vectors.py computed.
-QJsonArray vectors()
+QByteArray md5Of(const QByteArray &bytes)
 {
-    return QJsonDocument::fromJson(testData(QStringLiteral("core/data/hash-vectors.json"))).array();
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Md5);
 }
 
-/// Removes the read permission; false where that keeps nobody from reading (administrators).
-bool makeUnreadable(const QString &path)
+/// `bytes` with those from `from` on turned over.
+QByteArray changed(QByteArray bytes, qsizetype from, qsizetype count = 1)
 {
-    QFile::setPermissions(path, QFile::WriteOwner);
-    return !QFile(path).open(QIODevice::ReadOnly);
+    for (qsizetype i = from; i < from + count; ++i)
+        bytes[i] = static_cast<char>(~bytes[i]);
+    return bytes;
 }
 
 /// Cuts a file that may be mapped. Windows refuses that, and Wine keeps to it; but behind Wine's back it can be done.
@@ -44,12 +41,11 @@ bool cutShort(const QString &path, qint64 length)
     if (!error)
         return true;
     QProcess translator;
-    translator.start(QStringLiteral("winepath"), {QStringLiteral("-u"), path});
+    translator.start(u"winepath"_s, {u"-u"_s, path});
     if (!translator.waitForFinished() || translator.exitCode() != 0)
         return false;
     const QString behind = QString::fromUtf8(translator.readAllStandardOutput()).trimmed();
-    const QStringList arguments{QStringLiteral("-s"), QString::number(length), behind};
-    return QProcess::startDetached(QStringLiteral("Z:/usr/bin/truncate"), arguments) &&
+    return QProcess::startDetached(u"Z:/usr/bin/truncate"_s, {u"-s"_s, QString::number(length), behind}) &&
            QTest::qWaitFor([&] { return QFileInfo(path).size() == length; });
 }
 
@@ -60,313 +56,229 @@ class ContentHashTest : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup();
-    void digests_data();
-    void digests();
-    void prefixWithoutLimitIsFull();
-    void smallFilesInOneRead();
-    void smallFileOfAnotherSize();
-    void mappedLikeStreamed();
-    void mappingStopsWithItsSink();
-    void mappingSurvivesTruncation();
-    void failures_data();
-    void failures();
-    void unreadableFile();
-    void pipeIsNotWaitedFor();
-    void cancelled();
-    void notes();
-    void notesGrowth();
-    void oddNames_data();
-    void oddNames();
-    void namesOfBytes();
-    void whatDigestsTell();
-    void algorithmNames();
-};
+    void cleanup() { setContentHashAlgorithm(ContentHashAlgorithm::Md5); }
 
-void ContentHashTest::cleanup()
-{
-    setContentHashAlgorithm(ContentHashAlgorithm::Md5);
-}
-
-void ContentHashTest::digests_data()
-{
-    QTest::addColumn<QJsonObject>("expected");
-    const QJsonArray all = vectors();
-    QCOMPARE(all.size(), 14);
-    for (const QJsonValue &value : all) {
-        const QJsonObject vector = value.toObject();
-        QTest::addRow("%lld bytes", vector[QStringLiteral("size")].toInteger()) << vector;
+    /// The digests that scripts/make-hash-vectors.py computed.
+    void digests_data()
+    {
+        QTest::addColumn<QJsonObject>("expected");
+        const QJsonArray all = QJsonDocument::fromJson(testData(u"core/data/hash-vectors.json"_s)).array();
+        QCOMPARE(all.size(), 14);
+        for (const QJsonValue &vector : all)
+            QTest::addRow("%lld bytes", vector[u"size"_s].toInteger()) << vector.toObject();
     }
-}
 
-void ContentHashTest::digests()
-{
-    QFETCH(QJsonObject, expected);
-    const auto text = [&](const char *name) { return expected[QLatin1String(name)].toString(); };
-    const TempTree tree;
-    const QString file = tree.write(QStringLiteral("f"), patternBytes(expected[QStringLiteral("size")].toInteger()));
-
-    QCOMPARE(hexOf(fullContentHashBlake3(file)), text("blake3"));
-    QCOMPARE(hexOf(hashFileWith(file, QCryptographicHash::Md5)), text("md5"));
-    QCOMPARE(hexOf(hashFileWith(file, QCryptographicHash::Sha1)), text("sha1"));
-    QCOMPARE(hexOf(hashFileWith(file, QCryptographicHash::Sha256)), text("sha256"));
-    for (const bool isBlake3 : {false, true}) {
-        setContentHashAlgorithm(isBlake3 ? ContentHashAlgorithm::Blake3 : ContentHashAlgorithm::Md5);
-        QCOMPARE(hexOf(fullContentHash(file)), text(isBlake3 ? "blake3" : "md5"));
-        QCOMPARE(hexOf(quickHash(file)), text(isBlake3 ? "quickBlake3" : "quickMd5"));
-        QCOMPARE(hexOf(sampleHash(file)), text("sample"));
-        const QJsonArray prefixes = expected[QStringLiteral("prefixes")].toArray();
-        for (const QJsonValue &prefix : prefixes) {
-            const QByteArray digest = prefixHash(file, prefix[QStringLiteral("limit")].toInteger());
-            QCOMPARE(hexOf(digest), prefix[isBlake3 ? QStringLiteral("blake3") : QStringLiteral("md5")].toString());
+    void digests()
+    {
+        QFETCH(QJsonObject, expected);
+        const auto text = [&](const char *name) { return expected[QLatin1String(name)].toString(); };
+        const TempTree tree;
+        const qint64 size = expected[u"size"_s].toInteger();
+        const QString file = tree.write(u"f"_s, patternBytes(size));
+        QCOMPARE(hexOf(fullContentHashBlake3(file)), text("blake3"));
+        QCOMPARE(hexOf(hashFileWith(file, QCryptographicHash::Md5)), text("md5"));
+        QCOMPARE(hexOf(hashFileWith(file, QCryptographicHash::Sha1)), text("sha1"));
+        QCOMPARE(hexOf(hashFileWith(file, QCryptographicHash::Sha256)), text("sha256"));
+        for (const bool isBlake3 : {false, true}) {
+            setContentHashAlgorithm(isBlake3 ? ContentHashAlgorithm::Blake3 : ContentHashAlgorithm::Md5);
+            const QString full = text(isBlake3 ? "blake3" : "md5");
+            const QString quick = text(isBlake3 ? "quickBlake3" : "quickMd5");
+            QCOMPARE(hexOf(fullContentHash(file)), full);
+            QCOMPARE(hexOf(prefixHash(file, 0)), full);
+            QCOMPARE(hexOf(prefixHash(file, -1)), full);
+            QCOMPARE(hexOf(quickHash(file)), quick);
+            QCOMPARE(hexOf(sampleHash(file)), text("sample"));
+            if (size >= 1 && size <= quickCoversBytes) { // both in one read
+                QCOMPARE(hexOf(smallFileDigests(file, size, true).full), full);
+                QCOMPARE(hexOf(smallFileDigests(file, size, true).quick), quick);
+                QCOMPARE(hexOf(smallFileDigests(file, size, false).full), full);
+            }
+            const QJsonArray prefixes = expected[u"prefixes"_s].toArray();
+            for (const QJsonValue &prefix : prefixes)
+                QCOMPARE(hexOf(prefixHash(file, prefix[u"limit"_s].toInteger())),
+                         prefix[isBlake3 ? u"blake3"_s : u"md5"_s].toString());
         }
     }
-}
 
-void ContentHashTest::prefixWithoutLimitIsFull()
-{
-    const TempTree tree;
-    const QString file = tree.write(QStringLiteral("f"), "abc");
-    const QString md5OfAbc = QStringLiteral("900150983cd24fb0d6963f7d28e17f72"); // RFC 1321
-    QCOMPARE(hexOf(prefixHash(file, 0)), md5OfAbc);
-    QCOMPARE(hexOf(prefixHash(file, -1)), md5OfAbc);
-}
-
-void ContentHashTest::smallFilesInOneRead()
-{
-    const TempTree tree;
-    for (const qint64 size : {1, 4095, 4096, 4097, 8191, 8192}) {
-        const QString file = tree.write(QStringLiteral("f"), patternBytes(size));
-        for (const auto algorithm : {ContentHashAlgorithm::Md5, ContentHashAlgorithm::Blake3}) {
-            setContentHashAlgorithm(algorithm);
-            const SmallFileDigests digests = smallFileDigests(file, size, true);
-            QCOMPARE(digests.quick, quickHash(file));
-            QCOMPARE(digests.full, fullContentHash(file));
-            const SmallFileDigests fullOnly = smallFileDigests(file, size, false);
-            QCOMPARE(fullOnly.full, digests.full);
-            QVERIFY(fullOnly.quick.isEmpty());
+    void smallFileOfAnotherSize()
+    {
+        const TempTree tree;
+        const QString file = tree.write(u"f"_s, "abcd");
+        for (const qint64 expected : {3, 5, 8192}) {
+            for (const bool forCache : {false, true}) {
+                HashNotes notes;
+                QVERIFY(smallFileDigests(file, expected, forCache, &notes).full.isEmpty());
+                QVERIFY(notes.hasChanged);
+            }
         }
     }
-}
 
-void ContentHashTest::smallFileOfAnotherSize()
-{
-    const TempTree tree;
-    const QString file = tree.write(QStringLiteral("f"), "abcd");
-    for (const qint64 expected : {3, 5, 8192}) {
-        for (const bool forCache : {false, true}) {
+    void mappedLikeStreamed()
+    {
+        const TempTree tree;
+        const QByteArray content = patternBytes(mapViewBytes + 4097); // a second, short view
+        const QString file = tree.write(u"f"_s, content);
+        QCryptographicHash hash(QCryptographicHash::Md5);
+        if (!mapFileIntoHash(file, hash))
+            QSKIP("files are not mapped here");
+        QCOMPARE(hash.result(), md5Of(content));
+        QByteArray fed;
+        QVERIFY(mapFileIntoSink(file, [&](const char *bytes, qint64 length) {
+            fed.append(bytes, length);
+            return true;
+        }));
+        QVERIFY(fed == content);
+        QVERIFY(mapFileIntoSink(tree.write(u"empty"_s, {}), [](const char *, qint64) { return false; }));
+        int calls = 0;
+        QVERIFY(!mapFileIntoSink(file, [&](const char *, qint64) { return ++calls < 1; }));
+        QCOMPARE(calls, 1);
+    }
+
+    void mappingSurvivesTruncation()
+    {
+        const TempTree tree;
+        const QString path = tree.write(u"f"_s, patternBytes(mapThresholdBytes));
+        bool isCut = false;
+        const bool isWhole = mapFileIntoSink(path, [&](const char *, qint64) {
+            isCut = isCut || cutShort(path, 100);
+            return true;
+        });
+        if (!isCut)
+            QSKIP("files are not mapped here, or the system keeps mapped files whole");
+        QVERIFY(!isWhole);
+        QCOMPARE(fullContentHash(path), md5Of(patternBytes(100)));
+    }
+
+    void failures_data()
+    {
+        const auto row = columns<QString>({"name"});
+        for (const char *name : {"missing", "file/below", "folder", "closed", "pipe"})
+            row(name, QLatin1String(name));
+        row("no name", QString());
+    }
+
+    /// A pipe would make it hang if it were opened like a file.
+    void failures()
+    {
+        QFETCH(QString, name);
+        const TempTree tree;
+        tree.write(u"file"_s, "x");
+        tree.makeFolder(u"folder"_s);
+        QFile::setPermissions(tree.write(u"closed"_s, "x"), QFile::WriteOwner);
+        if (name == u"closed"_s && QFile(tree.path(name)).open(QIODevice::ReadOnly))
+            QSKIP("this user may read everything");
+        if (name == u"pipe"_s && !makePipe(tree.path(name)))
+            QSKIP("no named pipes here");
+        const QString path = name.isEmpty() ? QString() : tree.path(name);
+        HashNotes full;
+        HashNotes quick;
+        HashNotes small;
+        QVERIFY(fullContentHash(path, {}, &full).isEmpty());
+        QVERIFY(quickHash(path, &quick).isEmpty());
+        QVERIFY(smallFileDigests(path, 1, false, &small).full.isEmpty());
+        QVERIFY(!full.failure.isEmpty() && !quick.failure.isEmpty() && !small.failure.isEmpty());
+        QVERIFY(prefixHash(path, 10).isEmpty());
+        QVERIFY(sampleHash(path).isEmpty());
+        QVERIFY(fullContentHashBlake3(path).isEmpty());
+        QVERIFY(hashFileWith(path, QCryptographicHash::Sha1).isEmpty());
+        QCOMPARE(sampledByteSimilarity(path, tree.path(u"file"_s)), 0);
+        QCOMPARE(sampledByteSimilarity(tree.path(u"file"_s), path), 0);
+    }
+
+    void cancelled()
+    {
+        const TempTree tree;
+        const QString file = tree.write(u"f"_s, patternBytes(2 * streamChunkBytes + 1));
+        for (const int piecesBefore : {0, 1}) {
+            int asked = 0;
             HashNotes notes;
-            QVERIFY(smallFileDigests(file, expected, forCache, &notes).full.isEmpty());
-            QVERIFY(notes.hasChanged);
+            const auto isCancelled = [&] { return asked++ >= piecesBefore; };
+            QVERIFY(fullContentHash(file, isCancelled, &notes).isEmpty());
+            QVERIFY(notes.failure.isEmpty());
+            QCOMPARE(asked, piecesBefore + 1);
         }
+        QVERIFY(prefixHash(file, 5, [] { return true; }).isEmpty());
+        QVERIFY(hashFileWith(file, QCryptographicHash::Md5, [] { return true; }).isEmpty());
     }
-}
 
-void ContentHashTest::mappedLikeStreamed()
-{
-    const TempTree tree;
-    const QByteArray content = patternBytes(mapViewBytes + 4097); // a second, short view
-    const QString file = tree.write(QStringLiteral("f"), content);
-    QCryptographicHash hash(QCryptographicHash::Md5);
-    if (!mapFileIntoHash(file, hash))
-        QSKIP("files are not mapped here");
-    QCOMPARE(hash.result(), QCryptographicHash::hash(content, QCryptographicHash::Md5));
-    QByteArray fed;
-    QVERIFY(mapFileIntoSink(file, [&](const char *bytes, qint64 length) {
-        fed.append(bytes, length);
-        return true;
-    }));
-    QVERIFY(fed == content);
-    QVERIFY(mapFileIntoSink(tree.write(QStringLiteral("empty"), {}), [](const char *, qint64) { return false; }));
-}
-
-void ContentHashTest::mappingStopsWithItsSink()
-{
-    const TempTree tree;
-    const QString file = tree.write(QStringLiteral("f"), patternBytes(mapThresholdBytes));
-    int calls = 0;
-    QVERIFY(!mapFileIntoSink(file, [&](const char *, qint64) {
-        ++calls;
-        return false;
-    }));
-    QVERIFY(calls <= 1);
-}
-
-void ContentHashTest::mappingSurvivesTruncation()
-{
-    const TempTree tree;
-    const QString path = tree.write(QStringLiteral("f"), patternBytes(mapThresholdBytes));
-    bool isCut = false;
-    const bool isWhole = mapFileIntoSink(path, [&](const char *, qint64) {
-        isCut = isCut || cutShort(path, 100);
-        return true;
-    });
-    if (!isCut)
-        QSKIP("files are not mapped here, or the system keeps mapped files whole");
-    QVERIFY(!isWhole);
-    QCOMPARE(fullContentHash(path), QCryptographicHash::hash(patternBytes(100), QCryptographicHash::Md5));
-}
-
-void ContentHashTest::failures_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("missing") << QStringLiteral("missing");
-    QTest::newRow("below a file") << QStringLiteral("file/below");
-    QTest::newRow("folder") << QStringLiteral("folder");
-    QTest::newRow("empty name") << QString();
-}
-
-void ContentHashTest::failures()
-{
-    QFETCH(QString, name);
-    const TempTree tree;
-    tree.write(QStringLiteral("file"), "x");
-    tree.makeFolder(QStringLiteral("folder"));
-    const QString path = name.isEmpty() ? QString() : tree.path(name);
-    HashNotes notes;
-    QVERIFY(fullContentHash(path, {}, &notes).isEmpty());
-    QVERIFY(!notes.failure.isEmpty());
-    QVERIFY(quickHash(path).isEmpty());
-    QVERIFY(prefixHash(path, 10).isEmpty());
-    QVERIFY(sampleHash(path).isEmpty());
-    QVERIFY(fullContentHashBlake3(path).isEmpty());
-    QVERIFY(hashFileWith(path, QCryptographicHash::Sha1).isEmpty());
-    notes = {};
-    QVERIFY(smallFileDigests(path, 1, false, &notes).full.isEmpty());
-    QVERIFY(!notes.failure.isEmpty());
-}
-
-void ContentHashTest::unreadableFile()
-{
-    const TempTree tree;
-    const QString file = tree.write(QStringLiteral("f"), "x");
-    if (!makeUnreadable(file))
-        QSKIP("this user may read everything");
-    HashNotes notes;
-    QVERIFY(quickHash(file, &notes).isEmpty());
-    QVERIFY(!notes.failure.isEmpty());
-}
-
-void ContentHashTest::pipeIsNotWaitedFor()
-{
-    const TempTree tree;
-    const QString pipe = tree.path(QStringLiteral("pipe"));
-    if (!makePipe(pipe))
-        QSKIP("no named pipes here");
-    QVERIFY(quickHash(pipe).isEmpty()); // would hang if it were opened like a file
-    QVERIFY(fullContentHash(pipe).isEmpty());
-    QVERIFY(smallFileDigests(pipe, 5, false).full.isEmpty());
-}
-
-void ContentHashTest::cancelled()
-{
-    const TempTree tree;
-    const QString file = tree.write(QStringLiteral("f"), patternBytes(2 * streamChunkBytes + 1));
-    for (const int piecesBefore : {0, 1}) {
-        int asked = 0;
+    void notesState()
+    {
+        const TempTree tree;
+        const QString path = tree.write(u"f"_s, patternBytes(2 * streamChunkBytes + 1));
+        tree.setModified(u"f"_s, 1234567890123);
         HashNotes notes;
-        const QByteArray digest = fullContentHash(
-            file, [&] { return asked++ >= piecesBefore; }, &notes);
-        QVERIFY(digest.isEmpty());
-        QVERIFY(notes.failure.isEmpty());
-        QCOMPARE(asked, piecesBefore + 1);
-    }
-    QVERIFY(prefixHash(file, 5, [] { return true; }).isEmpty());
-    QVERIFY(hashFileWith(file, QCryptographicHash::Md5, [] { return true; }).isEmpty());
-}
-
-void ContentHashTest::notes()
-{
-    const TempTree tree;
-    const QString file = tree.write(QStringLiteral("f"), patternBytes(10000));
-    tree.setModified(QStringLiteral("f"), 1234567890123);
-    HashNotes notes;
-    QVERIFY(!quickHash(file, &notes).isEmpty());
-    QCOMPARE(notes.sizeBytes, 10000);
-    QCOMPARE(notes.modifiedMs, 1234567890123);
-    QVERIFY(!notes.hasChanged);
-}
-
-void ContentHashTest::notesGrowth()
-{
-    const TempTree tree;
-    const QString path = tree.write(QStringLiteral("f"), patternBytes(2 * streamChunkBytes + 1));
-    HashNotes notes;
-    bool hasGrown = false;
-    const QByteArray digest = fullContentHash(
-        path,
-        [&] {
+        QVERIFY(!quickHash(path, &notes).isEmpty());
+        QCOMPARE(notes.sizeBytes, 2 * streamChunkBytes + 1);
+        QCOMPARE(notes.modifiedMs, 1234567890123);
+        QVERIFY(!notes.hasChanged);
+        bool hasGrown = false;
+        const auto grow = [&] {
             QFile file(path);
             if (!hasGrown && file.open(QIODevice::Append))
                 hasGrown = file.write("more") == 4;
             return false;
-        },
-        &notes);
-    QVERIFY(hasGrown);
-    QCOMPARE(digest,
-             QCryptographicHash::hash(patternBytes(2 * streamChunkBytes + 1) + "more", QCryptographicHash::Md5));
-    QVERIFY(notes.hasChanged);
-}
+        };
+        QCOMPARE(fullContentHash(path, grow, &notes), md5Of(patternBytes(2 * streamChunkBytes + 1) + "more"));
+        QVERIFY(hasGrown);
+        QVERIFY(notes.hasChanged);
+    }
 
-void ContentHashTest::oddNames_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("trailing dot") << QStringLiteral("twin.");
-    QTest::newRow("trailing blank") << QStringLiteral("twin ");
-    QTest::newRow("beyond the first plane") << QString::fromUtf8("\xF0\x9F\x98\x80.txt");
-    QTest::newRow("shortcut ending") << QStringLiteral("twin.lnk");
-    const QString part = QString(100, QLatin1Char('n')) + QLatin1Char('/');
-    QTest::newRow("more than 260 characters") << part + part + part + QStringLiteral("f");
-}
+    void algorithmNames()
+    {
+        for (const char *other : {"BLAKE3", "md5", "sha256", ""})
+            QCOMPARE(contentHashAlgorithmFrom(QLatin1String(other)), ContentHashAlgorithm::Md5);
+        QCOMPARE(currentHashAlgorithmName(), u"md5"_s);
+        QCOMPARE(currentDigestLength(), 16);
+        setContentHashAlgorithm(contentHashAlgorithmFrom(u"blake3"_s));
+        QCOMPARE(currentHashAlgorithmName(), u"blake3"_s);
+        QCOMPARE(currentDigestLength(), 32);
+    }
 
-void ContentHashTest::oddNames()
-{
-    QFETCH(QString, name);
-    const TempTree tree;
-    tree.write(QStringLiteral("twin"), "another file");
-    tree.writeExactly(name, "abc");
-    QCOMPARE(hexOf(fullContentHash(tree.path(name))), QStringLiteral("900150983cd24fb0d6963f7d28e17f72"));
-}
+    void sampleOffsets_data()
+    {
+        const auto row = columns<qint64, QList<qint64>>({"size", "expected"});
+        row("empty", 0, {});
+        row("one block", 4096, {0});
+        row("tail overlaps head", 4097, {0, 1});
+        row("two blocks", 8192, {0, 4096});
+        row("middle begins", 8193, {0, 2048, 4097});
+        row("four blocks", 16384, {0, 6144, 12288});
+        row("quarters begin", 16385, {0, 6144, 12289, 4096, 12288});
+        row("largest", std::numeric_limits<qint64>::max(),
+            {0, 4611686018427385855, 9223372036854771711, 2305843009213693951, 6917529027641081855});
+    }
 
-void ContentHashTest::namesOfBytes()
-{
-    if (!namesAreBytes)
-        QSKIP("names are not bytes here");
-    const TempTree tree;
-    tree.writeNamedByBytes("caf\xC3\xA9", "another file");
-    const QString file = tree.writeNamedByBytes("caf\xE9", "abc");
-    QCOMPARE(hexOf(fullContentHash(file)), QStringLiteral("900150983cd24fb0d6963f7d28e17f72"));
-}
+    void sampleOffsets()
+    {
+        QFETCH(qint64, size);
+        QTEST(MirrixCore::sampleOffsets(size), "expected");
+    }
 
-/// What the matchers rely on: names do not count, sizes count in fingerprints, the middle counts only in full digests.
-void ContentHashTest::whatDigestsTell()
-{
-    const TempTree tree;
-    QByteArray content = patternBytes(20000);
-    const QString file = tree.write(QStringLiteral("a"), content);
-    const QString same = tree.write(QStringLiteral("b"), content);
-    const QString shorter = tree.write(QStringLiteral("c"), content.first(8192) + content.last(8192));
-    content[10000] = static_cast<char>(~content[10000]);
-    const QString other = tree.write(QStringLiteral("d"), content);
-    QCOMPARE(fullContentHash(same), fullContentHash(file));
-    QVERIFY(quickHash(shorter) != quickHash(file));
-    QVERIFY(prefixHash(shorter, 100) != prefixHash(file, 100));
-    QCOMPARE(quickHash(other), quickHash(file));
-    QVERIFY(fullContentHash(other) != fullContentHash(file));
-    QVERIFY(sampleHash(other) != sampleHash(file));
-}
+    void similarity_data()
+    {
+        const auto row = columns<QByteArray, QByteArray, int>({"a", "b", "expected"});
+        const QByteArray base = patternBytes(20000); // blocks begin at 0, 5000, 7952, 15000, 15904
+        row("equal", base, base, 100);
+        row("sizes differ", base, base.left(19999), 0);
+        row("empty", "", "", 0);
+        row("two of three", "abc", "abd", 66);
+        row("nothing", "abc", "bca", 0);
+        row("outside the samples", base, changed(base, 4500), 100);
+        row("one block of five", base, changed(base, 0, 4096), 80);
+        row("rounded down", base, changed(base, 0), 99);
+    }
 
-void ContentHashTest::algorithmNames()
-{
-    QCOMPARE(contentHashAlgorithmFrom(QStringLiteral("blake3")), ContentHashAlgorithm::Blake3);
-    for (const char *other : {"BLAKE3", "md5", "sha256", ""})
-        QCOMPARE(contentHashAlgorithmFrom(QLatin1String(other)), ContentHashAlgorithm::Md5);
-    QCOMPARE(currentHashAlgorithmName(), QStringLiteral("md5"));
-    QCOMPARE(currentDigestLength(), 16);
-    setContentHashAlgorithm(ContentHashAlgorithm::Blake3);
-    QCOMPARE(currentHashAlgorithmName(), QStringLiteral("blake3"));
-    QCOMPARE(currentDigestLength(), 32);
-}
+    void similarity()
+    {
+        QFETCH(QByteArray, a);
+        QFETCH(QByteArray, b);
+        const TempTree tree;
+        tree.write(u"a"_s, a);
+        tree.write(u"b"_s, b);
+        QTEST(sampledByteSimilarity(tree.path(u"a"_s), tree.path(u"b"_s)), "expected");
+        QTEST(sampledByteSimilarity(tree.path(u"b"_s), tree.path(u"a"_s)), "expected");
+    }
+};
 
 QTEST_GUILESS_MAIN(ContentHashTest)
 #include "tst_contenthash.moc"

@@ -1,31 +1,30 @@
 #include "core/model/optiontable.h"
+#include "tests/support/coretest.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QTest>
-
-using namespace MirrixCore;
 
 namespace {
+
+const QString tagsText = uR"([{"name":"Artist","enabled":1}])"_s;
+const QString locationsText = uR"([{"path":"/a","includeSubfolders":false,"findKind":2,"showRemaining":true}])"_s;
+
+QJsonValue arrayFrom(const QString &json)
+{
+    return QJsonDocument::fromJson(json.toUtf8()).array();
+}
 
 /// A value of the same JSON type that differs from `value`.
 QJsonValue changed(const QString &name, const QJsonValue &value)
 {
-    if (name == QLatin1String("locations")) {
-        return QJsonArray{QJsonObject{{QStringLiteral("path"), QStringLiteral("/a")},
-                                      {QStringLiteral("includeSubfolders"), false},
-                                      {QStringLiteral("findKind"), 2},
-                                      {QStringLiteral("showRemaining"), true}}};
-    }
-    if (name.endsWith(QLatin1String("Tags"))) {
-        return QJsonArray{
-            QJsonObject{{QStringLiteral("name"), QStringLiteral("Artist")}, {QStringLiteral("enabled"), 1}}};
-    }
+    if (name == u"locations"_s)
+        return arrayFrom(locationsText);
+    if (name.endsWith(u"Tags"_s))
+        return arrayFrom(tagsText);
     if (value.isBool())
         return !value.toBool();
     if (value.isDouble())
         return value.toInteger() + 7;
-    return value.isArray() ? QJsonValue(QJsonArray{QStringLiteral("x")}) : QJsonValue(QStringLiteral("x"));
+    return value.isArray() ? QJsonValue(QJsonArray{u"x"_s}) : QJsonValue(u"x"_s);
 }
 
 /// Every option with its default, written by hand.
@@ -60,175 +59,136 @@ class OptionTableTest : public QObject
     Q_OBJECT
 
 private slots:
-    void everyOptionTravels();
-    void eachOptionHasItsOwnMember();
-    void defaults_data();
-    void defaults();
-    void namesAreComplete();
-    void wholeNumbersAreExact();
-    void refused_data();
-    void refused();
-    void fromText_data();
-    void fromText();
-    void textRefused_data();
-    void textRefused();
-};
-
-void OptionTableTest::everyOptionTravels()
-{
-    const QJsonObject original = scanOptionsToJson({});
-    QCOMPARE(original.size(), scanOptionNames().size());
-    QJsonObject altered;
-    for (auto it = original.begin(); it != original.end(); ++it)
-        altered.insert(it.key(), changed(it.key(), it.value()));
-    ScanOptions options;
-    QCOMPARE(scanOptionsFromJson(altered, options), QString());
-    QCOMPARE(scanOptionsToJson(options), altered);
-}
-
-void OptionTableTest::eachOptionHasItsOwnMember()
-{
-    const QJsonObject original = scanOptionsToJson({});
-    for (auto it = original.begin(); it != original.end(); ++it) {
+    /// All at once, and each by itself, so that no two share a member.
+    void everyOptionTravels()
+    {
+        const QJsonObject original = scanOptionsToJson({});
+        QJsonObject altered;
+        for (auto it = original.begin(); it != original.end(); ++it) {
+            altered.insert(it.key(), changed(it.key(), it.value()));
+            ScanOptions options;
+            QCOMPARE(scanOptionsFromJson({{it.key(), altered[it.key()]}}, options), QString());
+            QJsonObject expected = original;
+            expected.insert(it.key(), altered[it.key()]);
+            QCOMPARE(scanOptionsToJson(options), expected);
+            QVERIFY2(!(options == ScanOptions()), qPrintable(it.key()));
+        }
         ScanOptions options;
-        QCOMPARE(scanOptionsFromJson({{it.key(), changed(it.key(), it.value())}}, options), QString());
-        QVERIFY2(!(options == ScanOptions()), qPrintable(it.key()));
-        QJsonObject rest = scanOptionsToJson(options);
-        rest.insert(it.key(), it.value());
-        QCOMPARE(rest, original);
+        QCOMPARE(scanOptionsFromJson(altered, options), QString());
+        QCOMPARE(scanOptionsToJson(options), altered);
     }
-}
 
-void OptionTableTest::defaults_data()
-{
-    QTest::addColumn<QJsonValue>("expected");
-    for (auto it = allDefaults().begin(); it != allDefaults().end(); ++it)
-        QTest::newRow(qPrintable(it.key())) << QJsonValue(it.value());
-}
-
-void OptionTableTest::defaults()
-{
-    QTEST(scanOptionsToJson({}).value(QLatin1String(QTest::currentDataTag())), "expected");
-}
-
-void OptionTableTest::namesAreComplete()
-{
-    QStringList names = scanOptionNames();
-    QCOMPARE(names.first(), QStringLiteral("roots"));
-    names.sort();
-    QCOMPARE(names, allDefaults().keys());
-    QCOMPARE(scanOptionsToJson({}).keys(), names);
-    for (const ScanOptionInfo &info : scanOptionInfos()) {
-        QCOMPARE(info.defaultValue, allDefaults()[info.name]);
-        QVERIFY2(info.description.endsWith(QLatin1Char('.')), qPrintable(info.name));
-        const bool isInside = info.least <= info.defaultValue.toInteger() && info.defaultValue.toInteger() <= info.most;
-        QVERIFY2(!info.hasRange() || isInside, qPrintable(info.name));
+    void defaults()
+    {
+        const QJsonObject written = scanOptionsToJson({});
+        for (auto it = allDefaults().begin(); it != allDefaults().end(); ++it)
+            QVERIFY2(written[it.key()] == it.value(), qPrintable(it.key()));
+        QStringList names = scanOptionNames();
+        QCOMPARE(names.first(), u"roots"_s);
+        names.sort();
+        QCOMPARE(names, allDefaults().keys());
+        QCOMPARE(written.keys(), names);
+        for (const ScanOptionInfo &info : scanOptionInfos()) {
+            const qint64 number = info.defaultValue.toInteger();
+            QCOMPARE(info.defaultValue, allDefaults()[info.name]);
+            QVERIFY2(info.description.endsWith(u'.'), qPrintable(info.name));
+            QVERIFY2(!info.hasRange() || (info.least <= number && number <= info.most), qPrintable(info.name));
+        }
     }
-}
 
-void OptionTableTest::wholeNumbersAreExact()
-{
-    ScanOptions options;
-    options.maxSize = (qint64(1) << 53) + 1; // no double
-    ScanOptions read;
-    QCOMPARE(scanOptionsFromJson(scanOptionsToJson(options), read), QString());
-    QCOMPARE(read.maxSize, options.maxSize);
-    QCOMPARE(setScanOption(read, QStringLiteral("minSize"), QStringLiteral("9007199254740993")), QString());
-    QCOMPARE(read.minSize, options.maxSize);
-}
+    void wholeNumbersAreExact()
+    {
+        ScanOptions options;
+        options.maxSize = (qint64(1) << 53) + 1; // no double
+        ScanOptions read;
+        QCOMPARE(scanOptionsFromJson(scanOptionsToJson(options), read), QString());
+        QCOMPARE(read.maxSize, options.maxSize);
+        QCOMPARE(setScanOption(read, u"minSize"_s, u"9007199254740993"_s), QString());
+        QCOMPARE(read.minSize, options.maxSize);
+    }
 
-void OptionTableTest::refused_data()
-{
-    QTest::addColumn<QJsonValue>("value");
-    QTest::newRow("noSuchOption") << QJsonValue(1);
-    QTest::newRow("minsize") << QJsonValue(1); // case matters
-    QTest::newRow("minSize") << QJsonValue(QStringLiteral("1"));
-    QTest::newRow("maxSize") << QJsonValue(1.5);
-    QTest::newRow("largeFileMinBytes") << QJsonValue(1e19);
-    QTest::newRow("threads") << QJsonValue(qint64(1) << 31);
-    QTest::newRow("skipHidden") << QJsonValue(1);
-    QTest::newRow("roots") << QJsonValue(QStringLiteral("/a"));
-    QTest::newRow("excludeFolders") << QJsonValue(QJsonArray{1});
-    QTest::newRow("videoDurationTolerance") << QJsonValue(5);
-    QTest::newRow("audioTags") << QJsonValue(QJsonArray{QStringLiteral("Artist")});
-    QTest::newRow("locations") << QJsonValue(QJsonArray{QJsonObject{{QStringLiteral("folder"), QStringLiteral("/a")}}});
-    QTest::newRow("sameName") << QJsonValue(QJsonValue::Null);
-}
+    void refused_data()
+    {
+        const auto row = columns<QJsonValue>({"value"}); // the names are the options'
+        row("noSuchOption", 1);
+        row("minsize", 1); // case matters
+        row("minSize", u"1"_s);
+        row("maxSize", 1.5);
+        row("largeFileMinBytes", 1e19);
+        row("threads", qint64(1) << 31);
+        row("skipHidden", 1);
+        row("roots", u"/a"_s);
+        row("excludeFolders", QJsonArray{1});
+        row("videoDurationTolerance", 5);
+        row("audioTags", QJsonArray{u"Artist"_s});
+        row("locations", QJsonArray{QJsonObject{{u"folder"_s, u"/a"_s}}});
+        row("sameName", QJsonValue::Null);
+    }
 
-void OptionTableTest::refused()
-{
-    QFETCH(QJsonValue, value);
-    const QString name = QString::fromLatin1(QTest::currentDataTag());
-    ScanOptions options;
-    // A good option beside the bad one must not be taken either.
-    const QString problem = scanOptionsFromJson({{QStringLiteral("caseSensitive"), true}, {name, value}}, options);
-    QVERIFY2(problem.contains(QLatin1Char('"') + name + QLatin1Char('"')), qPrintable(problem));
-    QVERIFY(options == ScanOptions());
-}
+    void refused()
+    {
+        QFETCH(QJsonValue, value);
+        const QString name = QLatin1String(QTest::currentDataTag());
+        ScanOptions options;
+        // A good option beside the bad one must not be taken either.
+        const QString problem = scanOptionsFromJson({{u"caseSensitive"_s, true}, {name, value}}, options);
+        QVERIFY2(problem.contains(u'"' + name + u'"'), qPrintable(problem));
+        QVERIFY(options == ScanOptions());
+    }
 
-void OptionTableTest::fromText_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QJsonValue>("expected");
-    const auto row = [](const char *name, const char *text, const QJsonValue &expected) {
-        QTest::addRow("%s=%s", name, text) << QString::fromLatin1(name) << QString::fromUtf8(text) << expected;
-    };
-    row("sameName", "true", true);
-    row("minSize", "1024", 1024);
-    row("minSize", "-1", -1);
-    row("includeExtensions", "jpg,png", QJsonArray{QStringLiteral("jpg"), QStringLiteral("png")});
-    row("includeExtensions", R"(["a,b"])", QJsonArray{QStringLiteral("a,b")});
-    row("includeExtensions", "", QJsonArray());
-    row("videoDurationTolerance", "00:00:01.000", QStringLiteral("00:00:01.000"));
-    row("videoDurationTolerance", "\"quoted\"", QStringLiteral("\"quoted\""));
-    row("minSize", "1e3", 1000); // any whole number of JSON
-    row("roots", "/a,,/b", QJsonArray{QStringLiteral("/a"), QStringLiteral("/b")});
-    row("locations", R"([{"path":"/a","showRemaining":true}])",
-        QJsonArray{QJsonObject{{QStringLiteral("path"), QStringLiteral("/a")},
-                               {QStringLiteral("includeSubfolders"), true},
-                               {QStringLiteral("findKind"), 0},
-                               {QStringLiteral("showRemaining"), true}}});
-    row("imageTags", R"([{"name":"Make","enabled":1}])",
-        QJsonArray{QJsonObject{{QStringLiteral("name"), QStringLiteral("Make")}, {QStringLiteral("enabled"), 1}}});
-}
+    void fromText_data()
+    {
+        const auto row = columns<QString, QString, QJsonValue>({"name", "text", "expected"});
+        row("flag", u"sameName"_s, u"true"_s, true);
+        row("number", u"minSize"_s, u"-1024"_s, -1024);
+        row("number as JSON writes it", u"minSize"_s, u"1e3"_s, 1000);
+        row("list", u"roots"_s, u"/a,,/b"_s, QJsonArray{u"/a"_s, u"/b"_s});
+        row("list with a comma", u"includeExtensions"_s, uR"(["a,b"])"_s, QJsonArray{u"a,b"_s});
+        row("empty list", u"includeExtensions"_s, u""_s, QJsonArray());
+        row("text", u"videoDurationTolerance"_s, u"00:00:01.000"_s, u"00:00:01.000"_s);
+        row("quotes", u"videoDurationTolerance"_s, u"\"quoted\""_s, u"\"quoted\""_s);
+        row("locations", u"locations"_s, locationsText, arrayFrom(locationsText));
+        row("location, completed", u"locations"_s, uR"([{"path":"/a"}])"_s,
+            arrayFrom(uR"([{"path":"/a","includeSubfolders":true,"findKind":0,"showRemaining":false}])"_s));
+        row("tags", u"imageTags"_s, tagsText, arrayFrom(tagsText));
+    }
 
-void OptionTableTest::fromText()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, text);
-    ScanOptions options;
-    QCOMPARE(setScanOption(options, name, text), QString());
-    const QJsonValue value = scanOptionsToJson(options)[name];
-    QTEST(value, "expected");
-}
+    void fromText()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, text);
+        ScanOptions options;
+        QCOMPARE(setScanOption(options, name, text), QString());
+        QTEST(QJsonValue(scanOptionsToJson(options)[name]), "expected");
+    }
 
-void OptionTableTest::textRefused_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("minSize") << QStringLiteral("1k");
-    QTest::newRow("maxSize") << QStringLiteral("1,2");
-    QTest::newRow("threads") << QString();
-    QTest::newRow("keepRule") << QStringLiteral("2147483648");
-    QTest::newRow("largeFileMinBytes") << QStringLiteral("9223372036854775808");
-    QTest::newRow("nameTolerance") << QStringLiteral("0.5");
-    QTest::newRow("roots") << QStringLiteral("[\"/a\"],[\"/b\"]");
-    QTest::newRow("excludeFolders") << QStringLiteral("[\"/a\", 1]");
-    QTest::newRow("imageTags") << QStringLiteral("{\"name\":\"Make\"}");
-    QTest::newRow("sameName") << QStringLiteral("yes");
-    QTest::newRow("locations") << QStringLiteral("/a");
-    QTest::newRow("none") << QStringLiteral("1");
-}
+    void textRefused_data()
+    {
+        const auto row = columns<QString>({"text"}); // the names are the options'
+        row("minSize", u"1k"_s);
+        row("maxSize", u"1,2"_s);
+        row("threads", {});
+        row("keepRule", u"2147483648"_s);
+        row("largeFileMinBytes", u"9223372036854775808"_s);
+        row("nameTolerance", u"0.5"_s);
+        row("roots", u"[\"/a\"],[\"/b\"]"_s);
+        row("excludeFolders", u"[\"/a\", 1]"_s);
+        row("imageTags", u"{\"name\":\"Make\"}"_s);
+        row("sameName", u"yes"_s);
+        row("locations", u"/a"_s);
+        row("none", u"1"_s);
+    }
 
-void OptionTableTest::textRefused()
-{
-    QFETCH(QString, text);
-    const QString name = QString::fromLatin1(QTest::currentDataTag());
-    ScanOptions options;
-    const QString problem = setScanOption(options, name, text);
-    QVERIFY2(problem.contains(QLatin1Char('"') + name + QLatin1Char('"')), qPrintable(problem));
-    QVERIFY(options == ScanOptions());
-}
+    void textRefused()
+    {
+        QFETCH(QString, text);
+        const QString name = QLatin1String(QTest::currentDataTag());
+        ScanOptions options;
+        const QString problem = setScanOption(options, name, text);
+        QVERIFY2(problem.contains(u'"' + name + u'"'), qPrintable(problem));
+        QVERIFY(options == ScanOptions());
+    }
+};
 
 QTEST_GUILESS_MAIN(OptionTableTest)
 #include "tst_optiontable.moc"

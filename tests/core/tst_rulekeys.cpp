@@ -1,45 +1,34 @@
 #include "core/match/rulekeys.h"
-#include "core/model/optiontable.h"
+#include "tests/support/coretest.h"
 
 #include <QDateTime>
 #include <QDir>
-#include <QJsonDocument>
-#include <QTest>
 #include <QTimeZone>
-
-using namespace MirrixCore;
 
 namespace {
 
-FileEntry fileAt(const QString &path, qint64 size = 10)
+QString keyOf(const FileEntry &file, const QByteArray &options, bool includeMedia = false)
 {
-    FileEntry file;
-    file.path = path;
-    file.size = size;
-    return file;
+    return buildRuleKey(file, optionsFrom(options), includeMedia);
 }
 
-/// Options from JSON, as profiles write them.
-ScanOptions optionsFrom(const char *json)
+/// Groups as "key: path path, waste", in their order.
+QStringList textsOf(const QList<DuplicateGroup> &groups)
 {
-    ScanOptions options;
-    const QString problem = scanOptionsFromJson(QJsonDocument::fromJson(json).object(), options);
-    if (!problem.isEmpty())
-        qFatal("%s", qPrintable(problem));
-    return options;
+    QStringList texts;
+    for (const DuplicateGroup &group : groups)
+        texts.append(u"%1: %2, %3"_s.arg(group.key, pathsOf(group.files).join(u' ')).arg(group.wastedBytes));
+    return texts;
 }
 
-QString keyOf(const FileEntry &file, const char *json, bool includeMedia = false)
+QString grouped(const QList<FileEntry> &files, const QByteArray &options)
 {
-    return buildRuleKey(file, optionsFrom(json), includeMedia);
+    return textsOf(groupByRuleKeys(files, optionsFrom(options), false).groups).join(u'|');
 }
 
-QStringList pathsOf(const DuplicateGroup &group)
+QString refined(const DuplicateGroup &group, const QByteArray &options)
 {
-    QStringList paths;
-    for (const FileEntry &file : group.files)
-        paths.append(file.path);
-    return paths;
+    return textsOf(refineGroupsByRuleKeys({group}, optionsFrom(options))).join(u'|');
 }
 
 } // namespace
@@ -49,312 +38,232 @@ class RuleKeysTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void plainParts_data();
-    void plainParts();
-    void timeParts();
-    void daysAcrossAChangeOfClock();
-    void mediaParts_data();
-    void mediaParts();
-    void partsComeInOrder();
-    void noRuleGroupsNothing();
-    void groupsByKey();
-    void wasteLeavesTheLargest();
-    void similarNamesTakeKeylessFiles();
-    void refinesContentGroups();
-    void refinementLeavesGroupsAloneWithoutRule();
-    void sameFolderGroupsCanBeLeftOut();
-    void hardLinksCollapse();
-    void longKeys();
-    void reportsProgress();
+    /// Central European time: the clock changed on 2023-03-26 and 2023-10-29. Read before the first use of local time.
+    void initTestCase() { qputenv("TZ", "Europe/Berlin"); }
+
+    void plainParts_data()
+    {
+        const auto row = columns<QString, QByteArray, QString>({"path", "options", "expected"});
+        const QByteArray name = R"({"sameName":true})";
+        row("no rule", u"C:/a/B.txt"_s, "{}", {});
+        row("name", u"C:/a/B.Txt"_s, name, u"FN:b.txt"_s);
+        row("name, case counts", u"C:/a/B.Txt"_s, R"({"sameName":true,"caseSensitive":true})", u"FN:B.Txt"_s);
+        row("number before the extension stays", u"C:/a/b (1).jpg"_s, name, u"FN:b (1).jpg"_s);
+        row("number at the end goes", u"C:/a/b (1)"_s, name, u"FN:b"_s);
+        row("unless copies count", u"C:/a/b (1)"_s, R"({"sameName":true,"ignoreCopyWords":false})", u"FN:b (1)"_s);
+        row("name of nothing but a copy word", u"C:/a/Copy"_s, name, u"FN:"_s);
+        row("Turkish letter as Qt lowers it", u"C:/İI.txt"_s, name, u"FN:"_s + u"İI.txt"_s.toLower());
+        row("sharp s stays", u"C:/STRAßE"_s, name, u"FN:straße"_s);
+        row("long name", u"C:/"_s + u"n"_s.repeated(10000), name, u"FN:"_s + u"n"_s.repeated(10000));
+        row("extension", u"C:/a.b/c.TAR.Gz"_s, R"({"sameExtension":true,"caseSensitive":true})", u"EXT:gz"_s);
+        row("no extension", u"C:/a.b/c"_s, R"({"sameExtension":true})", u"EXT:"_s);
+        row("size", u"C:/a"_s, R"({"sameSize":true})", u"SZ:1024"_s);
+        row("size within a bucket", u"C:/a"_s, R"({"sameSize":true,"sizeTolerance":1023})", u"SZ:1"_s);
+        row("size just below the next", u"C:/a"_s, R"({"sameSize":true,"sizeTolerance":1024})", u"SZ:0"_s);
+        row("negative tolerance", u"C:/a"_s, R"({"sameSize":true,"sizeTolerance":-5})", u"SZ:1024"_s);
+        row("drive is always the system's", u"Q:/a"_s, R"({"sameDrive":true})", u"DR:"_s + QDir::rootPath());
+        row("folder name", u"C:/One/Two/f"_s, R"({"sameFolderName":true})", u"FD:two"_s);
+        row("folder name at a drive's root", u"C:/f"_s, R"({"sameFolderName":true})", u"FD:"_s);
+        row("folder path", u"C:/One/Two/f"_s, R"({"sameFolderPath":true})", u"FP:c:"_s);
+        row("folder path, deeper", u"C:/One/Two/f"_s,
+            R"({"sameFolderPath":true,"folderPathDepth":2,"caseSensitive":true})", u"FP:C:/One"_s);
+        row("folder path, deeper than it is", u"C:/One/f"_s, R"({"sameFolderPath":true,"folderPathDepth":9})",
+            u"FP:c:/one"_s);
+        row("folder path, depth 0 is 1", u"/home/me/f"_s, R"({"sameFolderPath":true,"folderPathDepth":0})",
+            u"FP:home"_s);
+        row("folder path at a drive's root", u"C:/f"_s, R"({"sameFolderPath":true,"folderPathDepth":3})", u"FP:c:"_s);
+        row("path under root", u"C:/Data/x/F.txt"_s, R"({"samePathUnderRoot":true,"roots":["D:/","c:/data/"]})",
+            u"RP:/x/f.txt"_s);
+        row("first root that fits", u"C:/a/b/f"_s, R"({"samePathUnderRoot":true,"roots":["C:/a","C:/a/b"]})",
+            u"RP:/b/f"_s);
+        row("no root fits", u"C:/Data/f"_s, R"({"samePathUnderRoot":true,"roots":["c:/data"],"caseSensitive":true})",
+            u"RP:C:/Data/f"_s);
+    }
+
+    void plainParts()
+    {
+        QFETCH(QString, path);
+        QFETCH(QByteArray, options);
+        QTEST(keyOf(fileAt(path, 1024), options), "expected");
+    }
+
+    void timeParts()
+    {
+        FileEntry file = fileAt(u"C:/f"_s);
+        file.modifiedMs = 1700000000123;
+        QCOMPARE(keyOf(file, R"({"sameCreated":true,"sameModified":true})"), u"CD:-1|MD:1700000000123"_s);
+        QCOMPARE(keyOf(file, R"({"sameCreated":true,"createdDateOnly":true})"), u"CD:-1"_s);
+    }
+
+    void daysAcrossAChangeOfClock()
+    {
+        if (QTimeZone::systemTimeZone().offsetFromUtc(QDateTime::fromMSecsSinceEpoch(1688000000000)) != 7200)
+            QSKIP("the time zone cannot be chosen here");
+        // 2023-03-26 began at 2023-03-25T23:00Z and lasted 23 hours; 2023-10-29 began at 2023-10-28T22:00Z and
+        // lasted 25.
+        const QList<std::pair<QString, qint64>> days = {{u"2023-03-25T23:00:00Z"_s, 1679785200000},
+                                                        {u"2023-03-26T21:59:59Z"_s, 1679785200000},
+                                                        {u"2023-03-26T22:00:00Z"_s, 1679868000000},
+                                                        {u"2023-10-28T22:00:00Z"_s, 1698530400000},
+                                                        {u"2023-10-29T22:59:59Z"_s, 1698530400000}};
+        for (const auto &[utc, day] : days) {
+            FileEntry file = fileAt(u"C:/f"_s);
+            file.modifiedMs = QDateTime::fromString(utc, Qt::ISODate).toMSecsSinceEpoch();
+            QCOMPARE(keyOf(file, R"({"sameModified":true,"modifiedDateOnly":true})"), u"MD:%1"_s.arg(day));
+        }
+    }
+
+    void mediaParts_data()
+    {
+        const auto row = columns<QByteArray, QString>({"options", "expected"});
+        row("audio duration", R"({"searchMode":2,"audioMatchDuration":true})", u"ADUR:2"_s);
+        row("audio duration, tolerance 0 is 1",
+            R"({"searchMode":2,"audioMatchDuration":true,"audioDurationTolerance":0})", u"ADUR:12345"_s);
+        row("audio tags",
+            R"({"searchMode":2,"audioTags":[{"name":"artist","enabled":1},{"name":"标题","enabled":1},)"
+            R"({"name":"Album","enabled":0},{"name":"Track no.","enabled":1},{"name":"Year","enabled":1}]})",
+            u"AT:artist:An|AT:标题:Ti|AT:Track no.:7"_s);
+        row("video duration", R"({"searchMode":3,"videoMatchDuration":true})", u"VDUR:12345"_s);
+        row("video duration, a tenth",
+            R"({"searchMode":3,"videoMatchDuration":true,"videoDurationTolerance":"00:00:00.100"})", u"VDUR:123"_s);
+        row("video duration, no time", R"({"searchMode":3,"videoMatchDuration":true,"videoDurationTolerance":"x"})",
+            u"VDUR:12"_s);
+        row("video tags",
+            R"({"searchMode":3,"videoTags":[{"name":"导演","enabled":1},{"name":"DATE","enabled":1},)"
+            R"({"name":"Title","enabled":2}]})",
+            u"VT:导演:An|VT:DATE:2023-01-02T03:04:05"_s);
+        row("image dimensions", R"({"searchMode":1,"imageSameDimensions":true,"imageDimensionTolerance":9})",
+            u"IDIM:64x48"_s);
+        row("image place", R"({"searchMode":1,"imageGroupByGps":true,"imageGpsPrecision":1000})", u"IGPS:5827,-1"_s);
+        row("image tags",
+            R"({"searchMode":1,"imageTags":[{"name":"Maker","enabled":1},{"name":"相机型号","enabled":1},)"
+            R"({"name":"EXIF datetime","enabled":1},{"name":"ImageDescription","enabled":1}]})",
+            u"IT:Maker:Mk|IT:相机型号:Md|IT:EXIF datetime:2023-01-02T03:04:05|IT:ImageDescription:Al"_s);
+        row("files have none", R"({"searchMode":0,"imageSameDimensions":true,"audioMatchDuration":true})", {});
+    }
+
+    void mediaParts()
+    {
+        QFETCH(QByteArray, options);
+        FileEntry file = fileAt(u"C:/f"_s);
+        QCOMPARE(keyOf(file, options, true), QString()); // all unknown
+        file.durationMs = 12345;
+        file.width = 640;
+        file.height = 480;
+        file.artist = u"An"_s;
+        file.title = u"Ti"_s;
+        file.album = u"Al"_s;
+        file.track = u"7"_s;
+        file.cameraMake = u"Mk"_s;
+        file.cameraModel = u"Md"_s;
+        file.dateTaken = u"2023-01-02T03:04:05"_s;
+        file.latitude = 52.5; // 52.5 x 111 = 5827.5
+        file.longitude = -0.001;
+        file.hasGps = true;
+        QTEST(keyOf(file, options, true), "expected");
+        QCOMPARE(keyOf(file, options, false), QString());
+    }
+
+    void partsComeInOrder()
+    {
+        FileEntry file = fileAt(u"C:/Dir/Name.Ext"_s, 5);
+        file.createdMs = 6;
+        file.modifiedMs = 7;
+        file.durationMs = 8;
+        QCOMPARE(keyOf(file,
+                       R"({"sameName":true,"sameExtension":true,"sameSize":true,"sameCreated":true,)"
+                       R"("sameModified":true,"sameDrive":true,"sameFolderName":true,"sameFolderPath":true,)"
+                       R"("samePathUnderRoot":true,"roots":["C:/Dir"],"searchMode":2,)"
+                       R"("audioMatchDuration":true,"audioDurationTolerance":1})",
+                       true),
+                 u"FN:name.ext|EXT:ext|SZ:5|CD:6|MD:7|DR:%1|FD:dir|FP:c:|RP:/name.ext|ADUR:8"_s.arg(QDir::rootPath()));
+    }
+
+    void groupsByKey()
+    {
+        const QList<FileEntry> files{fileAt(u"/a/x"_s, 1023), fileAt(u"/a/y"_s, 0), fileAt(u"/b/z"_s, 1024),
+                                     fileAt(u"/b/x"_s, 500)};
+        QCOMPARE(grouped(files, R"({"sameSize":true,"sizeTolerance":1023})"), u"SZ:0: /a/x /a/y /b/x, 500"_s);
+        const ScanResult none = groupByRuleKeys(files, {}, true);
+        QVERIFY(none.groups.isEmpty());
+        QCOMPARE(none.filesScanned, 4);
+        QCOMPARE(none.totalBytes, 2547);
+    }
+
+    void wasteLeavesTheLargest()
+    {
+        const QList<FileEntry> files{fileAt(u"/a/x"_s, 5), fileAt(u"/b/x"_s, 100), fileAt(u"/a/y"_s, 60),
+                                     fileAt(u"/b/y"_s, 60)};
+        const ScanOptions options = optionsFrom(R"({"sameName":true})");
+        const ScanResult result = groupByRuleKeys(files, options, false);
+        QCOMPARE(textsOf(result.groups).join(u'|'), u"FN:y: /a/y /b/y, 60|FN:x: /a/x /b/x, 5"_s);
+        QCOMPARE(result.wastedBytes, 65);
+    }
+
+    void similarNamesTakeKeylessFiles()
+    {
+        const QList<FileEntry> files{fileAt(u"/a/report.doc"_s), fileAt(u"/b/Report-Copy.docx"_s),
+                                     fileAt(u"/b/something"_s)};
+        const QString paths = u"/a/report.doc /b/Report-Copy.docx, 10"_s;
+        QCOMPARE(grouped(files, R"({"similarNames":true})"), u"|SFN:report: "_s + paths);
+        QCOMPARE(grouped(files, R"({"similarNames":true,"sameSize":true})"), u"SZ:10|SFN:report: "_s + paths);
+    }
+
+    void refinesContentGroups()
+    {
+        const DuplicateGroup group{u"cafe"_s,
+                                   {fileAt(u"/a/x.txt"_s), fileAt(u"/b/x.txt"_s), fileAt(u"/c/y.txt"_s),
+                                    fileAt(u"/d/x.txt"_s), fileAt(u"/e/z.log"_s)},
+                                   40};
+        QCOMPARE(refined(group, R"({"sameName":true})"), u"cafe|FN:x.txt: /a/x.txt /b/x.txt /d/x.txt, 20"_s);
+        QCOMPARE(refined(group, R"({"similarNames":true,"nameTolerance":1})"), // x, y, z are all one edit apart
+                 u"cafe|SFN: /a/x.txt /b/x.txt /c/y.txt /d/x.txt /e/z.log, 40"_s);
+        QCOMPARE(refined(group, R"({"similarNames":true,"sameExtension":true,"nameTolerance":1})"),
+                 u"cafe|EXT:txt|SFN: /a/x.txt /b/x.txt /c/y.txt /d/x.txt, 30"_s);
+        QCOMPARE(refined(group, R"({"searchMode":2,"audioMatchDuration":true,"caseSensitive":true})"),
+                 textsOf({group}).join(u'|'));
+    }
+
+    void sameFolderGroupsCanBeLeftOut()
+    {
+        const DuplicateGroup inOne{u"k"_s, {fileAt(u"/a/x"_s), fileAt(u"/a/y"_s)}, 10};
+        const DuplicateGroup inTwo{u"k"_s, {fileAt(u"/a/x"_s), fileAt(u"/A/y"_s)}, 10};
+        QCOMPARE(refineGroupsByRuleKeys({inOne, inTwo}, optionsFrom(R"({"ignoreSameFolderGroups":true})")),
+                 QList<DuplicateGroup>{inTwo});
+    }
+
+    void hardLinksCollapse()
+    {
+        QList<FileEntry> files{fileAt(u"/a/x"_s), fileAt(u"/b/x"_s), fileAt(u"/c/x"_s)};
+        const auto groupsFor = [&](quint32 lastVolume, quint64 number) {
+            for (FileEntry &file : files) {
+                file.hasFileId = true;
+                file.volumeSerial = 1;
+                file.fileIndex = number;
+            }
+            files[2].volumeSerial = lastVolume;
+            return grouped(files, R"({"sameName":true,"collapseHardLinks":true})");
+        };
+        QCOMPARE(groupsFor(2, 5), u"FN:x: /a/x /c/x, 10"_s);
+        QCOMPARE(groupsFor(1, 5), QString());
+        QCOMPARE(groupsFor(1, 0), u"FN:x: /a/x /b/x /c/x, 20"_s); // unknown, so neither the same nor others
+    }
+
+    /// Each file twice: once for its key, once for its name.
+    void reportsProgress()
+    {
+        QList<FileEntry> files;
+        for (int i = 0; i < 200; ++i)
+            files.append(fileAt(u"/a/%1"_s.arg(i * 1000)));
+        QList<qint64> counts;
+        (void)groupByRuleKeys(files, optionsFrom(R"({"similarNames":true})"), false, {},
+                              [&](const ScanProgress &report) {
+                                  if (report.phase == Phase::Metadata && report.total == files.size())
+                                      counts.append(report.processed);
+                              });
+        QCOMPARE(counts, QList<qint64>({64, 128, 192, 200, 64, 128, 192, 200}));
+    }
 };
-
-void RuleKeysTest::initTestCase()
-{
-    // Central European time: the clock changed on 2023-03-26 and 2023-10-29. Read before the first use of local time.
-    qputenv("TZ", "Europe/Berlin");
-}
-
-void RuleKeysTest::plainParts_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QByteArray>("options");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char *name, const char *path, const char *options, const QString &expected) {
-        QTest::newRow(name) << QString::fromUtf8(path) << QByteArray(options) << expected;
-    };
-    row("no rule", "C:/a/B.txt", "{}", QString());
-    row("name", "C:/a/B.Txt", R"({"sameName":true})", QStringLiteral("FN:b.txt"));
-    row("name, case counts", "C:/a/B.Txt", R"({"sameName":true,"caseSensitive":true})", QStringLiteral("FN:B.Txt"));
-    row("number before the extension stays", "C:/a/b (1).jpg", R"({"sameName":true})", QStringLiteral("FN:b (1).jpg"));
-    row("number at the end goes", "C:/a/b (1)", R"({"sameName":true})", QStringLiteral("FN:b"));
-    row("unless copies count", "C:/a/b (1)", R"({"sameName":true,"ignoreCopyWords":false})",
-        QStringLiteral("FN:b (1)"));
-    row("name of nothing but a copy word", "C:/a/Copy", R"({"sameName":true})", QStringLiteral("FN:"));
-    row("Turkish letter as Qt lowers it", "C:/İI.txt", R"({"sameName":true})",
-        QLatin1String("FN:") + QString::fromUtf8("İI.txt").toLower());
-    row("sharp s stays", "C:/STRAßE", R"({"sameName":true})", QStringLiteral("FN:straße"));
-    row("extension", "C:/a.b/c.TAR.Gz", R"({"sameExtension":true,"caseSensitive":true})", QStringLiteral("EXT:gz"));
-    row("no extension", "C:/a.b/c", R"({"sameExtension":true})", QStringLiteral("EXT:"));
-    row("size", "C:/a", R"({"sameSize":true})", QStringLiteral("SZ:1024"));
-    row("size within a bucket", "C:/a", R"({"sameSize":true,"sizeTolerance":1023})", QStringLiteral("SZ:1"));
-    row("size just below the next", "C:/a", R"({"sameSize":true,"sizeTolerance":1024})", QStringLiteral("SZ:0"));
-    row("negative tolerance", "C:/a", R"({"sameSize":true,"sizeTolerance":-5})", QStringLiteral("SZ:1024"));
-    row("drive is always the system's", "Q:/a", R"({"sameDrive":true})", QLatin1String("DR:") + QDir::rootPath());
-    row("folder name", "C:/One/Two/f", R"({"sameFolderName":true})", QStringLiteral("FD:two"));
-    row("folder name at a drive's root", "C:/f", R"({"sameFolderName":true})", QStringLiteral("FD:"));
-    row("folder path", "C:/One/Two/f", R"({"sameFolderPath":true})", QStringLiteral("FP:c:"));
-    row("folder path, deeper", "C:/One/Two/f", R"({"sameFolderPath":true,"folderPathDepth":2,"caseSensitive":true})",
-        QStringLiteral("FP:C:/One"));
-    row("folder path, deeper than it is", "C:/One/f", R"({"sameFolderPath":true,"folderPathDepth":9})",
-        QStringLiteral("FP:c:/one"));
-    row("folder path, depth 0 is 1", "/home/me/f", R"({"sameFolderPath":true,"folderPathDepth":0})",
-        QStringLiteral("FP:home"));
-    row("folder path at a drive's root", "C:/f", R"({"sameFolderPath":true,"folderPathDepth":3})",
-        QStringLiteral("FP:c:"));
-    row("path under root", "C:/Data/x/F.txt", R"({"samePathUnderRoot":true,"roots":["D:/","c:/data/"]})",
-        QStringLiteral("RP:/x/f.txt"));
-    row("first root that fits", "C:/a/b/f", R"({"samePathUnderRoot":true,"roots":["C:/a","C:/a/b"]})",
-        QStringLiteral("RP:/b/f"));
-    row("no root fits", "C:/Data/f", R"({"samePathUnderRoot":true,"roots":["c:/data"],"caseSensitive":true})",
-        QStringLiteral("RP:C:/Data/f"));
-}
-
-void RuleKeysTest::plainParts()
-{
-    QFETCH(QString, path);
-    QFETCH(QByteArray, options);
-    const QString key = keyOf(fileAt(path, 1024), options.constData());
-    QTEST(key, "expected");
-}
-
-void RuleKeysTest::timeParts()
-{
-    FileEntry file = fileAt(QStringLiteral("C:/f"));
-    file.createdMs = 0;
-    file.modifiedMs = 1700000000123;
-    QCOMPARE(keyOf(file, R"({"sameCreated":true,"sameModified":true})"), QStringLiteral("CD:-1|MD:1700000000123"));
-    QCOMPARE(keyOf(file, R"({"sameCreated":true,"createdDateOnly":true})"), QStringLiteral("CD:-1"));
-}
-
-void RuleKeysTest::daysAcrossAChangeOfClock()
-{
-    if (QTimeZone::systemTimeZone().offsetFromUtc(QDateTime::fromMSecsSinceEpoch(1688000000000)) != 7200)
-        QSKIP("the time zone cannot be chosen here");
-    const auto dayOf = [](const char *utc) {
-        FileEntry file;
-        file.path = QStringLiteral("C:/f");
-        file.modifiedMs = QDateTime::fromString(QLatin1String(utc), Qt::ISODate).toMSecsSinceEpoch();
-        return keyOf(file, R"({"sameModified":true,"modifiedDateOnly":true})");
-    };
-    // 2023-03-26 began at 2023-03-25T23:00Z and lasted 23 hours; 2023-10-29 began at 2023-10-28T22:00Z and lasted 25.
-    QCOMPARE(dayOf("2023-03-25T23:00:00Z"), QStringLiteral("MD:1679785200000"));
-    QCOMPARE(dayOf("2023-03-26T21:59:59Z"), QStringLiteral("MD:1679785200000"));
-    QCOMPARE(dayOf("2023-03-26T22:00:00Z"), QStringLiteral("MD:1679868000000"));
-    QCOMPARE(dayOf("2023-10-28T22:00:00Z"), QStringLiteral("MD:1698530400000"));
-    QCOMPARE(dayOf("2023-10-29T22:59:59Z"), QStringLiteral("MD:1698530400000"));
-}
-
-void RuleKeysTest::mediaParts_data()
-{
-    QTest::addColumn<QByteArray>("options");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char *name, const char *options, const char *expected) {
-        QTest::newRow(name) << QByteArray(options) << QString::fromUtf8(expected);
-    };
-    row("audio duration", R"({"searchMode":2,"audioMatchDuration":true})", "ADUR:2");
-    row("audio duration, tolerance 0 is 1", R"({"searchMode":2,"audioMatchDuration":true,"audioDurationTolerance":0})",
-        "ADUR:12345");
-    row("audio tags",
-        R"({"searchMode":2,"audioTags":[{"name":"artist","enabled":1},{"name":"标题","enabled":1},)"
-        R"({"name":"Album","enabled":0},{"name":"Track no.","enabled":1},{"name":"Year","enabled":1}]})",
-        "AT:artist:An|AT:标题:Ti|AT:Track no.:7");
-    row("video duration", R"({"searchMode":3,"videoMatchDuration":true})", "VDUR:12345");
-    row("video duration, a tenth",
-        R"({"searchMode":3,"videoMatchDuration":true,"videoDurationTolerance":"00:00:00.100"})", "VDUR:123");
-    row("video duration, no time", R"({"searchMode":3,"videoMatchDuration":true,"videoDurationTolerance":"x"})",
-        "VDUR:12");
-    row("video tags",
-        R"({"searchMode":3,"videoTags":[{"name":"导演","enabled":1},{"name":"DATE","enabled":1},{"name":"Title","enabled":2}]})",
-        "VT:导演:An|VT:DATE:2023-01-02T03:04:05");
-    row("image dimensions", R"({"searchMode":1,"imageSameDimensions":true,"imageDimensionTolerance":9})", "IDIM:64x48");
-    row("image place", R"({"searchMode":1,"imageGroupByGps":true,"imageGpsPrecision":1000})", "IGPS:5827,-1");
-    row("image tags",
-        R"({"searchMode":1,"imageTags":[{"name":"Maker","enabled":1},{"name":"相机型号","enabled":1},)"
-        R"({"name":"EXIF datetime","enabled":1},{"name":"ImageDescription","enabled":1}]})",
-        "IT:Maker:Mk|IT:相机型号:Md|IT:EXIF datetime:2023-01-02T03:04:05|IT:ImageDescription:Al");
-    row("files have none", R"({"searchMode":0,"imageSameDimensions":true,"audioMatchDuration":true})", "");
-}
-
-void RuleKeysTest::mediaParts()
-{
-    QFETCH(QByteArray, options);
-    FileEntry file = fileAt(QStringLiteral("C:/f"));
-    file.durationMs = 12345;
-    file.width = 640;
-    file.height = 480;
-    file.artist = QStringLiteral("An");
-    file.title = QStringLiteral("Ti");
-    file.album = QStringLiteral("Al");
-    file.track = QStringLiteral("7");
-    file.cameraMake = QStringLiteral("Mk");
-    file.cameraModel = QStringLiteral("Md");
-    file.dateTaken = QStringLiteral("2023-01-02T03:04:05");
-    file.latitude = 52.5; // 52.5 x 111 = 5827.5
-    file.longitude = -0.001;
-    file.hasGps = true;
-    const QString key = keyOf(file, options.constData(), true);
-    QTEST(key, "expected");
-    QCOMPARE(keyOf(file, options.constData(), false), QString());
-    const FileEntry unknown = fileAt(QStringLiteral("C:/f"));
-    QCOMPARE(keyOf(unknown, options.constData(), true), QString());
-}
-
-void RuleKeysTest::partsComeInOrder()
-{
-    FileEntry file = fileAt(QStringLiteral("C:/Dir/Name.Ext"), 5);
-    file.createdMs = 6;
-    file.modifiedMs = 7;
-    file.durationMs = 8;
-    const QString expected = QLatin1String("FN:name.ext|EXT:ext|SZ:5|CD:6|MD:7|DR:") + QDir::rootPath() +
-                             QLatin1String("|FD:dir|FP:c:|RP:/name.ext|ADUR:8");
-    QCOMPARE(keyOf(file,
-                   R"({"sameName":true,"sameExtension":true,"sameSize":true,"sameCreated":true,"sameModified":true,)"
-                   R"("sameDrive":true,"sameFolderName":true,"sameFolderPath":true,"samePathUnderRoot":true,)"
-                   R"("roots":["C:/Dir"],"searchMode":2,"audioMatchDuration":true,"audioDurationTolerance":1})",
-                   true),
-             expected);
-}
-
-void RuleKeysTest::noRuleGroupsNothing()
-{
-    const QList<FileEntry> files{fileAt(QStringLiteral("/a/x")), fileAt(QStringLiteral("/b/x"))};
-    const ScanResult result = groupByRuleKeys(files, {}, true);
-    QVERIFY(result.groups.isEmpty());
-    QCOMPARE(result.filesScanned, 2);
-    QCOMPARE(result.totalBytes, 20);
-}
-
-void RuleKeysTest::groupsByKey()
-{
-    const QList<FileEntry> files{fileAt(QStringLiteral("/a/x"), 1023), fileAt(QStringLiteral("/a/y"), 0),
-                                 fileAt(QStringLiteral("/b/z"), 1024), fileAt(QStringLiteral("/b/x"), 500)};
-    const ScanResult result = groupByRuleKeys(files, optionsFrom(R"({"sameSize":true,"sizeTolerance":1023})"), false);
-    QCOMPARE(result.groups.size(), 1);
-    QCOMPARE(result.groups[0].key, QStringLiteral("SZ:0"));
-    QCOMPARE(pathsOf(result.groups[0]),
-             QStringList({QStringLiteral("/a/x"), QStringLiteral("/a/y"), QStringLiteral("/b/x")}));
-}
-
-void RuleKeysTest::wasteLeavesTheLargest()
-{
-    const QList<FileEntry> files{fileAt(QStringLiteral("/a/x"), 5), fileAt(QStringLiteral("/b/x"), 100),
-                                 fileAt(QStringLiteral("/a/y"), 60), fileAt(QStringLiteral("/b/y"), 60)};
-    const ScanResult result = groupByRuleKeys(files, optionsFrom(R"({"sameName":true})"), false);
-    QCOMPARE(result.groups.size(), 2);
-    QCOMPARE(result.groups[0].wastedBytes, 60);
-    QCOMPARE(result.groups[1].wastedBytes, 5);
-    QCOMPARE(result.wastedBytes, 65);
-}
-
-void RuleKeysTest::similarNamesTakeKeylessFiles()
-{
-    const QList<FileEntry> files{fileAt(QStringLiteral("/a/report.doc")),
-                                 fileAt(QStringLiteral("/b/Report - Copy.docx")),
-                                 fileAt(QStringLiteral("/b/something else"))};
-    const ScanResult result = groupByRuleKeys(files, optionsFrom(R"({"similarNames":true})"), false);
-    QCOMPARE(result.groups.size(), 1);
-    QCOMPARE(result.groups[0].key, QStringLiteral("|SFN:report"));
-    QCOMPARE(result.groups[0].files.size(), 2);
-    const ScanResult withSize = groupByRuleKeys(files, optionsFrom(R"({"similarNames":true,"sameSize":true})"), false);
-    QCOMPARE(withSize.groups.value(0).key, QStringLiteral("SZ:10|SFN:report"));
-}
-
-void RuleKeysTest::refinesContentGroups()
-{
-    const DuplicateGroup group{QStringLiteral("cafe"),
-                               {fileAt(QStringLiteral("/a/x.txt")), fileAt(QStringLiteral("/b/x.txt")),
-                                fileAt(QStringLiteral("/c/y.txt")), fileAt(QStringLiteral("/d/x.txt")),
-                                fileAt(QStringLiteral("/e/z.log"))},
-                               40};
-    QList<DuplicateGroup> refined = refineGroupsByRuleKeys({group}, optionsFrom(R"({"sameName":true})"));
-    QCOMPARE(refined.size(), 1);
-    QCOMPARE(refined[0].key, QStringLiteral("cafe|FN:x.txt"));
-    QCOMPARE(refined[0].wastedBytes, 20);
-    refined = refineGroupsByRuleKeys({group}, optionsFrom(R"({"similarNames":true,"nameTolerance":1})"));
-    QCOMPARE(refined.size(), 1); // one letter each: x, y, z are all one edit apart
-    QCOMPARE(refined[0].key, QStringLiteral("cafe|SFN"));
-    QCOMPARE(refined[0].files.size(), 5);
-    refined =
-        refineGroupsByRuleKeys({group}, optionsFrom(R"({"similarNames":true,"sameExtension":true,"nameTolerance":1})"));
-    QCOMPARE(refined.size(), 1);
-    QCOMPARE(refined[0].key, QStringLiteral("cafe|EXT:txt|SFN"));
-}
-
-void RuleKeysTest::refinementLeavesGroupsAloneWithoutRule()
-{
-    const DuplicateGroup group{
-        QStringLiteral("cafe"), {fileAt(QStringLiteral("/a/x")), fileAt(QStringLiteral("/b/y"))}, 10};
-    const ScanOptions media = optionsFrom(R"({"searchMode":2,"audioMatchDuration":true,"caseSensitive":true})");
-    QCOMPARE(refineGroupsByRuleKeys({group}, media), QList<DuplicateGroup>{group});
-}
-
-void RuleKeysTest::sameFolderGroupsCanBeLeftOut()
-{
-    const ScanOptions options = optionsFrom(R"({"ignoreSameFolderGroups":true})");
-    const DuplicateGroup inOne{
-        QStringLiteral("k"), {fileAt(QStringLiteral("/a/x")), fileAt(QStringLiteral("/a/y"))}, 10};
-    const DuplicateGroup inTwo{
-        QStringLiteral("k"), {fileAt(QStringLiteral("/a/x")), fileAt(QStringLiteral("/A/y"))}, 10};
-    QCOMPARE(refineGroupsByRuleKeys({inOne, inTwo}, options), QList<DuplicateGroup>{inTwo});
-}
-
-void RuleKeysTest::hardLinksCollapse()
-{
-    QList<FileEntry> files{fileAt(QStringLiteral("/a/x")), fileAt(QStringLiteral("/b/x")),
-                           fileAt(QStringLiteral("/c/x"))};
-    const auto identify = [&](int index, quint32 volume, quint64 number) {
-        files[index].hasFileId = true;
-        files[index].volumeSerial = volume;
-        files[index].fileIndex = number;
-    };
-    const ScanOptions options = optionsFrom(R"({"sameName":true,"collapseHardLinks":true})");
-    identify(0, 1, 5);
-    identify(1, 1, 5);
-    identify(2, 2, 5);
-    ScanResult result = groupByRuleKeys(files, options, false);
-    QCOMPARE(pathsOf(result.groups.value(0)), QStringList({QStringLiteral("/a/x"), QStringLiteral("/c/x")}));
-    QCOMPARE(result.wastedBytes, 10);
-    identify(2, 1, 5);
-    QVERIFY(groupByRuleKeys(files, options, false).groups.isEmpty());
-    for (int i = 0; i < 3; ++i)
-        identify(i, 1, 0); // unknown, so neither the same nor others
-    QCOMPARE(groupByRuleKeys(files, options, false).groups.value(0).files.size(), 3);
-}
-
-void RuleKeysTest::longKeys()
-{
-    const QString name(10000, QLatin1Char('n'));
-    const QList<FileEntry> files{fileAt(QLatin1String("/a/") + name), fileAt(QLatin1String("/b/") + name)};
-    const ScanResult result = groupByRuleKeys(files, optionsFrom(R"({"sameName":true})"), false);
-    QCOMPARE(result.groups.value(0).key, QLatin1String("FN:") + name);
-}
-
-/// Each file twice: once for its key, once for its name.
-void RuleKeysTest::reportsProgress()
-{
-    QList<FileEntry> files;
-    for (int i = 0; i < 200; ++i)
-        files.append(fileAt(QStringLiteral("/a/%1").arg(i * 1000)));
-    ScanOptions options;
-    options.similarNames = true;
-    QList<qint64> counts;
-    (void)groupByRuleKeys(files, options, false, {}, [&](const ScanProgress &report) {
-        if (report.phase == Phase::Metadata && report.total == files.size())
-            counts.append(report.processed);
-    });
-    QCOMPARE(counts, QList<qint64>({64, 128, 192, 200, 64, 128, 192, 200}));
-}
 
 QTEST_GUILESS_MAIN(RuleKeysTest)
 #include "tst_rulekeys.moc"

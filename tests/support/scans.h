@@ -1,14 +1,17 @@
 #pragma once
 
+#include "core/model/optiontable.h"
 #include "core/model/scanoptions.h"
 #include "core/model/scanprogress.h"
 #include "core/model/scanresult.h"
 #include "tests/support/temptree.h"
 
 #include <QDir>
+#include <QJsonDocument>
 #include <QList>
 #include <QStringList>
 
+#include <algorithm>
 #include <functional>
 
 namespace MirrixTest {
@@ -20,6 +23,32 @@ namespace MirrixTest {
     for (const QString &folder : folders)
         options.roots.append(tree.path(folder));
     return options;
+}
+
+/// Options given in JSON, as profiles hold them.
+[[nodiscard]] inline MirrixCore::ScanOptions optionsFrom(const QByteArray &json)
+{
+    MirrixCore::ScanOptions options;
+    const QString problem = MirrixCore::scanOptionsFromJson(QJsonDocument::fromJson(json).object(), options);
+    if (!problem.isEmpty())
+        qFatal("%s", qPrintable(problem));
+    return options;
+}
+
+[[nodiscard]] inline MirrixCore::FileEntry fileAt(const QString &path, qint64 sizeBytes = 10)
+{
+    MirrixCore::FileEntry file;
+    file.path = path;
+    file.size = sizeBytes;
+    return file;
+}
+
+[[nodiscard]] inline QStringList pathsOf(const QList<MirrixCore::FileEntry> &files)
+{
+    QStringList paths;
+    for (const MirrixCore::FileEntry &file : files)
+        paths.append(file.path);
+    return paths;
 }
 
 /// The paths of `files` below the tree, in their order.
@@ -38,6 +67,24 @@ namespace MirrixTest {
     for (const MirrixCore::DuplicateGroup &group : result.groups)
         groups.append(relativePaths(group.files, tree));
     return groups;
+}
+
+/// Lists as a text such as "a b|c d", all in alphabetical order.
+[[nodiscard]] inline QString sortedText(const QList<QStringList> &lists)
+{
+    QStringList texts;
+    for (QStringList list : lists) {
+        list.sort();
+        texts.append(list.join(QLatin1Char(' ')));
+    }
+    texts.sort();
+    return texts.join(QLatin1Char('|'));
+}
+
+/// The groups of a result in this form, whatever their order.
+[[nodiscard]] inline QString groupsText(const MirrixCore::ScanResult &result, const TempTree &tree)
+{
+    return sortedText(groupsOf(result, tree));
 }
 
 /// Whether nothing of the report's phase comes after it. Holds for walks of less than 256 files.

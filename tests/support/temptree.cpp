@@ -63,6 +63,12 @@ QString TempTree::write(const QString &relative, const QByteArray &content) cons
     return absolute;
 }
 
+void TempTree::writeAll(const QString &relatives, const QByteArray &content) const
+{
+    for (const QString &relative : relatives.split(QLatin1Char(' ')))
+        write(relative, content);
+}
+
 QString TempTree::writeExactly(const QString &relative, const QByteArray &content) const
 {
     const QString absolute = path(relative);

@@ -23,6 +23,9 @@ public:
     /// Writes a file, making folders as needed; returns its absolute path.
     QString write(const QString &relative, const QByteArray &content) const;
 
+    /// Writes a file of this content under each of the names, which blanks separate.
+    void writeAll(const QString &relatives, const QByteArray &content = "x") const;
+
     /// Writes a file under a name that the system's everyday calls would change, cut or refuse: trailing dots and
     /// blanks, paths of more than 260 characters.
     QString writeExactly(const QString &relative, const QByteArray &content) const;
