@@ -2,10 +2,7 @@
 
 #include "actions/operationslog.h"
 #include "app/settings.h"
-#include "tests/support/temptree.h"
-#include "tests/ui/scriptedprompts.h"
-
-#include <QDialog>
+#include "tests/ui/uitest.h"
 
 #include <functional>
 #include <memory>
@@ -23,7 +20,7 @@ class Gallery
 {
 public:
     /// Opens the main window over the sample; `tweak` changes the settings first.
-    explicit Gallery(const std::function<void(Mirrix::Settings &)> &tweak = {});
+    explicit Gallery(const std::function<void(Settings &)> &tweak = {});
     ~Gallery();
 
     [[nodiscard]] MirrixUi::Mirrix &window() { return *m_window; }
@@ -44,8 +41,8 @@ public:
 
 private:
     TempTree m_tree;
-    Mirrix::Settings m_settings;
-    Mirrix::OperationsLog m_log;
+    Settings m_settings;
+    OperationsLog m_log;
     ScriptedPrompts m_prompts;
     std::unique_ptr<MirrixUi::Mirrix> m_window;
 };
