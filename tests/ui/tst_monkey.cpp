@@ -71,7 +71,15 @@ public:
     }
     void warn(QWidget *, const QString &, const QString &) override { look(); }
     void fail(QWidget *, const QString &, const QString &) override { look(); }
-    bool ask(QWidget *, const QString &, const QString &, const QString &) override { return look() && chance(2); }
+    /// The question about deleting for good stands between the dialog and the deed.
+    bool ask(QWidget *, const QString &, const QString &, const QString &) override
+    {
+        const bool mayDestroy = m_mayDestroy;
+        const bool isYes = look() && chance(2);
+        m_mayDestroy = mayDestroy && isYes;
+        return isYes;
+    }
+
     qsizetype choose(QWidget *, const ChoiceRequest &request) override
     {
         look();
