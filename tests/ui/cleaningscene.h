@@ -5,34 +5,23 @@
 #include "actions/operationslog.h"
 #include "app/settings.h"
 #include "core/platform/filestatus.h"
-#include "tests/support/temptree.h"
-#include "tests/ui/scriptedprompts.h"
+#include "tests/support/disk.h"
+#include "tests/ui/uitest.h"
 #include "ui/batchcommands.h"
 #include "ui/dialogs/fileremovaldialog.h"
 
-#include <QAbstractButton>
-#include <QCheckBox>
-#include <QFile>
-#include <QLineEdit>
-#include <QTest>
-
 namespace MirrixTest {
-
-inline QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 /// The commands on the scan of a real folder, and everything around them.
 struct CleaningScene
 {
     TempTree tree;
-    Mirrix::ResultSet results;
-    Mirrix::Settings settings;
+    ResultSet results;
+    Settings settings;
     ScriptedPrompts prompts;
-    Mirrix::OperationsLog log{tree.path(QStringLiteral("data/ops.log.enc"))};
+    OperationsLog log{path("data/ops.log.enc")};
     QWidget window;
-    Mirrix::BatchCommands commands{results, settings, prompts, log, &window};
+    BatchCommands commands{results, settings, prompts, log, &window};
 
     CleaningScene()
     {
@@ -41,44 +30,52 @@ struct CleaningScene
         commands.setBackupFolder(backup());
     }
 
-    [[nodiscard]] QString backup() const { return tree.path(QStringLiteral("backup")); }
+    [[nodiscard]] QString backup() const { return path("backup"); }
     [[nodiscard]] QString path(const char *name) const { return tree.path(QLatin1String(name)); }
     [[nodiscard]] bool has(const char *name) const { return QFile::exists(path(name)); }
+    [[nodiscard]] QByteArray content(const QString &path) const { return contentOf(path); }
+
+    /// Those of the names that are on the disk.
+    [[nodiscard]] QString there(const QString &names) const
+    {
+        QStringList found = names.split(u' ');
+        found.removeIf([this](const QString &name) { return !QFile::exists(tree.path(name)); });
+        return found.join(u' ');
+    }
 
     /// Writes files of one content and takes them for a group; the names with a star are ticked.
-    void addGroup(const QStringList &names, const QByteArray &content)
+    void addGroup(const QString &names, const QByteArray &content)
     {
         MirrixCore::DuplicateGroup group;
         group.isEqualContent = true;
-        for (QString name : names) {
-            const QString path = tree.write(name.remove(QLatin1Char('*')), content);
-            const MirrixCore::FileStatus status = MirrixCore::fileStatus(path);
+        const QStringList words = names.split(u' ', Qt::SkipEmptyParts);
+        for (QString name : words) {
             MirrixCore::FileEntry file;
-            file.path = path;
+            file.path = tree.write(name.remove(u'*'), content);
+            const MirrixCore::FileStatus status = MirrixCore::fileStatus(file.path);
             file.size = status.sizeBytes;
             file.modifiedMs = status.modifiedMs;
             group.files.append(file);
         }
-        Mirrix::SelectionMarks earlier = results.marks;
+        const SelectionMarks earlier = results.marks;
+        const qsizetype added = results.groups.size();
         results.groups.append(group);
         results.marks.reset(results.groups);
-        for (qsizetype g = 0; g < results.groups.size(); ++g) {
+        for (qsizetype g = 0; g <= added; ++g) {
             for (qsizetype i = 0; i < results.groups[g].files.size(); ++i)
-                results.marks.setMarked(
-                    g, i, g < earlier.groupCount() ? earlier.isMarked(g, i) : names[i].endsWith(QLatin1Char('*')));
+                results.marks.setMarked(g, i, g < added ? earlier.isMarked(g, i) : words[i].endsWith(u'*'));
         }
     }
 
     /// The user's choice in the removal dialog.
-    void choose(Mirrix::RemovalMethod method, bool backsUp, const QString &folder = {}, const QString &target = {})
+    void choose(RemovalMethod method, bool backsUp, const QString &folder = {}, const QString &target = {})
     {
         prompts.onRun = [=](QDialog &dialog) {
-            QVERIFY(qobject_cast<Mirrix::FileRemovalDialog *>(&dialog));
-            const QString button = QStringLiteral("RemovalMethod%1").arg(static_cast<int>(method));
-            dialog.findChild<QAbstractButton *>(button)->click();
-            dialog.findChild<QCheckBox *>()->setChecked(backsUp);
-            dialog.findChild<QLineEdit *>(QStringLiteral("TargetFolderEdit"))->setText(folder);
-            dialog.findChild<QLineEdit *>(QStringLiteral("LinkTargetEdit"))->setText(target);
+            QVERIFY(qobject_cast<FileRemovalDialog *>(&dialog));
+            part(dialog, u"RemovalMethod%1"_s.arg(int(method)))->click();
+            part<QCheckBox>(dialog)->setChecked(backsUp);
+            part<QLineEdit>(dialog, u"TargetFolderEdit"_s)->setText(folder);
+            part<QLineEdit>(dialog, u"LinkTargetEdit"_s)->setText(target);
         };
         prompts.answers.append(true);
     }
@@ -86,27 +83,25 @@ struct CleaningScene
     [[nodiscard]] QStringList logged() const
     {
         QStringList lines;
-        for (const Mirrix::LogEntry &entry : log.readAll())
-            lines.append(entry.action + QLatin1Char(' ') + entry.detail);
+        for (const LogEntry &entry : log.readAll())
+            lines.append(entry.action + u' ' + entry.detail);
         return lines;
     }
 
-    [[nodiscard]] QByteArray content(const QString &path) const
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
-    }
+    /// What was asked since the last call.
+    [[nodiscard]] QStringList takeAsked() { return std::exchange(prompts.asked, {}); }
 
+    /// A digit a file: 1 when it is ticked.
     [[nodiscard]] QString marks() const
     {
         QStringList groups;
         for (qsizetype g = 0; g < results.groups.size(); ++g) {
             QString text;
             for (qsizetype i = 0; i < results.groups[g].files.size(); ++i)
-                text += results.marks.isMarked(g, i) ? QLatin1Char('1') : QLatin1Char('0');
+                text += results.marks.isMarked(g, i) ? u'1' : u'0';
             groups.append(text);
         }
-        return groups.join(QLatin1Char(' '));
+        return groups.join(u' ');
     }
 };
 

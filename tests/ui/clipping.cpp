@@ -1,16 +1,6 @@
 #include "tests/ui/clipping.h"
 
-#include <QAbstractButton>
-#include <QComboBox>
-#include <QGroupBox>
-#include <QHeaderView>
-#include <QLabel>
-#include <QLayout>
-#include <QLineEdit>
-#include <QScrollArea>
-#include <QStyle>
-#include <QStyleOptionComboBox>
-#include <QTabBar>
+#include "tests/ui/uitest.h"
 
 namespace MirrixTest {
 
@@ -20,7 +10,7 @@ constexpr int slack = 1; ///< fractions of a pixel, rounded
 
 QString nameOf(const QWidget &widget, const QString &text)
 {
-    return QStringLiteral("%1 %2 \"%3\" %4x%5: ")
+    return u"%1 %2 \"%3\" %4x%5: "_s
         .arg(QLatin1String(widget.metaObject()->className()), widget.objectName(), text.left(60))
         .arg(widget.width())
         .arg(widget.height());
@@ -45,7 +35,7 @@ QString problemOf(const QWidget &widget)
     const auto need = [&widget](const QString &text, const QSize &size, const QSize &needed) {
         return text.isEmpty() || !isTooSmall(size, needed)
                    ? QString()
-                   : nameOf(widget, text) + QStringLiteral("needs %1x%2").arg(needed.width()).arg(needed.height());
+                   : nameOf(widget, text) + u"needs %1x%2"_s.arg(needed.width()).arg(needed.height());
     };
     if (const auto *label = qobject_cast<const QLabel *>(&widget))
         return need(label->text(), label->size(), neededBy(*label));
@@ -78,10 +68,10 @@ QStringList problemsOfHeader(const QHeaderView &header)
         const int needed = header.fontMetrics().size(0, title).width() + 12;
         if (!title.isEmpty() && !header.isSectionHidden(section) && header.sectionSize(section) + slack < needed)
             found.append(nameOf(header, title) +
-                         QStringLiteral("section has %1, needs %2").arg(header.sectionSize(section)).arg(needed));
+                         u"section has %1, needs %2"_s.arg(header.sectionSize(section)).arg(needed));
     }
     if (header.length() > header.viewport()->width() + slack)
-        found.append(nameOf(*header.parentWidget(), {}) + QStringLiteral("columns take %1").arg(header.length()));
+        found.append(nameOf(*header.parentWidget(), {}) + u"columns take %1"_s.arg(header.length()));
     return found;
 }
 
@@ -92,7 +82,7 @@ QStringList problemsOfTabs(const QTabBar &bar)
         const int needed = bar.fontMetrics().horizontalAdvance(bar.tabText(tab)) + 12;
         const QRect place = bar.tabRect(tab);
         if (place.width() + slack < needed || !bar.rect().contains(place.adjusted(slack, slack, -slack, -slack)))
-            found.append(nameOf(bar, bar.tabText(tab)) + QStringLiteral("tab cut off"));
+            found.append(nameOf(bar, bar.tabText(tab)) + u"tab cut off"_s);
     }
     return found;
 }
@@ -111,7 +101,7 @@ QStringList overlapsIn(const QLayout &layout)
             continue;
         for (const QWidget *other : std::as_const(placed)) {
             if (widget->geometry().intersects(other->geometry()))
-                found.append(nameOf(*widget, {}) + QStringLiteral("lies over ") + nameOf(*other, {}));
+                found.append(nameOf(*widget, {}) + u"lies over "_s + nameOf(*other, {}));
         }
         placed.append(widget);
     }
@@ -135,10 +125,10 @@ QStringList clippedTexts(const QWidget &window)
             found += problemsOfTabs(*bar);
         if (const auto *area = qobject_cast<const QScrollArea *>(widget)) {
             if (area->widget() && area->widget()->width() > area->viewport()->width() + slack)
-                found.append(nameOf(*area, {}) + QStringLiteral("must be scrolled sideways"));
-            const bool isPage = area->objectName() == QLatin1String("WizardPageScroll");
+                found.append(nameOf(*area, {}) + u"must be scrolled sideways"_s);
+            const bool isPage = area->objectName() == "WizardPageScroll"_L1;
             if (isPage && area->widget()->height() > area->viewport()->height() + slack)
-                found.append(nameOf(*area, {}) + QStringLiteral("must be scrolled"));
+                found.append(nameOf(*area, {}) + u"must be scrolled"_s);
         }
         if (widget->layout())
             found += overlapsIn(*widget->layout());

@@ -11,34 +11,33 @@
 
 namespace MirrixTest {
 
-/// A user's files, and what may become of them: a file below in/ goes only when it was ticked, nothing is changed in
+using namespace Qt::StringLiterals;
+
+/// A user's files, and what may happen to them: a file below in/ goes only when it was ticked, nothing is changed in
 /// place, no content is lost unless files were to be destroyed, and out/ stays as it was.
 class FileWatch
 {
 public:
     FileWatch()
     {
-        for (const char *folder : {"data", "backup", "share", "cwd", "answers"})
-            m_tree.makeFolder(QString::fromLatin1(folder));
+        for (const QString &folder : {u"data"_s, u"backup"_s, u"share"_s, u"cwd"_s, u"answers"_s})
+            m_tree.makeFolder(folder);
     }
 
     /// Makes all files again; what earlier ones became elsewhere stays.
     void restock()
     {
-        QDir(path(QStringLiteral("in"))).removeRecursively();
+        QDir(path(u"in"_s)).removeRecursively();
         QImage picture(40, 30, QImage::Format_RGB32);
         for (int i = 0; i < 18; ++i) {
-            const QString name = QStringLiteral("%1/d%2/f%3")
-                                     .arg(i % 6 ? QStringLiteral("in") : QStringLiteral("out"))
-                                     .arg(i % 4)
-                                     .arg(i);
-            m_tree.write(name + QStringLiteral(".txt"), patternBytes(i % 2 ? 20 : 100000, quint32(i % 3)));
+            const QString name = u"%1/d%2/f%3"_s.arg(i % 6 ? u"in"_s : u"out"_s).arg(i % 4).arg(i);
+            m_tree.write(name + u".txt"_s, patternBytes(i % 2 ? 20 : 100000, quint32(i % 3)));
             picture.fill(QColor(i % 3 * 80, 120, 200));
-            picture.save(m_tree.path(name + QStringLiteral(".png")));
+            picture.save(m_tree.path(name + u".png"_s));
         }
         look();
         m_contents.clear();
-        for (auto file = m_before.begin(); file != m_before.end(); ++file) {
+        for (auto file = m_before.cbegin(); file != m_before.cend(); ++file) {
             if (isUsers(file.key()))
                 m_contents.insert(*file);
         }
@@ -49,6 +48,17 @@ public:
     [[nodiscard]] const QStringList &problems() const { return m_problems; }
     void complain(const QString &problem) { m_problems.append(problem); }
     [[nodiscard]] int gone() const { return m_gone; }
+
+    /// The paths of all files that may go at all.
+    [[nodiscard]] QSet<QString> usersFiles() const
+    {
+        QSet<QString> paths;
+        for (auto file = m_before.begin(); file != m_before.end(); ++file) {
+            if (file.key().startsWith(u"in/"_s))
+                paths.insert(path(file.key()));
+        }
+        return paths;
+    }
 
     /// Compares with the last call; the files at `ticked` may have gone since.
     void check(const QSet<QString> &ticked, bool mayDestroy)
@@ -61,30 +71,24 @@ public:
                 continue;
             ++m_gone;
             if (!ticked.contains(path(file.key())))
-                complain(QStringLiteral("touched without a tick: ") + file.key());
+                complain(u"touched without a tick: "_s + file.key());
         }
-        QSet<QByteArray> left(m_before.cbegin(), m_before.cend());
-        for (auto content = m_contents.begin(); content != m_contents.end();) {
-            const bool isLost = !left.contains(*content);
-            if (isLost && !mayDestroy)
-                complain(QStringLiteral("lost: ") + QString::fromUtf8(content->left(20).toHex()));
-            content = isLost ? m_contents.erase(content) : std::next(content);
-        }
+        const QSet<QByteArray> left(m_before.cbegin(), m_before.cend());
+        for (const QByteArray &content : mayDestroy ? QSet<QByteArray>() : m_contents - left)
+            complain(u"lost: "_s + QString::fromUtf8(content.left(20).toHex()));
+        m_contents &= left;
     }
 
 private:
-    static bool isUsers(const QString &file)
-    {
-        return file.startsWith(QStringLiteral("in/")) || file.startsWith(QStringLiteral("out/"));
-    }
+    static bool isUsers(const QString &file) { return file.startsWith(u"in/"_s) || file.startsWith(u"out/"_s); }
 
     void look()
     {
         m_before.clear();
-        for (const char *folder : {"in", "out", "backup", "share", "cwd", "answers"}) {
-            const DiskTree files = treeBelow(path(QString::fromLatin1(folder)));
+        for (const QString &folder : {u"in"_s, u"out"_s, u"backup"_s, u"share"_s, u"cwd"_s, u"answers"_s}) {
+            const DiskTree files = treeBelow(path(folder));
             for (auto file = files.begin(); file != files.end(); ++file)
-                m_before.insert(QString::fromLatin1(folder) + u'/' + file.key(), *file);
+                m_before.insert(folder + u'/' + file.key(), *file);
         }
     }
 

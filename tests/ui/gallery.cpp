@@ -1,4 +1,5 @@
 #include "tests/ui/gallery.h"
+#include "tests/ui/uitest.h"
 
 #include "actions/exporter.h"
 #include "actions/records/runhistory.h"
@@ -15,20 +16,6 @@
 #include "ui/historycommands.h"
 #include "ui/locations/drivepicker.h"
 #include "ui/mirrix.h"
-
-#include <QApplication>
-#include <QCheckBox>
-#include <QDateTime>
-#include <QDir>
-#include <QFileInfo>
-#include <QLinearGradient>
-#include <QPainter>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTabWidget>
-#include <QTest>
-#include <QTimer>
-#include <QTreeView>
 
 namespace MirrixTest {
 
@@ -62,20 +49,20 @@ void paintPicture(const QString &path, int hue)
 
 void makeSample(const TempTree &tree)
 {
-    const QString root = tree.path(u"Anna"_qs);
+    const QString root = tree.path(u"Anna"_s);
     const auto copy = [&root](const QString &from, const QString &to) {
         QDir().mkpath(QFileInfo(root + to).path());
         QFile::copy(root + from, root + to);
     };
     for (int hue : {200, 20, 280})
-        paintPicture(root + QStringLiteral("/Pictures/2025 Coast/IMG_%1.jpg").arg(2000 + hue), hue);
-    copy(u"/Pictures/2025 Coast/IMG_2200.jpg"_qs, u"/Backup/phone/IMG_2200.jpg"_qs);
-    copy(u"/Pictures/2025 Coast/IMG_2200.jpg"_qs, u"/Downloads/IMG_2200 (1).jpg"_qs);
-    copy(u"/Pictures/2025 Coast/IMG_2020.jpg"_qs, u"/Backup/phone/IMG_2020.jpg"_qs);
-    copy(u"/Pictures/2025 Coast/IMG_2280.jpg"_qs, u"/Backup/phone/IMG_2280.jpg"_qs);
-    tree.write(u"Anna/Documents/contract.pdf"_qs, QByteArray(3'400'000, 'c'));
-    copy(u"/Documents/contract.pdf"_qs, u"/Downloads/contract.pdf"_qs);
-    tree.write(u"Anna/Documents/notes.txt"_qs, "only here");
+        paintPicture(root + u"/Pictures/2025 Coast/IMG_%1.jpg"_s.arg(2000 + hue), hue);
+    copy(u"/Pictures/2025 Coast/IMG_2200.jpg"_s, u"/Backup/phone/IMG_2200.jpg"_s);
+    copy(u"/Pictures/2025 Coast/IMG_2200.jpg"_s, u"/Downloads/IMG_2200 (1).jpg"_s);
+    copy(u"/Pictures/2025 Coast/IMG_2020.jpg"_s, u"/Backup/phone/IMG_2020.jpg"_s);
+    copy(u"/Pictures/2025 Coast/IMG_2280.jpg"_s, u"/Backup/phone/IMG_2280.jpg"_s);
+    tree.write(u"Anna/Documents/contract.pdf"_s, QByteArray(3'400'000, 'c'));
+    copy(u"/Documents/contract.pdf"_s, u"/Downloads/contract.pdf"_s);
+    tree.write(u"Anna/Documents/notes.txt"_s, "only here");
 }
 
 /// Runs of some months: one in the backup, one deleted for good of which a file failed, one undone, one cut short.
@@ -83,59 +70,54 @@ void makeHistory(const QString &directory, const QString &root)
 {
     const qint64 first = QDateTime(QDate(2026, 2, 3), QTime(18, 4, 11)).toMSecsSinceEpoch();
     constexpr qint64 monthMs = 30LL * 24 * 3600 * 1000;
-    const auto add = [&](int number, const QString &method, int done, Mirrix::ItemState state, bool isComplete) {
-        QList<Mirrix::RunItem> items;
-        for (int i = 0; i < 4; ++i)
-            items.append({root + QStringLiteral("/Downloads/IMG_22%1 (1).jpg").arg(number * 10 + i),
-                          root + QStringLiteral("/Pictures/2025 Coast/IMG_22%1.jpg").arg(number * 10 + i),
-                          41'300'000,
-                          first,
-                          0,
-                          0,
-                          {},
-                          {},
-                          {}});
-        Mirrix::RunJournalWriter journal;
-        if (!journal.create(directory, {{}, first + number * monthMs, u"window"_qs, method, {}, {}, 4, {}}, items))
+    const auto add = [&](int number, const QString &method, int done, ItemState state, bool isComplete) {
+        const auto name = [number](int i) { return u"IMG_22%1"_s.arg(number * 10 + i); };
+        QList<RunItem> items(4);
+        for (int i = 0; i < 4; ++i) {
+            items[i].original = root + u"/Downloads/%1 (1).jpg"_s.arg(name(i));
+            items[i].kept = root + u"/Pictures/2025 Coast/%1.jpg"_s.arg(name(i));
+            items[i].sizeBytes = 41'300'000;
+            items[i].modifiedMs = first;
+        }
+        RunJournalWriter journal;
+        if (!journal.create(directory, {{}, first + number * monthMs, u"window"_s, method, {}, {}, 4, {}}, items))
             return;
+        const qint64 held = method == u"delete" ? 0 : 41'300'000;
         for (int i = 0; i < done; ++i) {
-            const bool isHeld = method != u"delete";
             const QString now =
-                isHeld ? directory +
-                             QStringLiteral("/Backup/20260203_180411__0c5f31ab__IMG_22%1 (1).jpg").arg(number * 10 + i)
-                       : QString();
-            journal.outcome({i, state, now, {}, {}, isHeld ? 0 : 41'300'000, isHeld ? 41'300'000 : 0});
+                held ? directory + u"/Backup/20260203_180411__0c5f31ab__%1 (1).jpg"_s.arg(name(i)) : QString();
+            journal.outcome({i, state, now, {}, {}, 41'300'000 - held, held});
         }
         if (done < 4)
-            journal.outcome({3, Mirrix::ItemState::Failed, {}, u"in use"_qs, {}, 0, 0});
+            journal.outcome({3, ItemState::Failed, {}, u"in use"_s, {}, 0, 0});
         if (isComplete)
             static_cast<void>(journal.finish());
     };
-    add(0, u"recycle"_qs, 4, Mirrix::ItemState::Undone, true);
-    add(1, u"backup+hardlink"_qs, 2, Mirrix::ItemState::Done, false);
-    add(2, u"delete"_qs, 3, Mirrix::ItemState::Done, true);
-    add(3, u"backup"_qs, 4, Mirrix::ItemState::Done, true);
+    add(0, u"recycle"_s, 4, ItemState::Undone, true);
+    add(1, u"backup+hardlink"_s, 2, ItemState::Done, false);
+    add(2, u"delete"_s, 3, ItemState::Done, true);
+    add(3, u"backup"_s, 4, ItemState::Done, true);
 }
 
 /// The dialog describes each choice in a sentence of its own.
-void visitMethods(Mirrix::FileRemovalDialog &removal, const std::function<void(const QString &, QWidget &)> &look)
+void visitMethods(FileRemovalDialog &removal, const std::function<void(const QString &, QWidget &)> &look)
 {
     const auto methods = removal.findChildren<QRadioButton *>();
     for (const bool backsUp : {true, false}) {
-        removal.findChild<QCheckBox *>(u"BackUpFirstBox"_qs)->setChecked(backsUp);
+        removal.findChild<QCheckBox *>(u"BackUpFirstBox"_s)->setChecked(backsUp);
         for (QRadioButton *method : methods) {
             method->click();
-            look(method->objectName() + (backsUp ? u"-backed-up"_qs : QString()), removal);
+            look(method->objectName() + (backsUp ? u"-backed-up"_s : QString()), removal);
         }
     }
 }
 
-QList<Mirrix::Drive> sampleDrives()
+QList<Drive> sampleDrives()
 {
     constexpr qint64 giga = qint64(1) << 30;
-    return {{u"C:/"_qs, Mirrix::DriveType::Fixed, u"System"_qs, u"NTFS"_qs, 476 * giga, 91 * giga, true},
-            {u"D:/"_qs, Mirrix::DriveType::Fixed, u"Photos"_qs, u"NTFS"_qs, 1863 * giga, 640 * giga, false},
-            {u"E:/"_qs, Mirrix::DriveType::Removable, {}, u"exFAT"_qs, 58 * giga, 12 * giga, false}};
+    return {{u"C:/"_s, DriveType::Fixed, u"System"_s, u"NTFS"_s, 476 * giga, 91 * giga, true},
+            {u"D:/"_s, DriveType::Fixed, u"Photos"_s, u"NTFS"_s, 1863 * giga, 640 * giga, false},
+            {u"E:/"_s, DriveType::Removable, {}, u"exFAT"_s, 58 * giga, 12 * giga, false}};
 }
 
 } // namespace
@@ -170,15 +152,15 @@ bool SeenPrompts::informWithAction(QWidget *parent, const QString &title, const 
     return ScriptedPrompts::informWithAction(parent, title, text, below, action);
 }
 
-qsizetype SeenPrompts::choose(QWidget *parent, const Mirrix::ChoiceRequest &request)
+qsizetype SeenPrompts::choose(QWidget *parent, const ChoiceRequest &request)
 {
     see([&] { static_cast<void>(m_shown.choose(parent, request)); });
     return ScriptedPrompts::choose(parent, request);
 }
 
-Gallery::Gallery(const std::function<void(Mirrix::Settings &)> &tweak)
-    : m_settings(Mirrix::defaultSettings(m_tree.makeFolder(u"data"_qs)))
-    , m_log(Mirrix::operationsLogPath(m_settings.directory))
+Gallery::Gallery(const std::function<void(Settings &)> &tweak)
+    : m_settings(defaultSettings(m_tree.makeFolder(u"data"_s)))
+    , m_log(operationsLogPath(m_settings.directory))
 {
     makeSample(m_tree);
     makeHistory(m_settings.directory, sample({}));
@@ -187,7 +169,7 @@ Gallery::Gallery(const std::function<void(Mirrix::Settings &)> &tweak)
     if (tweak)
         tweak(m_settings);
     m_window = std::make_unique<MirrixUi::Mirrix>(m_settings, m_prompts);
-    for (const QString &folder : {u"Pictures"_qs, u"Documents"_qs, u"Downloads"_qs, u"Backup"_qs})
+    for (const QString &folder : {u"Pictures"_s, u"Documents"_s, u"Downloads"_s, u"Backup"_s})
         m_window->addLocation(sample(folder));
     m_window->show();
 }
@@ -196,7 +178,7 @@ Gallery::~Gallery() = default;
 
 QString Gallery::sample(const QString &relative) const
 {
-    return m_tree.path(u"Anna/"_qs + relative);
+    return m_tree.path(u"Anna/"_s + relative);
 }
 
 bool Gallery::scan()
@@ -204,7 +186,7 @@ bool Gallery::scan()
     m_window->startScan();
     if (!QTest::qWaitFor([this] { return !m_window->isScanning(); }, 60000))
         return false;
-    auto *tree = m_window->findChild<QTreeView *>(u"DuplicateFilesTree"_qs);
+    auto *tree = m_window->findChild<QTreeView *>(u"DuplicateFilesTree"_s);
     constexpr int pictures = 1; // the first group is of documents
     tree->setCurrentIndex(tree->model()->index(0, 1, tree->model()->index(pictures, 0)));
     return true;
@@ -213,14 +195,14 @@ bool Gallery::scan()
 void Gallery::visitPages(const std::function<void(const QString &, QWidget &)> &look)
 {
     m_window->goToStep(0);
-    look(u"locations"_qs, *m_window);
+    look(u"locations"_s, *m_window);
     int step = 1;
-    for (const QString &name : {u"RulesTabs"_qs, u"ResultsTabs"_qs}) {
+    for (const QString &name : {u"RulesTabs"_s, u"ResultsTabs"_s}) {
         m_window->goToStep(step++);
         auto *tabs = m_window->findChild<QTabWidget *>(name);
         for (int tab = 0; tab < tabs->count(); ++tab) {
             tabs->setCurrentIndex(tab);
-            look(QStringLiteral("%1-%2").arg(step == 2 ? u"rules"_qs : u"results"_qs).arg(tab + 1), *m_window);
+            look(u"%1-%2"_s.arg(step == 2 ? u"rules"_s : u"results"_s).arg(tab + 1), *m_window);
         }
         tabs->setCurrentIndex(0);
     }
@@ -230,57 +212,56 @@ std::vector<std::pair<QString, std::unique_ptr<QDialog>>> Gallery::dialogs()
 {
     std::vector<std::pair<QString, std::unique_ptr<QDialog>>> made;
     const auto add = [&made](const QString &name, QDialog *dialog) { made.emplace_back(name, dialog); };
-    auto *hashes = new Mirrix::HashToolDialog(m_prompts, m_window.get());
-    hashes->addPaths({sample(u"Pictures"_qs), sample(u"Backup"_qs)});
-    add(u"hashes"_qs, hashes);
-    for (const auto page :
-         {Mirrix::OptionsDialog::General, Mirrix::OptionsDialog::Theme, Mirrix::OptionsDialog::About}) {
-        auto *options = new Mirrix::OptionsDialog(m_settings, m_prompts, m_window.get());
+    auto *hashes = new HashToolDialog(m_prompts, m_window.get());
+    hashes->addPaths({sample(u"Pictures"_s), sample(u"Backup"_s)});
+    add(u"hashes"_s, hashes);
+    for (const auto page : {OptionsDialog::General, OptionsDialog::Theme, OptionsDialog::About}) {
+        auto *options = new OptionsDialog(m_settings, m_prompts, m_window.get());
         options->showPage(page);
-        add(QStringLiteral("options-%1").arg(page + 1), options);
+        add(u"options-%1"_s.arg(page + 1), options);
     }
-    add(u"export"_qs, new Mirrix::ExportDialog({}, m_prompts, m_window.get()));
-    Mirrix::RemovalChoice removal = Mirrix::initialRemovalChoice(m_settings);
-    removal.targetFolder = sample(u"Duplicates"_qs);
-    auto *removing = new Mirrix::FileRemovalDialog(12, removal, m_prompts, m_window.get());
+    add(u"export"_s, new ExportDialog({}, m_prompts, m_window.get()));
+    RemovalChoice removal = initialRemovalChoice(m_settings);
+    removal.targetFolder = sample(u"Duplicates"_s);
+    auto *removing = new FileRemovalDialog(12, removal, m_prompts, m_window.get());
     removing->setFiles(172'000'000, true);
-    add(u"removal"_qs, removing);
-    auto *history = new Mirrix::HistoryDialog(m_settings, m_prompts, m_log, m_window.get());
-    history->showRun(Mirrix::listRuns(m_settings.directory).value(1).header.id);
-    add(u"history"_qs, history);
-    add(u"restore"_qs, new Mirrix::RestoreDialog({sample(u"Pictures/IMG_2200.jpg"_qs)}, m_window.get()));
-    add(u"log"_qs, new Mirrix::LogViewer(Mirrix::operationsLogPath(m_settings.directory), m_window.get()));
-    add(u"compare"_qs, new Mirrix::ImageCompareDialog(sample(u"Pictures/2025 Coast/IMG_2200.jpg"_qs),
-                                                      sample(u"Backup/phone/IMG_2200.jpg"_qs), m_window.get()));
-    add(u"drives"_qs, new Mirrix::DrivePicker(m_prompts, sampleDrives(), m_window.get()));
+    add(u"removal"_s, removing);
+    auto *history = new HistoryDialog(m_settings, m_prompts, m_log, m_window.get());
+    history->showRun(listRuns(m_settings.directory).value(1).header.id);
+    add(u"history"_s, history);
+    add(u"restore"_s, new RestoreDialog({sample(u"Pictures/IMG_2200.jpg"_s)}, m_window.get()));
+    add(u"log"_s, new LogViewer(operationsLogPath(m_settings.directory), m_window.get()));
+    add(u"compare"_s, new ImageCompareDialog(sample(u"Pictures/2025 Coast/IMG_2200.jpg"_s),
+                                             sample(u"Backup/phone/IMG_2200.jpg"_s), m_window.get()));
+    add(u"drives"_s, new DrivePicker(m_prompts, sampleDrives(), m_window.get()));
     return made;
 }
 
 void Gallery::visitQuestions(const std::function<void(const QString &, QWidget &)> &look)
 {
     int number = 0;
-    m_prompts.look = [&](QWidget &box) { look(QStringLiteral("question-%1").arg(++number), box); };
+    m_prompts.look = [&](QWidget &box) { look(u"question-%1"_s.arg(++number), box); };
     const auto click = [this](const QString &name) { m_window->findChild<QPushButton *>(name)->click(); };
     m_prompts.answers.clear();
     m_window->goToStep(2);
-    click(u"SelectAllButton"_qs);
+    click(u"SelectAllButton"_s);
     m_prompts.answers = {true, false}; // the dialog, deleting for good
     m_prompts.onRun = [](QDialog &removal) {
-        removal.findChild<QAbstractButton *>(u"RemovalMethod1"_qs)->click();
-        removal.findChild<QCheckBox *>(u"BackUpFirstBox"_qs)->setChecked(false);
+        removal.findChild<QAbstractButton *>(u"RemovalMethod1"_s)->click();
+        removal.findChild<QCheckBox *>(u"BackUpFirstBox"_s)->setChecked(false);
     };
-    click(u"DeleteSelectedButton"_qs);
+    click(u"DeleteSelectedButton"_s);
     m_prompts.onRun = {};
     m_prompts.answers = {true};
-    click(u"MoveToBackupButton"_qs);
-    auto *groups = m_window->findChild<QTreeView *>(u"DuplicateFilesTree"_qs)->model();
+    click(u"MoveToBackupButton"_s);
+    auto *groups = m_window->findChild<QTreeView *>(u"DuplicateFilesTree"_s)->model();
     const QModelIndex documents = groups->index(0, 0);
     for (int file = 0; file < groups->rowCount(documents); ++file)
         groups->setData(groups->index(file, 0, documents), Qt::Checked, Qt::CheckStateRole);
-    click(u"MoveToBackupButton"_qs); // would leave no copy
+    click(u"MoveToBackupButton"_s); // would leave no copy
 
-    Mirrix::HistoryCommands history(m_settings, m_prompts, m_log, m_window.get());
-    const Mirrix::RunSummary run = Mirrix::listRuns(m_settings.directory).value(0);
+    HistoryCommands history(m_settings, m_prompts, m_log, m_window.get());
+    const RunSummary run = listRuns(m_settings.directory).value(0);
     static_cast<void>(history.undo(run.header));
     static_cast<void>(history.freeBackups(run));
     static_cast<void>(history.removeRecords({run.header.id}));
@@ -293,7 +274,7 @@ void Gallery::visitAll(const std::function<void(const QString &, QWidget &)> &lo
     for (const auto &[name, dialog] : dialogs()) {
         dialog->show();
         look(name, *dialog);
-        if (auto *removal = qobject_cast<Mirrix::FileRemovalDialog *>(dialog.get()))
+        if (auto *removal = qobject_cast<FileRemovalDialog *>(dialog.get()))
             visitMethods(*removal, look);
         dialog->close();
     }

@@ -2,10 +2,7 @@
 
 #include "actions/operationslog.h"
 #include "app/settings.h"
-#include "tests/support/temptree.h"
-#include "tests/ui/scriptedprompts.h"
-
-#include <QDialog>
+#include "tests/ui/uitest.h"
 
 #include <functional>
 #include <memory>
@@ -26,12 +23,12 @@ public:
     bool ask(QWidget *parent, const QString &title, const QString &text, const QString &below) override;
     bool informWithAction(QWidget *parent, const QString &title, const QString &text, const QString &below,
                           const QString &action) override;
-    qsizetype choose(QWidget *parent, const Mirrix::ChoiceRequest &request) override;
+    qsizetype choose(QWidget *parent, const ChoiceRequest &request) override;
 
 private:
     void see(const std::function<void()> &show) const;
 
-    Mirrix::DialogPrompts m_shown;
+    DialogPrompts m_shown;
 };
 
 /// Every window of the program, filled from sample files that it makes itself: pictures and documents of one person
@@ -40,7 +37,7 @@ class Gallery
 {
 public:
     /// Opens the main window over the sample; `tweak` changes the settings first.
-    explicit Gallery(const std::function<void(Mirrix::Settings &)> &tweak = {});
+    explicit Gallery(const std::function<void(Settings &)> &tweak = {});
     ~Gallery();
 
     [[nodiscard]] MirrixUi::Mirrix &window() { return *m_window; }
@@ -64,8 +61,8 @@ public:
 
 private:
     TempTree m_tree;
-    Mirrix::Settings m_settings;
-    Mirrix::OperationsLog m_log;
+    Settings m_settings;
+    OperationsLog m_log;
     SeenPrompts m_prompts;
     std::unique_ptr<MirrixUi::Mirrix> m_window;
 };

@@ -3,27 +3,23 @@
 
 #include "app/translations.h"
 #include "tests/ui/gallery.h"
+#include "tests/ui/uitest.h"
 #include "ui/mirrix.h"
 #include "ui/theme.h"
-
-#include <QApplication>
-#include <QDir>
-#include <QIcon>
-#include <QTest>
 
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
-    QApplication::setWindowIcon(QIcon(u":/resources/mirrix-256.png"_qs));
-    QApplication::setApplicationVersion(u"1.0.0"_qs);
+    QApplication::setWindowIcon(QIcon(u":/resources/mirrix-256.png"_s));
+    QApplication::setApplicationVersion(u"1.0.0"_s);
     const QStringList arguments = QApplication::arguments();
-    const QString theme = arguments.value(2, u"light"_qs);
-    const QString language = arguments.value(3, u"en"_qs);
-    const QString prefix = QDir(arguments.value(1, u"."_qs)).filePath(u"%1-%2-"_qs.arg(theme, language));
-    Mirrix::loadLanguage(language);
-    Mirrix::applyTheme(theme);
+    const QString theme = arguments.value(2, u"light"_s);
+    const QString language = arguments.value(3, u"en"_s);
+    const QString prefix = QDir(arguments.value(1, u"."_s)).filePath(u"%1-%2-"_s.arg(theme, language));
+    loadLanguage(language);
+    applyTheme(theme);
 
-    MirrixTest::Gallery gallery([&](Mirrix::Settings &settings) {
+    Gallery gallery([&](Settings &settings) {
         settings.appTheme = theme;
         settings.uiLanguage = language;
     });
@@ -34,9 +30,9 @@ int main(int argc, char *argv[])
     gallery.visitAll([&](const QString &name, QWidget &window) {
         if (!wanted.isEmpty() && !wanted.contains(name))
             return;
-        constexpr int arrivalMs = 300; // of pictures, layouts and what is read aside
+        constexpr int arrivalMs = 300; // of pictures, layouts and what is read in the background
         QTest::qWait(arrivalMs);
-        window.grab().save(prefix + name + u".png"_qs);
+        window.grab().save(prefix + name + u".png"_s);
     });
     return 0;
 }

@@ -1,41 +1,21 @@
 #include "actions/operationslog.h"
 #include "tests/ui/gallery.h"
+#include "tests/ui/uitest.h"
 #include "ui/dialogs/fileremovaldialog.h"
 #include "ui/mirrix.h"
 #include "ui/theme.h"
 
-#include <QAbstractItemModel>
-#include <QAbstractItemView>
-#include <QAccessible>
-#include <QApplication>
-#include <QClipboard>
-#include <QDir>
-#include <QFile>
-#include <QRadioButton>
-#include <QStackedWidget>
-#include <QTabBar>
-#include <QTest>
-#include <QTreeView>
-
-using MirrixTest::Gallery;
-
 namespace {
 
-/// Of the buttons of a choice the chosen one stands for all; the arrow keys go on from there.
-bool isUnchosen(const QWidget *widget)
-{
-    const auto *button = qobject_cast<const QRadioButton *>(widget);
-    return button && !button->isChecked();
-}
-
-/// What the user can put the focus into with the Tab key, in one state of a window.
+/// What the user can put the focus into with the Tab key, in one state of a window. Of the buttons of a choice the
+/// chosen one stands for all; the arrow keys go on from there.
 QSet<QWidget *> tabStops(const QWidget &window)
 {
     QSet<QWidget *> stops;
-    const auto widgets = window.findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
+    for (QWidget *widget : window.findChildren<QWidget *>()) {
+        const auto *choice = qobject_cast<const QRadioButton *>(widget);
         if (widget->window() == &window && widget->isVisible() && widget->isEnabled() && !widget->focusProxy() &&
-            !isUnchosen(widget) && (widget->focusPolicy() & Qt::TabFocus))
+            (!choice || choice->isChecked()) && (widget->focusPolicy() & Qt::TabFocus))
             stops.insert(widget);
     }
     return stops;
@@ -43,7 +23,7 @@ QSet<QWidget *> tabStops(const QWidget &window)
 
 QString described(const QWidget *widget)
 {
-    return QLatin1String(widget->metaObject()->className()) + u' ' + widget->objectName() + u" in "_qs +
+    return QLatin1String(widget->metaObject()->className()) + u' ' + widget->objectName() + u" in "_s +
            widget->parentWidget()->objectName();
 }
 
@@ -56,22 +36,16 @@ bool hasName(QWidget *widget)
 
 void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
-    QWidget *target = QApplication::activePopupWidget();
-    if (!target)
-        target = QApplication::focusWidget();
-    QTest::keyClick(target, key, modifiers);
+    QWidget *popup = QApplication::activePopupWidget();
+    QTest::keyClick(popup ? popup : QApplication::focusWidget(), key, modifiers);
 }
 
 /// Goes on by Tab until the widget of this name has the focus.
 bool tabTo(const QString &name)
 {
-    constexpr int enough = 200;
-    for (int i = 0; i < enough; ++i) {
-        if (QApplication::focusWidget()->objectName() == name)
-            return true;
+    for (int presses = 0; presses < 200 && QApplication::focusWidget()->objectName() != name; ++presses)
         press(Qt::Key_Tab);
-    }
-    return false;
+    return QApplication::focusWidget()->objectName() == name;
 }
 
 } // namespace
@@ -81,7 +55,7 @@ class TestAccessibility : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { Mirrix::applyTheme(u"light"_qs); }
+    void initTestCase() { applyTheme(u"light"_s); }
 
     void namesAndReachesEverything()
     {
@@ -95,7 +69,7 @@ private slots:
             QVERIFY(!unreached.isEmpty());
             for (QWidget *stop : std::as_const(unreached)) {
                 if (!hasName(stop))
-                    problems.append(name + u": no name: "_qs + described(stop));
+                    problems.append(name + u": no name: "_s + described(stop));
             }
             if (!window.focusWidget())
                 (*unreached.begin())->setFocus();
@@ -106,44 +80,44 @@ private slots:
                 press(Qt::Key_Tab);
             }
             for (const QWidget *stop : std::as_const(unreached))
-                problems.append(name + u": not reached: "_qs + described(stop));
+                problems.append(name + u": not reached: "_s + described(stop));
         });
         QVERIFY2(problems.isEmpty(), qUtf8Printable(u'\n' + problems.join(u'\n')));
     }
 
     void worksWithoutAMouse()
     {
-        MirrixTest::TempTree tree;
-        Mirrix::Settings settings = Mirrix::defaultSettings(tree.makeFolder(u"data"_qs));
+        TempTree tree;
+        Settings settings = defaultSettings(tree.makeFolder(u"data"_s));
         settings.trayEnabled = false;
-        const QString first = tree.write(u"in/a.txt"_qs, "the same");
-        const QString second = tree.write(u"in/b.txt"_qs, "the same");
-        MirrixTest::ScriptedPrompts prompts;
+        const QString first = tree.write(u"in/a.txt"_s, "the same");
+        const QString second = tree.write(u"in/b.txt"_s, "the same");
+        ScriptedPrompts prompts;
         MirrixUi::Mirrix window(settings, prompts);
         window.show();
         window.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&window));
 
-        QGuiApplication::clipboard()->setText(QDir::toNativeSeparators(tree.path(u"in"_qs)));
-        QVERIFY(tabTo(u"LocationTable"_qs));
+        QGuiApplication::clipboard()->setText(QDir::toNativeSeparators(tree.path(u"in"_s)));
+        QVERIFY(tabTo(u"LocationTable"_s));
         press(Qt::Key_V, Qt::ControlModifier);
         while (QApplication::focusWidget()->accessibleName() != u"匹配规则")
             press(Qt::Key_Backtab);
         press(Qt::Key_Space);
-        QCOMPARE(window.findChild<QStackedWidget *>(u"WizardPages"_qs)->currentIndex(), 1);
-        QVERIFY(tabTo(u"SameNameCheck"_qs));
+        QCOMPARE(window.findChild<QStackedWidget *>(u"WizardPages"_s)->currentIndex(), 1);
+        QVERIFY(tabTo(u"SameNameCheck"_s));
 
         prompts.confirmations.append({true, false});
         press(Qt::Key_F5);
         QVERIFY(QTest::qWaitFor([&window] { return !window.isScanning(); }, 60000));
-        const auto *groups = window.findChild<QTreeView *>(u"DuplicateFilesTree"_qs);
-        QVERIFY(tabTo(u"ResultsFilter"_qs));
-        QTest::keyClicks(QApplication::focusWidget(), u"B.TXT?"_qs);
+        const auto *groups = window.findChild<QTreeView *>(u"DuplicateFilesTree"_s);
+        QVERIFY(tabTo(u"ResultsFilter"_s));
+        QTest::keyClicks(QApplication::focusWidget(), u"B.TXT?"_s);
         QTRY_COMPARE(groups->model()->rowCount(), 0);
         press(Qt::Key_Backspace);
         QTRY_COMPARE(groups->model()->rowCount(), 1);
         QVERIFY(groups->isExpanded(groups->model()->index(0, 0)));
-        QVERIFY(tabTo(u"DuplicateFilesTree"_qs));
+        QVERIFY(tabTo(u"DuplicateFilesTree"_s));
         for (const Qt::Key key : {Qt::Key_Home, Qt::Key_Down, Qt::Key_Down, Qt::Key_Space})
             press(key);
 
@@ -152,13 +126,12 @@ private slots:
             dialog.show();
             dialog.activateWindow();
             QVERIFY(QTest::qWaitForWindowActive(&dialog));
-            QTRY_COMPARE(QApplication::focusWidget()->objectName(), u"RemovalMethod0"_qs);
+            QTRY_COMPARE(QApplication::focusWidget()->objectName(), u"RemovalMethod0"_s);
             press(Qt::Key_Down);
-            QCOMPARE(qobject_cast<Mirrix::FileRemovalDialog *>(&dialog)->choice().method,
-                     Mirrix::RemovalMethod::Delete);
+            QCOMPARE(qobject_cast<FileRemovalDialog *>(&dialog)->choice().method, RemovalMethod::Delete);
         };
         settings.autoBackupBeforeDelete = true;
-        settings.backupRoot = tree.path(u"backup"_qs);
+        settings.backupRoot = tree.path(u"backup"_s);
         press(Qt::Key_Delete);
         QVERIFY(QFile::exists(first) != QFile::exists(second));
 
@@ -168,8 +141,8 @@ private slots:
         QVERIFY(QApplication::activePopupWidget());
         press(Qt::Key_Up);
         press(Qt::Key_Return);
-        const auto records = Mirrix::OperationsLog(Mirrix::operationsLogPath(settings.directory)).readAll();
-        QCOMPARE(records.last().action, u"app_quit"_qs);
+        const auto records = OperationsLog(operationsLogPath(settings.directory)).readAll();
+        QCOMPARE(records.last().action, u"app_quit"_s);
     }
 };
 

@@ -2,27 +2,11 @@
 #include "app/translations.h"
 #include "tests/ui/clipping.h"
 #include "tests/ui/gallery.h"
+#include "tests/ui/uitest.h"
+#include "ui/locations/locationspage.h"
 #include "ui/mirrix.h"
+#include "ui/rules/rulespage.h"
 #include "ui/theme.h"
-
-#include <QAbstractButton>
-#include <QAction>
-#include <QComboBox>
-#include <QFontDatabase>
-#include <QGroupBox>
-#include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QMessageBox>
-#include <QPlainTextEdit>
-#include <QRegularExpression>
-#include <QStatusBar>
-#include <QTabWidget>
-#include <QTest>
-#include <QTreeView>
-
-using MirrixTest::Gallery;
 
 namespace {
 
@@ -32,17 +16,6 @@ void settle()
     constexpr int nesting = 10;
     for (int i = 0; i < nesting; ++i)
         QCoreApplication::processEvents();
-}
-
-/// Languages that this build can show.
-QStringList shownLanguages()
-{
-    QStringList codes;
-    for (const Mirrix::Language &language : Mirrix::languages()) {
-        if (language.catalogue.isEmpty() || QFile::exists(u":/translations/"_qs + language.catalogue + u".qm"_qs))
-            codes.append(language.code);
-    }
-    return codes;
 }
 
 void addTextsOf(const QAbstractItemModel &model, const QModelIndex &parent, QStringList &texts)
@@ -70,15 +43,11 @@ void addTextsOf(const QWidget &widget, QStringList &texts)
         texts << sheet->toPlainText();
     if (const auto *bar = qobject_cast<const QStatusBar *>(&widget))
         texts << bar->currentMessage();
-    for (int i = 0; const auto *combo = qobject_cast<const QComboBox *>(&widget); ++i) {
-        if (i >= combo->count())
-            break;
-        texts << combo->itemText(i);
-    }
-    for (int i = 0; const auto *tabs = qobject_cast<const QTabWidget *>(&widget); ++i) {
-        if (i >= tabs->count())
-            break;
-        texts << tabs->tabText(i);
+    if (const auto *combo = qobject_cast<const QComboBox *>(&widget))
+        addTextsOf(*combo->model(), {}, texts);
+    if (const auto *tabs = qobject_cast<const QTabBar *>(&widget)) {
+        for (int i = 0; i < tabs->count(); ++i)
+            texts << tabs->tabText(i);
     }
     if (const auto *header = qobject_cast<const QHeaderView *>(&widget); header && header->model()) {
         for (int i = 0; i < header->count(); ++i)
@@ -114,14 +83,16 @@ class TestLanguages : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { Mirrix::applyTheme(u"light"_qs); }
-    void cleanup() { Mirrix::loadLanguage(u"zh_CN"_qs); }
+    void initTestCase() { applyTheme(u"light"_s); }
+    void cleanup() { loadLanguage(u"zh_CN"_s); }
 
     void cutsNothingOff_data()
     {
         QTest::addColumn<QString>("language");
-        for (const QString &code : shownLanguages())
-            QTest::newRow(qUtf8Printable(code)) << code;
+        for (const Language &language : languages()) {
+            if (language.catalogue.isEmpty() || QFile::exists(u":/translations/%1.qm"_s.arg(language.catalogue)))
+                QTest::newRow(qPrintable(language.code)) << language.code;
+        }
     }
 
     void cutsNothingOff()
@@ -129,7 +100,7 @@ private slots:
         if (QFontDatabase::families().isEmpty())
             QSKIP("no fonts to measure by");
         QFETCH(QString, language);
-        Mirrix::loadLanguage(language);
+        loadLanguage(language);
         Gallery gallery;
         gallery.window().resize(1280, 800);
         QVERIFY(gallery.scan());
@@ -137,45 +108,50 @@ private slots:
         gallery.visitAll([&problems](const QString &name, QWidget &window) {
             QVERIFY(QTest::qWaitForWindowExposed(&window));
             settle();
-            for (const QString &problem : MirrixTest::clippedTexts(window))
-                problems.append(name + u": "_qs + problem);
+            for (const QString &problem : clippedTexts(window))
+                problems.append(name + u": "_s + problem);
             if (const auto *box = qobject_cast<QMessageBox *>(&window); box && !box->detailedText().isEmpty())
-                problems.append(name + u": shortened "_qs + box->text());
+                problems.append(name + u": shortened "_s + box->text());
             if (window.isModal() || qobject_cast<QDialog *>(&window))
-                QVERIFY2(window.width() <= 1008 && window.height() <= 684, qUtf8Printable(name));
+                QVERIFY2(window.width() <= 1008 && window.height() <= 684, qPrintable(name));
         });
         constexpr QSize smallScreen(1024 - 16, 768 - 84); // less task bar and frame
         const QSize least = gallery.window().minimumSizeHint();
-        QVERIFY2(least.boundedTo(smallScreen) == least,
-                 qUtf8Printable(u"%1x%2"_qs.arg(least.width()).arg(least.height())));
+        QVERIFY2(least.boundedTo(smallScreen) == least, qPrintable(u"%1x%2"_s.arg(least.width()).arg(least.height())));
         problems.removeDuplicates();
-        QVERIFY2(problems.isEmpty(), qUtf8Printable(u'\n' + problems.join(u'\n')));
+        QVERIFY2(problems.isEmpty(), qPrintable(u'\n' + problems.join(u'\n')));
     }
 
     void followsAtOnce()
     {
         Gallery gallery;
         QVERIFY(gallery.scan());
+        const auto *locations = part<LocationsPage>(gallery.window());
+        const auto *rules = part<RulesPage>(gallery.window());
+        const LocationsState chosenLocations = locations->state();
+        const RulesState chosenRules = rules->state();
         const auto dialogs = gallery.dialogs();
         for (const auto &[name, dialog] : dialogs)
             dialog->show();
-        Mirrix::loadLanguage(u"en"_qs);
+        loadLanguage(u"en"_s);
         settle();
         // Yes, no and two hints are the same in every language.
-        const QStringList everywhere = {u"是"_qs, u"否"_qs, u"请选择要扫描的位置"_qs, u"配置规则后点击「开始扫描」"_qs};
-        static const QRegularExpression han(u"\\p{Han}"_qs);
+        const QStringList everywhere = {u"是"_s, u"否"_s, u"请选择要扫描的位置"_s, u"配置规则后点击「开始扫描」"_s};
+        static const QRegularExpression han(u"\\p{Han}"_s);
         QStringList left;
         const auto collect = [&](const QString &name, const QWidget &window) {
             for (const QString &text : textsOf(window)) {
-                if (text.contains(han) && !everywhere.contains(text.section(u": "_qs, -1)))
-                    left.append(name + u": "_qs + text);
+                if (text.contains(han) && !everywhere.contains(text.section(u": "_s, -1)))
+                    left.append(name + u": "_s + text);
             }
         };
-        collect(u"main"_qs, gallery.window());
+        collect(u"main"_s, gallery.window());
         for (const auto &[name, dialog] : dialogs)
             collect(name, *dialog);
         left.removeDuplicates();
-        QVERIFY2(left.isEmpty(), qUtf8Printable(u'\n' + left.join(u'\n')));
+        QVERIFY2(left.isEmpty(), qPrintable(u'\n' + left.join(u'\n')));
+        QCOMPARE(locations->state(), chosenLocations);
+        QCOMPARE(rules->state(), chosenRules);
     }
 };
 

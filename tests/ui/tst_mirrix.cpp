@@ -1,25 +1,7 @@
 #include "ui/mirrix.h"
 
 #include "app/translations.h"
-#include "tests/support/temptree.h"
-#include "tests/ui/scriptedprompts.h"
-
-#include <QAction>
-#include <QCheckBox>
-#include <QDir>
-#include <QHeaderView>
-#include <QLabel>
-#include <QMenuBar>
-#include <QPushButton>
-#include <QSplitter>
-#include <QStackedWidget>
-#include <QStatusBar>
-#include <QStatusTipEvent>
-#include <QTest>
-#include <QTreeView>
-
-using MirrixTest::ScriptedPrompts;
-using MirrixTest::TempTree;
+#include "tests/ui/uitest.h"
 
 namespace {
 
@@ -27,72 +9,62 @@ namespace {
 struct Stage
 {
     TempTree tree;
-    Mirrix::Settings settings;
+    Settings settings{defaultSettings(tree.makeFolder(u"data"_s))};
     ScriptedPrompts prompts;
     std::unique_ptr<MirrixUi::Mirrix> window;
+    const QString in = tree.path(u"in"_s);
 
     Stage()
-        : settings(Mirrix::defaultSettings(tree.path(u"data"_qs)))
     {
-        settings.trayEnabled = false;
-        tree.makeFolder(u"data"_qs);
-        tree.write(u"in/a.txt"_qs, "the same");
-        tree.write(u"in/b.txt"_qs, "the same");
-        tree.write(u"in/deep/c.txt"_qs, "the same");
-        tree.write(u"in/d.txt"_qs, "alone");
+        for (const QString &copy : {u"in/a.txt"_s, u"in/b.txt"_s, u"in/deep/c.txt"_s})
+            tree.write(copy, "the same");
+        tree.write(u"in/d.txt"_s, "alone");
         open();
     }
 
+    /// Opens the window with what is stored in the data folder.
     void open()
     {
+        settings = readSettings(settings.directory);
+        settings.trayEnabled = false;
         window = std::make_unique<MirrixUi::Mirrix>(settings, prompts);
         window->show();
         QVERIFY(QTest::qWaitForWindowExposed(window.get()));
     }
 
-    template <typename Widget>
-    Widget *find(const QString &name) const
+    /// Starts a scan of two equal files without content of their own, long enough to be caught in the middle.
+    void startLongScan(qint64 bytes)
     {
-        return window->findChild<Widget *>(name);
+        for (const QString &name : {u"in/long1"_s, u"in/long2"_s}) {
+            tree.write(name, {});
+            QVERIFY(QFile::resize(tree.path(name), bytes));
+        }
+        settings.skipScanConfirm = true;
+        window->addLocation(in);
+        start();
+        QVERIFY(window->isScanning());
     }
 
-    /// The texts of all labels of a name: pages share names.
-    QStringList texts(const QString &name) const
-    {
-        QStringList found;
-        const auto labels = window->findChildren<QLabel *>(name);
-        for (const QLabel *label : labels)
-            found.append(label->text());
-        return found;
-    }
-
-    void click(const QString &button) const { QTest::mouseClick(find<QPushButton>(button), Qt::LeftButton); }
-    void start() const { click(u"PrimaryButton"_qs); }
-    void accept(bool dontAskAgain = false) { prompts.confirmations.append({true, dontAskAgain}); }
-    bool waitForEnd() const
+    void press(const QString &button) const { click(*window, button); }
+    void start() const { press(u"PrimaryButton"_s); }
+    [[nodiscard]] bool waitForEnd() const
     {
         return QTest::qWaitFor([this] { return !window->isScanning(); }, 60000);
     }
 
-    QStringList logged() const
+    [[nodiscard]] QTreeView *groups() const { return part<QTreeView>(*window, u"DuplicateFilesTree"_s); }
+    [[nodiscard]] QString text(const QString &label) const { return part<QLabel>(*window, label)->text(); }
+    [[nodiscard]] QString message() const { return window->statusBar()->currentMessage(); }
+    [[nodiscard]] int page() const { return part<QStackedWidget>(*window, u"WizardPages"_s)->currentIndex(); }
+
+    [[nodiscard]] QStringList logged() const
     {
         QStringList records;
-        const auto entries = Mirrix::OperationsLog(Mirrix::operationsLogPath(settings.directory)).entries();
-        for (const Mirrix::LogEntry &entry : entries)
+        for (const LogEntry &entry : OperationsLog(operationsLogPath(settings.directory)).entries())
             records.append(entry.action + u'|' + entry.detail);
         return records;
     }
 };
-
-QAction *actionOf(const QMenuBar *bar, const QString &text)
-{
-    const auto actions = bar->findChildren<QAction *>();
-    for (QAction *action : actions) {
-        if (action->text() == text)
-            return action;
-    }
-    return nullptr;
-}
 
 } // namespace
 
@@ -101,95 +73,62 @@ class TestMirrix : public QObject
     Q_OBJECT
 
 private slots:
-    void showsItsTexts_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("brand") << u"BrandTitle"_qs << u"Mirrix"_qs;
-        QTest::newRow("badge") << u"BrandBadge"_qs << u"重复文件清理"_qs;
-        QTest::newRow("trail") << u"WizardTrail"_qs << u"① 选择位置 → ② 匹配规则 → ③ 预览并清理"_qs;
-        QTest::newRow("title") << u"WizardPageTitle"_qs << u"选择一个路径开始查重"_qs;
-        QTest::newRow("hint") << u"WizardPageHint"_qs << u"选好后点击左侧「开始扫描」"_qs;
-        QTest::newRow("step") << u"WizardStepTitle"_qs << u"选择位置"_qs;
-        QTest::newRow("summary") << u"SummaryLabel"_qs << u"尚未扫描。请选择扫描模式，添加目录后点击“立即扫描”。"_qs;
-        QTest::newRow("status") << u"StatusLabel"_qs << u"就绪"_qs;
-    }
-
-    void showsItsTexts()
-    {
-        const Stage stage;
-        QFETCH(QString, name);
-        QFETCH(QString, text);
-        QVERIFY2(stage.texts(name).contains(text), qUtf8Printable(stage.texts(name).join(u'|')));
-    }
-
     void goesFromStepToStep()
     {
         const Stage stage;
-        const auto *pages = stage.find<QStackedWidget>(u"WizardPages"_qs);
-        QCOMPARE(pages->count(), 3);
-        QCOMPARE(stage.window->statusBar()->currentMessage(),
-                 u"标准模式 · 本地运行 · 零广告 · 图片哈希: OpenCV-pHash"_qs);
-        const auto rows = stage.window->findChildren<QLabel *>(u"WizardStepTitle"_qs);
+        QCOMPARE(stage.message(), u"标准模式 · 本地运行 · 零广告 · 图片哈希: OpenCV-pHash"_s);
+        QCOMPARE(stage.text(u"WizardTrail"_s), u"① 选择位置 → ② 匹配规则 → ③ 预览并清理"_s);
+        QCOMPARE(stage.text(u"SummaryLabel"_s), u"尚未扫描。请选择扫描模式，添加目录后点击“立即扫描”。"_s);
+        QCOMPARE(stage.text(u"StatusLabel"_s), u"就绪"_s);
+        const auto rows = stage.window->findChildren<QLabel *>(u"WizardStepTitle"_s);
         QCOMPARE(rows.size(), 3);
         QTest::mouseClick(rows[1], Qt::LeftButton);
-        QCOMPARE(pages->currentIndex(), 1);
+        QCOMPARE(stage.page(), 1);
         QStatusTipEvent passing({}); // as from a mouse over the menus
         QCoreApplication::sendEvent(stage.window.get(), &passing);
-        QCOMPARE(stage.window->statusBar()->currentMessage(), u"配置规则后点击「开始扫描」"_qs);
+        QCOMPARE(stage.message(), u"配置规则后点击「开始扫描」"_s);
         QVERIFY(rows[1]->parentWidget()->property("activeStep").toBool());
         QVERIFY(!rows[0]->parentWidget()->property("activeStep").toBool());
         QTest::keyClick(rows[2]->parentWidget(), Qt::Key_Space);
-        QCOMPARE(pages->currentIndex(), 2);
+        QCOMPARE(stage.page(), 2);
         stage.window->goToStep(-5);
-        QCOMPARE(pages->currentIndex(), 0);
-    }
-
-    void asksForALocation()
-    {
-        const Stage stage;
-        stage.start();
-        QCOMPARE(stage.prompts.asked, QStringList{u"提示|请先勾选启用至少一个扫描位置。"_qs});
+        QCOMPARE(stage.page(), 0);
+        stage.start(); // without a location
+        QCOMPARE(stage.prompts.asked, QStringList{u"提示|请先勾选启用至少一个扫描位置。"_s});
         QVERIFY(!stage.window->isScanning());
     }
 
     void scansWhatWasChosen()
     {
         Stage stage;
-        stage.window->addLocation(stage.tree.path(u"in"_qs));
-        stage.prompts.confirmations.append({false, true}); // "don't show again", then "cancel": nothing remembered
+        stage.window->addLocation(stage.in);
+        stage.prompts.confirmations = {{false, true}, {true, true}}; // cancelled, its "don't show again" is not kept
         stage.start();
-        QVERIFY(!stage.window->isScanning());
-        QVERIFY(!stage.settings.skipScanConfirm);
+        QVERIFY(!stage.window->isScanning() && !stage.settings.skipScanConfirm);
         QVERIFY(stage.prompts.asked.last().startsWith(u"确认开始扫描|请确认以下扫描设置："));
 
-        stage.accept(true);
         stage.start();
         QVERIFY(stage.window->isScanning());
-        QVERIFY(!stage.find<QPushButton>(u"PrimaryButton"_qs)->isEnabled());
-        QVERIFY(stage.find<QPushButton>(u"StopButton"_qs)->isEnabled());
+        QVERIFY(!part(*stage.window, u"PrimaryButton"_s)->isEnabled());
+        QVERIFY(part(*stage.window, u"StopButton"_s)->isEnabled());
         QVERIFY(stage.waitForEnd());
-        QVERIFY(stage.settings.skipScanConfirm);
-        const QString summary = stage.find<QLabel>(u"SummaryLabel"_qs)->text();
+        const QString summary = stage.text(u"SummaryLabel"_s);
         QVERIFY2(summary.startsWith(u"文件 4 · 重复组 1 · 文件夹组 0 · 其余 0 · 可回收约 16 B · 耗时 "),
-                 qUtf8Printable(summary));
-        const auto *tree = stage.find<QTreeView>(u"DuplicateFilesTree"_qs);
-        QCOMPARE(tree->model()->rowCount(), 1);
-        QCOMPARE(tree->model()->rowCount(tree->model()->index(0, 0)), 3);
-        QVERIFY(tree->isExpanded(tree->model()->index(0, 0)));
-        QCOMPARE(stage.find<QStackedWidget>(u"WizardPages"_qs)->currentIndex(), 2);
-        auto *hint = stage.find<QTreeView>(u"DuplicateFilesTree"_qs)->viewport()->findChild<QLabel *>();
+                 qPrintable(summary));
+        const QAbstractItemModel *model = stage.groups()->model();
+        QCOMPARE(model->rowCount(), 1);
+        QCOMPARE(model->rowCount(model->index(0, 0)), 3);
+        QCOMPARE(stage.page(), 2);
+        const auto *hint = part<QLabel>(*stage.groups()->viewport());
         QVERIFY(!hint->isVisible());
-        stage.click(u"ClearResultsButton"_qs);
-        QCOMPARE(tree->model()->rowCount(), 0);
-        QCOMPARE(stage.find<QLabel>(u"SummaryLabel"_qs)->text(), u"结果已清空。切换Tab调整规则后可重新开始扫描。"_qs);
+        stage.press(u"ClearResultsButton"_s);
+        QCOMPARE(model->rowCount(), 0);
+        QCOMPARE(stage.text(u"SummaryLabel"_s), u"结果已清空。切换Tab调整规则后可重新开始扫描。"_s);
         QVERIFY(hint->isVisible());
-        QCOMPARE(hint->text(), u"扫描后在这里显示结果。"_qs);
-        QCOMPARE(stage.logged(),
-                 QStringList({u"app_start|Mirrix started"_qs, u"scan_start|"_qs + stage.tree.path(u"in"_qs),
-                              u"scan_done|groups=1 wasted=16 candidates=3"_qs}));
-        const Mirrix::Settings stored = Mirrix::readSettings(stage.settings.directory);
-        QCOMPARE(stored.lastRoots, QStringList{stage.tree.path(u"in"_qs)});
+        QCOMPARE(stage.logged(), QStringList({u"app_start|Mirrix started"_s, u"scan_start|"_s + stage.in,
+                                              u"scan_done|groups=1 wasted=16 candidates=3"_s}));
+        const Settings stored = readSettings(stage.settings.directory);
+        QCOMPARE(stored.lastRoots, QStringList{stage.in});
         QVERIFY(stored.skipScanConfirm);
     }
 
@@ -197,115 +136,77 @@ private slots:
     void namesWhatWasNotRead()
     {
         Stage stage;
-        const QString gone = stage.tree.makeFolder(u"gone"_qs);
-        stage.window->addLocation(stage.tree.path(u"in"_qs));
+        const QString gone = stage.tree.makeFolder(u"gone"_s);
+        stage.window->addLocation(stage.in);
         stage.window->addLocation(gone);
         QVERIFY(QDir().rmdir(gone));
-        stage.accept();
+        stage.settings.skipScanConfirm = true;
         stage.start();
         QVERIFY(stage.waitForEnd());
-        const auto *status = stage.find<QLabel>(u"StatusLabel"_qs);
-        const QString note = u" · 未能读取 1 项："_qs + QDir::toNativeSeparators(gone);
-        QVERIFY2(status->toolTip().endsWith(note), qUtf8Printable(status->toolTip()));
-        actionOf(stage.window->menuBar(), u"English"_qs)->trigger();
+        const auto *status = part<QLabel>(*stage.window, u"StatusLabel"_s);
+        const QString note = u" · 未能读取 1 项："_s + QDir::toNativeSeparators(gone);
+        QVERIFY2(status->toolTip().endsWith(note), qPrintable(status->toolTip()));
+        triggerAction(*stage.window, u"English"_s);
         QTRY_VERIFY(status->toolTip().contains(u"Could not be read (1): "));
-        actionOf(stage.window->menuBar(), u"简体中文"_qs)->trigger();
+        QCOMPARE(stage.settings.uiLanguage, u"en"_s);
+        QTRY_COMPARE(part(*stage.window, u"PrimaryButton"_s)->text(), u"Start scan"_s);
+        stage.window->goToStep(0);
+        QCOMPARE(stage.message(), u"请选择要扫描的位置"_s); // the same in every language
+        triggerAction(*stage.window, u"简体中文"_s);
+        QTRY_COMPARE(part(*stage.window, u"PrimaryButton"_s)->text(), u"开始扫描"_s);
     }
 
     void stopsAndStartsAgain()
     {
         Stage stage;
-        // Two equal files without content of their own, long enough to be caught in the middle.
-        for (const QString &name : {u"in/long1"_qs, u"in/long2"_qs}) {
-            stage.tree.write(name, {});
-            QVERIFY(QFile::resize(stage.tree.path(name), qint64(20) << 30));
-        }
-        stage.settings.skipScanConfirm = true;
-        stage.window->addLocation(stage.tree.path(u"in"_qs));
-        stage.start();
-        QTRY_VERIFY(stage.find<QLabel>(u"StatusLabel"_qs)->text() != u"就绪");
+        stage.startLongScan(qint64(20) << 30);
+        QTRY_VERIFY(stage.text(u"StatusLabel"_s) != u"就绪");
         QVERIFY(stage.window->windowTitle().endsWith(u" % - Mirrix · 重复文件查找与清理"));
-        stage.click(u"StopButton"_qs);
+        stage.press(u"StopButton"_s);
         QVERIFY(stage.waitForEnd());
-        QCOMPARE(stage.find<QLabel>(u"StatusLabel"_qs)->text(), u"扫描已取消"_qs);
-        QCOMPARE(stage.window->windowTitle(), u"Mirrix · 重复文件查找与清理"_qs);
+        QCOMPARE(stage.text(u"StatusLabel"_s), u"扫描已取消"_s);
+        QCOMPARE(stage.window->windowTitle(), u"Mirrix · 重复文件查找与清理"_s);
         QVERIFY(stage.prompts.asked.isEmpty()); // a cancelled scan ends without a box
-        QVERIFY(QFile::remove(stage.tree.path(u"in/long1"_qs)));
+        QVERIFY(QFile::remove(stage.tree.path(u"in/long1"_s)));
         stage.start();
         QVERIFY(stage.waitForEnd());
-        QCOMPARE(stage.find<QTreeView>(u"DuplicateFilesTree"_qs)->model()->rowCount(), 1);
-    }
-
-    void keepsLocationsBetweenRuns()
-    {
-        Stage stage;
-        stage.window->addLocation(stage.tree.path(u"in"_qs));
-        // On the page of locations and in the batch panel: kept at once, so that the removal dialog opens with it.
-        for (QCheckBox *box : stage.window->findChildren<QCheckBox *>(u"AutoBackupCheck"_qs)) {
-            box->click();
-            QCOMPARE(Mirrix::readSettings(stage.settings.directory).autoBackupBeforeDelete, box->isChecked());
-        }
-        stage.window->close();
-        QCOMPARE(stage.logged().last(), u"app_quit|user quit"_qs);
-        QCOMPARE(stage.logged().size(), 2);
-        stage.settings = Mirrix::readSettings(stage.settings.directory);
-        stage.settings.trayEnabled = false;
-        stage.settings.skipScanConfirm = true;
-        stage.open();
-        stage.start();
-        QVERIFY(stage.waitForEnd());
-        QVERIFY(stage.prompts.asked.isEmpty());
-    }
-
-    void keepsItsPlaceBetweenRuns()
-    {
-        Stage stage;
-        const QRect place(20, 60, 720, 600);
-        stage.window->setGeometry(place);
-        stage.window->goToStep(2);
-        auto *splitter = stage.find<QSplitter>(u"ResultsSplitter"_qs);
-        auto *header = stage.find<QTreeView>(u"DuplicateFilesTree"_qs)->header();
-        const int wider = header->sectionSize(0) + 25;
-        header->resizeSection(0, wider);
-        const QList<int> sizes = splitter->sizes();
-        stage.window->close();
-
-        stage.settings = Mirrix::readSettings(stage.settings.directory);
-        stage.settings.trayEnabled = false;
-        stage.open();
-        QCOMPARE(stage.window->geometry(), place);
-        stage.window->goToStep(2);
-        QCOMPARE(stage.find<QTreeView>(u"DuplicateFilesTree"_qs)->header()->sectionSize(0), wider);
-        QCOMPARE(stage.find<QSplitter>(u"ResultsSplitter"_qs)->sizes(), sizes);
+        QCOMPARE(stage.groups()->model()->rowCount(), 1);
     }
 
     void endsInTheMiddleOfAScan()
     {
         Stage stage;
-        for (const QString &name : {u"in/long1"_qs, u"in/long2"_qs}) {
-            stage.tree.write(name, {});
-            QVERIFY(QFile::resize(stage.tree.path(name), qint64(1) << 40));
-        }
-        stage.settings.skipScanConfirm = true;
-        stage.window->addLocation(stage.tree.path(u"in"_qs));
-        stage.start();
-        QVERIFY(stage.window->isScanning());
+        stage.startLongScan(qint64(1) << 40);
         stage.window.reset(); // would take hours if the scan were not stopped
     }
 
-    void changesTheLanguageAtOnce()
+    void keepsItsStateBetweenRuns()
     {
         Stage stage;
-        QAction *english = actionOf(stage.window->menuBar(), u"English"_qs);
-        QVERIFY(english);
-        english->trigger();
-        QCOMPARE(stage.settings.uiLanguage, u"en"_qs);
-        QTRY_COMPARE(stage.find<QPushButton>(u"PrimaryButton"_qs)->text(), u"Start scan"_qs);
-        QVERIFY(stage.texts(u"WizardPageTitle"_qs).contains(u"Choose a folder to start"_qs));
-        stage.window->goToStep(0);
-        QCOMPARE(stage.window->statusBar()->currentMessage(), u"请选择要扫描的位置"_qs);
-        actionOf(stage.window->menuBar(), u"简体中文"_qs)->trigger();
-        QTRY_COMPARE(stage.find<QPushButton>(u"PrimaryButton"_qs)->text(), u"开始扫描"_qs);
+        stage.window->addLocation(stage.in);
+        // On the page of locations and in the batch panel: kept at once, so that the removal dialog opens with it.
+        for (QCheckBox *box : stage.window->findChildren<QCheckBox *>(u"AutoBackupCheck"_s)) {
+            box->click();
+            QCOMPARE(readSettings(stage.settings.directory).autoBackupBeforeDelete, box->isChecked());
+        }
+        const QRect place(20, 60, 720, 600);
+        stage.window->setGeometry(place);
+        stage.window->goToStep(2);
+        const int wider = stage.groups()->header()->sectionSize(0) + 25;
+        stage.groups()->header()->resizeSection(0, wider);
+        const QList<int> sizes = part<QSplitter>(*stage.window, u"ResultsSplitter"_s)->sizes();
+        stage.window->close();
+        QCOMPARE(stage.logged(), QStringList({u"app_start|Mirrix started"_s, u"app_quit|user quit"_s}));
+
+        stage.open();
+        QCOMPARE(stage.window->geometry(), place);
+        stage.window->goToStep(2);
+        QCOMPARE(stage.groups()->header()->sectionSize(0), wider);
+        QCOMPARE(part<QSplitter>(*stage.window, u"ResultsSplitter"_s)->sizes(), sizes);
+        stage.settings.skipScanConfirm = true;
+        stage.start();
+        QVERIFY(stage.waitForEnd());
+        QVERIFY(stage.prompts.asked.isEmpty());
     }
 };
 

@@ -1,36 +1,22 @@
 #include "app/text.h"
 #include "core/cache/cacheroot.h"
 #include "tests/ui/filewatch.h"
+#include "tests/ui/uitest.h"
 #include "ui/dialogs/fileprogressdialog.h"
 #include "ui/dialogs/fileremovaldialog.h"
 #include "ui/locations/locationspage.h"
 #include "ui/logic/resultsmodel.h"
 #include "ui/mirrix.h"
-#include "ui/prompts.h"
 #include "ui/theme.h"
 
-#include <QAbstractItemView>
-#include <QApplication>
-#include <QDesktopServices>
-#include <QDialog>
-#include <QElapsedTimer>
-#include <QLineEdit>
-#include <QMenuBar>
 #include <QRandomGenerator>
-#include <QSet>
-#include <QTest>
-#include <QTimer>
-#include <QTreeView>
-
-using namespace MirrixTest;
-using namespace Qt::StringLiterals;
 
 namespace {
 
 const QStringList schemes = {u"file"_s, u"http"_s, u"https"_s, u"mailto"_s};
 
 /// Drives the window by one random event after the other and answers what it asks.
-class Monkey : public QObject, public Mirrix::Prompts
+class Monkey : public QObject, public Prompts
 {
     Q_OBJECT
 
@@ -39,7 +25,7 @@ public:
         : m_random(seed)
         , m_stepsLeft(steps)
         , m_milliseconds(milliseconds)
-        , m_settings(Mirrix::defaultSettings(m_watch.path(u"data"_s)))
+        , m_settings(defaultSettings(m_watch.path(u"data"_s)))
     {
         for (const QString &scheme : schemes)
             QDesktopServices::setUrlHandler(scheme, this, "ignoreUrl");
@@ -86,24 +72,26 @@ public:
     }
     void warn(QWidget *, const QString &, const QString &) override { look(); }
     void fail(QWidget *, const QString &, const QString &) override { look(); }
+    /// Some questions stand between the dialog and the deed; others are about backups, or about runs of any files.
     bool ask(QWidget *, const QString &title, const QString &, const QString &) override
     {
+        const bool mayDestroy = m_mayDestroy;
         const bool isYes = look() && chance(2);
-        const bool emptiesBackups = title == Mirrix::Text::tr("释放备份");
-        const bool undoesAnUndo = title == Mirrix::Text::tr("重新清理");
-        m_mayDestroy = isYes && (emptiesBackups || undoesAnUndo);
+        const bool emptiesBackups = title == Text::tr("释放备份");
+        const bool undoesAnUndo = title == Text::tr("重新清理");
+        m_mayDestroy = isYes && (mayDestroy || emptiesBackups || undoesAnUndo);
+        if (isYes && undoesAnUndo)
+            m_ticked.unite(m_watch.usersFiles());
         return isYes;
     }
-    qsizetype choose(QWidget *, const Mirrix::ChoiceRequest &request) override
+
+    qsizetype choose(QWidget *, const ChoiceRequest &request) override
     {
         look();
         return m_random.bounded(int(request.buttons.size()));
     }
 
-    Mirrix::Confirmation confirm(QWidget *, const Mirrix::ConfirmationRequest &) override
-    {
-        return {look() && !chance(4), false};
-    }
+    Confirmation confirm(QWidget *, const ConfirmationRequest &) override { return {look() && !chance(4), false}; }
 
     QStringList chooseFiles(QWidget *, const QString &, const QString &) override
     {
@@ -124,10 +112,9 @@ public:
     {
         const bool isConfined = look();
         const bool isAccepted = dialog.exec() == QDialog::Accepted && isConfined && isSafe(dialog);
-        if (auto *removal = qobject_cast<Mirrix::FileRemovalDialog *>(&dialog); removal && isAccepted)
-            m_mayDestroy = !removal->choice().backsUpFirst &&
-                           removal->choice().method != Mirrix::RemovalMethod::Recycle &&
-                           removal->choice().method != Mirrix::RemovalMethod::Move;
+        if (auto *removal = qobject_cast<FileRemovalDialog *>(&dialog); removal && isAccepted)
+            m_mayDestroy = !removal->choice().backsUpFirst && removal->choice().method != RemovalMethod::Recycle &&
+                           removal->choice().method != RemovalMethod::Move;
         return isAccepted;
     }
 
@@ -159,8 +146,8 @@ private:
             const QModelIndex parent = tree->model()->index(group, 0);
             for (int row = 0; row < tree->model()->rowCount(parent); ++row) {
                 const QModelIndex file = tree->model()->index(row, 0, parent);
-                if (file.data(Mirrix::ResultsModel::MarkedCountRole).toInt() == 1)
-                    m_ticked.insert(file.data(Mirrix::ResultsModel::PathRole).toString());
+                if (file.data(ResultsModel::MarkedCountRole).toInt() == 1)
+                    m_ticked.insert(file.data(ResultsModel::PathRole).toString());
             }
         }
         const bool isConfined = std::all_of(m_ticked.begin(), m_ticked.end(), [this](const QString &path) {
@@ -174,14 +161,14 @@ private:
     /// The machine's own files are nothing for a monkey.
     void confine()
     {
-        auto *page = m_window->findChild<Mirrix::LocationsPage *>();
-        Mirrix::LocationsState state = page->state();
+        auto *page = m_window->findChild<LocationsPage *>();
+        LocationsState state = page->state();
         const bool isReset = chance(50); // what there is to scan may have been taken away or left out
-        const bool isElsewhere = state.rows.removeIf([this](const Mirrix::LocationRow &row) {
+        const bool isElsewhere = state.rows.removeIf([this](const LocationRow &row) {
             return row.path != m_watch.path(u"in"_s) && !row.path.startsWith(m_watch.path(u"in/"_s));
         }) > 0;
         if (isReset)
-            state.rows = {Mirrix::LocationRow{m_watch.path(u"in"_s)}};
+            state.rows = {LocationRow{m_watch.path(u"in"_s)}};
         if (isReset || isElsewhere || state.advanced.backupFolder != m_watch.path(u"backup"_s)) {
             state.advanced.backupFolder = m_watch.path(u"backup"_s);
             page->setState(state);
@@ -231,7 +218,7 @@ private:
         m_lastTop = top;
         if (m_patience < 0 && top) {
             if (auto *dialog = qobject_cast<QDialog *>(top))
-                chance(2) || qobject_cast<Mirrix::FileProgressDialog *>(dialog) ? dialog->reject() : dialog->accept();
+                chance(2) || qobject_cast<FileProgressDialog *>(dialog) ? dialog->reject() : dialog->accept();
             else
                 top->close();
             return;
@@ -307,7 +294,7 @@ private:
     qint64 m_stepsLeft;
     qint64 m_milliseconds;
     FileWatch m_watch;
-    Mirrix::Settings m_settings;
+    Settings m_settings;
     std::unique_ptr<MirrixUi::Mirrix> m_window;
     QSet<QString> m_ticked;
     bool m_mayDestroy = false;
@@ -343,7 +330,7 @@ private slots:
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
-    Mirrix::ensureFusionStyle();
+    ensureFusionStyle();
     QApplication::setQuitOnLastWindowClosed(false);
     MonkeyTest test;
     return QTest::qExec(&test, argc, argv);

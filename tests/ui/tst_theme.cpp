@@ -1,19 +1,10 @@
 #include "ui/theme.h"
 
 #include "tests/ui/gallery.h"
+#include "tests/ui/uitest.h"
 #include "ui/mirrix.h"
 
-#include <QAction>
-#include <QFile>
-#include <QRadioButton>
-#include <QRegularExpression>
-#include <QTest>
-
 #include <cmath>
-
-using Mirrix::darkColours;
-using Mirrix::lightColours;
-using Mirrix::ThemeColours;
 
 namespace {
 
@@ -43,20 +34,18 @@ QRgb over(QRgb one, QRgb other, double share)
     return qRgb(part(qRed(one), qRed(other)), part(qGreen(one), qGreen(other)), part(qBlue(one), qBlue(other)));
 }
 
-QString sheet(const QString &name)
+/// The names of widgets for which a style sheet has styles.
+QSet<QString> styledIn(const QString &sheet)
 {
-    QFile file(u":/resources/"_qs + name);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-QStringList allOf(const QString &text, const QString &pattern)
-{
-    QStringList found;
-    auto matches = QRegularExpression(pattern).globalMatch(text);
+    QSet<QString> names;
+    QFile file(u":/resources/"_s + sheet);
+    if (!file.open(QIODevice::ReadOnly))
+        return names;
+    static const QRegularExpression pattern(u"#([A-Z]\\w*[a-z]\\w*)"_s);
+    auto matches = pattern.globalMatch(QString::fromUtf8(file.readAll()));
     while (matches.hasNext())
-        found.append(matches.next().captured(1));
-    found.removeDuplicates();
-    return found;
+        names.insert(matches.next().captured(1));
+    return names;
 }
 
 QRgb cornerOf(QWidget &window)
@@ -71,31 +60,26 @@ class TestTheme : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup() { Mirrix::applyTheme(u"light"_qs); }
+    void cleanup() { applyTheme(u"light"_s); }
 
     void canBeRead_data()
     {
-        QTest::addColumn<QList<Colour>>("tops");
-        QTest::addColumn<QList<Colour>>("bottoms");
-        QTest::addColumn<double>("least");
+        using Colours = QList<Colour>;
         using C = ThemeColours;
-        constexpr double text = 4.5;
-        constexpr double shape = 3;
-        QTest::newRow("text") << QList<Colour>{&C::text, &C::dimmed}
-                              << QList<Colour>{&C::window,  &C::base,       &C::alternate, &C::raised,
-                                               &C::sidebar, &C::accentSoft, &C::tooltip}
-                              << text;
-        QTest::newRow("text of a step's number") << QList<Colour>{&C::text} << QList<Colour>{&C::border} << text;
-        QTest::newRow("link") << QList<Colour>{&C::link}
-                              << QList<Colour>{&C::window, &C::base, &C::raised, &C::accentSoft} << text;
-        QTest::newRow("on accent") << QList<Colour>{&C::accentText} << QList<Colour>{&C::accent, &C::accentHover}
-                                   << text;
-        QTest::newRow("danger") << QList<Colour>{&C::danger} << QList<Colour>{&C::window, &C::raised, &C::accentSoft}
-                                << text;
-        QTest::newRow("warning") << QList<Colour>{&C::warning}
-                                 << QList<Colour>{&C::base, &C::alternate, &C::warningSoft} << text;
-        QTest::newRow("outlines") << QList<Colour>{&C::control, &C::accent} << QList<Colour>{&C::window, &C::base}
-                                  << shape;
+        QTest::addColumn<Colours>("tops");
+        QTest::addColumn<Colours>("bottoms");
+        QTest::addColumn<double>("least");
+        const auto row = [](const char *name, const Colours &tops, const Colours &bottoms, double least = 4.5) {
+            QTest::newRow(name) << tops << bottoms << least;
+        };
+        row("text", {&C::text, &C::dimmed},
+            {&C::window, &C::base, &C::alternate, &C::raised, &C::sidebar, &C::accentSoft, &C::tooltip});
+        row("text of a step's number", {&C::text}, {&C::border});
+        row("link", {&C::link}, {&C::window, &C::base, &C::raised, &C::accentSoft});
+        row("on accent", {&C::accentText}, {&C::accent, &C::accentHover});
+        row("danger", {&C::danger}, {&C::window, &C::raised, &C::accentSoft});
+        row("warning", {&C::warning}, {&C::base, &C::alternate, &C::warningSoft});
+        row("outlines", {&C::control, &C::accent}, {&C::window, &C::base}, 3);
     }
 
     void canBeRead()
@@ -105,12 +89,9 @@ private slots:
         QFETCH(double, least);
         for (const ThemeColours &colours : {lightColours, darkColours}) {
             for (const Colour top : tops) {
-                for (const Colour bottom : bottoms) {
-                    const double found = contrast(colours.*top, colours.*bottom);
-                    QVERIFY2(found >= least,
-                             qUtf8Printable(
-                                 u"%1 on %2: %3"_qs.arg(colours.*top, 8, 16).arg(colours.*bottom, 8, 16).arg(found)));
-                }
+                for (const Colour bottom : bottoms)
+                    QVERIFY2(contrast(colours.*top, colours.*bottom) >= least,
+                             qPrintable(u"%1 on %2"_s.arg(colours.*top, 8, 16).arg(colours.*bottom, 8, 16)));
             }
         }
     }
@@ -127,46 +108,37 @@ private slots:
     /// A style for a name that no widget bears is a mistake in one of the two.
     void stylesWhatThereIs()
     {
-        MirrixTest::Gallery gallery;
+        Gallery gallery;
         const auto dialogs = gallery.dialogs(); // children of the window
-        for (const QString &name : {u"theme.qss"_qs, u"theme-dark.qss"_qs}) {
-            const QStringList styled = allOf(sheet(name), u"#([A-Z]\\w*[a-z]\\w*)"_qs);
+        for (const QString &sheet : {u"theme.qss"_s, u"theme-dark.qss"_s}) {
+            const QSet<QString> styled = styledIn(sheet);
             QVERIFY(styled.size() > 10);
-            for (const QString &object : styled)
-                QVERIFY2(gallery.window().findChild<QWidget *>(object), qUtf8Printable(object));
+            for (const QString &name : styled)
+                QVERIFY2(gallery.window().findChild<QWidget *>(name), qPrintable(name));
         }
     }
 
     void reachesOpenWindows()
     {
-        MirrixTest::Gallery gallery;
-        auto dialogs = gallery.dialogs();
-        for (const QString &theme : {u"dark"_qs, u"light"_qs}) {
-            Mirrix::applyTheme(theme);
-            const QRgb expected = (theme == u"dark" ? darkColours : lightColours).window;
-            QCOMPARE(cornerOf(gallery.window()), expected);
+        Gallery gallery;
+        applyTheme(u"light"_s);
+        const auto dialogs = gallery.dialogs();
+        const auto isEverywhere = [&](QRgb colour) {
+            QCOMPARE(cornerOf(gallery.window()), colour);
             for (const auto &[name, dialog] : dialogs) {
                 dialog->show();
-                QVERIFY2(cornerOf(*dialog) == expected, qUtf8Printable(name));
+                QVERIFY2(cornerOf(*dialog) == colour, qPrintable(name));
             }
-        }
-    }
-
-    void isChosenInTheOptions()
-    {
-        MirrixTest::Gallery gallery;
-        Mirrix::applyTheme(u"light"_qs);
+        };
         gallery.prompts().onRun = [](QDialog &options) {
             options.show();
-            options.findChild<QRadioButton *>(u"DarkThemeRadio"_qs)->click();
+            part(options, u"DarkThemeRadio"_s)->click();
             QCOMPARE(cornerOf(options), darkColours.window);
         };
-        const auto actions = gallery.window().findChildren<QAction *>();
-        const auto found = std::find_if(actions.begin(), actions.end(),
-                                        [](const QAction *action) { return action->text() == u"选项…"; });
-        QVERIFY(found != actions.end());
-        (*found)->trigger();
-        QCOMPARE(cornerOf(gallery.window()), darkColours.window);
+        triggerAction(gallery.window(), u"选项…"_s);
+        isEverywhere(darkColours.window);
+        applyTheme(u"light"_s);
+        isEverywhere(lightColours.window);
     }
 };
 

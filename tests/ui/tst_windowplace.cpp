@@ -2,6 +2,8 @@
 
 #include <QTest>
 
+using namespace Mirrix;
+
 class TestWindowPlace : public QObject
 {
     Q_OBJECT
@@ -10,38 +12,26 @@ private slots:
     void opensWithinTheScreen()
     {
         const QSize ideal(1280, 800);
-        const QRect large = Mirrix::firstPlace(ideal, {0, 0, 2560, 1400});
+        const QRect large = firstPlace(ideal, {0, 0, 2560, 1400});
         QCOMPARE(large.size(), ideal);
         QVERIFY(std::abs(large.center().x() - 1280) <= 1);
         const QRect screen(0, 0, 1024, 728); // 1024x768 less the task bar
-        const QRect small = Mirrix::firstPlace(ideal, screen);
-        QVERIFY(screen.contains(small));
-        QVERIFY(small.width() > 1000 && small.height() > 670);
-    }
-
-    void opensWhereItWas_data()
-    {
-        QTest::addColumn<QRect>("earlier");
-        QTest::addColumn<QList<QRect>>("screens");
-        QTest::addColumn<QRect>("expected");
-        const QRect left(0, 0, 1920, 1040);
-        const QRect right(1920, 0, 1920, 1040);
-        const QRect place(2000, 100, 1280, 800);
-        QTest::newRow("second screen") << place << QList{left, right} << place;
-        QTest::newRow("second screen gone") << place << QList{left} << QRect();
-        QTest::newRow("no screen") << place << QList<QRect>() << QRect();
-        QTest::newRow("between both") << QRect(1500, 100, 1280, 800) << QList{left, right}
-                                      << QRect(1928, 100, 1280, 800);
-        QTest::newRow("hanging out below") << QRect(100, 900, 1280, 800) << QList{left} << QRect(100, 232, 1280, 800);
-        QTest::newRow("larger than the screen") << QRect(0, 0, 2500, 1300) << QList{left} << QRect(8, 36, 1904, 996);
-        QTest::newRow("nothing") << QRect() << QList{left} << QRect();
+        const QRect small = firstPlace(ideal, screen);
+        QVERIFY(screen.contains(small) && small.width() > 1000 && small.height() > 670);
     }
 
     void opensWhereItWas()
     {
-        QFETCH(QRect, earlier);
-        QFETCH(QList<QRect>, screens);
-        QTEST(Mirrix::placeAgain(earlier, screens), "expected");
+        const QRect left(0, 0, 1920, 1040);
+        const QRect right(1920, 0, 1920, 1040);
+        const QRect place(2000, 100, 1280, 800);
+        QCOMPARE(placeAgain(place, {left, right}), place);
+        QCOMPARE(placeAgain(place, {left}), QRect()); // the second screen is gone
+        QCOMPARE(placeAgain(place, {}), QRect());
+        QCOMPARE(placeAgain(QRect(), {left}), QRect());
+        QCOMPARE(placeAgain({1500, 100, 1280, 800}, {left, right}), QRect(1928, 100, 1280, 800)); // between both
+        QCOMPARE(placeAgain({100, 900, 1280, 800}, {left}), QRect(100, 232, 1280, 800));          // hanging out below
+        QCOMPARE(placeAgain({0, 0, 2500, 1300}, {left}), QRect(8, 36, 1904, 996));
     }
 };
 
