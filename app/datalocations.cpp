@@ -6,12 +6,13 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <optional>
+
 namespace Mirrix {
 
 namespace {
 
-bool portableDecided = false;
-bool portablePortable = false;
+std::optional<bool> chosenPortable; ///< by decidePortable
 
 bool hasMarkerFile(const QString &name)
 {
@@ -22,14 +23,12 @@ bool hasMarkerFile(const QString &name)
 
 void decidePortable(bool portable)
 {
-    portableDecided = true;
-    portablePortable = portable;
+    chosenPortable = portable;
 }
 
 void undecidePortable()
 {
-    portableDecided = false;
-    portablePortable = false;
+    chosenPortable.reset();
 }
 
 bool hasPortableSwitch(const QStringList &arguments)
@@ -39,8 +38,8 @@ bool hasPortableSwitch(const QStringList &arguments)
 
 bool isPortable()
 {
-    if (portableDecided)
-        return portablePortable;
+    if (chosenPortable)
+        return *chosenPortable;
     return hasPortableSwitch(QCoreApplication::arguments()) || hasMarkerFile(QStringLiteral("Mirrix.portable")) ||
            hasMarkerFile(QStringLiteral("portable.txt"));
 }

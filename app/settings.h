@@ -16,7 +16,7 @@ struct Settings
     QString backupRoot;    ///< folder of backed-up files
     QStringList lastRoots; ///< folders last scanned
     QStringList excludeDirs;
-    QJsonArray locations; ///< the table of scan locations with its switches, as ui/logic/locationsjson.h writes it
+    QJsonArray locations; ///< the table of scan locations with its switches, as ui/state/locationsjson.h writes it
     QStringList includeExts;
     QStringList excludeExts;
     qint64 minFileBytes = 0; ///< 0 = no limit

@@ -3,13 +3,13 @@
 //
 // Runs without a display with QT_QPA_PLATFORM=offscreen.
 
-#include "actions/operationslog.h"
+#include "actions/records/operationslog.h"
 #include "actions/records/runjournal.h"
 #include "app/settings.h"
 #include "bench/consent.h"
 #include "bench/watchdog.h"
 #include "ui/dialogs/historydialog.h"
-#include "ui/theme.h"
+#include "ui/window/theme.h"
 
 #include <QAction>
 #include <QApplication>

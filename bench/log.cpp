@@ -1,7 +1,7 @@
 // What the operations log costs as it grows: bench_log [RECORDS...], default 1000 10000 100000. For each number of
 // records it prints the size of the file, the time of one more record and that of reading all.
 
-#include "actions/operationslog.h"
+#include "actions/records/operationslog.h"
 
 #include <QElapsedTimer>
 #include <QFileInfo>

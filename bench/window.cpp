@@ -8,9 +8,9 @@
 #include "bench/consent.h"
 #include "bench/watchdog.h"
 #include "core/cache/cacheroot.h"
-#include "ui/mainmenu.h"
 #include "ui/mirrix.h"
-#include "ui/theme.h"
+#include "ui/window/mainmenu.h"
+#include "ui/window/theme.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -1,8 +1,8 @@
 #include "cli/cleancommand.h"
 
 #include "actions/cleaning/cleaningrun.h"
-#include "actions/operationslog.h"
 #include "actions/records/logevents.h"
+#include "actions/records/operationslog.h"
 #include "app/sizetext.h"
 #include "cli/cleanplan.h"
 #include "cli/colours.h"
@@ -137,7 +137,7 @@ ExitStatus runClean(const QCommandLineParser &parser)
         return printPlan(plan, colour, quiet) && isComplete ? ExitStatus::Done : ExitStatus::SomeFailed;
     QList<LogEntry> events = {scanDoneEvent(result.groups.size(), result.wastedBytes, result.candidates)};
     if (!request.wantsEmptyFiles)
-        events.append(markedByRuleEvent(request.rule, plan.items.size()));
+        events.append(markedByRuleEvent(static_cast<int>(request.rule), plan.items.size()));
     const bool isLogged = log.append(events);
     if (!isLogged)
         printError(QStringLiteral("cannot write the log %1").arg(log.filePath()));

@@ -1,6 +1,6 @@
 #include "cli/cleanplan.h"
 
-#include "actions/backupstore.h"
+#include "actions/cleaning/backupstore.h"
 #include "actions/cleaning/targetfolder.h"
 #include "app/settings.h"
 #include "cli/scancommand.h"

@@ -1,8 +1,8 @@
 #include "cli/emptyfolderscommand.h"
 
-#include "actions/backupstore.h"
+#include "actions/cleaning/backupstore.h"
 #include "actions/cleaning/emptyfolderremoval.h"
-#include "actions/operationslog.h"
+#include "actions/records/operationslog.h"
 #include "app/settings.h"
 #include "cli/counted.h"
 #include "cli/output.h"

@@ -1,6 +1,6 @@
 #include "cli/logcommand.h"
 
-#include "actions/operationslog.h"
+#include "actions/records/operationslog.h"
 #include "cli/logtexts.h"
 #include "cli/output.h"
 

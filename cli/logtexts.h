@@ -1,6 +1,6 @@
 #pragma once
 
-#include "actions/operationslog.h"
+#include "actions/records/operationslog.h"
 
 #include <QString>
 

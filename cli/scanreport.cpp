@@ -1,6 +1,6 @@
 #include "cli/scanreport.h"
 
-#include "actions/exporttexts.h"
+#include "actions/export/exporttexts.h"
 #include "app/sizetext.h"
 #include "cli/colours.h"
 #include "cli/counted.h"

@@ -1,8 +1,8 @@
 #include "cli/undocommand.h"
 
-#include "actions/backupstore.h"
+#include "actions/cleaning/backupstore.h"
 #include "actions/cleaning/undo.h"
-#include "actions/operationslog.h"
+#include "actions/records/operationslog.h"
 #include "actions/records/runjournal.h"
 #include "app/settings.h"
 #include "cli/output.h"

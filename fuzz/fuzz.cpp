@@ -1,11 +1,11 @@
 // Everything that the program parses, fed by libFuzzer. MIRRIX_FUZZ_TARGET names the parser; see scripts/fuzz.sh.
 // Besides crashes, a broken promise of a parser aborts.
 
-#include "actions/aescbc.h"
-#include "actions/backupstore.h"
-#include "actions/exporttexts.h"
+#include "actions/cleaning/backupstore.h"
+#include "actions/export/exporttexts.h"
 #include "actions/files/binlookup.h"
-#include "actions/operationslog.h"
+#include "actions/records/aescbc.h"
+#include "actions/records/operationslog.h"
 #include "actions/records/runhistory.h"
 #include "actions/records/runjournal.h"
 #include "app/settings.h"
@@ -14,9 +14,9 @@
 #include "core/cache/imagefeaturecache.h"
 #include "core/match/rulekeys.h"
 #include "core/model/optiontable.h"
-#include "ui/logic/extensiontext.h"
-#include "ui/logic/locationsjson.h"
-#include "ui/logic/rulessettings.h"
+#include "ui/state/locationsjson.h"
+#include "ui/state/rulessettings.h"
+#include "ui/texts/extensiontext.h"
 
 #include <QDir>
 #include <QFile>

@@ -47,7 +47,7 @@ seed rulekey '{"sameName":true,"sameSize":true,"sameFolderPath":true,"folderPath
 # Names of members, which libFuzzer cannot see being compared.
 {
     grep -ohE '"[A-Za-z]{2,30}"' app/settings.cpp core/cache/*.cpp actions/*.cpp actions/records/*.{h,cpp} \
-        ui/logic/locationsjson.cpp | tr -d '"'
+        ui/state/locationsjson.cpp | tr -d '"'
     grep -ohE '[A-Za-z]+( = .*)?;' app/settings.h core/model/scanoptions.h | grep -oE '^[A-Za-z]+'
 } | sort -u | sed 's/.*/"\\"&\\":"/' >build/fuzz/names.dict
 

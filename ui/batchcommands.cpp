@@ -1,17 +1,17 @@
 #include "ui/batchcommands.h"
 
-#include "actions/backupstore.h"
-#include "actions/fileoperations.h"
-#include "actions/operationslog.h"
+#include "actions/cleaning/backupstore.h"
+#include "actions/files/fileoperations.h"
 #include "actions/records/logevents.h"
+#include "actions/records/operationslog.h"
 #include "app/settings.h"
 #include "app/text.h"
 #include "ui/dialogs/fileprogressdialog.h"
 #include "ui/dialogs/fileremovaldialog.h"
 #include "ui/dialogs/restoredialog.h"
-#include "ui/logic/asidethreads.h"
-#include "ui/logic/batchtexts.h"
-#include "ui/prompts.h"
+#include "ui/state/backgroundthreads.h"
+#include "ui/texts/batchtexts.h"
+#include "ui/window/prompts.h"
 
 #include <QDir>
 
@@ -67,7 +67,7 @@ void BatchCommands::applyKeepRule(KeepRule rule)
     perform([&] {
         if (!changeMarks(QT_TRANSLATE_NOOP("Mirrix", "已按规则自动勾选待处理文件"), mark))
             return;
-        m_log.append({markedByRuleEvent(rule, m_results.marks.markedInAll())});
+        m_log.append({markedByRuleEvent(static_cast<int>(rule), m_results.marks.markedInAll())});
     });
 }
 
@@ -295,7 +295,7 @@ void BatchCommands::restoreByChoice()
     else if (!reading.isCancelled && chooseBackups(list) &&
              m_prompts.ask(m_window, Text::tr("确认恢复"), list.question))
         restore(folder, list.chosen);
-    discardAside(std::move(list));
+    discardInBackground(std::move(list));
 }
 
 bool BatchCommands::chooseBackups(RestoreList &list)
@@ -342,7 +342,7 @@ void BatchCommands::restore(const QString &folder, const QList<BackupEntry> &cho
         m_prompts.inform(m_window, Text::tr("完成"), text);
     else
         m_prompts.warn(m_window, Text::tr("失败"), text);
-    discardAside(std::move(result));
+    discardInBackground(std::move(result));
 }
 
 } // namespace Mirrix

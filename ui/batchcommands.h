@@ -1,9 +1,9 @@
 #pragma once
 
-#include "actions/backupindex.h"
-#include "actions/batch.h"
 #include "actions/cleaning/cleaningrun.h"
-#include "ui/logic/checkedfiles.h"
+#include "actions/files/batch.h"
+#include "actions/records/backupindex.h"
+#include "ui/state/checkedfiles.h"
 
 #include <QObject>
 

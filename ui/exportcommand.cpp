@@ -1,12 +1,12 @@
 #include "ui/exportcommand.h"
 
-#include "actions/operationslog.h"
 #include "actions/records/logevents.h"
+#include "actions/records/operationslog.h"
 #include "app/text.h"
 #include "core/platform/nativepath.h"
 #include "ui/dialogs/exportdialog.h"
 #include "ui/dialogs/fileprogressdialog.h"
-#include "ui/prompts.h"
+#include "ui/window/prompts.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "actions/exporter.h"
-#include "ui/logic/resultset.h"
+#include "actions/export/exporter.h"
+#include "ui/state/resultset.h"
 
 class QWidget;
 

@@ -4,32 +4,32 @@
 #include "app/text.h"
 #include "app/translations.h"
 #include "core/model/metatypes.h"
-#include "ui/caption.h"
 #include "ui/dialogs/hashtooldialog.h"
 #include "ui/dialogs/historydialog.h"
 #include "ui/dialogs/logviewer.h"
 #include "ui/exportcommand.h"
 #include "ui/locations/locationspage.h"
-#include "ui/logic/asidethreads.h"
-#include "ui/logic/locationsjson.h"
-#include "ui/logic/resulttexts.h"
-#include "ui/logic/rulenames.h"
-#include "ui/logic/rulessettings.h"
-#include "ui/logic/scanoptionsfrom.h"
-#include "ui/logic/scansummary.h"
-#include "ui/mainmenu.h"
-#include "ui/prompts.h"
 #include "ui/resultactions.h"
 #include "ui/results/resultspage.h"
 #include "ui/rules/rulespage.h"
 #include "ui/scandisplay.h"
-#include "ui/scanthread.h"
-#include "ui/shell.h"
-#include "ui/theme.h"
-#include "ui/trayicon.h"
-#include "ui/windowmemory.h"
-#include "ui/wizardpage.h"
-#include "ui/wizardsidebar.h"
+#include "ui/state/backgroundthreads.h"
+#include "ui/state/locationsjson.h"
+#include "ui/state/rulessettings.h"
+#include "ui/state/scanoptionsfrom.h"
+#include "ui/texts/resulttexts.h"
+#include "ui/texts/rulenames.h"
+#include "ui/texts/scansummary.h"
+#include "ui/window/caption.h"
+#include "ui/window/mainmenu.h"
+#include "ui/window/prompts.h"
+#include "ui/window/scanthread.h"
+#include "ui/window/shell.h"
+#include "ui/window/theme.h"
+#include "ui/window/trayicon.h"
+#include "ui/window/windowmemory.h"
+#include "ui/window/wizardpage.h"
+#include "ui/window/wizardsidebar.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -83,7 +83,7 @@ Mirrix::Mirrix(Settings &settings, Prompts &prompts, QWidget *parent)
     connect(worker, &MirrixCore::ScanWorker::finished, this, &Mirrix::onScanFinished);
     connect(worker, &MirrixCore::ScanWorker::failed, this, &Mirrix::onScanFailed);
 
-    recallWindow(*this, m_settings.window, QSize(1280, 860));
+    restoreWindow(*this, m_settings.window, QSize(1280, 860));
     goToStep(0);
     m_display->showInBar(
         [this] { return Text::tr("%1 · 本地运行 · 零广告 · 图片哈希: %2").arg(modeText(), imageHashName()); });
@@ -283,7 +283,7 @@ void Mirrix::clearResults()
 {
     ResultSet old = std::exchange(m_results, {});
     m_resultsPage->clearResults();
-    discardAside(std::move(old));
+    discardInBackground(std::move(old));
 }
 
 void Mirrix::setScanning(bool on)

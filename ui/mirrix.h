@@ -1,10 +1,10 @@
 #pragma once
 
-#include "actions/operationslog.h"
+#include "actions/records/operationslog.h"
 #include "app/settings.h"
 #include "core/model/scanoptions.h"
 #include "ui/dialogs/optionsdialog.h"
-#include "ui/logic/resultset.h"
+#include "ui/state/resultset.h"
 
 #include <QMainWindow>
 

@@ -4,8 +4,8 @@
 #include "core/media/metadata.h"
 #include "ui/dialogs/imagecomparedialog.h"
 #include "ui/locations/locationspage.h"
-#include "ui/prompts.h"
 #include "ui/results/resultspage.h"
+#include "ui/window/prompts.h"
 
 namespace Mirrix {
 

@@ -1,8 +1,8 @@
 #include "ui/scandisplay.h"
 
 #include "ui/results/resultspage.h"
-#include "ui/trayicon.h"
-#include "ui/windowtitle.h"
+#include "ui/window/trayicon.h"
+#include "ui/window/windowtitle.h"
 
 #include <QDateTime>
 #include <QMainWindow>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/model/scanprogress.h"
-#include "ui/logic/scanstatus.h"
+#include "ui/state/scanstatus.h"
 
 #include <QObject>
 

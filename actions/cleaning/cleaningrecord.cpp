@@ -1,10 +1,10 @@
 #include "actions/cleaning/cleaningrecord.h"
 
-#include "actions/backupstore.h"
+#include "actions/cleaning/backupstore.h"
 #include "actions/cleaning/cleaningrun.h"
-#include "actions/movefile.h"
-#include "actions/operationslog.h"
+#include "actions/files/movefile.h"
 #include "actions/records/logevents.h"
+#include "actions/records/operationslog.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -111,7 +111,7 @@ QStringList CleaningRecord::end(qsizetype doneCount)
         problems.append(m_journal.errorText());
     if (m_index && !m_index->conclude(m_kept))
         problems.append(QCoreApplication::translate("Mirrix", "无法更新备份索引: %1").arg(m_plan.backupFolder));
-    if (!m_services.log.append({cleaningEvent(m_plan, doneCount)}))
+    if (!m_services.log.append({cleaningEvent(m_plan.method, m_plan.isBackupBeforeRemoval, doneCount)}))
         problems.append(QCoreApplication::translate("Mirrix", "无法写入操作日志: %1").arg(m_services.log.filePath()));
     return problems;
 }

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "actions/backupindex.h"
 #include "actions/cleaning/cleaningplan.h"
 #include "actions/cleaning/discard.h"
 #include "actions/cleaning/spaceaccount.h"
+#include "actions/records/backupindex.h"
 #include "actions/records/runjournal.h"
 
 #include <QStringList>

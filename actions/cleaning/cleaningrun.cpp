@@ -6,8 +6,8 @@
 #include "actions/cleaning/recycling.h"
 #include "actions/cleaning/targetfolder.h"
 #include "actions/cleaning/transfer.h"
-#include "actions/movefile.h"
-#include "actions/nativefile.h"
+#include "actions/files/movefile.h"
+#include "actions/files/nativefile.h"
 
 #include <QCoreApplication>
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "actions/batch.h"
 #include "actions/cleaning/cleaningplan.h"
 #include "actions/cleaning/spaceaccount.h"
-#include "actions/recyclebin.h"
+#include "actions/files/batch.h"
+#include "actions/files/recyclebin.h"
 
 #include <QString>
 

@@ -1,10 +1,10 @@
 #include "actions/cleaning/discard.h"
 
-#include "actions/backupcheck.h"
+#include "actions/cleaning/backupcheck.h"
 #include "actions/cleaning/folderaliases.h"
 #include "actions/cleaning/itemchecks.h"
-#include "actions/fileoperations.h"
-#include "actions/movefile.h"
+#include "actions/files/fileoperations.h"
+#include "actions/files/movefile.h"
 
 #include <QCoreApplication>
 
@@ -75,8 +75,11 @@ public:
     {
         m_surplus.close();
         m_kept.close();
-        if (renameExclusively(m_asidePath, m_item.file.path) == FileFault::None)
-            return {problem, {}};
+        // A second try, since what was in the way may have passed: nobody looks for the file under the other name.
+        for (int attempt = 0; attempt < 2; ++attempt) {
+            if (renameExclusively(m_asidePath, m_item.file.path) == FileFault::None)
+                return {problem, {}};
+        }
         const QString where = text(QT_TRANSLATE_NOOP("Mirrix", "原文件未能放回，可从备份中恢复: %1"), m_item.file.path);
         return {problem + QLatin1Char('\n') + where, m_asidePath};
     }

@@ -3,7 +3,7 @@
 #include "actions/cleaning/cleaningplan.h"
 #include "actions/cleaning/durablefiles.h"
 #include "actions/cleaning/volumetraits.h"
-#include "actions/heldfile.h"
+#include "actions/files/heldfile.h"
 
 #include <QString>
 

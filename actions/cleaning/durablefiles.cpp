@@ -1,6 +1,6 @@
 #include "actions/cleaning/durablefiles.h"
 
-#include "actions/movefile.h"
+#include "actions/files/movefile.h"
 
 #include <QDateTime>
 

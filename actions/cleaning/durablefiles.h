@@ -1,6 +1,6 @@
 #pragma once
 
-#include "actions/heldfile.h"
+#include "actions/files/heldfile.h"
 
 #include <QHash>
 #include <QString>

@@ -1,8 +1,8 @@
 #include "actions/cleaning/emptyfolderremoval.h"
 
-#include "actions/nativefile.h"
-#include "actions/operationslog.h"
+#include "actions/files/nativefile.h"
 #include "actions/records/logevents.h"
+#include "actions/records/operationslog.h"
 #include "actions/records/runjournal.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 #include "actions/cleaning/folderaliases.h"
 
-#include "actions/movefile.h"
-#include "actions/nativefile.h"
+#include "actions/files/movefile.h"
+#include "actions/files/nativefile.h"
 
 namespace Mirrix {
 
@@ -14,7 +14,7 @@ bool FolderAliases::isSameFile(const CleaningItem &item)
     if (known != m_known.cend())
         return *known;
     const bool isOneVolume = pathState(item.file.path).identity.volume == pathState(item.kept.path).identity.volume;
-    const bool isSure = isOneVolume && !mayNumberAnew(item.file.path);
+    const bool isSure = isOneVolume && !mayReassignFileIds(item.file.path);
     const bool isOne = !isSure && areOne(folders.first, folders.second);
     m_known.insert(folders, isOne);
     return isOne;
@@ -22,7 +22,7 @@ bool FolderAliases::isSameFile(const CleaningItem &item)
 
 bool FolderAliases::areOne(const QString &folder, const QString &other)
 {
-    const QString probe = passingName(joinedPath(folder, {}), QStringLiteral(".part"));
+    const QString probe = temporaryName(joinedPath(folder, {}), QStringLiteral(".part"));
     const bool isMade = makeEmptyFile(probe) == FileFault::None;
     const bool areOne = isMade && pathState(joinedPath(other, fileNameOf(probe))).kind != PathState::Kind::Missing;
     if (isMade)

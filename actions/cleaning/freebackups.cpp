@@ -1,6 +1,6 @@
-#include "actions/backupindex.h"
 #include "actions/cleaning/undo.h"
-#include "actions/movefile.h"
+#include "actions/files/movefile.h"
+#include "actions/records/backupindex.h"
 #include "actions/records/runjournal.h"
 #include "core/platform/nativepath.h"
 #include "core/platform/pathtext.h"

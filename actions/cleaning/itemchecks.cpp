@@ -1,7 +1,7 @@
 #include "actions/cleaning/itemchecks.h"
 
-#include "actions/fileaccess.h"
-#include "actions/movefile.h"
+#include "actions/files/fileaccess.h"
+#include "actions/files/movefile.h"
 #include "core/hash/samples.h"
 #include "core/platform/filereader.h"
 
@@ -32,7 +32,7 @@ bool isAsScanned(const PathState &state, const ScannedFile &file)
 {
     return state.kind == PathState::Kind::File && state.sizeBytes == file.sizeBytes &&
            state.modifiedMs == file.modifiedMs &&
-           (!state.identity.isOtherThan(file.identity) || mayNumberAnew(file.path));
+           (!state.identity.isOtherThan(file.identity) || mayReassignFileIds(file.path));
 }
 
 QString itemProblem(const CleaningItem &item, PathState *surplus)
@@ -61,7 +61,7 @@ QString keptProblem(const CleaningItem &item, VolumeTraits &volumes)
     const PathState kept = pathState(item.kept.path);
     const bool isGone =
         kept.kind == PathState::Kind::Missing ||
-        (volumes.mayNumberAnew(item.kept.path, kept.identity) && !MirrixCore::FileReader().open(item.kept.path));
+        (volumes.mayReassignFileIds(item.kept.path, kept.identity) && !MirrixCore::FileReader().open(item.kept.path));
     if (isGone)
         return sameFileText(item.file.path);
     return isAsScanned(kept, item.kept) ? QString() : keptChangedText(item);

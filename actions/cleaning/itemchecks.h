@@ -2,8 +2,8 @@
 
 #include "actions/cleaning/cleaningplan.h"
 #include "actions/cleaning/volumetraits.h"
-#include "actions/heldfile.h"
-#include "actions/nativefile.h"
+#include "actions/files/heldfile.h"
+#include "actions/files/nativefile.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 #include "actions/cleaning/recycling.h"
 
 #include "actions/cleaning/itemchecks.h"
-#include "actions/nativefile.h"
+#include "actions/files/nativefile.h"
 
 #include <QCoreApplication>
 

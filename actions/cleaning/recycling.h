@@ -2,7 +2,7 @@
 
 #include "actions/cleaning/discard.h"
 #include "actions/cleaning/volumetraits.h"
-#include "actions/recyclebin.h"
+#include "actions/files/recyclebin.h"
 
 #include <QList>
 #include <QStringList>

@@ -1,8 +1,8 @@
 #include "actions/cleaning/redo.h"
 
+#include "actions/cleaning/createdlink.h"
 #include "actions/cleaning/emptyfolderremoval.h"
 #include "actions/cleaning/itemchecks.h"
-#include "actions/cleaning/madelink.h"
 #include "actions/cleaning/undorecord.h"
 #include "actions/cleaning/undosource.h"
 #include "actions/cleaning/undotexts.h"
@@ -78,7 +78,7 @@ QList<UndoStep> redoSteps(const StoredRun &undo, const BatchProgress &progress)
             continue;
         }
         const bool isCut = undo.outcomes[i].state == ItemState::Planned && !undo.summary.isComplete &&
-                           isAsRecorded(pathState(item.original), item) && !MadeLink(item, method).isInPlace();
+                           isAsRecorded(pathState(item.original), item) && !CreatedLink(item, method).isInPlace();
         if (undo.outcomes[i].state == ItemState::Done || isCut)
             steps.append({i, redoProblem(item, method)});
     }

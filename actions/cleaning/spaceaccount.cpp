@@ -1,6 +1,6 @@
 #include "actions/cleaning/spaceaccount.h"
 
-#include "actions/movefile.h"
+#include "actions/files/movefile.h"
 
 namespace Mirrix {
 

@@ -1,6 +1,6 @@
 #include "actions/cleaning/targetfolder.h"
 
-#include "actions/movefile.h"
+#include "actions/files/movefile.h"
 #include "core/platform/filestatus.h"
 
 namespace Mirrix {

@@ -1,9 +1,9 @@
 #include "actions/cleaning/transfer.h"
 
-#include "actions/backupstore.h"
+#include "actions/cleaning/backupstore.h"
 #include "actions/cleaning/itemchecks.h"
-#include "actions/fileoperations.h"
-#include "actions/movefile.h"
+#include "actions/files/fileoperations.h"
+#include "actions/files/movefile.h"
 
 #include <QCoreApplication>
 

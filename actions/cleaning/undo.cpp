@@ -1,12 +1,12 @@
 #include "actions/cleaning/undo.h"
 
-#include "actions/cleaning/comeback.h"
-#include "actions/cleaning/madelink.h"
+#include "actions/cleaning/createdlink.h"
 #include "actions/cleaning/redo.h"
+#include "actions/cleaning/undoitem.h"
 #include "actions/cleaning/undorecord.h"
 #include "actions/cleaning/undosource.h"
 #include "actions/cleaning/undotexts.h"
-#include "actions/nativefile.h"
+#include "actions/files/nativefile.h"
 #include "actions/records/runjournal.h"
 
 #include <algorithm>
@@ -51,11 +51,11 @@ private:
     {
         const RunItem &item = m_plan.run.items[items[position]];
         const UndoSource source = m_sources.of(items[position]);
-        ComeBack back{source.problem};
+        UndoneItem back{source.problem};
         if (source.problem.isEmpty() && source.way != UndoSource::Way::None && source.way != UndoSource::Way::Home) {
             m_record.reserve(source);
             const qsizetype total = items.size();
-            back = comeBack(item, m_method, source, [&] { return m_progress && !m_progress(position, total); });
+            back = undoItem(item, m_method, source, [&] { return m_progress && !m_progress(position, total); });
         }
         if (!back.problem.isEmpty())
             m_result.errors.append(back.problem);
@@ -85,7 +85,7 @@ private:
     {
         bool isNoted = true;
         for (qsizetype i = 0; isNoted && i < m_plan.home.size(); ++i) {
-            MadeLink(m_plan.run.items[m_plan.home[i]], m_method).removeAside();
+            CreatedLink(m_plan.run.items[m_plan.home[i]], m_method).removeAside();
             isNoted = m_record.noteHome(m_plan.home[i]);
         }
         return isNoted;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "actions/batch.h"
 #include "actions/cleaning/cleaningrun.h"
+#include "actions/files/batch.h"
 #include "actions/records/runhistory.h"
 
 #include <QList>

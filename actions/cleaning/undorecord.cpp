@@ -1,6 +1,6 @@
 #include "actions/cleaning/undorecord.h"
 
-#include "actions/movefile.h"
+#include "actions/files/movefile.h"
 #include "actions/records/logevents.h"
 
 #include <QCoreApplication>
@@ -69,7 +69,7 @@ void UndoRecord::reserve(const UndoSource &source)
         store = std::make_unique<BackupFolder>(folderOf(source.from));
 }
 
-bool UndoRecord::note(qsizetype position, const UndoSource &source, const ComeBack &result)
+bool UndoRecord::note(qsizetype position, const UndoSource &source, const UndoneItem &result)
 {
     const QString &original = m_plan.run.items[m_items[position]].original;
     const bool isBack = result.problem.isEmpty();

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "actions/backupindex.h"
 #include "actions/cleaning/cleaningrun.h"
-#include "actions/cleaning/comeback.h"
 #include "actions/cleaning/undo.h"
-#include "actions/operationslog.h"
+#include "actions/cleaning/undoitem.h"
+#include "actions/records/backupindex.h"
+#include "actions/records/operationslog.h"
 #include "actions/records/runjournal.h"
 
 #include <QElapsedTimer>
@@ -31,7 +31,7 @@ public:
     void reserve(const UndoSource &source);
 
     /// What was done with the item at `position` of the list given to begin. False when it could not be written down.
-    [[nodiscard]] bool note(qsizetype position, const UndoSource &source, const ComeBack &result);
+    [[nodiscard]] bool note(qsizetype position, const UndoSource &source, const UndoneItem &result);
 
     /// An item that is back already, in the journal of the run alone.
     [[nodiscard]] bool noteHome(qsizetype item);

@@ -1,8 +1,8 @@
 #include "actions/cleaning/undosource.h"
 
-#include "actions/cleaning/madelink.h"
+#include "actions/cleaning/createdlink.h"
 #include "actions/cleaning/undotexts.h"
-#include "actions/movefile.h"
+#include "actions/files/movefile.h"
 
 #include <cstdlib>
 
@@ -38,7 +38,7 @@ UndoSource UndoSources::of(qsizetype index)
     if (!m_method)
         return {Way::Copy, {}, notBackText(item.original)};
     const PathState there = pathState(item.original);
-    const bool isLink = MadeLink(item, *m_method).isInPlace();
+    const bool isLink = CreatedLink(item, *m_method).isInPlace();
     if (!isLink && isAsRecorded(there, item)) // a copy that an undo could not remove any more is still held
         return {isOpen || (!outcome.now.isEmpty() && isFile(outcome.now)) ? Way::None : Way::Home, {}};
     UndoSource source = isOpen ? whereInterrupted(index) : whereIs(index);
@@ -81,7 +81,7 @@ UndoSource UndoSources::whereIs(qsizetype index)
 UndoSource UndoSources::whereInterrupted(qsizetype index)
 {
     const RunItem &item = m_run.items[index];
-    const MadeLink link(item, *m_method);
+    const CreatedLink link(item, *m_method);
     if (isBackingUp(*m_method)) {
         const UndoSource stored = inStore(index, item.aside);
         if (stored.problem.isEmpty())

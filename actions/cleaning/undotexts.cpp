@@ -1,6 +1,6 @@
 #include "actions/cleaning/undotexts.h"
 
-#include "actions/movefile.h"
+#include "actions/files/movefile.h"
 
 #include <QCoreApplication>
 

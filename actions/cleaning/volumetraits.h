@@ -1,6 +1,6 @@
 #pragma once
 
-#include "actions/nativefile.h"
+#include "actions/files/nativefile.h"
 
 #include <QHash>
 
@@ -12,13 +12,14 @@ class VolumeTraits
 {
 public:
     /// As the function of that name, for the file `path` of that identity.
-    [[nodiscard]] bool mayNumberAnew(const QString &path, const MirrixCore::FileIdentity &identity)
+    [[nodiscard]] bool mayReassignFileIds(const QString &path, const MirrixCore::FileIdentity &identity)
     {
         if (!identity.isKnown)
-            return Mirrix::mayNumberAnew(path);
+            return Mirrix::mayReassignFileIds(path);
         const auto known = m_mayNumberAnew.constFind(identity.volume);
-        return known != m_mayNumberAnew.cend() ? *known
-                                               : *m_mayNumberAnew.insert(identity.volume, Mirrix::mayNumberAnew(path));
+        return known != m_mayNumberAnew.cend()
+                   ? *known
+                   : *m_mayNumberAnew.insert(identity.volume, Mirrix::mayReassignFileIds(path));
     }
 
 private:

@@ -1,6 +1,6 @@
 #include "actions/files/binlookup.h"
 
-#include "actions/movefile.h"
+#include "actions/files/movefile.h"
 #include "core/platform/filereader.h"
 #include "core/platform/nativepath.h"
 #include "core/walk/folderreader.h"

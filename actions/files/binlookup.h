@@ -1,6 +1,6 @@
 #pragma once
 
-#include "actions/nativefile.h"
+#include "actions/files/nativefile.h"
 
 #include <QByteArrayView>
 #include <QList>

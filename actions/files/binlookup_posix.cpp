@@ -1,6 +1,6 @@
 #include "actions/files/trashfolders.h"
 
-#include "actions/movefile.h"
+#include "actions/files/movefile.h"
 
 #include <QStandardPaths>
 

@@ -1,7 +1,7 @@
 #include "actions/records/logevents.h"
 
-#include "actions/backupstore.h"
-#include "actions/fileoperations.h"
+#include "actions/files/fileoperations.h"
+#include "actions/records/backupindex.h"
 
 namespace Mirrix {
 
@@ -51,20 +51,19 @@ LogEntry scanDoneEvent(qsizetype groupCount, qint64 wastedBytes, qint64 candidat
         QStringLiteral("groups=%1 wasted=%2 candidates=%3").arg(groupCount).arg(wastedBytes).arg(candidates));
 }
 
-LogEntry markedByRuleEvent(KeepRule rule, qsizetype count)
+LogEntry markedByRuleEvent(int rule, qsizetype count)
 {
-    return logEntryNow(QStringLiteral("auto_keep"),
-                       QStringLiteral("rule=%1 count=%2").arg(static_cast<int>(rule)).arg(count));
+    return logEntryNow(QStringLiteral("auto_keep"), QStringLiteral("rule=%1 count=%2").arg(rule).arg(count));
 }
 
-LogEntry cleaningEvent(const CleaningPlan &plan, qsizetype count)
+LogEntry cleaningEvent(CleaningMethod method, bool isBackupBeforeRemoval, qsizetype count)
 {
     const QString counted = QStringLiteral("count=%1").arg(count);
-    if (plan.isBackupBeforeRemoval)
+    if (isBackupBeforeRemoval)
         return logEntryNow(QStringLiteral("auto_backup_delete_batch"), counted);
-    if (plan.method == CleaningMethod::Backup)
+    if (method == CleaningMethod::Backup)
         return logEntryNow(QStringLiteral("backup_batch"), counted);
-    return removalEvent(static_cast<int>(removalNumber(plan.method)), count);
+    return removalEvent(static_cast<int>(removalNumber(method)), count);
 }
 
 LogEntry removalEvent(int method, qsizetype count)

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "actions/cleaning/cleaningplan.h"
-#include "actions/operationslog.h"
+#include "actions/records/cleaningmethod.h"
+#include "actions/records/operationslog.h"
 #include "core/model/scanoptions.h"
 #include "core/model/scanresult.h"
 
@@ -19,11 +19,12 @@ struct BackupEntry;
 [[nodiscard]] LogEntry scanStartedEvent(const MirrixCore::ScanOptions &options);
 [[nodiscard]] LogEntry scanDoneEvent(qsizetype groupCount, qint64 wastedBytes, qint64 candidates);
 
-/// `count` files were marked by a rule.
-[[nodiscard]] LogEntry markedByRuleEvent(KeepRule rule, qsizetype count);
+/// `count` files were marked by a rule, number as in the list of keep rules.
+[[nodiscard]] LogEntry markedByRuleEvent(int rule, qsizetype count);
 
-/// A plan was carried out on `count` files.
-[[nodiscard]] LogEntry cleaningEvent(const CleaningPlan &plan, qsizetype count);
+/// `count` files were given up by a method; `isBackupBeforeRemoval`: backed up because the user asked for that in the
+/// removal dialog.
+[[nodiscard]] LogEntry cleaningEvent(CleaningMethod method, bool isBackupBeforeRemoval, qsizetype count);
 
 /// Removal by a method, number as in the removal dialog.
 [[nodiscard]] LogEntry removalEvent(int method, qsizetype count);

@@ -1,7 +1,7 @@
 #include "actions/records/runhistory.h"
 
+#include "actions/files/exclusivelock.h"
 #include "actions/records/runjournal.h"
-#include "actions/solelock.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -131,7 +131,7 @@ bool removeRun(const QString &dataDirectory, const QString &id)
     if (!isRunId(id) || !QFile::exists(path))
         return false;
     QLockFile lock(path + QLatin1String(".lock"));
-    return lockSolely(lock) && QFile::remove(path);
+    return lockExclusively(lock) && QFile::remove(path);
 }
 
 QString unreadableRunText(const QString &path)

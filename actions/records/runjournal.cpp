@@ -1,8 +1,8 @@
 #include "actions/records/runjournal.h"
 
-#include "actions/movefile.h"
+#include "actions/files/exclusivelock.h"
+#include "actions/files/movefile.h"
 #include "actions/records/runhistory.h"
-#include "actions/solelock.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -174,7 +174,7 @@ bool RunJournalWriter::lock()
 {
     m_sinceFlush.start();
     m_lock = std::make_unique<QLockFile>(m_path + QLatin1String(".lock"));
-    if (lockSolely(*m_lock))
+    if (lockExclusively(*m_lock))
         return true;
     m_error = m_lock->error() == QLockFile::LockFailedError
                   ? QCoreApplication::translate("Mirrix", "清理记录正被另一程序使用: %1").arg(m_path)

@@ -14,7 +14,7 @@ namespace MirrixCore {
 namespace {
 
 /// Opens `path` and notes what is known of it.
-bool openNoted(FileReader &reader, const QString &path, HashNotes *notes)
+bool openAndRecord(FileReader &reader, const QString &path, HashNotes *notes)
 {
     const bool isOpen = reader.open(path) && reader.readState();
     if (notes && isOpen) {
@@ -131,7 +131,7 @@ template <typename Hasher>
 QByteArray wholeDigest(const QString &path, Hasher &hasher, bool mayMap, const CancelQuery &cancelled, HashNotes *notes)
 {
     FileReader reader;
-    if (!openNoted(reader, path, notes))
+    if (!openAndRecord(reader, path, notes))
         return {};
     if (mayMap && reader.sizeBytes() >= mapThresholdBytes) {
         const auto feed = [&](const char *bytes, qint64 length) {
@@ -156,7 +156,7 @@ SmallFileDigests smallFileDigests(const QString &path, qint64 sizeBytes, bool fo
 {
     Q_ASSERT(sizeBytes >= 1 && sizeBytes <= quickCoversBytes);
     FileReader reader;
-    if (!(forCache ? openNoted(reader, path, notes) : reader.open(path))) {
+    if (!(forCache ? openAndRecord(reader, path, notes) : reader.open(path))) {
         failed(reader, notes);
         return {};
     }
@@ -181,7 +181,7 @@ SmallFileDigests smallFileDigests(const QString &path, qint64 sizeBytes, bool fo
 QByteArray quickHash(const QString &path, HashNotes *notes)
 {
     FileReader reader;
-    if (!openNoted(reader, path, notes))
+    if (!openAndRecord(reader, path, notes))
         return {};
     const qint64 size = reader.sizeBytes();
     if (size <= 0)
@@ -218,7 +218,7 @@ QByteArray prefixHash(const QString &path, qint64 limitBytes, const CancelQuery 
     if (limitBytes < 1)
         return fullContentHash(path, cancelled, notes);
     FileReader reader;
-    if (!openNoted(reader, path, notes))
+    if (!openAndRecord(reader, path, notes))
         return {};
     ContentHasher hasher(contentHashAlgorithm());
     hasher.addData(QByteArray::number(reader.sizeBytes()));
@@ -232,7 +232,7 @@ QByteArray prefixHash(const QString &path, qint64 limitBytes, const CancelQuery 
 QByteArray sampleHash(const QString &path, HashNotes *notes)
 {
     FileReader reader;
-    if (!openNoted(reader, path, notes))
+    if (!openAndRecord(reader, path, notes))
         return {};
     const qint64 size = reader.sizeBytes();
     QCryptographicHash hash(QCryptographicHash::Md5);

@@ -54,13 +54,13 @@ qint64 pairBlockCount(qint64 filesA, qint64 filesB, bool isSameTile)
     return isSameTile ? a * (a + 1) / 2 : a * b;
 }
 
-std::vector<AlikePair> alikePairs(const PairBlock &block)
+std::vector<SimilarPair> similarPairs(const PairBlock &block)
 {
     const SizeClass &files = *block.a->sizeClass;
     const size_t endA = std::min(block.fromA + PairBlock::side, block.a->members.size());
     const size_t endB = std::min(block.fromB + PairBlock::side, block.b->members.size());
     const bool isDiagonal = block.a == block.b && block.fromA == block.fromB;
-    std::vector<AlikePair> pairs;
+    std::vector<SimilarPair> pairs;
     for (size_t i = block.fromA; i < endA; ++i) {
         const Tile::Member &a = block.a->members[i];
         for (size_t j = isDiagonal ? i + 1 : block.fromB; j < endB; ++j) {

@@ -58,7 +58,7 @@ struct PairBlock
 };
 
 /// Two files alike, by their positions.
-struct AlikePair
+struct SimilarPair
 {
     qint32 a = 0;
     qint32 b = 0;
@@ -82,6 +82,6 @@ void forEachPairBlock(const Tile &a, const Tile &b, Visit visit)
 [[nodiscard]] qint64 pairBlockCount(qint64 filesA, qint64 filesB, bool isSameTile);
 
 /// The pairs of a square that agree to the least percentage of their class. Takes up to 20 KiB x 4096 of comparison.
-[[nodiscard]] std::vector<AlikePair> alikePairs(const PairBlock &block);
+[[nodiscard]] std::vector<SimilarPair> similarPairs(const PairBlock &block);
 
 } // namespace MirrixCore

@@ -239,10 +239,10 @@ private:
             if (m_context.isCancelled())
                 return;
             const PairBlock &block = m_queue[static_cast<size_t>(i)];
-            const std::vector<AlikePair> pairs = alikePairs(block);
+            const std::vector<SimilarPair> pairs = similarPairs(block);
             {
                 const std::lock_guard lock(mutex);
-                for (const AlikePair &pair : pairs)
+                for (const SimilarPair &pair : pairs)
                     block.a->sizeClass->join(pair.a, pair.b, pair.percent);
             }
             m_progress.step(fileOf(*block.a, block.a->members[block.fromA]).path);

@@ -118,7 +118,7 @@ QByteArray histogramOf(const cv::Mat &grey)
 }
 
 /// Once a process: no words of its own about broken files, and no threads besides those that call.
-void tameLibrary()
+void configureLibrary()
 {
     static const bool done = [] {
         cv::utils::logging::setLogLevel(cv::utils::logging::LOG_LEVEL_SILENT);
@@ -133,7 +133,7 @@ void tameLibrary()
 
 bool mirrixOpenCvFeature(const QByteArray &bytes, const FeatureRequest &request, ImageFeature &feature)
 {
-    tameLibrary();
+    configureLibrary();
     if (bytes.isEmpty() || bytes.size() > std::numeric_limits<int>::max())
         return false;
     try {

@@ -15,17 +15,17 @@ struct FileIdentity
     /// Whether both are known for certain and the same file or folder.
     [[nodiscard]] bool isSameAs(const FileIdentity &other) const
     {
-        return areTold(*this, other) && index == other.index && volume == other.volume;
+        return areComparable(*this, other) && index == other.index && volume == other.volume;
     }
 
     /// Whether both are known for certain and not the same. What is unknown is neither the same nor another.
     [[nodiscard]] bool isOtherThan(const FileIdentity &other) const
     {
-        return areTold(*this, other) && !isSameAs(other);
+        return areComparable(*this, other) && !isSameAs(other);
     }
 
     /// Whether anything can be said of the two.
-    static bool areTold(const FileIdentity &one, const FileIdentity &other)
+    static bool areComparable(const FileIdentity &one, const FileIdentity &other)
     {
         return one.isKnown && other.isKnown && one.index != 0 && other.index != 0;
     }

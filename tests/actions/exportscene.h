@@ -1,6 +1,6 @@
 #pragma once
 
-#include "actions/exporter.h"
+#include "actions/export/exporter.h"
 
 #include <QStringList>
 

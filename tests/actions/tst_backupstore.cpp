@@ -1,4 +1,4 @@
-#include "actions/backupstore.h"
+#include "actions/cleaning/backupstore.h"
 
 #include "core/platform/nativepath.h"
 #include "tests/support/disk.h"

@@ -1,6 +1,6 @@
 #include "actions/files/binlookup.h"
 
-#include "actions/recyclebin.h"
+#include "actions/files/recyclebin.h"
 #include "core/platform/nativepath.h"
 #include "tests/support/disk.h"
 #include "tests/support/probes.h"

@@ -1,4 +1,4 @@
-#include "actions/exportscript.h"
+#include "actions/export/exportscript.h"
 
 #include "tests/actions/exportscene.h"
 #include "tests/support/disk.h"

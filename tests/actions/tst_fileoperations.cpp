@@ -1,7 +1,7 @@
-#include "actions/fileoperations.h"
+#include "actions/files/fileoperations.h"
 
-#include "actions/movefile.h"
-#include "actions/recyclebin.h"
+#include "actions/files/movefile.h"
+#include "actions/files/recyclebin.h"
 #include "core/platform/nativepath.h"
 #include "tests/support/disk.h"
 #include "tests/support/probes.h"

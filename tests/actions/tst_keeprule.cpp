@@ -1,4 +1,4 @@
-#include "actions/keeprule.h"
+#include "actions/cleaning/keeprule.h"
 
 #include <QTest>
 

@@ -1,6 +1,6 @@
-#include "actions/operationslog.h"
+#include "actions/records/operationslog.h"
 
-#include "actions/aescbc.h"
+#include "actions/records/aescbc.h"
 #include "tests/support/disk.h"
 #include "tests/support/temptree.h"
 

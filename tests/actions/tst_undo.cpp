@@ -1,6 +1,6 @@
-#include "actions/backupstore.h"
+#include "actions/cleaning/backupstore.h"
 #include "actions/cleaning/undo.h"
-#include "actions/operationslog.h"
+#include "actions/records/operationslog.h"
 #include "actions/records/runjournal.h"
 #include "core/platform/filestatus.h"
 #include "tests/support/disk.h"

@@ -1,4 +1,4 @@
-#include "actions/backupstore.h"
+#include "actions/cleaning/backupstore.h"
 #include "tests/support/disk.h"
 #include "tests/support/probes.h"
 #include "tests/support/program.h"

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr int patienceMs = 30000;
+constexpr int timeoutMs = 30000;
 
 } // namespace
 
@@ -119,8 +119,8 @@ private slots:
         connect(m_worker.get(), &ScanWorker::finished, &context, [&](const auto &result) { results.append(result); });
         QThread thread;
         startOn(thread);
-        QTRY_COMPARE_WITH_TIMEOUT(results.size(), 1, patienceMs);
-        QVERIFY(thread.wait(patienceMs));
+        QTRY_COMPARE_WITH_TIMEOUT(results.size(), 1, timeoutMs);
+        QVERIFY(thread.wait(timeoutMs));
         QCOMPARE(groupsText(results[0], *m_tree), u"a b"_s);
         QCOMPARE(reports.constFirst().phase, Phase::Enumerating);
         QCOMPARE(reports.constLast().phase, Phase::FullHash);
@@ -133,15 +133,15 @@ private slots:
         QSemaphore mayGoOn;
         const auto meet = atEndOf(Phase::QuickHash, [&] {
             isHashing.release();
-            mayGoOn.tryAcquire(1, patienceMs);
+            mayGoOn.tryAcquire(1, timeoutMs);
         });
         connect(m_worker.get(), &ScanWorker::progress, m_worker.get(), meet, Qt::DirectConnection);
         QThread thread;
         startOn(thread);
-        QVERIFY(isHashing.tryAcquire(1, patienceMs));
+        QVERIFY(isHashing.tryAcquire(1, timeoutMs));
         m_worker->cancel(); // a plain call: the worker's thread is busy and sees no queued one
         mayGoOn.release();
-        QVERIFY(thread.wait(patienceMs));
+        QVERIFY(thread.wait(timeoutMs));
         QCOMPARE(answers(), u"finished 0, failed 1 扫描已取消"_s);
     }
 };

@@ -1,7 +1,7 @@
 #include "tests/faults/scene.h"
 
-#include "actions/backupstore.h"
-#include "actions/operationslog.h"
+#include "actions/cleaning/backupstore.h"
+#include "actions/records/operationslog.h"
 #include "tests/support/program.h"
 
 #include <QDateTime>

@@ -1,4 +1,4 @@
-#include "actions/exporter.h"
+#include "actions/export/exporter.h"
 #include "app/settings.h"
 #include "tests/actions/exportscene.h"
 #include "tests/faults/scene.h"

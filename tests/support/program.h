@@ -50,8 +50,8 @@ public:
     /// Waits for the end of a process that was started.
     [[nodiscard]] static ProgramRun ended(QProcess &process)
     {
-        constexpr int patienceMs = 120000;
-        if (!process.waitForFinished(patienceMs) || process.exitStatus() != QProcess::NormalExit)
+        constexpr int timeoutMs = 120000;
+        if (!process.waitForFinished(timeoutMs) || process.exitStatus() != QProcess::NormalExit)
             return {-1, process.readAllStandardOutput(), process.errorString().toUtf8()};
         return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
     }

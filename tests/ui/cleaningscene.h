@@ -1,8 +1,8 @@
 #pragma once
 
-#include "actions/backupindex.h"
-#include "actions/fileoperations.h"
-#include "actions/operationslog.h"
+#include "actions/files/fileoperations.h"
+#include "actions/records/backupindex.h"
+#include "actions/records/operationslog.h"
 #include "app/settings.h"
 #include "core/platform/filestatus.h"
 #include "tests/support/disk.h"

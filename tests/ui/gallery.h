@@ -1,6 +1,6 @@
 #pragma once
 
-#include "actions/operationslog.h"
+#include "actions/records/operationslog.h"
 #include "app/settings.h"
 #include "tests/ui/uitest.h"
 

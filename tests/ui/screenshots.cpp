@@ -5,7 +5,7 @@
 #include "tests/ui/gallery.h"
 #include "tests/ui/uitest.h"
 #include "ui/mirrix.h"
-#include "ui/theme.h"
+#include "ui/window/theme.h"
 
 int main(int argc, char *argv[])
 {

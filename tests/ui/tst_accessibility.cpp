@@ -1,9 +1,9 @@
-#include "actions/operationslog.h"
+#include "actions/records/operationslog.h"
 #include "tests/ui/gallery.h"
 #include "tests/ui/uitest.h"
 #include "ui/dialogs/fileremovaldialog.h"
 #include "ui/mirrix.h"
-#include "ui/theme.h"
+#include "ui/window/theme.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include "actions/records/runjournal.h"
 #include "tests/ui/cleaningscene.h"
-#include "ui/logic/historymodel.h"
+#include "ui/models/historymodel.h"
 
 #include <QAbstractItemModelTester>
 

@@ -6,7 +6,7 @@
 #include "ui/locations/locationspage.h"
 #include "ui/mirrix.h"
 #include "ui/rules/rulespage.h"
-#include "ui/theme.h"
+#include "ui/window/theme.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 #include "tests/support/temptree.h"
-#include "ui/logic/locationsjson.h"
+#include "ui/state/locationsjson.h"
 
 #include <QDir>
 #include <QJsonDocument>

@@ -1,8 +1,8 @@
-#include "actions/backupindex.h"
+#include "actions/records/backupindex.h"
 #include "tests/ui/uitest.h"
 #include "ui/locations/drivepicker.h"
 #include "ui/locations/locationspage.h"
-#include "ui/logic/locationtext.h"
+#include "ui/texts/locationtext.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "ui/dialogs/logviewer.h"
 
 #include "tests/ui/uitest.h"
-#include "ui/logic/logmodel.h"
+#include "ui/models/logmodel.h"
 
 class TestLogViewer : public QObject
 {

@@ -5,9 +5,9 @@
 #include "ui/dialogs/fileprogressdialog.h"
 #include "ui/dialogs/fileremovaldialog.h"
 #include "ui/locations/locationspage.h"
-#include "ui/logic/resultsmodel.h"
 #include "ui/mirrix.h"
-#include "ui/theme.h"
+#include "ui/models/resultsmodel.h"
+#include "ui/window/theme.h"
 
 #include <QRandomGenerator>
 

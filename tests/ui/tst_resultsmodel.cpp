@@ -1,7 +1,7 @@
-#include "ui/logic/foldergroupsmodel.h"
-#include "ui/logic/remainingmodel.h"
-#include "ui/logic/resultsmodel.h"
-#include "ui/logic/resulttexts.h"
+#include "ui/models/foldergroupsmodel.h"
+#include "ui/models/remainingmodel.h"
+#include "ui/models/resultsmodel.h"
+#include "ui/texts/resulttexts.h"
 
 #include <QAbstractItemModelTester>
 #include <QDateTime>

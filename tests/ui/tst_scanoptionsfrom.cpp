@@ -1,9 +1,9 @@
-#include "ui/logic/scanoptionsfrom.h"
+#include "ui/state/scanoptionsfrom.h"
 
 #include "core/media/mediakinds.h"
 #include "core/model/optiontable.h"
-#include "ui/logic/locationtext.h"
-#include "ui/logic/rulessettings.h"
+#include "ui/state/rulessettings.h"
+#include "ui/texts/locationtext.h"
 
 #include <QDateTime>
 #include <QDir>

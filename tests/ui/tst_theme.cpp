@@ -1,4 +1,4 @@
-#include "ui/theme.h"
+#include "ui/window/theme.h"
 
 #include "tests/ui/gallery.h"
 #include "tests/ui/uitest.h"

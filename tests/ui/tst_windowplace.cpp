@@ -1,4 +1,4 @@
-#include "ui/logic/windowplace.h"
+#include "ui/state/windowplace.h"
 
 #include <QTest>
 
@@ -25,13 +25,13 @@ private slots:
         const QRect left(0, 0, 1920, 1040);
         const QRect right(1920, 0, 1920, 1040);
         const QRect place(2000, 100, 1280, 800);
-        QCOMPARE(placeAgain(place, {left, right}), place);
-        QCOMPARE(placeAgain(place, {left}), QRect()); // the second screen is gone
-        QCOMPARE(placeAgain(place, {}), QRect());
-        QCOMPARE(placeAgain(QRect(), {left}), QRect());
-        QCOMPARE(placeAgain({1500, 100, 1280, 800}, {left, right}), QRect(1928, 100, 1280, 800)); // between both
-        QCOMPARE(placeAgain({100, 900, 1280, 800}, {left}), QRect(100, 232, 1280, 800));          // hanging out below
-        QCOMPARE(placeAgain({0, 0, 2500, 1300}, {left}), QRect(8, 36, 1904, 996));
+        QCOMPARE(restoredGeometry(place, {left, right}), place);
+        QCOMPARE(restoredGeometry(place, {left}), QRect()); // the second screen is gone
+        QCOMPARE(restoredGeometry(place, {}), QRect());
+        QCOMPARE(restoredGeometry(QRect(), {left}), QRect());
+        QCOMPARE(restoredGeometry({1500, 100, 1280, 800}, {left, right}), QRect(1928, 100, 1280, 800)); // between both
+        QCOMPARE(restoredGeometry({100, 900, 1280, 800}, {left}), QRect(100, 232, 1280, 800)); // hanging out below
+        QCOMPARE(restoredGeometry({0, 0, 2500, 1300}, {left}), QRect(8, 36, 1904, 996));
     }
 };
 

@@ -1,8 +1,8 @@
 #include "ui/dialogs/aboutpage.h"
 
-#include "actions/aescbc.h"
+#include "actions/records/aescbc.h"
 #include "app/text.h"
-#include "ui/logic/asidethreads.h"
+#include "ui/state/backgroundthreads.h"
 
 #include <QApplication>
 #include <QDir>
@@ -81,7 +81,7 @@ void AboutPage::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
     if (m_libraries->topLevelItemCount() == 0 && !m_asking.isRunning())
-        m_asking.setFuture(QtConcurrent::run(asideThreads(), allLibraries));
+        m_asking.setFuture(QtConcurrent::run(backgroundThreads(), allLibraries));
 }
 
 void AboutPage::showLibraries()

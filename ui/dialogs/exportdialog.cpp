@@ -1,7 +1,7 @@
 #include "ui/dialogs/exportdialog.h"
 
 #include "app/text.h"
-#include "ui/prompts.h"
+#include "ui/window/prompts.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>

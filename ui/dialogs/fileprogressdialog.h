@@ -1,6 +1,6 @@
 #pragma once
 
-#include "actions/batch.h"
+#include "actions/files/batch.h"
 
 #include <QDialog>
 

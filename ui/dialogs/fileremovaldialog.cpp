@@ -1,8 +1,8 @@
 #include "ui/dialogs/fileremovaldialog.h"
 
 #include "app/text.h"
-#include "ui/logic/bytetext.h"
-#include "ui/prompts.h"
+#include "ui/texts/bytetext.h"
+#include "ui/window/prompts.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "actions/fileoperations.h"
+#include "actions/files/fileoperations.h"
 #include "app/settings.h"
 
 #include <QDialog>

@@ -5,11 +5,11 @@
 #include "core/platform/nativepath.h"
 #include "core/threads/parallel.h"
 #include "ui/dialogs/fileprogressdialog.h"
-#include "ui/emptyhint.h"
-#include "ui/logic/asidethreads.h"
-#include "ui/logic/resulttexts.h"
-#include "ui/prompts.h"
-#include "ui/shell.h"
+#include "ui/state/backgroundthreads.h"
+#include "ui/texts/resulttexts.h"
+#include "ui/window/emptyhint.h"
+#include "ui/window/prompts.h"
+#include "ui/window/shell.h"
 
 #include <QCheckBox>
 #include <QClipboard>
@@ -342,7 +342,7 @@ bool HashToolDialog::runTasks(QList<Task> &tasks, HashChoice choice)
     connect(this, &HashToolDialog::stopRequested, &watcher, stop);
     connect(&watcher, &QFutureWatcherBase::finished, &loop, &QEventLoop::quit);
     const auto isStoppedNow = [&isStopped] { return isStopped.load(); };
-    watcher.setFuture(QtConcurrent::run(asideThreads(), [&] {
+    watcher.setFuture(QtConcurrent::run(backgroundThreads(), [&] {
         MirrixCore::forEachParallel(tasks.size(), [&](qsizetype i) {
             if (isStopped)
                 return;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/logic/hashrows.h"
+#include "ui/state/hashrows.h"
 
 #include <QDialog>
 #include <QSet>

@@ -4,13 +4,13 @@
 #include "actions/records/runjournal.h"
 #include "app/settings.h"
 #include "app/text.h"
-#include "ui/emptyhint.h"
-#include "ui/locations/runaside.h"
-#include "ui/logic/bytetext.h"
-#include "ui/logic/historymodel.h"
-#include "ui/logic/historytexts.h"
-#include "ui/logic/resulttexts.h"
+#include "ui/models/historymodel.h"
 #include "ui/results/resultmenu.h"
+#include "ui/state/runinbackground.h"
+#include "ui/texts/bytetext.h"
+#include "ui/texts/historytexts.h"
+#include "ui/texts/resulttexts.h"
+#include "ui/window/emptyhint.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -185,7 +185,7 @@ void HistoryDialog::reload()
 {
     m_isReading = true;
     updateControls();
-    runAside(
+    runInBackground(
         this, [directory = m_settings.directory] { return listRuns(directory); },
         [this](const QList<RunSummary> &runs) { showRuns(runs); });
 }
@@ -218,7 +218,7 @@ void HistoryDialog::showRuns(const QList<RunSummary> &runs)
 
 void HistoryDialog::readFiles(const QString &runId)
 {
-    runAside(
+    runInBackground(
         this,
         [path = runJournalPath(m_settings.directory, runId)] {
             return std::make_shared<const StoredRun>(readRun(path));
@@ -248,7 +248,7 @@ void HistoryDialog::search()
         return;
     }
     m_note->setText(Text::tr("正在读取…"));
-    runAside(
+    runInBackground(
         this,
         [directory = m_settings.directory, runs = m_model->searched(), words, isStopped = m_isSearchStopped] {
             return searchRuns(directory, runs, words, *isStopped);
@@ -314,7 +314,7 @@ void HistoryDialog::openMenu(const QPoint &place)
 
 void HistoryDialog::copyPaths()
 {
-    runAside(this, m_model->namesOf(m_tree->selectionModel()->selection()), [](const QString &names) {
+    runInBackground(this, m_model->namesOf(m_tree->selectionModel()->selection()), [](const QString &names) {
         if (!names.isEmpty())
             QGuiApplication::clipboard()->setText(names);
     });

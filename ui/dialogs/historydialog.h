@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/historycommands.h"
+#include "ui/dialogs/historycommands.h"
 
 #include <QDialog>
 

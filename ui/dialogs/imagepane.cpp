@@ -1,8 +1,8 @@
 #include "ui/dialogs/imagepane.h"
 
 #include "app/text.h"
-#include "ui/logic/asidethreads.h"
-#include "ui/logic/imagefacts.h"
+#include "ui/state/backgroundthreads.h"
+#include "ui/state/imagefacts.h"
 
 #include <QEvent>
 #include <QFileInfo>
@@ -57,7 +57,7 @@ void ImagePane::load()
 {
     m_canvas->setText(Text::tr("正在读取…"));
     const qreal ratio = devicePixelRatioF();
-    m_reading.setFuture(QtConcurrent::run(asideThreads(), [path = m_path, ratio] {
+    m_reading.setFuture(QtConcurrent::run(backgroundThreads(), [path = m_path, ratio] {
         const QSize bounds = pictureBounds * ratio;
         Content content = {readPicture(path, bounds), imageFacts(path)};
         QImage &image = content.picture.image;

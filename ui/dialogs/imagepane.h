@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/model/fileentry.h"
-#include "ui/logic/picture.h"
+#include "ui/state/picture.h"
 
 #include <QFutureWatcher>
 #include <QWidget>

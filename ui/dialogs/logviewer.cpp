@@ -1,9 +1,9 @@
 #include "ui/dialogs/logviewer.h"
 
 #include "app/text.h"
-#include "ui/emptyhint.h"
-#include "ui/logic/asidethreads.h"
-#include "ui/logic/logmodel.h"
+#include "ui/models/logmodel.h"
+#include "ui/state/backgroundthreads.h"
+#include "ui/window/emptyhint.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -116,7 +116,7 @@ void LogViewer::reload()
     m_reload->setEnabled(false);
     m_note->setText(Text::tr("正在读取…"));
     m_reading.setFuture(
-        QtConcurrent::run(asideThreads(), [path = m_logPath] { return OperationsLog(path).readAll(); }));
+        QtConcurrent::run(backgroundThreads(), [path = m_logPath] { return OperationsLog(path).readAll(); }));
 }
 
 void LogViewer::showRecords(const QList<LogEntry> &records)

@@ -5,9 +5,9 @@
 #include "core/cache/cacheroot.h"
 #include "core/cache/imagefeaturecache.h"
 #include "ui/dialogs/aboutpage.h"
-#include "ui/logic/asidethreads.h"
-#include "ui/prompts.h"
-#include "ui/theme.h"
+#include "ui/state/backgroundthreads.h"
+#include "ui/window/prompts.h"
+#include "ui/window/theme.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -227,7 +227,7 @@ void OptionsDialog::onClearImageCache()
         return;
     // Aside: the cache may be large, and a scan may hold its lock.
     m_clearCache->setEnabled(false);
-    m_clearing.setFuture(QtConcurrent::run(asideThreads(), MirrixCore::clearImageFeatureCache));
+    m_clearing.setFuture(QtConcurrent::run(backgroundThreads(), MirrixCore::clearImageFeatureCache));
 }
 
 void OptionsDialog::onImageCacheCleared()

@@ -1,8 +1,8 @@
 #include "ui/dialogs/restoredialog.h"
 
 #include "app/text.h"
-#include "ui/emptyhint.h"
-#include "ui/logic/linesmodel.h"
+#include "ui/models/linesmodel.h"
+#include "ui/window/emptyhint.h"
 
 #include <QDialogButtonBox>
 #include <QEvent>

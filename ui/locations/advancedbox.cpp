@@ -1,11 +1,11 @@
 #include "ui/locations/advancedbox.h"
 
-#include "actions/backupindex.h"
+#include "actions/records/backupindex.h"
 #include "app/text.h"
-#include "ui/locations/runaside.h"
-#include "ui/logic/bytetext.h"
-#include "ui/logic/locationtext.h"
-#include "ui/prompts.h"
+#include "ui/state/runinbackground.h"
+#include "ui/texts/bytetext.h"
+#include "ui/texts/locationtext.h"
+#include "ui/window/prompts.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -135,7 +135,7 @@ void AdvancedBox::chooseBackupFolder()
 
 void AdvancedBox::refreshHeld()
 {
-    runAside(
+    runInBackground(
         this, [folder = m_backupFolder->text()] { return std::pair(folder, heldBytes(folder)); },
         [this](const std::pair<QString, qint64> &held) {
             if (held.first != m_backupFolder->text())

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/logic/locationsstate.h"
+#include "ui/state/locationsstate.h"
 
 #include <QGroupBox>
 

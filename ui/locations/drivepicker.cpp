@@ -1,8 +1,8 @@
 #include "ui/locations/drivepicker.h"
 
 #include "app/text.h"
-#include "ui/logic/locationtext.h"
-#include "ui/prompts.h"
+#include "ui/texts/locationtext.h"
+#include "ui/window/prompts.h"
 
 #include <QDialogButtonBox>
 #include <QEvent>

@@ -7,9 +7,9 @@
 #include "ui/locations/folderbrowser.h"
 #include "ui/locations/locationtable.h"
 #include "ui/locations/quicklocations.h"
-#include "ui/locations/runaside.h"
-#include "ui/prompts.h"
-#include "ui/verticalscrollarea.h"
+#include "ui/state/runinbackground.h"
+#include "ui/window/prompts.h"
+#include "ui/window/verticalscrollarea.h"
 
 #include <QDir>
 #include <QEvent>
@@ -168,7 +168,7 @@ void LocationsPage::chooseFolder()
 void LocationsPage::chooseDrives()
 {
     m_addDrives->setEnabled(false);
-    runAside(this, m_driveLister, [this](const QList<Drive> &drives) {
+    runInBackground(this, m_driveLister, [this](const QList<Drive> &drives) {
         m_addDrives->setEnabled(true);
         if (!m_isLocked)
             m_table->addFolders(pickDrives(m_prompts, drives, this));
@@ -177,7 +177,7 @@ void LocationsPage::chooseDrives()
 
 void LocationsPage::readDrives()
 {
-    runAside(this, m_driveLister, [this](const QList<Drive> &drives) {
+    runInBackground(this, m_driveLister, [this](const QList<Drive> &drives) {
         m_quick->setDrives(drives);
         m_table->setVolumeLabels(volumeLabelsOf(drives));
     });
@@ -188,7 +188,7 @@ void LocationsPage::findMissing()
     const QStringList paths = m_table->paths();
     if (paths.isEmpty())
         return;
-    runAside(
+    runInBackground(
         this, [paths] { return missingAmong(paths); },
         [this](const QSet<QString> &missing) { m_table->setMissing(missing); });
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/drives.h"
-#include "ui/logic/locationsstate.h"
+#include "ui/state/locationsstate.h"
 
 #include <QWidget>
 

@@ -1,8 +1,8 @@
 #include "ui/locations/locationtable.h"
 
 #include "app/text.h"
-#include "ui/emptyhint.h"
-#include "ui/logic/columntitle.h"
+#include "ui/texts/columntitle.h"
+#include "ui/window/emptyhint.h"
 
 #include <QClipboard>
 #include <QComboBox>

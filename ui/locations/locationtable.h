@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ui/logic/locationsstate.h"
-#include "ui/logic/locationtext.h"
+#include "ui/state/locationsstate.h"
+#include "ui/texts/locationtext.h"
 
 #include <QSet>
 #include <QTableWidget>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/logic/batchstate.h"
+#include "ui/state/batchstate.h"
 
 #include <QGroupBox>
 #include <QList>

@@ -1,7 +1,7 @@
 #include "ui/results/duplicatefilestreedelegate.h"
 
 #include "resources/colours.h"
-#include "ui/logic/resultsmodel.h"
+#include "ui/models/resultsmodel.h"
 
 #include <QApplication>
 #include <QPainter>

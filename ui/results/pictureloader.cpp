@@ -10,7 +10,7 @@ PictureLoader::PictureLoader(QObject *parent)
 
 PictureLoader::~PictureLoader()
 {
-    want({});
+    request({});
     m_pool.waitForDone();
 }
 
@@ -26,7 +26,7 @@ void PictureLoader::setFactsReader(FactsReader reader)
     m_readFacts = std::move(reader);
 }
 
-void PictureLoader::want(QList<PictureRequest> requests)
+void PictureLoader::request(QList<PictureRequest> requests)
 {
     const QMutexLocker lock(&m_mutex);
     m_wanted = std::move(requests);

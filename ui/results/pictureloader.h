@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/logic/picture.h"
+#include "ui/state/picture.h"
 
 #include <QList>
 #include <QMutex>
@@ -38,7 +38,7 @@ public:
     void setFactsReader(FactsReader reader);
 
     /// Replaces everything that still waits, most urgent first. What is being decoded goes on and is still delivered.
-    void want(QList<PictureRequest> requests);
+    void request(QList<PictureRequest> requests);
 
 signals:
     void loaded(const Mirrix::LoadedPicture &loaded);

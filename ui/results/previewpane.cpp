@@ -1,7 +1,7 @@
 #include "ui/results/previewpane.h"
 
 #include "app/text.h"
-#include "ui/logic/resulttexts.h"
+#include "ui/texts/resulttexts.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -92,7 +92,7 @@ void PreviewPane::showFile(const MirrixCore::FileEntry &file)
     m_folder.clear();
     m_picture = {};
     m_isLoaded = false;
-    m_loader.want({{file, m_canvas->size() * devicePixelRatioF()}});
+    m_loader.request({{file, m_canvas->size() * devicePixelRatioF()}});
     retranslate();
 }
 
@@ -105,7 +105,7 @@ void PreviewPane::showFolder(const QString &path)
 
 void PreviewPane::clear()
 {
-    m_loader.want({});
+    m_loader.request({});
     m_file.reset();
     m_folder.clear();
     retranslate();

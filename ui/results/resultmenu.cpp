@@ -1,8 +1,8 @@
 #include "ui/results/resultmenu.h"
 
 #include "app/text.h"
-#include "ui/logic/resulttexts.h"
-#include "ui/shell.h"
+#include "ui/texts/resulttexts.h"
+#include "ui/window/shell.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

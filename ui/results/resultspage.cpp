@@ -1,8 +1,6 @@
 #include "ui/results/resultspage.h"
 
 #include "app/text.h"
-#include "ui/emptyhint.h"
-#include "ui/logic/resulttexts.h"
 #include "ui/results/batchpanel.h"
 #include "ui/results/duplicatefilestreedelegate.h"
 #include "ui/results/previewpane.h"
@@ -10,6 +8,8 @@
 #include "ui/results/resultstree.h"
 #include "ui/results/scanfooter.h"
 #include "ui/results/thumbnailview.h"
+#include "ui/texts/resulttexts.h"
+#include "ui/window/emptyhint.h"
 
 #include <QComboBox>
 #include <QEvent>
@@ -219,9 +219,9 @@ void ResultsPage::showResults()
     m_folders.reload();
     m_remaining.reload();
     m_thumbnails->reload();
-    m_tree->startAfresh(expandedGroups);
-    m_folderTree->startAfresh(expandedFolderGroups);
-    m_remainingTree->startAfresh(0);
+    m_tree->resetView(expandedGroups);
+    m_folderTree->resetView(expandedFolderGroups);
+    m_remainingTree->resetView(0);
     m_preview->clear();
     refreshPanel();
 }

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "ui/logic/batchstate.h"
-#include "ui/logic/foldergroupsmodel.h"
-#include "ui/logic/picture.h"
-#include "ui/logic/remainingmodel.h"
-#include "ui/logic/resultsmodel.h"
+#include "ui/models/foldergroupsmodel.h"
+#include "ui/models/remainingmodel.h"
+#include "ui/models/resultsmodel.h"
+#include "ui/state/batchstate.h"
+#include "ui/state/picture.h"
 
 #include <QPair>
 #include <QWidget>

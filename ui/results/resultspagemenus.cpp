@@ -1,10 +1,10 @@
 #include "ui/results/resultspage.h"
 
 #include "app/text.h"
-#include "ui/logic/resulttexts.h"
 #include "ui/results/resultmenu.h"
 #include "ui/results/resultstree.h"
 #include "ui/results/thumbnailview.h"
+#include "ui/texts/resulttexts.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -1,7 +1,7 @@
 #include "ui/results/resultstree.h"
 
-#include "ui/logic/resultsmodel.h"
-#include "ui/logic/resulttexts.h"
+#include "ui/models/resultsmodel.h"
+#include "ui/texts/resulttexts.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -40,7 +40,7 @@ void ResultsTree::setModel(QAbstractItemModel *model)
 {
     QTreeView::setModel(model);
     // Queued: the view must have laid the new order out first.
-    connect(model, &QAbstractItemModel::layoutChanged, this, &ResultsTree::keepPromise, Qt::QueuedConnection);
+    connect(model, &QAbstractItemModel::layoutChanged, this, &ResultsTree::expandVisibleGroups, Qt::QueuedConnection);
 }
 
 void ResultsTree::fitColumns(int stretched, const QStringList &samples)
@@ -55,7 +55,7 @@ void ResultsTree::fitColumns(int stretched, const QStringList &samples)
     }
 }
 
-void ResultsTree::startAfresh(int count)
+void ResultsTree::resetView(int count)
 {
     {
         const QSignalBlocker quiet(header());
@@ -70,7 +70,7 @@ void ResultsTree::expandAgain(int count)
     m_closed.clear();
     m_opened.clear();
     if (m_expandsAll)
-        keepPromise();
+        expandVisibleGroups();
     const int rows = m_expandsAll ? 0 : std::min(count, model()->rowCount());
     for (int row = 0; row < rows; ++row)
         expand(model()->index(row, 0));
@@ -81,7 +81,7 @@ void ResultsTree::expandEverything()
     m_expandsAll = true;
     m_closed.clear();
     m_opened.clear();
-    keepPromise();
+    expandVisibleGroups();
 }
 
 void ResultsTree::collapseEverything()
@@ -104,7 +104,7 @@ void ResultsTree::sortByHeader(int column, Qt::SortOrder order)
     model()->sort(column, order);
 }
 
-void ResultsTree::keepPromise()
+void ResultsTree::expandVisibleGroups()
 {
     const QModelIndex top = m_expandsAll && !m_isExpanding ? indexAt({0, 0}) : QModelIndex();
     if (!top.isValid())
@@ -145,13 +145,13 @@ void ResultsTree::expandOnly(int first, int last)
 void ResultsTree::verticalScrollbarValueChanged(int value)
 {
     QTreeView::verticalScrollbarValueChanged(value);
-    keepPromise();
+    expandVisibleGroups();
 }
 
 void ResultsTree::resizeEvent(QResizeEvent *event)
 {
     QTreeView::resizeEvent(event);
-    keepPromise();
+    expandVisibleGroups();
 }
 
 QStringList ResultsTree::selectedPaths() const

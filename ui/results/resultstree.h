@@ -24,7 +24,7 @@ public:
     void fitColumns(int stretched, const QStringList &samples);
 
     /// To call after a reset: expands the first `count` top rows and forgets the order by column.
-    void startAfresh(int count);
+    void resetView(int count);
 
     /// To call after another reset: expands the first `count` top rows, or all where that was wished; the order stays.
     void expandAgain(int count);
@@ -53,7 +53,7 @@ protected:
 
 private:
     void sortByHeader(int column, Qt::SortOrder order);
-    void keepPromise();
+    void expandVisibleGroups();
     void expandOnly(int first, int last);
 
     bool m_isFitted = false;

@@ -1,7 +1,7 @@
 #include "ui/results/thumbnailview.h"
 
 #include "app/text.h"
-#include "ui/logic/bytetext.h"
+#include "ui/texts/bytetext.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
@@ -41,7 +41,7 @@ void ThumbnailView::reload()
     m_current = {-1, -1};
     m_selected.clear();
     m_pictures.clear();
-    m_loader.want({});
+    m_loader.request({});
     verticalScrollBar()->setValue(0);
     arrange();
 }
@@ -69,7 +69,7 @@ void ThumbnailView::wantVisible()
         if (!m_pictures.contains(file.path) && isPicture(file.path))
             requests.append({file, bounds});
     }
-    m_loader.want(std::move(requests));
+    m_loader.request(std::move(requests));
 }
 
 void ThumbnailView::store(const LoadedPicture &loaded)

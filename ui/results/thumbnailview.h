@@ -1,9 +1,9 @@
 #pragma once
 
-#include "ui/logic/resultset.h"
-#include "ui/logic/suffixicons.h"
 #include "ui/results/pictureloader.h"
 #include "ui/results/thumbnaillayout.h"
+#include "ui/state/resultset.h"
+#include "ui/texts/suffixicons.h"
 
 #include <QAbstractScrollArea>
 #include <QCache>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ui/logic/rulesstate.h"
 #include "ui/rules/recordbinding.h"
+#include "ui/state/rulesstate.h"
 
 #include <QWidget>
 

@@ -1,8 +1,8 @@
 #include "ui/rules/filetypesbox.h"
 
 #include "app/text.h"
-#include "ui/logic/rulenames.h"
 #include "ui/rules/rulecontrols.h"
+#include "ui/texts/rulenames.h"
 
 #include <QCheckBox>
 #include <QDateEdit>

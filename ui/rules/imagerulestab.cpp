@@ -1,9 +1,9 @@
 #include "ui/rules/imagerulestab.h"
 
 #include "app/text.h"
-#include "ui/logic/rulenames.h"
 #include "ui/rules/rulecontrols.h"
 #include "ui/rules/tagtable.h"
+#include "ui/texts/rulenames.h"
 
 #include <QCheckBox>
 #include <QEvent>

@@ -1,14 +1,14 @@
 #include "ui/rules/rulespage.h"
 
 #include "app/text.h"
-#include "ui/logic/rulenames.h"
 #include "ui/rules/audiorulestab.h"
 #include "ui/rules/filetypesbox.h"
 #include "ui/rules/generalrulestab.h"
 #include "ui/rules/imagerulestab.h"
 #include "ui/rules/rulecontrols.h"
 #include "ui/rules/videorulestab.h"
-#include "ui/verticalscrollarea.h"
+#include "ui/texts/rulenames.h"
+#include "ui/window/verticalscrollarea.h"
 
 #include <QCheckBox>
 #include <QEvent>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/logic/rulesstate.h"
+#include "ui/state/rulesstate.h"
 
 #include <QWidget>
 

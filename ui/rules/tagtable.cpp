@@ -1,8 +1,8 @@
 #include "ui/rules/tagtable.h"
 
 #include "app/text.h"
-#include "ui/logic/rulenames.h"
 #include "ui/rules/rulecontrols.h"
+#include "ui/texts/rulenames.h"
 
 #include <QComboBox>
 #include <QEvent>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ui/logic/rulesstate.h"
-#include "ui/logic/tagnames.h"
+#include "ui/state/rulesstate.h"
+#include "ui/texts/tagnames.h"
 
 #include <QGroupBox>
 

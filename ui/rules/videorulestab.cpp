@@ -1,10 +1,10 @@
 #include "ui/rules/videorulestab.h"
 
 #include "app/text.h"
-#include "ui/logic/rulenames.h"
 #include "ui/rules/mediamatchbox.h"
 #include "ui/rules/rulecontrols.h"
 #include "ui/rules/tagtable.h"
+#include "ui/texts/rulenames.h"
 
 #include <QCheckBox>
 #include <QEvent>

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "actions/cleaning/cleaningplan.h"
+#include "actions/records/runrecord.h"
+
+#include <QString>
+
+namespace Mirrix {
+
+/// The link that a run has put in the place of a file. One thread at a time.
+class CreatedLink
+{
+public:
+    /// By a method that makes none there is no link anywhere.
+    CreatedLink(const RunItem &item, CleaningMethod method);
+
+    /// Whether the link stands at the file's old path: a symbolic one by what it leads to, a hard one by its identity.
+    /// A file that took its place, or a link to another file, is not ours.
+    [[nodiscard]] bool isInPlace() const { return isOurs(m_item.original); }
+
+    /// Whether it is at `path`.
+    [[nodiscard]] bool isOurs(const QString &path) const;
+
+    /// Sets it aside where it stands in place, looking again under the new name. False when it is not out of the way.
+    [[nodiscard]] bool setAside() const;
+
+    void putBack() const;
+
+    /// Removes what setAside has set aside, now or before a crash. False when it is still there.
+    bool removeAside() const;
+
+    /// Where a copy of the file is begun.
+    [[nodiscard]] QString partPath() const;
+
+private:
+    [[nodiscard]] QString asidePath() const;
+
+    const RunItem &m_item;
+    CleaningMethod m_method;
+    QString m_target;
+};
+
+} // namespace Mirrix

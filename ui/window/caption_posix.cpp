@@ -1,0 +1,10 @@
+#include "ui/window/caption.h"
+
+namespace Mirrix {
+
+void colourCaption(QWidget &, bool)
+{
+    // Captions belong to the window manager here.
+}
+
+} // namespace Mirrix
