@@ -59,7 +59,7 @@ QJsonValue written(qint64 value)
 
 QJsonValue written(ContentHashAlgorithm value)
 {
-    return value == ContentHashAlgorithm::Blake3 ? QStringLiteral("blake3") : QStringLiteral("md5");
+    return MirrixCore::hashAlgorithmName(value);
 }
 
 /// A double cut to an integer type, held within its range.

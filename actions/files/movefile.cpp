@@ -122,15 +122,12 @@ bool haveSameContent(const QString &one, const QString &other)
 
 QString fileNameOf(const QString &path)
 {
-    const QString slashed = QDir::fromNativeSeparators(path);
-    return slashed.mid(slashed.lastIndexOf(QLatin1Char('/')) + 1);
+    return MirrixCore::nameOf(QDir::fromNativeSeparators(path)).toString();
 }
 
 QString folderOf(const QString &path)
 {
-    const QString slashed = QDir::fromNativeSeparators(path);
-    const qsizetype slash = slashed.lastIndexOf(QLatin1Char('/'));
-    return slash < 0 ? QString() : slashed.left(slash == 0 ? 1 : slash);
+    return MirrixCore::folderOf(QDir::fromNativeSeparators(path)).toString();
 }
 
 QString shortenedName(const QString &name, qsizetype mostBytes)
@@ -144,11 +141,6 @@ QString shortenedName(const QString &name, qsizetype mostBytes)
     while (!stem.isEmpty() && (stem + suffix).toUtf8().size() > mostBytes)
         stem.chop(stem.size() > 1 && stem.back().isLowSurrogate() && stem[stem.size() - 2].isHighSurrogate() ? 2 : 1);
     return stem + suffix;
-}
-
-QString joinedPath(const QString &folder, const QString &name)
-{
-    return folder.endsWith(QLatin1Char('/')) ? folder + name : folder + QLatin1Char('/') + name;
 }
 
 QString temporaryName(const QString &path, const QString &suffix)

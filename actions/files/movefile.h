@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/platform/pathtext.h"
+
 #include "actions/files/nativefile.h"
 
 #include <QString>
@@ -28,15 +30,14 @@ namespace Mirrix {
 /// Whether both can be read whole and hold the same bytes.
 [[nodiscard]] bool haveSameContent(const QString &one, const QString &other);
 
-/// The text after the last separator, and the text before it ("/" for a root).
+/// nameOf and folderOf for paths that may have the system's own separators.
 [[nodiscard]] QString fileNameOf(const QString &path);
 [[nodiscard]] QString folderOf(const QString &path);
 
 /// `name`, or where it takes more than `mostBytes` bytes of UTF-8 as much of it as fits, the last suffix kept.
 [[nodiscard]] QString shortenedName(const QString &name, qsizetype mostBytes);
 
-/// `name` inside `folder`.
-[[nodiscard]] QString joinedPath(const QString &folder, const QString &name);
+using MirrixCore::joinedPath;
 
 /// A fresh name for a file that stands beside `path` for a moment: ".mirrix-", 16 hex digits, and ".part" or ".aside".
 [[nodiscard]] QString temporaryName(const QString &path, const QString &suffix);

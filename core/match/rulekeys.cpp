@@ -51,7 +51,7 @@ void appendNameParts(QStringList &parts, const FileEntry &entry, const ScanOptio
     if (options.sameName)
         parts.append(QLatin1String("FN:") + cased(withoutIgnoredCopyWords(name, options), options));
     if (options.sameExtension)
-        parts.append(QLatin1String("EXT:") + lowerSuffix(name));
+        parts.append(QLatin1String("EXT:") + suffixOf(name));
 }
 
 void appendSizeAndDateParts(QStringList &parts, const FileEntry &entry, const ScanOptions &options)

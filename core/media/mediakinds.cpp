@@ -13,12 +13,6 @@ QStringList listFrom(const char *extensions)
     return QString::fromLatin1(extensions).split(QLatin1Char(' '));
 }
 
-/// The path is asked for its file name's suffix, not for a folder's.
-QString suffixIn(const QString &path)
-{
-    return lowerSuffix(path.mid(path.lastIndexOf(QLatin1Char('/')) + 1));
-}
-
 QSet<QString> setFrom(const QStringList &list)
 {
     return {list.begin(), list.end()};
@@ -88,11 +82,11 @@ bool isMediaFile(const QString &path, SearchMode mode)
     static const QSet<QString> video = setFrom(videoExtensions());
     switch (mode) {
     case SearchMode::Images:
-        return images.contains(suffixIn(path));
+        return images.contains(suffixOf(path));
     case SearchMode::Audio:
-        return audio.contains(suffixIn(path));
+        return audio.contains(suffixOf(path));
     case SearchMode::Video:
-        return video.contains(suffixIn(path));
+        return video.contains(suffixOf(path));
     case SearchMode::Files:
         break;
     }
@@ -102,7 +96,7 @@ bool isMediaFile(const QString &path, SearchMode mode)
 bool isRawFile(const QString &path)
 {
     static const QSet<QString> raw = setFrom(rawExtensions());
-    return raw.contains(suffixIn(path));
+    return raw.contains(suffixOf(path));
 }
 
 } // namespace MirrixCore

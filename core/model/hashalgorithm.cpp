@@ -23,9 +23,14 @@ ContentHashAlgorithm contentHashAlgorithmFrom(const QString &name)
     return name == QLatin1String("blake3") ? ContentHashAlgorithm::Blake3 : ContentHashAlgorithm::Md5;
 }
 
+QString hashAlgorithmName(ContentHashAlgorithm algorithm)
+{
+    return algorithm == ContentHashAlgorithm::Blake3 ? QStringLiteral("blake3") : QStringLiteral("md5");
+}
+
 QString currentHashAlgorithmName()
 {
-    return contentHashAlgorithm() == ContentHashAlgorithm::Blake3 ? QStringLiteral("blake3") : QStringLiteral("md5");
+    return hashAlgorithmName(contentHashAlgorithm());
 }
 
 int currentDigestLength()

@@ -18,7 +18,10 @@ void setContentHashAlgorithm(ContentHashAlgorithm algorithm);
 /// "blake3" gives Blake3; any other text, whatever its case, Md5.
 [[nodiscard]] ContentHashAlgorithm contentHashAlgorithmFrom(const QString &name);
 
-/// "blake3" or "md5", the current choice.
+/// "blake3" or "md5".
+[[nodiscard]] QString hashAlgorithmName(ContentHashAlgorithm algorithm);
+
+/// The name of the current choice.
 [[nodiscard]] QString currentHashAlgorithmName();
 
 /// Bytes in a digest of the current choice: 32 or 16.

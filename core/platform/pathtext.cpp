@@ -43,10 +43,16 @@ QStringView nameOf(QStringView path)
     return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
 }
 
-QString lowerSuffix(const QString &name)
+QString suffixOf(QStringView path)
 {
+    const QStringView name = nameOf(path);
     const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
-    return dot < 0 ? QString() : name.mid(dot + 1).toLower();
+    return dot < 0 ? QString() : name.mid(dot + 1).toString().toLower();
+}
+
+QString joinedPath(const QString &folder, const QString &name)
+{
+    return folder.endsWith(QLatin1Char('/')) ? folder + name : folder + QLatin1Char('/') + name;
 }
 
 int compareCodePoints(QStringView a, QStringView b)

@@ -29,7 +29,10 @@ namespace MirrixCore {
 [[nodiscard]] QStringView nameOf(QStringView path);
 
 /// The text after the last dot of a file's name, lower case; empty without a dot.
-[[nodiscard]] QString lowerSuffix(const QString &name);
+[[nodiscard]] QString suffixOf(QStringView path);
+
+/// `name` inside `folder`.
+[[nodiscard]] QString joinedPath(const QString &folder, const QString &name);
 
 /// Orders paths by their code points, the same on every system. Negative, 0 or positive as `a` comes before, with or
 /// after `b`.

@@ -67,8 +67,7 @@ private:
 
     void look(OpenFolder &folder, const FolderItem &item)
     {
-        const QString path = folder.path.endsWith(QLatin1Char('/')) ? folder.path + item.name
-                                                                    : folder.path + QLatin1Char('/') + item.name;
+        const QString path = joinedPath(folder.path, item.name);
         if (!item.reason.isEmpty())
             m_unread.append({path, item.reason});
         if (item.kind == FolderItem::Kind::Folder && item.reason.isEmpty() && mayEnter(path, item))

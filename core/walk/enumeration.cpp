@@ -42,7 +42,7 @@ public:
         if (excludesName(item.name) || (!m_includeNames.isEmpty() && !m_includeNames.match(item.name)))
             return false;
         if (!m_include.isEmpty() || !m_exclude.isEmpty()) {
-            const QString suffix = lowerSuffix(item.name);
+            const QString suffix = suffixOf(item.name);
             if (m_exclude.contains(suffix) || (!m_include.isEmpty() && !m_include.contains(suffix)))
                 return false;
         }
@@ -179,7 +179,7 @@ private:
         while (!names.isEmpty() && !isCancelled(m_cancelled) && open.reader.next(item)) {
             if (names.remove(pathCaseKey(item.name)) == 0)
                 continue;
-            const QString path = childPath(folder, item.name);
+            const QString path = joinedPath(folder, item.name);
             if (!item.reason.isEmpty() || item.kind != FolderItem::Kind::File)
                 note(path, item.reason.isEmpty() ? QStringLiteral("not a file") : item.reason);
             else
@@ -187,7 +187,7 @@ private:
         }
         const QString &error = open.reader.errorText();
         for (const QString &name : std::as_const(names))
-            note(childPath(folder, name), error.isEmpty() ? QStringLiteral("no such file") : error);
+            note(joinedPath(folder, name), error.isEmpty() ? QStringLiteral("no such file") : error);
     }
 
     /// Whether single files of `folder` are left out with it: nobody has named it or those above it as roots.
@@ -219,7 +219,7 @@ private:
             }
             current.isEmpty = false;
             const size_t depth = m_stack.size(); // entering a folder moves the others
-            if (!visit(childPath(m_path, item.name), current, item))
+            if (!visit(joinedPath(m_path, item.name), current, item))
                 m_stack[depth - 1].isPartial = true;
         }
     }
@@ -252,11 +252,6 @@ private:
             m_folders.empty.append(m_path);
     }
 
-    static QString childPath(const QString &folder, const QString &name)
-    {
-        return folder.endsWith(QLatin1Char('/')) ? folder + name : folder + QLatin1Char('/') + name;
-    }
-
     /// False when the folder is left out.
     bool enter(const QString &path, const OpenFolder &parent, const FolderItem &item)
     {
@@ -264,7 +259,7 @@ private:
         if (item.isFolderLink)
             realPath = realPathOf(path);
         else if (!parent.realPath.isEmpty())
-            realPath = childPath(parent.realPath, item.name);
+            realPath = joinedPath(parent.realPath, item.name);
         if (isLeftOut(path, realPath, item)) {
             ++m_folders.leftOut.folders;
             return false;

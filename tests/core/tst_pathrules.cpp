@@ -119,7 +119,7 @@ private slots:
         QMap<QString, QString> suffixes = {{u"A.JPG"_s, u"jpg"_s}, {u"a.tar.GZ"_s, u"gz"_s},      {u"readme"_s, {}},
                                            {u"a."_s, {}},          {u".profile"_s, u"profile"_s}, {u"x.ÄÖ"_s, u"äö"_s}};
         for (auto name = suffixes.begin(); name != suffixes.end(); ++name)
-            QCOMPARE(lowerSuffix(name.key()), name.value());
+            QCOMPARE(suffixOf(name.key()), name.value());
     }
 };
 

@@ -1,6 +1,7 @@
 #include "ui/results/resultmenu.h"
 
 #include "app/text.h"
+#include "core/platform/pathtext.h"
 #include "ui/texts/resulttexts.h"
 #include "ui/window/shell.h"
 
@@ -14,11 +15,6 @@ namespace {
 void copyPath(const QString &path)
 {
     QGuiApplication::clipboard()->setText(shownPath(path));
-}
-
-QString folderOf(const QString &path)
-{
-    return path.left(path.lastIndexOf(QLatin1Char('/')) + 1);
 }
 
 } // namespace
@@ -42,7 +38,7 @@ void ResultMenu::addFileEntries(const QString &path)
     const bool isFile = !path.isEmpty();
     addEntry(Text::tr("在资源管理器中打开"), isFile, [path] { revealInFileManager(path); });
     addEntry(Text::tr("打开文件"), isFile, [path] { openWithSystem(path); });
-    addEntry(Text::tr("打开所在文件夹"), isFile, [path] { openWithSystem(folderOf(path)); });
+    addEntry(Text::tr("打开所在文件夹"), isFile, [path] { openWithSystem(MirrixCore::folderOf(path).toString()); });
     addEntry(Text::tr("复制路径"), isFile, [path] { copyPath(path); });
 }
 

@@ -4,7 +4,7 @@
 #include "core/media/decodebudget.h"
 #include "core/media/mediakinds.h"
 #include "core/media/rawfile.h"
-#include "ui/texts/suffixicons.h"
+#include "core/platform/pathtext.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -20,11 +20,6 @@ bool exceedsLimit(QSize size)
     constexpr qint64 mega = 1024 * 1024;
     const int limit = QImageReader::allocationLimit();
     return limit > 0 && qint64(size.width()) * size.height() * bytesPerPixel > limit * mega;
-}
-
-bool isRaw(const QString &path)
-{
-    return MirrixCore::rawExtensions().contains(suffixOf(path));
 }
 
 /// A RAW file's picture in a format that Qt reads, opened.
@@ -73,7 +68,7 @@ Picture readPicture(const QString &path, QSize bounds)
     if (!file.open(QIODevice::ReadOnly))
         return {{}, file.exists() ? Picture::Problem::Unreadable : Picture::Problem::Missing};
     QBuffer encoded;
-    if (isRaw(path) && openRaw(path, encoded))
+    if (MirrixCore::isRawFile(path) && openRaw(path, encoded))
         return readFrom(&encoded, bounds);
     return readFrom(&file, bounds);
 }
@@ -81,7 +76,7 @@ Picture readPicture(const QString &path, QSize bounds)
 bool isPicture(const QString &path)
 {
     static const QList<QByteArray> formats = QImageReader::supportedImageFormats();
-    return formats.contains(suffixOf(path).toLatin1()) || isRaw(path);
+    return formats.contains(MirrixCore::suffixOf(path).toLatin1()) || MirrixCore::isRawFile(path);
 }
 
 QString problemText(Picture::Problem problem)

@@ -1,8 +1,8 @@
 #include "ui/texts/resulttexts.h"
 
 #include "app/text.h"
+#include "core/platform/pathtext.h"
 #include "ui/texts/bytetext.h"
-#include "ui/texts/suffixicons.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -72,9 +72,10 @@ QString UnreadNote::text() const
 
 QString previewText(const FileEntry &file)
 {
-    QString text = Text::tr("路径: %1\n大小: %2\n修改: %3\n后缀: %4")
-                       .arg(shownPath(file.path), formatSize(file.size),
-                            timeText(file.modifiedMs, QStringLiteral("yyyy-MM-dd HH:mm:ss")), suffixOf(file.path));
+    QString text =
+        Text::tr("路径: %1\n大小: %2\n修改: %3\n后缀: %4")
+            .arg(shownPath(file.path), formatSize(file.size),
+                 timeText(file.modifiedMs, QStringLiteral("yyyy-MM-dd HH:mm:ss")), MirrixCore::suffixOf(file.path));
     if (file.width > 0 && file.height > 0)
         text += Text::tr("\n尺寸: %1 × %2").arg(file.width).arg(file.height);
     if (!file.cameraMake.isEmpty() || !file.cameraModel.isEmpty())

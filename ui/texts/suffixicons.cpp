@@ -1,18 +1,14 @@
 #include "ui/texts/suffixicons.h"
 
-namespace Mirrix {
+#include "core/platform/pathtext.h"
 
-QString suffixOf(const QString &path)
-{
-    const qsizetype dot = path.lastIndexOf(QLatin1Char('.'));
-    return dot > path.lastIndexOf(QLatin1Char('/')) ? path.mid(dot + 1).toLower() : QString();
-}
+namespace Mirrix {
 
 QIcon SuffixIcons::file(const QString &path) const
 {
     if (!m_source)
         return {};
-    const QString suffix = suffixOf(path);
+    const QString suffix = MirrixCore::suffixOf(path);
     const auto known = m_icons.constFind(suffix);
     return known != m_icons.cend() ? *known : *m_icons.insert(suffix, m_source(suffix));
 }

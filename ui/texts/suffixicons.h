@@ -8,9 +8,6 @@
 
 namespace Mirrix {
 
-/// What follows the last dot of the file name, in lower case; empty without one. Pure text, the file is not looked at.
-[[nodiscard]] QString suffixOf(const QString &path);
-
 /// Icons of files by suffix, each asked for once, and the icon of a folder. Interface thread only.
 class SuffixIcons
 {
