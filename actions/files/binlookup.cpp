@@ -81,10 +81,14 @@ std::optional<BinEntry> readTrashNote(QByteArrayView text, const QString &top)
     const bool isAbsolute = path.startsWith(QLatin1Char('/'));
     if (lines.constFirst().trimmed() != "[Trash Info]" || path.isEmpty() || (!isAbsolute && top.isEmpty()))
         return std::nullopt;
-    const QDateTime deleted = QDateTime::fromString(
-        QString::fromLatin1(valueOf(lines, QByteArrayView("DeletionDate="))), QStringLiteral("yyyy-MM-ddThh:mm:ss"));
-    return BinEntry{
-        {}, {}, isAbsolute ? path : joinedPath(top, path), deleted.isValid() ? deleted.toMSecsSinceEpoch() : 0};
+    // Read as if it were UTC: to convert local time the system looks at its time zone file nine times.
+    const QString date = QString::fromLatin1(valueOf(lines, QByteArrayView("DeletionDate="))) + QLatin1Char('Z');
+    const QDateTime deleted = QDateTime::fromString(date, Qt::ISODate);
+    return BinEntry{{},
+                    {},
+                    isAbsolute ? path : joinedPath(top, path),
+                    deleted.isValid() ? deleted.toMSecsSinceEpoch() : 0,
+                    deleted.isValid()};
 }
 
 std::optional<BinEntry> readRecycleNote(QByteArrayView bytes)
@@ -132,12 +136,16 @@ std::optional<BinEntry> BinContents::find(const QString &original, qint64 sizeBy
     const QList<BinFolder> bins = m_foldersFor(original);
     for (const BinFolder &bin : bins)
         read(bin);
+    const qint64 offsetMs = 1000LL * QDateTime::fromMSecsSinceEpoch(recycledNotBeforeMs).offsetFromUtc();
+    const auto deletedMs = [offsetMs](const BinEntry &entry) {
+        return entry.deletedMs - (entry.isDeletedInLocalTime ? offsetMs : 0);
+    };
     QList<BinEntry> entries = m_entries.values(MirrixCore::pathCaseKey(original));
     std::sort(entries.begin(), entries.end(),
-              [](const BinEntry &one, const BinEntry &other) { return one.deletedMs > other.deletedMs; });
+              [&](const BinEntry &one, const BinEntry &other) { return deletedMs(one) > deletedMs(other); });
     const auto found = std::find_if(entries.begin(), entries.end(), [&](const BinEntry &entry) {
         const PathState state = pathState(entry.filePath);
-        return entry.deletedMs > recycledNotBeforeMs - uncertaintyMs && state.kind == PathState::Kind::File &&
+        return deletedMs(entry) > recycledNotBeforeMs - uncertaintyMs && state.kind == PathState::Kind::File &&
                state.sizeBytes == sizeBytes && (modifiedMs == 0 || state.modifiedMs == modifiedMs);
     });
     return found == entries.end() ? std::nullopt : std::optional(*found);

@@ -36,9 +36,11 @@ struct BinEntry
     QString infoPath;     ///< the note on it
     QString original;     ///< where it came from; forward slashes
     qint64 deletedMs = 0; ///< milliseconds since the Unix epoch; 0 = unknown
+    bool isDeletedInLocalTime =
+        false; ///< deletedMs counts from the epoch by the clock on the wall, as notes of a trash do
 };
 
-/// What a note in a trash says, given the text of a .trashinfo file: original and deletedMs (to the second, from local
+/// What a note in a trash says, given the text of a .trashinfo file: original and deletedMs (to the second, in local
 /// time). A relative path counts from `top`. Nothing when it names no path.
 [[nodiscard]] std::optional<BinEntry> readTrashNote(QByteArrayView text, const QString &top);
 
