@@ -62,7 +62,7 @@ def read(path):
 def texts_of_sources(lupdate):
     with tempfile.TemporaryDirectory() as folder:
         path = pathlib.Path(folder) / "all.ts"
-        command = [lupdate, "-silent", "-locations", "none", "-I", ROOT, "core", "app", "actions", "ui", "-ts", path]
+        command = [lupdate, "-silent", "-locations", "none", "-I", ROOT, "core", "app", "actions", "ui", "program", "-ts", path]
         subprocess.run(command, cwd=ROOT, check=True)
         return set(read(path))
 
