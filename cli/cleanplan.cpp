@@ -151,7 +151,7 @@ CleanRequest cleanRequestOf(const QCommandLineParser &parser)
         request.options.excludeNames += MirrixCore::versionControlNames();
         seekEmptyFiles(request.options);
     }
-    // What was put away is neither surplus nor a reason to put away the last copy in use.
+    // A copy in a bin or backup is neither surplus nor a reason to remove the last copy in use.
     for (const QString &folder : {request.plan.backupFolder, request.plan.targetFolder}) {
         if (folder.isEmpty())
             continue;

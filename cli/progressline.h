@@ -6,7 +6,7 @@
 
 namespace MirrixCli {
 
-/// One line on standard error that tells how far a scan is, redrawn at most ten times a second; nothing when standard
+/// One line on standard error that shows how far a scan is, redrawn at most ten times a second; nothing when standard
 /// error is no terminal. One thread at a time.
 class ProgressLine
 {

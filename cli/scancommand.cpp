@@ -210,7 +210,7 @@ void addEmptyFolders(ScanReport &report, const ScanOptions &options)
     report.result.unread = unread;
 }
 
-/// False, with the reason told, when the report could not be written.
+/// False, with the reason printed, when the report could not be written.
 bool writeTo(const QString &path, const ScanReport &report, const ReportStyle &style)
 {
     Output output;

@@ -47,7 +47,7 @@ QString runMeant(const QCommandLineParser &parser)
     return {};
 }
 
-/// A batch's progress as a line; `paths` tells the path of the file at a place.
+/// A batch's progress as a line; `paths` gives the path of the file at an index.
 template <typename PathAt>
 BatchProgress shownOn(ProgressLine &line, const QString &phase, PathAt pathAt)
 {

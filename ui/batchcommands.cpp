@@ -23,7 +23,7 @@ namespace {
 
 using MirrixCore::DuplicateGroup;
 
-/// Said where files are given up for copies that are not known to be equal.
+/// Shown where files are removed for copies that are not known to be equal.
 QString comparisonNote(const CheckedFiles &files)
 {
     return files.areContentsEqual() ? QString() : Text::tr("部分组不是按内容匹配的，处理前不会比较这些文件的内容。");
@@ -117,7 +117,7 @@ bool BatchCommands::changeMarks(const char *status, const MarkChange &change)
 {
     if (m_results.groups.isEmpty())
         return false;
-    // Looking at the paths of a million files takes longer than a window may stand still.
+    // Looking at the paths of a million files takes longer than a window may be blocked.
     SelectionMarks marks = m_results.marks;
     const QList<DuplicateGroup> groups = m_results.groups;
     FileProgressDialog dialog(Text::tr("正在更新勾选…"), m_window);

@@ -20,8 +20,8 @@ struct RemovalChoice;
 struct Settings;
 
 /// What is done to all results at once: setting marks, and removing, backing up and restoring files with the questions
-/// before and the account after. Each command returns when it is over; meanwhile the user can do nothing else in the
-/// window, and a further command is ignored. Work on many files goes on off the interface thread.
+/// before and the account after. Each command returns when it is over; until then the user can do nothing else in the
+/// window, and a further command is ignored. Work on many files runs off the interface thread.
 class BatchCommands : public QObject
 {
     Q_OBJECT
@@ -92,7 +92,7 @@ private:
     void tellDone(const QString &text, const CleaningResult &result);
 
     /// The ticked files once the user has said what is to happen to groups of which no copy would stay. Nothing when
-    /// there are none, which the user is told with `noneText`, or when the user gives up.
+    /// there are none, which `noneText` tells the user, or when the user cancels.
     [[nodiscard]] std::optional<CheckedFiles> filesToClean(const QString &noneText);
 
     void backUpAndRemove(const CheckedFiles &files, const RemovalChoice &choice);

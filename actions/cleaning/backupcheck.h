@@ -15,7 +15,7 @@ enum class BackupState
     Intact,
     Missing,    ///< no file there
     Damaged,    ///< its size or content is not that of the file that was backed up
-    Unreadable, ///< the system would not say
+    Unreadable, ///< the system did not allow reading it
     Refused     ///< the entry names what cannot be a backup, or an old path that leads elsewhere than it says
 };
 

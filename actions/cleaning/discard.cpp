@@ -22,7 +22,7 @@ QString undeletableText(const CleaningItem &item)
     return text(QT_TRANSLATE_NOOP("Mirrix", "无法删除: %1"), item.file.path);
 }
 
-/// One surplus file that stands aside, and what is done with it.
+/// One surplus file that has been set aside, and what is done with it.
 class Discard
 {
 public:
@@ -53,7 +53,7 @@ public:
         return problem.isEmpty() ? changeProblem() : problem;
     }
 
-    /// Removes the file, after the link stands where there is to be one.
+    /// Removes the file, once the link, if there is to be one, is in place.
     [[nodiscard]] QString act()
     {
         if (isLinking(m_method)) {
@@ -75,7 +75,8 @@ public:
     {
         m_surplus.close();
         m_kept.close();
-        // A second try, since what was in the way may have passed: nobody looks for the file under the other name.
+        // A second try, since the obstacle may have been temporary, and the user would not look for the file under the
+        // temporary name.
         for (int attempt = 0; attempt < 2; ++attempt) {
             if (renameExclusively(m_asidePath, m_item.file.path) == FileFault::None)
                 return {problem, {}};
@@ -85,7 +86,7 @@ public:
     }
 
 private:
-    /// Whether the name under which the file is set aside shows in the kept file's folder, too: then both folders are
+    /// Whether the name under which the file is set aside appears in the kept file's folder, too: then both folders are
     /// one, and so are files of one name. A file system on top of another may remember a name that is gone, but not one
     /// that it has never seen.
     [[nodiscard]] bool isBesideKept() const

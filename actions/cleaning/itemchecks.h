@@ -16,12 +16,12 @@ namespace Mirrix {
 [[nodiscard]] bool isAsScanned(const PathState &state, const ScannedFile &file);
 
 /// Whether the surplus file is a plain file of the size, time and (where the scan noted it) number that the scan saw,
-/// and so is the kept one, and both are two files as far as the system can tell. Two looks at the disk. `surplus`,
-/// where given, gets what the surplus file is.
+/// and so is the kept one, and both are two files as far as the system knows. Asks the disk twice. `surplus`, where
+/// given, gets what the surplus file is.
 [[nodiscard]] QString itemProblem(const CleaningItem &item, PathState *surplus = nullptr);
 
-/// Whether the kept file stands where it should once the surplus file has left its place: had both paths led to one
-/// file by way of mounts, links or letter case, it is gone now. Empty for an item without a kept file.
+/// Whether the kept file is where it should be once the surplus file has left its place: had both paths led to one file
+/// by way of mounts, links or letter case, it is gone now. Empty for an item without a kept file.
 [[nodiscard]] QString keptProblem(const CleaningItem &item, VolumeTraits &volumes);
 
 /// Whether both, still at their places, agree in their sample blocks, at most 20 KiB each, or in all bytes. Nothing is

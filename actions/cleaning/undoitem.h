@@ -8,7 +8,7 @@
 
 namespace Mirrix {
 
-/// What bringing one file back came to.
+/// The outcome of restoring one file.
 struct UndoneItem
 {
     QString problem;     ///< why it is not back, translated; empty when it is

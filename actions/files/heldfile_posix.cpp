@@ -20,8 +20,8 @@ struct HeldFile::State
     bool isInUse = false;
     bool hasLease = false;
 
-    /// A read lease is refused while anybody has the file open for writing, and makes whoever wants to open it so wait
-    /// until it is given back. It catches writes that fall into one tick of the clock behind the change time.
+    /// A read lease is refused while any process has the file open for writing, and makes one that opens it for writing
+    /// wait until it is given back. It catches writes that fall into one tick of the clock behind the change time.
     [[nodiscard]] bool takeLease()
     {
         // When the lease is to be given back, the system sends a signal; this one is ignored unless somebody asks for

@@ -18,7 +18,7 @@ struct HeldFile::State
 
     [[nodiscard]] bool openWith(const std::wstring &path, DWORD access)
     {
-        // Only readers may share it: nobody writes, renames or deletes it while it is held.
+        // Only readers may share it, so that no other program writes, renames or deletes it while it is held.
         file = UniqueHandle(CreateFileW(path.c_str(), access, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
                                         FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
         isInUse = !file && GetLastError() == ERROR_SHARING_VIOLATION;

@@ -24,12 +24,13 @@ bool openWhole(FileReader &reader, const QString &path)
     return true;
 }
 
-/// Removes a file whose copy is on the disk, unless it was written into meanwhile. False when it is still there.
+/// Removes a file whose copy is on the disk, unless it has been written to since. False when it is still there.
 bool removeCopied(const QString &path, const PathState &before)
 {
     if (pathState(path).isSameFileAs(before) && removeFile(path) == FileFault::None)
         return true;
-    // Another took it away, or a network drive did as told and says otherwise: then the copy is all there is.
+    // Another program removed it, or a network drive removed it and still reported an error: then the copy is all there
+    // is.
     return pathState(path).kind == PathState::Kind::Missing;
 }
 

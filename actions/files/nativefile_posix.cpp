@@ -90,7 +90,7 @@ std::optional<FileFault> linkAndUnlink(const QByteArray &from, const QByteArray 
 enum class Claim
 {
     Held,
-    Lost, ///< another file stands there, or somebody has written into ours
+    Lost, ///< another file is there, or another program has written into ours
     Unknown
 };
 

@@ -24,7 +24,7 @@ struct RecycleBin
     /// Whether the file would really go into a bin; when not, `send` would delete it for good or take more than it.
     std::function<bool(const QString &path)> canTake;
 
-    /// Sends existing files. The disk, not the answer, tells the outcome for each.
+    /// Sends existing files. The disk, not the answer, shows the outcome for each.
     std::function<Answer(const QStringList &paths)> send;
 
     /// Puts a file back that was just sent, from `placed` where that is known. False when it stays in the bin.

@@ -28,7 +28,7 @@ bool isPrivateFolder(const QByteArray &path)
     return lstat(path.constData(), &info) == 0 && S_ISDIR(info.st_mode) && info.st_uid == geteuid();
 }
 
-/// Others may write into a volume's topmost folder, so what stands there already must be ours. Looked for first: making
+/// Others may write into a volume's topmost folder, so what exists there already must be ours. Looked for first: making
 /// a folder that is there costs several times as much.
 bool makePrivateFolder(const QString &path)
 {
@@ -91,7 +91,7 @@ FileFault throwInto(const BinFolder &trash, const QString &path, QString &placed
     return fault;
 }
 
-/// A home without a usable trash belongs to no desktop: nobody would look for the file elsewhere either.
+/// A home without a usable trash belongs to no desktop session, so no user would look for the file elsewhere either.
 bool canTake(const QString &)
 {
     const QString trash = homeTrash().folder;

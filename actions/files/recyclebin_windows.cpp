@@ -126,7 +126,7 @@ RecycleBin::Answer callShell(const QStringList &paths)
     return {code, operation.fAnyOperationsAborted != FALSE};
 }
 
-/// The shell wants a thread with a single-threaded apartment; that of the caller may have another.
+/// The shell needs a thread with a single-threaded apartment; the caller's thread may have another kind.
 RecycleBin::Answer send(const QStringList &paths)
 {
     RecycleBin::Answer answer;

@@ -17,7 +17,7 @@ namespace Mirrix {
 
 namespace {
 
-/// Takes the records of one journal in their order, the files only where they are wanted.
+/// Takes the records of one journal in their order, the files only where they are asked for.
 class JournalReplay
 {
 public:

@@ -63,7 +63,7 @@ bool writeEntryFile(const QString &entryPath, const QByteArray &text)
     const auto remove = [&] { return std::filesystem::remove(filesystemPath(entryPath), failure); };
     if (!openNatively(file, entryPath, mode) && !(remove() && openNatively(file, entryPath, mode)))
         return false;
-    if (file.write(text) != text.size()) // a full disk: half an entry is none, and only in the way
+    if (file.write(text) != text.size()) // a full disk: half an entry is useless, and would block a good one
         remove();
     return true;
 }

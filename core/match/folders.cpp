@@ -120,7 +120,7 @@ private:
         }
     }
 
-    /// Whether its number tells it from all other files, and others may share it.
+    /// Whether the file's number on its volume identifies it, and it has other names.
     static bool hasFurtherNames(const FileEntry &file)
     {
         return file.hasFileId && file.fileIndex != 0 && file.linkCount > 1;

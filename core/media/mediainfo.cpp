@@ -55,13 +55,14 @@ const Library *library()
     return isLoaded ? &functions : nullptr;
 }
 
-/// Hands the file to the library piece by piece, from where it wants to read. It could open the file itself, but not
+/// Hands the file to the library piece by piece, from the offsets it asks for. It could open the file itself, but not
 /// under every name, and on Linux only under names that suit the locale.
 void feed(const Library &functions, void *handle, FileReader &reader)
 {
     constexpr qint64 pieceBytes = 64 * 1024;
-    constexpr qint64 mostBytes = 256 * 1024 * 1024; // a head and a tail are a few; a broken file may want more and more
-    constexpr size_t isFinished = 8;                // bit 3 of the answer
+    // A head and a tail are a few MiB; a broken file could make the library ask for more without end.
+    constexpr qint64 mostBytes = 256 * 1024 * 1024;
+    constexpr size_t isFinished = 8; // bit 3 of the answer
     constexpr auto nowhere = static_cast<quint64>(-1);
     const qint64 size = reader.sizeBytes();
     std::vector<char> piece(pieceBytes);

@@ -18,7 +18,7 @@ public:
 };
 
 /// Puts a filter in front of the C library's standard error, once and for good, that drops what is written while
-/// QuietDecoding::isActive. Where writers cannot be told apart all of it is dropped from then on.
+/// QuietDecoding::isActive. Where writers cannot be distinguished all of it is dropped from then on.
 void filterCStandardError();
 
 } // namespace MirrixCore

@@ -161,7 +161,7 @@ struct ScanOptions
     qint32 keepRule = 0;
     qint64 largeFileMinBytes = 104857600;
 
-    // The numbers above as what they stand for. A number outside its enumeration gives a value that no case handles.
+    // The numbers above as enumerations. A number outside its enumeration gives a value that no case handles.
     [[nodiscard]] SearchMode mode() const { return static_cast<SearchMode>(searchMode); }
     [[nodiscard]] ContentMatch contentMatching() const { return static_cast<ContentMatch>(contentMatch); }
     [[nodiscard]] AudioDepth audioDepth() const { return static_cast<AudioDepth>(mediaCompareDepth); }

@@ -51,7 +51,7 @@ bool FileReader::open(const QString &path)
     m_state->closeFile();
     m_state->readCount = 0;
     m_state->info = {};
-    // Without O_NONBLOCK, a pipe that took the file's place since the walk would block for ever.
+    // Without O_NONBLOCK, a pipe that took the file's place since the walk would block forever.
     m_state->descriptor = openPath(pathBytes(path), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
     return m_state->descriptor >= 0 || m_state->fail(errno);
 }

@@ -27,7 +27,7 @@ FileReader &FileReader::operator=(FileReader &&) noexcept = default;
 bool FileReader::open(const QString &path)
 {
     m_state->readCount = 0;
-    // Without the flag for backup semantics a folder cannot be opened, which is what is wanted.
+    // Without the flag for backup semantics a folder cannot be opened, as intended.
     m_state->file = UniqueHandle(CreateFileW(longPath(path).c_str(), GENERIC_READ,
                                              FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                                              OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));

@@ -10,7 +10,7 @@ namespace MirrixCore {
 
 namespace {
 
-/// The view that the current thread reads, and where to go on when reading it faults.
+/// The view that the current thread reads, and where to continue when reading it faults.
 struct ViewGuard
 {
     const char *begin = nullptr;

@@ -10,7 +10,7 @@ namespace MirrixCore {
 
 int creatableThreads(int wanted)
 {
-    // All at once, as they will be needed. Not by std::latch, with which the MinGW library sometimes waits for ever.
+    // All at once, as they will be needed. Not by std::latch, with which the MinGW library sometimes waits forever.
     std::mutex mutex;
     std::condition_variable changed;
     bool mayEnd = false;

@@ -146,7 +146,7 @@ private:
         }
     }
 
-    /// By way of their folders, which tell of a file what the walk needs without opening or following it.
+    /// Through their folders, which list what the walk needs to know of a file without opening or following it.
     void takeSingleFiles()
     {
         QMap<QString, NamesByKey> wanted; // by folder
@@ -190,7 +190,7 @@ private:
             note(childPath(folder, name), error.isEmpty() ? QStringLiteral("no such file") : error);
     }
 
-    /// Whether single files of `folder` are left out with it: nobody has named it or those above it as roots.
+    /// Whether single files of `folder` are left out with it: neither it nor a folder above it is a root.
     bool isLeftOutWhole(const QString &folder, const QString &realPath) const
     {
         const QStringList above = folder.split(QLatin1Char('/'), Qt::SkipEmptyParts);
@@ -316,8 +316,8 @@ private:
             m_stack[m_stack.size() - 1 - mostOpenFolders].reader.release();
     }
 
-    /// Whether a folder link leads anywhere but back to a folder that is being walked. Noted as unread when that cannot
-    /// be told, since following it might never end.
+    /// Whether a folder link leads elsewhere than back to a folder that is being walked. Noted as unread when that is
+    /// unknown, since following it might never end.
     bool mayFollow(const QString &path)
     {
         const FileStatus target = fileStatus(path);

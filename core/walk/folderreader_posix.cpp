@@ -43,10 +43,10 @@ qint64 epochMs(const statx_timestamp &time)
     return epochMsFrom(time.tv_sec, time.tv_nsec);
 }
 
-/// Fills `item` from the file `name` below the open folder. False when the entry has vanished meanwhile.
+/// Fills `item` from the file `name` below the open folder. False when the entry has vanished since.
 bool readItem(int folder, const char *name, FolderItem &item)
 {
-    // statx rather than fstatat: it alone tells when a file was created.
+    // statx rather than fstatat: it alone returns when a file was created.
     struct statx info = {};
     constexpr unsigned wanted = STATX_BASIC_STATS | STATX_BTIME;
     if (statx(folder, name, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT, wanted, &info) != 0) {

@@ -66,7 +66,7 @@ private slots:
         const TempTree tree;
         const QByteArray content = patternBytes(mib);
         tree.writeAll(u"a b"_s, content);
-        tree.write(u"lastbyte"_s, withByteChanged(content, mib - 1)); // told by its tail
+        tree.write(u"lastbyte"_s, withByteChanged(content, mib - 1)); // differs in its tail
         tree.write(u"behindhead"_s, withByteChanged(content, quickWindowBytes));
         tree.write(u"beforetail"_s, withByteChanged(content, mib - quickWindowBytes - 1));
         tree.writeAll(u"empty1 empty2"_s, "");
@@ -355,7 +355,7 @@ private slots:
         QCOMPARE(phases, QStringList({Phase::Enumerating, Phase::QuickHash, Phase::FullHash}));
     }
 
-    /// Nothing shows better that a file was not read than content that nobody notices.
+    /// Nothing shows better that a file was not read than changed content that stays unnoticed.
     void readsAgainOnlyWhatWasTouched()
     {
         const TempTree cache;

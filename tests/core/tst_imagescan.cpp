@@ -115,7 +115,7 @@ private slots:
         write(u"b.png"_s, encoded(scene(1)));
         m_tree->setModified(u"photos/b.png"_s, 1600000000000);
         QCOMPARE(groups(), u"a.png b.png"_s);
-        // What nobody can know to be no picture without reading it.
+        // What cannot be recognised as no picture without reading it.
         write(u"b.png"_s, QByteArray(encoded(scene(1)).size(), 'x'));
         m_tree->setModified(u"photos/b.png"_s, 1600000000000);
         QCOMPARE(groups(), u"a.png b.png"_s);

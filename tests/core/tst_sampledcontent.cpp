@@ -102,7 +102,7 @@ private slots:
         QCOMPARE(totals[Phase::PrefixHash], 2);
     }
 
-    /// Files of one size and opening whose samples differ stay apart, whoever else is there.
+    /// Files of one size and opening whose samples differ stay apart, whatever other files there are.
     void keepsDifferentSamplesApart()
     {
         const TempTree tree;

@@ -31,8 +31,8 @@ struct RemovalChoice
 /// What the dialog starts with.
 [[nodiscard]] RemovalChoice initialRemovalChoice(const Settings &settings);
 
-/// Asks how a number of files are to be removed. Does nothing itself and tests nothing: whoever opened it reads the
-/// choice after it was accepted.
+/// Asks how a number of files are to be removed. Does nothing itself and tests nothing: the caller reads the choice
+/// after it was accepted.
 class FileRemovalDialog : public QDialog
 {
     Q_OBJECT

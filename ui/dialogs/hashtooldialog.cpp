@@ -302,7 +302,7 @@ void HashToolDialog::computeRows(bool onlyMissing)
     {
         const TableFreeze freeze(*m_table);
         for (const Task &task : std::as_const(tasks)) {
-            // Of a file that cannot be read nothing is known any more; one that was not reached stays as it was.
+            // The old values of a file that cannot be read are cleared; one that was not reached stays as it was.
             if (task.hash.isEmpty() && !isWhole)
                 continue;
             task.row->setText(HashColumn, task.hash);
@@ -433,7 +433,7 @@ void HashToolDialog::dropEvent(QDropEvent *event)
     }
     event->setDropAction(Qt::CopyAction);
     event->accept();
-    // Whoever drags waits until this returns.
+    // The program that the files are dragged from waits until this returns.
     QMetaObject::invokeMethod(
         this, [this, paths] { addPaths(paths); }, Qt::QueuedConnection);
 }

@@ -15,7 +15,7 @@ class Prompts;
 struct Settings;
 
 /// What the cleaning history offers, with the questions before and the account after. Each command returns when it is
-/// over, and whether records may have changed; work on files goes on off the interface thread meanwhile.
+/// over, and whether records may have changed; work on files runs off the interface thread.
 class HistoryCommands
 {
 public:

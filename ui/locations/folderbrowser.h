@@ -13,7 +13,7 @@ class QTreeView;
 namespace Mirrix {
 
 /// The tree of the machine's folders with the arrow that hands the selected ones on. Folders are listed in a thread of
-/// the model's when they are opened, so that a dead network drive holds nobody up.
+/// the model's when they are opened, so that a dead network drive does not block the window.
 class FolderBrowser : public QWidget
 {
     Q_OBJECT

@@ -85,7 +85,7 @@ LocationTable::LocationTable(QWidget *parent)
     setTextElideMode(Qt::ElideMiddle);
     setWordWrap(false);
     setShowGrid(false);
-    setTabKeyNavigation(false); // Tab goes on to the switches and out of the table
+    setTabKeyNavigation(false); // Tab moves to the switches and out of the table
     setDragDropMode(DropOnly);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);

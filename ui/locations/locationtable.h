@@ -10,8 +10,8 @@ class QPushButton;
 
 namespace Mirrix {
 
-/// The scan locations, one row each with its own switches. A folder stands in it once; folders dropped from a file
-/// manager become rows.
+/// The scan locations, one row each with its own switches. A folder is listed once; folders dropped from a file manager
+/// become rows.
 class LocationTable : public QTableWidget
 {
     Q_OBJECT

@@ -73,7 +73,7 @@ signals:
     void removeRequested();
     void exportRequested();
 
-    /// Two pictures of one group should be compared; selectedFiles() tells which, and whether that is so.
+    /// Two pictures of one group should be compared; selectedFiles() says which, and whether that is so.
     void compareRequested();
 
     /// The user ticked or unticked something.

@@ -7,8 +7,8 @@
 namespace Mirrix {
 
 /// A tree over a GroupedModel that stays quick with 300,000 top rows. QTreeView lays every row out again at each change
-/// and would stand still for seconds with all of them expanded; so here "all expanded" is a promise, kept for the rows
-/// on screen and two pages around them. Clicks on the header sort the model, a third click gives the list's own order
+/// and would freeze for seconds with all of them expanded; so here "all expanded" is a promise, kept for the rows on
+/// screen and two pages around them. Clicks on the header sort the model, a third click gives the list's own order
 /// back.
 class ResultsTree : public QTreeView
 {

@@ -29,7 +29,7 @@ qsizetype keptFile(const SelectionMarks &marks, qsizetype group, const QList<Fil
     return first;
 }
 
-/// Whether a copy stays that nobody empties away.
+/// Whether a copy stays outside of bins, backups and snapshots, which may be emptied.
 bool keepsCopy(const SelectionMarks &marks, qsizetype group, const QList<FileEntry> &files)
 {
     const qsizetype kept = keptFile(marks, group, files);

@@ -37,8 +37,8 @@ bool openRaw(const QString &path, QBuffer &encoded)
     return !bytes.isEmpty() && encoded.open(QIODevice::ReadOnly);
 }
 
-/// What decoding takes. Drawings are drawn as small as they are wanted; Qt itself keeps to its limit where the size is
-/// not known before.
+/// What decoding takes. Drawings are drawn at the size asked for; Qt itself keeps to its limit where the size is not
+/// known before.
 qint64 wantedBytes(const QImageReader &reader, QSize size)
 {
     constexpr qint64 mega = 1024 * 1024;

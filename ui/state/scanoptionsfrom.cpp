@@ -165,7 +165,7 @@ void addModeRules(const RulesState &rules, ScanOptions &options)
     }
 }
 
-/// What an empty list of wanted extensions stands for in a mode.
+/// What an empty list of extensions means in a mode.
 QStringList extensionsOfMode(qint32 mode, bool withRaw)
 {
     const auto searchMode = static_cast<MirrixCore::SearchMode>(mode);

@@ -25,7 +25,7 @@ public:
     [[nodiscard]] bool isVisible() const;
     void hide();
 
-    /// Tells that the program goes on without its window.
+    /// Notifies the user that the program keeps running without its window.
     void tellStillRunning();
 
     void setToolTip(const QString &text);
