@@ -19,7 +19,7 @@ void undecidePortable();
 [[nodiscard]] bool hasPortableSwitch(const QStringList &arguments);
 
 /// Whether data lies beside the executable: as decided, else by the switch in the command line, else by a marker file
-/// "Mirrix.portable" or "portable.txt" beside the executable. Not remembered.
+/// "Mirrix.portable" or "portable.txt" beside the executable. Not cached.
 [[nodiscard]] bool isPortable();
 
 /// The folder of everything the program writes for itself. Not created here.

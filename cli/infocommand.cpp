@@ -43,7 +43,7 @@ QHash<QString, FileEntry> entriesOf(const QStringList &paths, QList<UnreadPath> 
     return entries;
 }
 
-/// The remembered digests that describe the file as it is now, one object for each algorithm.
+/// The cached digests that describe the file as it is now, one object for each algorithm.
 QJsonArray digestsOf(const FileEntry &file)
 {
     QJsonArray digests;

@@ -184,7 +184,7 @@ void refuseUnwritable(const QString &path)
         throw UsageError{QStringLiteral("cannot write %1: %2").arg(path, probe.errorText())};
 }
 
-/// Turns the cache on, and says so when it can remember nothing new.
+/// Turns the cache on, and reports when nothing new can be stored in it.
 void useCache(const QString &dataDirectory)
 {
     setCacheRoot(dataDirectory);

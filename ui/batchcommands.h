@@ -50,10 +50,10 @@ public:
     /// Puts files back that the user chooses from the backup folder of the settings.
     void restoreBackup();
 
-    /// Whether a command is under way, its boxes included.
+    /// Whether a command is running, its boxes included.
     [[nodiscard]] bool isBusy() const { return m_isBusy; }
 
-    /// Asks the batch under way, if any, to stop after the current file.
+    /// Asks the running batch, if any, to stop after the current file.
     void stop() { emit stopRequested(); }
 
 signals:
@@ -89,9 +89,9 @@ private:
     [[nodiscard]] CleaningPlan planFor(CleaningMethod method) const;
 
     /// The box at the end of a run.
-    void tellDone(const QString &text, const CleaningResult &result);
+    void showDone(const QString &text, const CleaningResult &result);
 
-    /// The ticked files once the user has said what is to happen to groups of which no copy would stay. Nothing when
+    /// The ticked files once the user has said what is to happen to groups of which no copy would stay. No value when
     /// there are none, which `noneText` tells the user, or when the user cancels.
     [[nodiscard]] std::optional<CheckedFiles> filesToClean(const QString &noneText);
 

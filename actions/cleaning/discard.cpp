@@ -32,7 +32,7 @@ public:
         , m_asidePath(asidePath)
     {}
 
-    /// What speaks against removing the file; everything up to the flush.
+    /// Why the file may not be removed, everything up to the flush checked; empty when it may.
     [[nodiscard]] QString proofProblem(DurableFiles &durable, VolumeTraits &volumes, const StopQuery &isStopped)
     {
         QString problem = isBesideKept() ? sameFileText(m_item.file.path) : keptProblem(m_item, volumes);
@@ -61,6 +61,7 @@ public:
             if (!problem.isEmpty())
                 return problem;
         }
+        // A network drive may remove the file and report an error.
         if (m_surplus.remove(m_asidePath) || pathState(m_asidePath).kind == PathState::Kind::Missing)
             return {};
         if (isLinking(m_method) && leadsTo(m_item.file.path, linkTarget())) // ours, not another program's
@@ -73,7 +74,7 @@ public:
 
     [[nodiscard]] CleaningOutcome putBack(const QString &problem)
     {
-        m_surplus.close();
+        m_surplus.close(); // Windows does not rename a file that is open
         m_kept.close();
         // A second try, since the obstacle may have been temporary, and the user would not look for the file under the
         // temporary name.
@@ -110,7 +111,7 @@ private:
         return {};
     }
 
-    /// Whether both still are what was compared, at their places.
+    /// Whether both are still what was compared, and in their places.
     [[nodiscard]] QString changeProblem() const
     {
         if (!m_surplus.isUnchanged())
@@ -126,7 +127,7 @@ private:
         const bool isMade = m_method == CleaningMethod::HardLink
                                 ? createHardLink(m_item.file.path, linkTarget(), &problem)
                                 : createSymbolicLink(m_item.file.path, linkTarget(), &problem);
-        // Between the last look at the kept file and the making of the link another may have taken its place.
+        // Between the last check of the kept file and the creation of the link, another file may have taken its place.
         if (isMade && m_kept.isAt(m_item.kept.path))
             return {};
         if (isMade)
@@ -155,6 +156,8 @@ CleaningOutcome discard(const CleaningItem &item, CleaningMethod method, const Q
         problem = accessProblem(item.file.path, item.kept.path);
     if (!problem.isEmpty())
         return {problem, {}};
+    // Set aside before the proof: if the kept path leads to this very file, it is gone now; and another program with
+    // the opposite rule can no longer find this file as its kept copy.
     if (before.isUndeletable || renameExclusively(item.file.path, asidePath) != FileFault::None)
         return {undeletableText(item), {}};
     Discard step(item, method, asidePath);

@@ -10,7 +10,7 @@
 namespace Mirrix {
 
 // What a scan found may no longer be so when it is acted on. Texts are translated and name the file; empty means that
-// nothing speaks against acting. Nothing is changed on the disk. Thread-safe.
+// the file may be processed. Nothing is changed on the disk. Thread-safe.
 
 /// Whether `state` is that of the plain file that the scan saw.
 [[nodiscard]] bool isAsScanned(const PathState &state, const ScannedFile &file);
@@ -24,11 +24,11 @@ namespace Mirrix {
 /// by way of mounts, links or letter case, it is gone now. Empty for an item without a kept file.
 [[nodiscard]] QString keptProblem(const CleaningItem &item, VolumeTraits &volumes);
 
-/// Whether both, still at their places, agree in their sample blocks, at most 20 KiB each, or in all bytes. Nothing is
+/// Whether both, still in their places, agree in their sample blocks, at most 20 KiB each, or in all bytes. Nothing is
 /// looked at where the group is not one of equal contents.
 [[nodiscard]] QString contentProblem(const CleaningItem &item, bool comparesWholeContents, const StopQuery &isStopped);
 
-/// Whether a link to `target` may take the place of `file`: with another owner or other permissions, somebody would
+/// Whether a link to `target` may take the place of `file`: with another owner or other permissions, some user would
 /// gain or lose access.
 [[nodiscard]] QString accessProblem(const QString &file, const QString &target);
 

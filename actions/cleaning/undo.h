@@ -22,7 +22,7 @@ struct UndoStep
 struct UndoPlan
 {
     StoredRun run;
-    QList<UndoStep> steps;      ///< for each file that is not at its place because of the run, in the run's order
+    QList<UndoStep> steps;      ///< for each file that is not in its place because of the run, in the run's order
     QList<qsizetype> home = {}; ///< files that are back though the run's record does not say so
     QString backupFolder = {};  ///< as given to planUndo
 };
@@ -35,7 +35,7 @@ struct UndoPlan
 [[nodiscard]] CleaningMethod cleaningMethod(const RunHeader &run);
 
 /// Reads a run and looks where its files are; contents are not read. Files that the run did not touch, that are back
-/// already or that stand at their place have no step. What an interrupted run did with a file is found out from the
+/// already or that are in their places have no step. What an interrupted run did with a file is found out from the
 /// disk. For a run that was an undo itself the steps are to remove the files again, if nothing has changed since. Not
 /// for journals that cannot be read: see run.summary. `backupFolder` is that of the settings, where backups are looked
 /// for, too, when the run's own folder is gone. Blocks; cancelled by `progress`: then the steps are not all.

@@ -17,7 +17,7 @@ struct UndoSource
     enum class Way
     {
         None,   ///< the run did nothing with it, or it was undone
-        Home,   ///< it is at its place again, which the record does not know
+        Home,   ///< it is in its place again, which the record does not say
         Backup, ///< from the backup folder
         Folder, ///< from where it was moved
         Aside,  ///< from the name it was set aside under

@@ -39,13 +39,13 @@ struct BinEntry
 };
 
 /// What a note in a trash says, given the text of a .trashinfo file: original and deletedMs (to the second, from local
-/// time). A relative path counts from `top`. Nothing when it names no path.
+/// time). A relative path counts from `top`. No value when it names no path.
 [[nodiscard]] std::optional<BinEntry> readTrashNote(QByteArrayView text, const QString &top);
 
 /// The same of a $I file of Windows Vista or later.
 [[nodiscard]] std::optional<BinEntry> readRecycleNote(QByteArrayView bytes);
 
-/// The entry of the file `filePath` that lies in a bin. Nothing when it or its note is not there.
+/// The entry of the file `filePath` that lies in a bin. No value when it or its note is not there.
 [[nodiscard]] std::optional<BinEntry> binEntryAt(const QString &filePath);
 
 /// This user's bins that may hold a file that lay at `path`. They need not exist.

@@ -70,8 +70,8 @@ qint64 HeldFile::readAt(qint64 offset, char *buffer, qint64 length)
         place.Offset = static_cast<DWORD>(position);
         place.OffsetHigh = static_cast<DWORD>(position >> 32);
         DWORD count = 0;
-        const auto wanted = static_cast<DWORD>(std::min<qint64>(length - done, 1 << 30));
-        if (!ReadFile(m_state->file.get(), buffer + done, wanted, &count, &place))
+        const auto requested = static_cast<DWORD>(std::min<qint64>(length - done, 1 << 30));
+        if (!ReadFile(m_state->file.get(), buffer + done, requested, &count, &place))
             return GetLastError() == ERROR_HANDLE_EOF ? done : -1;
         if (count == 0)
             break;
@@ -100,6 +100,7 @@ bool HeldFile::flush()
 
 bool HeldFile::remove(const QString &path)
 {
+    // By its handle, so that no other file is hit that has taken the path. Deleted once the handle is closed.
     FILE_DISPOSITION_INFO disposition = {};
     disposition.DeleteFile = TRUE;
     const bool isMarked =

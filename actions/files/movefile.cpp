@@ -52,12 +52,12 @@ FileFault moveFile(const QString &from, const QString &to)
     const FileFault renamed = renameExclusively(from, to);
     if (renamed != FileFault::OtherVolume)
         return renamed;
-    if (before.isUndeletable)
+    if (before.isUndeletable) // a copy would be made whose source cannot be removed
         return FileFault::Failed;
     const FileFault copied = copyFile(from, to);
     if (copied != FileFault::None || removeCopied(from, before))
         return copied;
-    static_cast<void>(removeOwnCopy(to));
+    static_cast<void>(removeOwnCopy(to)); // the source is still there, perhaps with newer content
     return FileFault::Failed;
 }
 
@@ -68,6 +68,7 @@ FileFault restoreFile(const QString &from, const QString &to, bool &isLeft)
     if (before.kind != PathState::Kind::File)
         return before.kind == PathState::Kind::Missing ? FileFault::Missing : FileFault::Failed;
     const FileFault renamed = renameExclusively(from, to);
+    // On a read-only volume the rename fails, but copying works.
     if (renamed != FileFault::OtherVolume && renamed != FileFault::Failed)
         return renamed;
     const FileFault copied = copyFile(from, to);
@@ -77,14 +78,16 @@ FileFault restoreFile(const QString &from, const QString &to, bool &isLeft)
 
 FileFault copyFile(const QString &from, const QString &to)
 {
-    const QString passing = temporaryName(to, QStringLiteral(".part"));
-    FileFault fault = copyToNewFile(from, passing);
+    // Under a temporary name, so that a crash leaves no half copy that looks like the file.
+    const QString partPath = temporaryName(to, QStringLiteral(".part"));
+    FileFault fault = copyToNewFile(from, partPath);
     if (fault != FileFault::None)
         return fault;
-    fault = haveSameContent(from, passing) ? renameExclusively(passing, to) : FileFault::Failed;
+    fault = haveSameContent(from, partPath) ? renameExclusively(partPath, to) : FileFault::Failed;
+    // The new name must be on the disk, too, before a caller removes the source.
     if (fault == FileFault::None && flushFolder(folderOf(to)))
         return FileFault::None;
-    static_cast<void>(removeOwnCopy(fault == FileFault::None ? to : passing));
+    static_cast<void>(removeOwnCopy(fault == FileFault::None ? to : partPath));
     return fault == FileFault::None ? FileFault::Failed : fault;
 }
 
@@ -98,6 +101,7 @@ bool makeFolders(const QString &path)
     const QString parent = folderOf(folder);
     if (parent != folder && !parent.isEmpty() && !makeFolders(parent))
         return false;
+    // Another program may have made it in between.
     return makeFolder(folder) == FileFault::None ||
            MirrixCore::fileStatus(folder).kind == MirrixCore::FileStatus::Kind::Folder;
 }

@@ -88,7 +88,7 @@ bool copyAroundHoles(int from, int to, off_t begin, off_t size)
             return false;
         begin = lseek(from, end, SEEK_DATA);
     }
-    if (errno != ENXIO)
+    if (errno != ENXIO) // which means that only a hole follows
         return false;
     // Not all file systems lengthen a file without a byte being written.
     return ftruncate(to, size) == 0 || pwrite(to, "", 1, size - 1) == 1;
@@ -154,10 +154,12 @@ bool copyAttributes(int from, int to, const struct stat &info, const FileMarks *
 
 FileFault copyToNewFile(const QString &from, const QString &to, const FileMarks *marks)
 {
+    // A link that has taken the file's place is not followed, and a pipe does not block.
     const Descriptor source(openPath(pathBytes(from), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
     struct stat info = {};
     if (source.get() < 0 || fstat(source.get(), &info) != 0 || !S_ISREG(info.st_mode))
         return FileFault::Failed;
+    // For this user alone until the source's permissions are set.
     Descriptor target(openPath(pathBytes(to), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
     if (target.get() < 0)
         return errno == EEXIST ? FileFault::Occupied : FileFault::Failed;

@@ -132,6 +132,7 @@ QList<BackupEntry> locatedEntries(const QString &folder, bool *isRead)
 
 BackupEntry locatedEntry(const QString &folder, const BackupEntry &entry)
 {
+    // Only the name is taken from the entry: the folder may have been moved, and the index is not trusted.
     BackupEntry located = entry;
     const QString name = fileNameOf(entry.backup);
     const QString besideIndex = joinedPath(MirrixCore::cleanedPath(MirrixCore::absolutePath(folder)), name);
@@ -144,7 +145,7 @@ BackupEntry locatedEntry(const QString &folder, const BackupEntry &entry)
 bool hasBackupFile(const BackupEntry &located)
 {
     const PathState::Kind kind = pathState(located.backup).kind;
-    return kind == PathState::Kind::File || kind == PathState::Kind::Unknown;
+    return kind == PathState::Kind::File || kind == PathState::Kind::Unknown; // what cannot be read is not gone
 }
 
 QList<BackupEntry> restorableEntries(const QString &folder, bool *isRead)

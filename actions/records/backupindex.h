@@ -57,7 +57,7 @@ bool saveBackupIndex(const QString &folder, const QList<BackupEntry> &entries);
 class BackupIndexSession
 {
 public:
-    /// Makes the folder as needed and waits some seconds for other programs to be done with it.
+    /// Makes the folder as needed and waits some seconds for other programs to finish with it.
     explicit BackupIndexSession(const QString &folder);
 
     /// Writes what was there and `planned`. False when the folder is in use or cannot be written: then nothing may be

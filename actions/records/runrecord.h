@@ -10,7 +10,7 @@
 
 namespace Mirrix {
 
-// What is kept about one cleaning run: what it was, the files it was to act on, and what was done with each.
+// The record of one cleaning run: what it was, the files it was to act on, and what was done with each.
 
 /// The method of a run that removed empty folders; its items are these.
 inline const QString emptyFoldersMethod = QStringLiteral("empty-folders");

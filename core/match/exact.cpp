@@ -37,7 +37,7 @@ public:
             collectGroups(candidates, m_files, Shared::Full, true, result);
             finishContentGroups(result, m_context);
         }
-        m_writer.finish();
+        m_writer.finish(); // also when cancelled: what was hashed need not be hashed again
         result.unread = m_unread.take();
         return result;
     }

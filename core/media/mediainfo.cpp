@@ -78,13 +78,13 @@ void feed(const Library &functions, void *handle, FileReader &reader)
         const auto *bytes = reinterpret_cast<const quint8 *>(piece.data());
         if (functions.addBuffer(handle, bytes, static_cast<size_t>(count)) & isFinished)
             break;
-        const quint64 wanted = functions.nextOffset(handle);
-        if (wanted == nowhere)
+        const quint64 next = functions.nextOffset(handle);
+        if (next == nowhere)
             continue;
-        if (wanted >= static_cast<quint64>(size))
+        if (next >= static_cast<quint64>(size))
             break;
-        offset = static_cast<qint64>(wanted);
-        functions.beginBuffer(handle, static_cast<quint64>(size), wanted);
+        offset = static_cast<qint64>(next);
+        functions.beginBuffer(handle, static_cast<quint64>(size), next);
     }
     functions.endBuffer(handle);
 }

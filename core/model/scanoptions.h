@@ -38,7 +38,7 @@ enum class AudioDepth : qint32
     Whole = 0,
     First2MiB = 1,
     First512KiB = 2,
-    Exact = 3, ///< by the digests that exact scans remember
+    Exact = 3, ///< by the digests that exact scans cache
     IgnoreContent = 4
 };
 

@@ -22,7 +22,7 @@ int creatableThreads(int wanted)
                 std::unique_lock lock(mutex);
                 changed.wait(lock, [&] { return mayEnd; });
             });
-    } catch (const std::system_error &) { // what there is will do
+    } catch (const std::system_error &) { // as many as the system allows
     }
     {
         const std::lock_guard lock(mutex);

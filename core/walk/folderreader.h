@@ -35,12 +35,12 @@ struct FolderItem
 class FolderReader
 {
 public:
-    /// Opens `folder`, an absolute clean path. A link is followed only with `isLinkWanted`; where the system cannot
+    /// Opens `folder`, an absolute clean path. A link is followed only with `followsLink`; where the system cannot
     /// distinguish one when opening (Windows), it always is.
-    explicit FolderReader(const QString &folder, bool isLinkWanted = true);
+    explicit FolderReader(const QString &folder, bool followsLink = true);
 
     /// The same for a folder that lies in the one that `parent` reads, found from there while it is open.
-    FolderReader(const FolderReader &parent, const QString &folder, bool isLinkWanted);
+    FolderReader(const FolderReader &parent, const QString &folder, bool followsLink);
 
     ~FolderReader();
     FolderReader(FolderReader &&) noexcept;

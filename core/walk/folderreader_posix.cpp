@@ -72,9 +72,9 @@ bool isDots(const char *name)
     return name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'));
 }
 
-int openFlags(bool isLinkWanted)
+int openFlags(bool followsLink)
 {
-    return O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK | (isLinkWanted ? 0 : O_NOFOLLOW);
+    return O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK | (followsLink ? 0 : O_NOFOLLOW);
 }
 
 } // namespace
@@ -97,20 +97,20 @@ void FolderReader::State::start(int descriptor)
     }
 }
 
-FolderReader::FolderReader(const QString &folder, bool isLinkWanted)
+FolderReader::FolderReader(const QString &folder, bool followsLink)
     : m_state(std::make_unique<State>())
 {
-    m_state->start(openPath(pathBytes(folder), openFlags(isLinkWanted)));
+    m_state->start(openPath(pathBytes(folder), openFlags(followsLink)));
 }
 
-FolderReader::FolderReader(const FolderReader &parent, const QString &folder, bool isLinkWanted)
+FolderReader::FolderReader(const FolderReader &parent, const QString &folder, bool followsLink)
     : m_state(std::make_unique<State>())
 {
     if (DIR *above = parent.m_state->stream) {
         const QByteArray name = pathBytes(folder.mid(folder.lastIndexOf(QLatin1Char('/')) + 1));
-        m_state->start(openat(dirfd(above), name.constData(), openFlags(isLinkWanted)));
+        m_state->start(openat(dirfd(above), name.constData(), openFlags(followsLink)));
     } else {
-        m_state->start(openPath(pathBytes(folder), openFlags(isLinkWanted)));
+        m_state->start(openPath(pathBytes(folder), openFlags(followsLink)));
     }
 }
 
@@ -138,7 +138,7 @@ void FolderReader::release()
 bool FolderReader::State::read(FolderItem &item)
 {
     while (stream) {
-        errno = 0;
+        errno = 0; // readdir returns null at the end as well as on an error
         const dirent *entry = readdir(stream);
         if (!entry) {
             if (errno != 0)
@@ -148,6 +148,7 @@ bool FolderReader::State::read(FolderItem &item)
         if (isDots(entry->d_name))
             continue;
         item = FolderItem();
+        // Only files need their sizes and times; some file systems leave the kind of an entry unknown.
         const bool needsRead = entry->d_type == DT_REG || entry->d_type == DT_UNKNOWN;
         if (entry->d_type == DT_DIR)
             item.kind = FolderItem::Kind::Folder;

@@ -181,7 +181,7 @@ private slots:
         row("line break and backslash", u"a\nb\\c"_s, "a\nb\\c");
     }
 
-    /// Listed, looked up, read and remembered under just this name and no other.
+    /// Listed, looked up, read and cached under just this name and no other.
     void findsOddNames()
     {
         QFETCH(QString, name);
@@ -445,8 +445,8 @@ private slots:
         QVERIFY(cacheEntryOf(path).contains(u"full"_s));
     }
 
-    /// Entries that somebody else has made or damaged: links, pipes, folders, cut and changed texts. The digests of a
-    /// whole entry for the file's very state are the only ones that are believed.
+    /// Entries that others have made or damaged: links, pipes, folders, cut and changed texts. The digests of a whole
+    /// entry for the file's very state are the only ones that are believed.
     void survivesHostileCache()
     {
         // Done to an entry whose digests would make all files equal if they were believed.

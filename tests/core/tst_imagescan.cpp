@@ -94,7 +94,7 @@ private slots:
         write(u"b.png"_s, encoded(scaled(scene(1), 640, 400)));
         QCOMPARE(groups(), u"a.png b.png"_s);
         m_options.imageSameAspect = true;
-        QCOMPARE(groups(), QString()); // the features are remembered, the sizes are not
+        QCOMPARE(groups(), QString()); // the features are cached, the sizes are not
     }
 
     void rawFilesByTheirPreview()

@@ -150,7 +150,7 @@ private slots:
         const QString first = tree.path(u"a"_s);
         storeQuickAndFull(first, 30000, 1600000000000, quickHash(first), QByteArray(16, 'x'));
         QCOMPARE(scan(tree, SearchMode::Audio, 0).groups.size(), 0);
-        QCOMPARE(scan(tree, SearchMode::Audio, 1).groups.size(), 1); // openings are not remembered
+        QCOMPARE(scan(tree, SearchMode::Audio, 1).groups.size(), 1); // openings are not cached
     }
 };
 

@@ -47,7 +47,7 @@ private slots:
             }
         });
         QVERIFY(!dialog.isVisible() && dialog.isStopped());
-        QCOMPARE(done, 2); // the one under way was finished
+        QCOMPARE(done, 2); // the current one was finished
     }
 
     /// Last: no event loop runs after it.

@@ -132,7 +132,7 @@ private slots:
         for (int thread = 0; thread < 2; ++thread)
             pool->start([&gate] { gate.acquire(); });
         QTimer::singleShot(0, &scene.dialog, [&] {
-            scene.dialog.computeRows(false); // refused: one is under way
+            scene.dialog.computeRows(false); // refused: one is running
             emit part<QProgressDialog>(scene.dialog, u"HashProgress"_s)->canceled();
             gate.release(2);
         });

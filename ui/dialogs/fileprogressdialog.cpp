@@ -116,7 +116,7 @@ void runUnderProgress(FileProgressDialog &dialog, const std::function<void(const
     thread->start();
     if (!thread->wait(momentMs))
         dialog.exec();
-    if (thread->isRunning())
+    if (thread->isRunning()) // the application is ending, which closes dialogs
         dialog.stop();
     thread->wait();
 }

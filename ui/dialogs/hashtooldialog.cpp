@@ -74,7 +74,7 @@ public:
         : m_table(table)
         , m_blocker(table.model())
     {
-        // A sorted table would move its rows under the hands of who fills them.
+        // A sorted table would move its rows while they are filled.
         m_table.setSortingEnabled(false);
     }
     ~TableFreeze()
@@ -330,7 +330,7 @@ bool HashToolDialog::runTasks(QList<Task> &tasks, HashChoice choice)
     progress.setMinimumDuration(shownAfterMs);
     progress.setValue(0);
 
-    // A step waits for the one before: the dialog handles events while it paints, and would sink ever deeper.
+    // A step waits for the one before: the dialog handles events while it paints, and would recurse without end.
     const auto step = [&] {
         progress.setValue(count);
         isStepPosted = false;
@@ -419,7 +419,7 @@ void HashToolDialog::dragEnterEvent(QDragEnterEvent *event)
 {
     if (m_isBusy || !event->mimeData()->hasUrls())
         return;
-    event->setDropAction(Qt::CopyAction); // a move would make the giver delete the files
+    event->setDropAction(Qt::CopyAction); // after a move the source would delete the files
     event->accept();
 }
 

@@ -194,7 +194,7 @@ void LocationTable::addToggle(int row, Column column, bool LocationRow::*member)
     button->setCheckable(true);
     button->setFlat(true);
     button->setChecked(m_rows[row].*member);
-    const QString path = m_rows[row].path;
+    const QString path = m_rows[row].path; // not the row, which changes when others are removed
     connect(button, &QPushButton::toggled, this, [this, path, member](bool isOn) {
         const int index = indexOf(path);
         m_rows[index].*member = isOn;

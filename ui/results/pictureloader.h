@@ -47,7 +47,7 @@ private:
     void work();
 
     QMutex m_mutex; ///< for the members up to the pool
-    QList<PictureRequest> m_wanted;
+    QList<PictureRequest> m_pending;
     PictureReader m_readPicture = readPicture;
     FactsReader m_readFacts;
     int m_workers = 0;

@@ -28,7 +28,7 @@ class ScanFooter;
 class ThumbnailView;
 
 /// The third step: what the last scan found, with check boxes, a preview and the batch actions. Shows a ResultSet in
-/// place and writes the user's ticks into its marks; what is done with them is the owner's affair.
+/// place and writes the user's ticks into its marks; the owner decides what is done with them.
 class ResultsPage : public QWidget
 {
     Q_OBJECT

@@ -26,7 +26,7 @@ public:
     void hide();
 
     /// Notifies the user that the program keeps running without its window.
-    void tellStillRunning();
+    void notifyStillRunning();
 
     void setToolTip(const QString &text);
     void retranslate();

@@ -6,8 +6,8 @@ class QWidget;
 
 namespace Mirrix {
 
-/// What a window remembers from run to run: place, size, whether it is maximised, and the positions of those splitters
-/// and the widths of those columns in it that have an object name.
+/// What a window keeps from run to run: place, size, whether it is maximised, and the positions of those splitters and
+/// the widths of those columns in it that have an object name.
 ///
 /// Returns `earlier` updated to the present state; parts of the window that have not been shown keep what they had.
 [[nodiscard]] QJsonObject windowMemory(const QWidget &window, const QJsonObject &earlier);
