@@ -11,8 +11,8 @@ namespace MirrixCli {
 class ProgressLine
 {
 public:
-    /// Shows nothing unless `isWanted`.
-    explicit ProgressLine(bool isWanted = true);
+    /// Shows nothing unless `isShown`.
+    explicit ProgressLine(bool isShown = true);
     ~ProgressLine();
     ProgressLine(const ProgressLine &) = delete;
     ProgressLine &operator=(const ProgressLine &) = delete;

@@ -119,8 +119,7 @@ void addUndoOptions(QCommandLineParser &parser)
 {
     parser.addOption(
         {applyOption,
-         QStringLiteral(
-             "Bring the files back. Without it, nothing is changed; what would come back is only printed.")});
+         QStringLiteral("Bring the files back. Without it, nothing is changed; the files are only listed.")});
     parser.addPositionalArgument(QStringLiteral("RUN"),
                                  QStringLiteral("The run to undo, named as in \"history\", or \"last\"."));
 }

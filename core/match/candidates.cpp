@@ -8,7 +8,7 @@ namespace MirrixCore {
 
 namespace {
 
-/// Sorts short keys and then moves each candidate once: the candidates themselves are too long to be swapped about.
+/// Sorts short keys and then moves each candidate once: the candidates themselves are too large to be swapped often.
 void sortBy(Candidates &candidates, Digest Candidate::*digest)
 {
     std::vector<std::pair<quint64, quint32>> order(candidates.size());

@@ -63,7 +63,7 @@ private:
         if (file.size <= quickCoversBytes) {
             const SmallFileDigests digests = smallFileDigests(file.path, file.size, m_usesCache, &notes);
             candidate.full = Digest(m_unread.accepted(file, digests.full, notes));
-            candidate.quick = m_usesCache ? Digest(digests.quick) : candidate.full; // as distinctive, and computed
+            candidate.quick = m_usesCache ? Digest(digests.quick) : candidate.full; // it distinguishes as well
         } else {
             candidate.quick = Digest(m_unread.accepted(file, quickHash(file.path, &notes), notes));
         }

@@ -19,9 +19,9 @@ SegmentIndex::SegmentIndex(const std::vector<QString> &names, qint32 limit)
         m_lengths[name.size()];
     // For each name there are as many look-ups as pieces, shifts and lengths; a look-up costs as much as dismissing
     // several names.
-    constexpr qint64 namesPerLook = 8;
+    constexpr qint64 namesPerLookup = 8;
     const qint64 reach = std::min<qint64>(std::ssize(m_lengths), 2 * qint64(limit) + 1);
-    const bool mayCutFinely = (qint64(limit) + 2) * (qint64(limit) + 1) * reach * namesPerLook < std::ssize(names);
+    const bool mayCutFinely = (qint64(limit) + 2) * (qint64(limit) + 1) * reach * namesPerLookup < std::ssize(names);
     for (auto &[length, pieces] : m_lengths)
         pieces = piecesOf(length, mayCutFinely);
     size_t entries = 0;

@@ -198,6 +198,7 @@ private:
         const Digest before = std::exchange(member.digest, {});
         if (readSamples(file.path, file.size, samples, notes))
             member.digest = digestOf({samples, tile.sizeClass->sampledBytes});
+        // Read again for another tile: other samples mean that the file has changed during the scan.
         if (!before.isEmpty() && !member.digest.isEmpty() && member.digest != before) {
             notes.hasChanged = true;
             member.digest = {};

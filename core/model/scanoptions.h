@@ -79,8 +79,8 @@ struct ScanOptions
     // Where to look.
     QStringList roots; ///< folders or drive roots to walk
     QStringList files; ///< single files to take besides, if they pass the filters; with any, folders are not compared
-    /// Settings of roots. A root without an entry is walked whole; it is examined as the entries are when these all
-    /// want the same, else for content duplicates.
+    /// Settings of roots. A root without an entry is walked whole; it is examined as the entries are when these all ask
+    /// for the same, else for content duplicates.
     QList<ScanLocation> locations;
     bool showRemaining = false; ///< without locations: list all files that are in no group
     QStringList excludeFolders; ///< folders never entered

@@ -91,7 +91,7 @@ qint64 FileReader::readAt(qint64 offset, char *buffer, qint64 length)
             return -1;
         }
         done += count;
-        // Drives of the network and of programs may give less than asked before the end, too.
+        // Network and user file systems may return less than asked for before the end, too.
         if (count == 0 || (done < length && offset + done >= m_state->info.st_size))
             break;
     }

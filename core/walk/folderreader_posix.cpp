@@ -48,8 +48,8 @@ bool readItem(int folder, const char *name, FolderItem &item)
 {
     // statx rather than fstatat: it alone returns when a file was created.
     struct statx info = {};
-    constexpr unsigned wanted = STATX_BASIC_STATS | STATX_BTIME;
-    if (statx(folder, name, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT, wanted, &info) != 0) {
+    constexpr unsigned fields = STATX_BASIC_STATS | STATX_BTIME;
+    if (statx(folder, name, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT, fields, &info) != 0) {
         if (errno == ENOENT)
             return false;
         item.reason = systemErrorText(errno);

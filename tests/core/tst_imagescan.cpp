@@ -131,7 +131,7 @@ private slots:
     }
 
     /// Entries made for one request serve another, or are made again where they cannot.
-    void rememberedVariantsFitTheRequest()
+    void cachedVariantsFitTheRequest()
     {
         write(u"a.png"_s, encoded(scene(1)));
         write(u"b.png"_s, encoded(scene(1).transformed(QTransform().rotate(180))));
