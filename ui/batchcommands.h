@@ -20,7 +20,7 @@ struct RemovalChoice;
 struct Settings;
 
 /// What is done to all results at once: setting marks, and removing, backing up and restoring files with the questions
-/// before and the account after. Each command returns when it is over; until then the user can do nothing else in the
+/// before and the summary after. Each command returns when it is over; until then the user can do nothing else in the
 /// window, and a further command is ignored. Work on many files runs off the interface thread.
 class BatchCommands : public QObject
 {
@@ -92,13 +92,14 @@ private:
     void showDone(const QString &text, const CleaningResult &result);
 
     /// The ticked files once the user has said what is to happen to groups of which no copy would stay. No value when
-    /// there are none, which `noneText` tells the user, or when the user cancels.
+    /// there are none, in which case the user sees `noneText`, or when the user cancels.
     [[nodiscard]] std::optional<CheckedFiles> filesToClean(const QString &noneText);
 
     void backUpAndRemove(const CheckedFiles &files, const RemovalChoice &choice);
     void removeDirectly(const CheckedFiles &files, const RemovalChoice &choice);
     [[nodiscard]] BatchResult linkAtFreePaths(const CheckedFiles &files, const RemovalChoice &choice);
-    /// What may be put back, and what of it the user wants. Large, so made and freed off the interface thread.
+    /// The files that may be restored, and those that the user chose. Large, so made and freed off the interface
+    /// thread.
     struct RestoreList
     {
         QList<BackupEntry> entries;

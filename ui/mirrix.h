@@ -28,7 +28,7 @@ class WizardSidebar;
 namespace MirrixUi {
 
 /// The main window: the frame around the three pages of the wizard and the flow of one scan. It has a namespace of its
-/// own because that of the rest bears its name.
+/// own because the class has the same name as the others' namespace.
 class Mirrix : public QMainWindow
 {
     Q_OBJECT

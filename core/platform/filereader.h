@@ -36,7 +36,7 @@ public:
     /// How many calls of readAt have gone to the file since it was opened.
     [[nodiscard]] int readCount() const;
 
-    /// Tells the system that the file will be read from start to end.
+    /// Announces to the system that the file will be read from start to end.
     void expectSequentialReads();
 
     /// Whether size and modification time, to the system's full resolution, still are what they were at

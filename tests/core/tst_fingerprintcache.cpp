@@ -112,7 +112,7 @@ private slots:
             row(kind, QLatin1String(kind));
     }
 
-    /// Somebody put it there. Nothing hangs, nothing is written through it, and the entry takes its place.
+    /// Another program put it there. Nothing hangs, nothing is written through it, and the entry takes its place.
     void entryThatIsNoPlainFile()
     {
         QFETCH(QString, kind);

@@ -33,7 +33,7 @@ public:
 
     [[nodiscard]] LocationsState state() const;
 
-    /// Shows a state; says nothing.
+    /// Shows a state; emits nothing.
     void setState(const LocationsState &state);
 
     /// Adds a row with the default switches. An empty path and a folder already in the table are ignored.

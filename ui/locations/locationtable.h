@@ -33,7 +33,7 @@ public:
     [[nodiscard]] const QList<LocationRow> &rows() const { return m_rows; }
     [[nodiscard]] QStringList paths() const;
 
-    /// Replaces all rows; says nothing.
+    /// Replaces all rows; emits nothing.
     void setRows(const QList<LocationRow> &rows);
 
     /// Adds rows with the default switches, but for empty paths and those already here.

@@ -26,7 +26,7 @@ public:
     /// To call after a reset: expands the first `count` top rows and resets the order by column.
     void resetView(int count);
 
-    /// To call after another reset: expands the first `count` top rows, or all where that was wished; the order stays.
+    /// To call after another reset: expands the first `count` top rows, or all where that was chosen; the order stays.
     void expandAgain(int count);
 
     void expandEverything();

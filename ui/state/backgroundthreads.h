@@ -11,7 +11,7 @@ namespace Mirrix {
 /// busy for minutes. Thread-safe.
 [[nodiscard]] QThreadPool *backgroundThreads();
 
-/// Frees what may be a million records without holding up the interface.
+/// Frees what may be a million records without blocking the interface.
 template <typename Value>
 void discardInBackground(Value &&value)
 {
