@@ -84,7 +84,7 @@ void refuseForEmptyFiles(const QCommandLineParser &parser, CleaningMethod method
         throw UsageError{QStringLiteral("--%1 cannot be used with --%2").arg(other, emptyFilesOption)};
 }
 
-/// Only equal contents are proof enough to act without a person looking.
+/// Only equal contents are proof enough to act without a user's check.
 void refuseLooseMatching(const ScanOptions &options)
 {
     const bool isExact = options.mode() == SearchMode::Files &&

@@ -17,7 +17,7 @@ using MirrixCore::ContentHashAlgorithm;
 const QString md5Prefix = QStringLiteral("md5:");
 const QString blake3Prefix = QStringLiteral("blake3:");
 
-/// Whether the old path says plainly where it leads and the backup is none of the store's own files.
+/// Whether the old path is absolute and clean and the backup is none of the store's own files.
 bool isTrustworthy(const BackupEntry &entry)
 {
     const QString original = MirrixCore::cleanedPath(entry.original);

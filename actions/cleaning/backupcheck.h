@@ -9,7 +9,7 @@
 
 namespace Mirrix {
 
-/// What can be said of a backup without restoring it.
+/// The state of a backup, as far as it is known without restoring it.
 enum class BackupState
 {
     Intact,

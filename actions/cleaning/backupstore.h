@@ -43,7 +43,7 @@ class BackupPlaces
 public:
     explicit BackupPlaces(const QString &folder);
 
-    /// The entry for the file `path`, which holds `sizeBytes`. Nothing is looked at.
+    /// The entry for the file `path`, which holds `sizeBytes`. Does not access the disk.
     [[nodiscard]] BackupEntry entryFor(const QString &path, qint64 sizeBytes, const QString &digest) const;
 
     /// The same for a file that is to be set aside in its own folder.

@@ -16,7 +16,7 @@ QString text(const char *source, const QString &path)
     return QCoreApplication::translate("Mirrix", source).arg(path);
 }
 
-/// Both files open; false with the reason when one cannot be had.
+/// Opens both files; false with the reason when one cannot be opened.
 bool openBoth(const CleaningItem &item, HeldFile &file, HeldFile &kept, QString &problem)
 {
     if (!file.open(item.file.path, HeldFile::Purpose::Remove))

@@ -25,7 +25,7 @@ namespace Mirrix {
 [[nodiscard]] QString keptProblem(const CleaningItem &item, VolumeTraits &volumes);
 
 /// Whether both, still in their places, agree in their sample blocks, at most 20 KiB each, or in all bytes. Nothing is
-/// looked at where the group is not one of equal contents.
+/// read where the group is not one of equal contents.
 [[nodiscard]] QString contentProblem(const CleaningItem &item, bool comparesWholeContents, const StopQuery &isStopped);
 
 /// Whether a link to `target` may take the place of `file`: with another owner or other permissions, some user would

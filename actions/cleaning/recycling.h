@@ -11,7 +11,7 @@
 
 namespace Mirrix {
 
-/// What is looked at before a file is handed to the bin.
+/// What is checked before a file is handed to the bin.
 struct RecyclingChecks
 {
     bool comparesWholeContents = false;

@@ -4,7 +4,7 @@
 
 namespace Mirrix {
 
-// Putting files away again that an undo has brought back.
+// Removes files again that an undo has restored.
 
 /// The steps for a run that was an undo: each file that still is as it was before the run that was undone.
 [[nodiscard]] QList<UndoStep> redoSteps(const StoredRun &undo, const BatchProgress &progress);

@@ -44,7 +44,7 @@ private:
     Space m_total;
 };
 
-/// What a plan would come to, going by what the scan noted. Looks at the target folder only.
+/// What a plan would free and hold, by what the scan noted. Accesses the target folder only.
 [[nodiscard]] Space estimatedSpace(const CleaningPlan &plan);
 
 } // namespace Mirrix

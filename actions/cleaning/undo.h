@@ -27,7 +27,7 @@ struct UndoPlan
     QString backupFolder = {};  ///< as given to planUndo
 };
 
-/// Whether the run brought files back; undoing it puts them away again.
+/// Whether the run brought files back; undoing it removes them again.
 [[nodiscard]] bool isUndoing(const RunHeader &run);
 
 /// The method by which the files of a run were removed, or those of the run that it undid; of a journal that cannot be
@@ -45,12 +45,12 @@ struct UndoPlan
 struct UndoResult : BatchResult
 {
     QStringList notes; ///< what could not be tidied up after files that are back, translated
-    QString runId;     ///< under which the undoing is recorded; empty when nothing was to be done
+    QString runId;     ///< under which the undo is recorded; empty when nothing was to be done
 };
 
-/// Brings files of a run back to their old paths with the old times and permissions, never over anything that stands
-/// there: from the backup folder, the folder they were moved to, or the bin; what was replaced by a link or deleted for
-/// good is made again from the kept copy when that still has the content that was proved equal. `steps` are those of
+/// Brings files of a run back to their old paths with the old times and permissions, never over anything that is there:
+/// from the backup folder, the folder they were moved to, or the bin; what was replaced by a link or deleted for good
+/// is made again from the kept copy when that still has the content that was proved equal. `steps` are those of
 /// planUndo, or some of them. Recorded as a run of its own, with "undo " before the method, and refused where that is
 /// not possible. What an undo restored is removed again by runCleaning, with its proof. No failure ends it. Blocks.
 [[nodiscard]] UndoResult undoRun(const UndoPlan &plan, const QList<UndoStep> &steps, const CleaningServices &services,

@@ -15,7 +15,7 @@ namespace Mirrix {
 
 // Finds what lies in the system's bins and puts it back.
 
-/// A folder of thrown-away files.
+/// A folder of recycled files.
 struct BinFolder
 {
     enum class Layout
@@ -62,7 +62,7 @@ public:
     {}
 
     /// The latest entry that came from `original` (absolute), has this size and modification time (0 = any), was not
-    /// thrown away more than an hour before `recycledNotBeforeMs` (notes can be that wrong), and still is a plain file.
+    /// recycled more than an hour before `recycledNotBeforeMs` (notes can be that wrong), and still is a plain file.
     [[nodiscard]] std::optional<BinEntry> find(const QString &original, qint64 sizeBytes, qint64 modifiedMs,
                                                qint64 recycledNotBeforeMs);
 

@@ -28,7 +28,7 @@ QString accessTextOf(const QString &path)
         LocalFree(text);
     }
     LocalFree(descriptor);
-    // Whether a right came with the folder or was given to the file makes no difference to whom it lets in.
+    // Whether a right was inherited from the folder or given to the file makes no difference to who has access.
     result.remove(QRegularExpression(QStringLiteral("D:[A-Z]*(?=\\()")));
     return result.replace(QRegularExpression(QStringLiteral("\\((\\w+);[A-Z]*;")), QStringLiteral("(\\1;;"));
 }

@@ -50,8 +50,7 @@ public:
     /// may only read can not be flushed on Windows and counts as being there.
     [[nodiscard]] bool flush();
 
-    /// Deletes the file, which must be at `path` and nowhere else be expected to stay, and closes it. False when it was
-    /// not deleted; it is closed then, too.
+    /// Deletes the file, which must be at `path`, and closes it. False when it was not deleted; it is closed then, too.
     [[nodiscard]] bool remove(const QString &path);
 
     /// Closes the file and releases it to other programs.

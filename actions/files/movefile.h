@@ -6,8 +6,8 @@
 
 namespace Mirrix {
 
-// What is done with whole files, safe against crashes, full disks and other programs at work: at any time the content
-// lies whole at one of the two paths, and nothing is ever replaced. Thread-safe.
+// Operations on whole files, safe against crashes, full disks and other programs at work: at any time the content lies
+// whole at one of the two paths, and nothing is ever replaced. Thread-safe.
 
 /// Moves the plain file `from` to the free path `to`, to another volume too: then it is copied under a temporary name,
 /// written through, compared and renamed into place before the source is removed. On failure the source is as it was

@@ -109,7 +109,7 @@ BatchProgress bindFileProgressDialog(FileProgressDialog &dialog)
 
 void runUnderProgress(FileProgressDialog &dialog, const std::function<void(const BatchProgress &)> &work)
 {
-    constexpr int momentMs = 20; // a dialog that flashes up says less than none
+    constexpr int momentMs = 20; // a dialog that only flashes up cannot be read
     const BatchProgress progress = bindFileProgressDialog(dialog);
     const std::unique_ptr<QThread> thread(QThread::create([&work, &progress] { work(progress); }));
     QObject::connect(thread.get(), &QThread::finished, &dialog, &QDialog::accept);
