@@ -28,18 +28,18 @@ struct ChosenUndo
 
 ChosenUndo chosenUndo(UndoPlan plan, const QList<qsizetype> &items)
 {
-    ChosenUndo chosen;
+    ChosenUndo result;
     const QSet<qsizetype> chosen(items.begin(), items.end());
     for (const UndoStep &step : std::as_const(plan.steps)) {
         if (!chosen.isEmpty() && !chosen.contains(step.item))
             continue;
         if (step.problem.isEmpty())
-            chosen.possible.append(step);
+            result.possible.append(step);
         else
-            chosen.problems.append(step.problem);
+            result.problems.append(step.problem);
     }
-    chosen.plan = std::move(plan);
-    return chosen;
+    result.plan = std::move(plan);
+    return result;
 }
 
 /// What the boxes say: files are put back, or after an undo removed again.
