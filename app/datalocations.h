@@ -15,11 +15,11 @@ void decidePortable(bool portable);
 /// Forgets what decidePortable fixed.
 void undecidePortable();
 
-/// Whether "--portable" or "-portable" stands among the arguments, whole and in this case.
+/// Whether "--portable" or "-portable" is one of the arguments, whole and in this case.
 [[nodiscard]] bool hasPortableSwitch(const QStringList &arguments);
 
 /// Whether data lies beside the executable: as decided, else by the switch in the command line, else by a marker file
-/// "Mirrix.portable" or "portable.txt" beside the executable. Not remembered.
+/// "Mirrix.portable" or "portable.txt" beside the executable. Not cached.
 [[nodiscard]] bool isPortable();
 
 /// The folder of everything the program writes for itself. Not created here.

@@ -34,7 +34,7 @@ struct Drive
 /// Blocks for many seconds when a network drive is dead: not for the interface thread. Thread-safe.
 [[nodiscard]] QList<Drive> listDrives();
 
-/// The source text of the type's name; whoever shows it translates it.
+/// The source text of the type's name; translated where it is shown.
 [[nodiscard]] const char *driveTypeName(DriveType type);
 
 /// Whether there is something to scan: an optical or removable drive without a medium has nothing.

@@ -170,15 +170,15 @@ const QList<Field> &table()
 
 #undef MIRRIX_SETTING
 
-/// A drive that stumbled once, or a hand that slipped, must not cost all preferences.
+/// One read error of the drive, or a typing error, must not cost all preferences.
 bool setAside(const QString &directory)
 {
-    const QString aside = directory + QStringLiteral("/settings.damaged%1.json");
+    const QString damagedPath = directory + QStringLiteral("/settings.damaged%1.json");
     int number = 1;
-    while (QFile::exists(aside.arg(number)))
+    while (QFile::exists(damagedPath.arg(number)))
         ++number;
     QFile file(settingsFilePath(directory));
-    return file.rename(aside.arg(number)) || !file.exists();
+    return file.rename(damagedPath.arg(number)) || !file.exists();
 }
 
 const QString languageKey = QStringLiteral("uiLanguage");
@@ -236,7 +236,7 @@ Settings &settings()
     static Settings instance = [] {
         Settings values = defaultSettings(dataDirectory());
         values.portable = isPortable();
-        // What cannot be created is reported by whoever writes into it.
+        // A folder that cannot be created is reported by the code that writes into it.
         QDir().mkpath(values.directory);
         QDir().mkpath(values.backupRoot);
         values.load();

@@ -35,7 +35,7 @@ struct Settings
     bool skipScanConfirm = false;
     bool compareWholeContents = false; ///< before recycling, moving and backing up, too
     qint32 keepHistoryDays = 0;        ///< records of cleaning runs older than that may be removed; 0 = keep all
-    QJsonObject window;                ///< where the main window was, as ui/windowmemory.h tells it
+    QJsonObject window;                ///< where the main window was, as ui/window/windowmemory.h writes it
     QString uiLanguage;                ///< a code of languagecodes.h
     bool languageWasStored = false;    ///< whether the file named a language; not stored
 

@@ -94,7 +94,7 @@ warm() {
     say "  the page cache does not hold all of $folder after $pass passes"
 }
 
-# measured ROW KIND STDOUT COMMAND...: one run into the raw figures. /usr/bin/time tells memory and disk reads only: its
+# measured ROW KIND STDOUT COMMAND...: one run into the raw figures. /usr/bin/time has memory and disk reads only: its
 # clock has steps of 10 ms.
 measured() {
     local row=$1 kind=$2 stdout=$3 begin end seconds
@@ -196,10 +196,10 @@ warn_if_memory_is_short() {
     local kib
     kib=$(du -sk "$folder" | cut -f 1)
     (($(awk '$1 == "MemAvailable:" { print $2 }' /proc/meminfo) > kib + kib / 4)) ||
-        say "compare.sh: memory may not hold all of $folder; the figures may tell the disk"
+        say "compare.sh: memory may not hold all of $folder; the figures may be those of the disk"
 }
 
-awk '$1 > 0.5 { exit 1 }' /proc/loadavg || say "compare.sh: the machine is busy with other work; the figures will tell"
+awk '$1 > 0.5 { exit 1 }' /proc/loadavg || say "compare.sh: the machine is busy, which will affect the figures"
 disagreed=0
 for corpus in $corpora; do
     folder=$work/corpora/$corpus

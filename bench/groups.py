@@ -31,7 +31,7 @@ def from_rmlint(text: bytes) -> list[Group]:
     for entry in json.loads(text.decode("utf-8", "surrogateescape")):
         if entry.get("type") != "duplicate_file":
             continue
-        # The original comes first, its twins follow: no checksum has to tell groups apart.
+        # The original comes first, its twins follow: no checksum is needed to distinguish groups.
         if entry["is_original"]:
             groups.append([])
         groups[-1].append(os.fsencode(entry["path"]))

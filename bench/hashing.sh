@@ -89,7 +89,7 @@ same() {
     }
 }
 
-awk '$1 > 0.5 { exit 1 }' /proc/loadavg || echo "hashing.sh: the machine is busy; the figures will tell" >&2
+awk '$1 > 0.5 { exit 1 }' /proc/loadavg || echo "hashing.sh: the machine is busy, which will affect the figures" >&2
 make_files
 for ((i = 0; i < runs; ++i)); do
     for set in large small; do

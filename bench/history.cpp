@@ -26,7 +26,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A run that deleted files which stand at their places again, so that a look at each finds nothing to do.
+/// A run that deleted files which are in their places again, so that a check of each finds nothing to do.
 bool addRun(const QString &directory, qsizetype files)
 {
     QList<RunItem> items;

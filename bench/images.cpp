@@ -1,6 +1,6 @@
 // Micro-benchmark of comparing pictures: bench_images [PICTURES [FOLDER]]. Makes PICTURES JPEG images of 12 megapixels
-// (default 8) and shows what decoding and the variants cost, what remembered features cost, and how long grouping
-// 200,000 of them takes. Or only writes the images into FOLDER, for other tools.
+// (default 8) and shows what decoding and the variants cost, what cached features cost, and how long grouping 200,000
+// of them takes. Or only writes the images into FOLDER, for other tools.
 
 #include "core/cache/cacheroot.h"
 #include "core/cache/imagefeaturecache.h"

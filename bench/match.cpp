@@ -1,6 +1,6 @@
 // Benchmark of the matchers: bench_match [rules|names|letters|similar] [FILES]. Each makes its files (1,000,000,
-// 200,000 and 20,000), in memory for the first two, and prints times, how long the matcher goes on once cancelled, and
-// the peak of memory where the system tells it. Exit status 1 when the groups found are not those made.
+// 200,000 and 20,000), in memory for the first two, and prints times, how long the matcher continues once cancelled,
+// and the peak of memory where the system reports it. Exit status 1 when the groups found are not those made.
 
 #include "core/hash/samples.h"
 #include "core/match/rulekeys.h"
@@ -151,7 +151,7 @@ void benchLetters(int count)
     showPeak();
 }
 
-/// A file with random samples and holes between them. Of four files the first two are alike.
+/// A file with random samples and holes between them. Of four files the first two are similar.
 void makeSampled(const QString &path, qint64 size, int number)
 {
     QFile file(path);

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Prints the Markdown tables of a run of recall.sh: recall.py WORK_FOLDER.
 
-The names of the pictures tell what belongs together: NUMBER-KIND-EDIT.suffix, see make-pictures.
+The names of the pictures show what belongs together: NUMBER-KIND-EDIT.suffix, see make-pictures.
 """
 
 from __future__ import annotations

@@ -70,7 +70,7 @@ readonly raw=$results/recall.tsv
 : >"$raw"
 
 # measured ROW FORMAT OUTPUT COMMAND...: one run, the pictures being in the page cache, into the raw figures. FORMAT and
-# OUTPUT tell where groups.py finds the groups.
+# OUTPUT say where groups.py finds the groups.
 measured() {
     local row=$1 form=$2 output=$3 begin end
     shift 3
@@ -128,7 +128,7 @@ peer_runs() {
     rm -f "$out/fingerprints"
 }
 
-awk '$1 > 0.5 { exit 1 }' /proc/loadavg || say "recall.sh: the machine is busy with other work; wall times will tell"
+awk '$1 > 0.5 { exit 1 }' /proc/loadavg || say "recall.sh: the machine is busy, which will affect wall times"
 "$python" "$here/make-pictures" --scale "$scale" --seed "$seed" "$pictures" >&2 || die "no pictures"
 [[ $cli == none ]] || scans
 [[ $peer == none ]] || peer_runs

@@ -12,7 +12,7 @@ usage() {
 usage: run.sh [OPTIONS]
   --parts LIST   of exact, memory, growth, log, pictures, rules, hashing, window (all)
   --work DIR     files, outputs and results (${TMPDIR:-/tmp}/mirrix-bench), 24 GB for all parts
-The release preset must be built. All parts take about an hour; nothing else should run meanwhile.
+The release preset must be built. All parts take about an hour; nothing else should run at the same time.
 TEXT
 }
 

@@ -12,7 +12,7 @@
 class Watchdog
 {
 public:
-    /// Runs `step` from the event loop and then goes on watching until `isOver`, asked again and again, says so and
+    /// Runs `step` from the event loop and then continues watching until `isOver`, asked again and again, says so and
     /// what is left to do has had time to settle.
     void run(const char *name, const std::function<void()> &step, const std::function<bool()> &isOver)
     {
@@ -24,7 +24,7 @@ public:
         QElapsedTimer turn;
         qint64 longestUs = 0;
         double seconds = -1;
-        bool hasReturned = false; // the step, which may hold a dialog open meanwhile
+        bool hasReturned = false; // the step, which may keep a dialog open until then
         tick.setTimerType(Qt::PreciseTimer);
         QObject::connect(&tick, &QTimer::timeout, &loop, [&] {
             longestUs = std::max(longestUs, turn.nsecsElapsed() / 1000);

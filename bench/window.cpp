@@ -1,4 +1,4 @@
-// A whole job in the window over real files: bench_window FOLDER. Scans the folder without and with remembered digests,
+// A whole job in the window over real files: bench_window FOLDER. Scans the folder without and with cached digests,
 // ticks by rule, inverts, exports in every form of one file, moves all surplus copies into a backup folder, opens the
 // list of what can be put back, puts it all back, and prints how long the interface was blocked at most in each step.
 // Everything else it writes lies in a temporary folder, which must be on the same volume for moving to be renaming.

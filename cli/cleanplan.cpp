@@ -84,7 +84,7 @@ void refuseForEmptyFiles(const QCommandLineParser &parser, CleaningMethod method
         throw UsageError{QStringLiteral("--%1 cannot be used with --%2").arg(other, emptyFilesOption)};
 }
 
-/// Only equal contents are proof enough to act without a person looking.
+/// Only equal contents are proof enough to act without a user's check.
 void refuseLooseMatching(const ScanOptions &options)
 {
     const bool isExact = options.mode() == SearchMode::Files &&
@@ -151,7 +151,7 @@ CleanRequest cleanRequestOf(const QCommandLineParser &parser)
         request.options.excludeNames += MirrixCore::versionControlNames();
         seekEmptyFiles(request.options);
     }
-    // What was put away is neither surplus nor a reason to put away the last copy in use.
+    // A copy in a bin or backup is neither surplus nor a reason to remove the last copy in use.
     for (const QString &folder : {request.plan.backupFolder, request.plan.targetFolder}) {
         if (folder.isEmpty())
             continue;

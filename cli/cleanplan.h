@@ -12,7 +12,7 @@ struct CleanRequest
 {
     bool wantsEmptyFiles = false; ///< instead of surplus copies: then no rule counts
     Mirrix::KeepRule rule = Mirrix::KeepRule::Newest;
-    Mirrix::CleaningPlan plan; ///< without its items, which only the scan tells
+    Mirrix::CleaningPlan plan; ///< without its items, which only the scan finds
     MirrixCore::ScanOptions options;
 };
 

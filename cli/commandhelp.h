@@ -13,8 +13,8 @@ struct OptionHelp
     QString valueName; ///< empty for an option without a value
     QString description;
 
-    /// The words to choose from, which stand behind the description's first colon: "Report format: text (default),
-    /// json or csv." What is in parentheses does not count. Empty when anything but single words stands there.
+    /// The words to choose from, which follow the description's first colon: "Report format: text (default), json or
+    /// csv." What is in parentheses does not count. Empty when anything but single words follows.
     [[nodiscard]] QStringList choices() const;
 };
 
@@ -26,7 +26,7 @@ struct CommandHelp
     QList<OptionHelp> options;
 };
 
-/// Reads the help that QCommandLineParser prints back into its parts: the parser does not tell them otherwise.
+/// Reads the help that QCommandLineParser prints back into its parts: the parser does not offer them otherwise.
 [[nodiscard]] CommandHelp commandHelpFrom(const QString &name, const QString &summary, const QString &helpText);
 
 } // namespace MirrixCli

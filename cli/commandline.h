@@ -8,7 +8,7 @@
 
 namespace MirrixCli {
 
-/// What the program tells its caller when it ends.
+/// The exit status of the program.
 enum class ExitStatus : int
 {
     Done = 0,
@@ -36,7 +36,7 @@ struct UsageError
 [[nodiscard]] QString commandText();
 
 /// Throws UsageError for a folder whose name is no proper Unicode: the indexes, journals and locks kept in it would end
-/// up under another name. `source` tells where the folder was given, such as "--target".
+/// up under another name. `source` says where the folder was given, such as "--target".
 void requireUnicodeName(const QString &source, const QString &folder);
 
 /// The data directory that the common options choose, absolute: for settings and caches, whatever its name.

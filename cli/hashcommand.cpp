@@ -23,7 +23,7 @@ using namespace MirrixCore;
 const QString algorithmOption = QStringLiteral("algorithm");
 const QString windowOption = QStringLiteral("window");
 
-/// Hashes one file; the notes tell why it failed.
+/// Hashes one file; the notes say why it failed.
 using FileHash = std::function<QByteArray(const QString &path, HashNotes &notes)>;
 
 struct HashedFile
@@ -84,7 +84,7 @@ FileHash hashOf(const QString &algorithm, const QString &window)
     return [](const QString &path, HashNotes &notes) { return quickHash(path, &notes); };
 }
 
-/// The files that `argument` stands for: itself, or all below a folder, as paths that begin with the argument.
+/// The files that `argument` means: itself, or all below a folder, as paths that begin with the argument.
 QStringList filesOf(const QString &argument, QList<UnreadPath> &unread)
 {
     if (fileStatus(absolutePath(argument)).kind != FileStatus::Kind::Folder)

@@ -43,7 +43,7 @@ QHash<QString, FileEntry> entriesOf(const QStringList &paths, QList<UnreadPath> 
     return entries;
 }
 
-/// The remembered digests that describe the file as it is now, one object for each algorithm.
+/// The cached digests that describe the file as it is now, one object for each algorithm.
 QJsonArray digestsOf(const FileEntry &file)
 {
     QJsonArray digests;
@@ -130,7 +130,7 @@ QList<std::pair<QString, QString>> wordedFacts(QJsonObject &facts)
         for (const QString &part : {QStringLiteral("quick"), QStringLiteral("full")}) {
             if (!digest[part].isUndefined())
                 lines.append({QStringLiteral("%1 %2").arg(digest[QLatin1String("algorithm")].toString(), part),
-                              digest[part].toString() + QStringLiteral(" (remembered)")});
+                              digest[part].toString() + QStringLiteral(" (cached)")});
         }
     }
     if (facts.contains(QStringLiteral("width")))
@@ -143,7 +143,7 @@ QList<std::pair<QString, QString>> wordedFacts(QJsonObject &facts)
     if (const QString place = facts.take(QStringLiteral("place")).toString(); !place.isEmpty())
         lines.append({QStringLiteral("place"), worded(place)});
     if (facts.take(QStringLiteral("digestsOutOfDate")).toBool())
-        lines.append({QStringLiteral("digest"), QStringLiteral("remembered, but out of date")});
+        lines.append({QStringLiteral("digest"), QStringLiteral("cached, but out of date")});
     return lines;
 }
 

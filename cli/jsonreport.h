@@ -9,7 +9,7 @@ namespace MirrixCli {
 /// Writes one JSON object that docs/scan.schema.json describes.
 void writeJson(const ScanReport &report, Output &output);
 
-/// A file as the object stands for it in such a report.
+/// The object for a file in such a report.
 [[nodiscard]] QJsonObject jsonOf(const MirrixCore::FileEntry &file);
 
 } // namespace MirrixCli

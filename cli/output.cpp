@@ -71,9 +71,10 @@ bool Output::open(const QString &path)
     }
     if (m_isReplacing) {
         m_device = std::make_unique<QSaveFile>(path);
-        return m_device->open(QIODevice::WriteOnly | QIODevice::Unbuffered); // each write tells the truth
+        // Unbuffered, so that each write reports its own failure.
+        return m_device->open(QIODevice::WriteOnly | QIODevice::Unbuffered);
     }
-    // A device or pipe is written to; putting a file in its place would take it from everybody.
+    // A device or pipe is written to: replacing it with a file would break its other users.
     constexpr QIODevice::OpenMode mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
     if (!m_isStandard)
         return openPlain(path, mode);

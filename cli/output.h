@@ -26,7 +26,7 @@ public:
     Output();
     ~Output();
 
-    /// Opens `path`; standard output when it is empty. False on failure; errorText tells why.
+    /// Opens `path`; standard output when it is empty. False on failure; errorText says why.
     [[nodiscard]] bool open(const QString &path);
 
     /// Buffered. A failure is kept for finish.

@@ -12,8 +12,8 @@ constexpr qint64 redrawMs = 100;
 const char clearLine[] = "\r\x1b[K";
 } // namespace
 
-ProgressLine::ProgressLine(bool isWanted)
-    : m_isActive(isWanted && isErrorTerminal())
+ProgressLine::ProgressLine(bool isShown)
+    : m_isActive(isShown && isErrorTerminal())
 {}
 
 ProgressLine::~ProgressLine()

@@ -6,13 +6,13 @@
 
 namespace MirrixCli {
 
-/// One line on standard error that tells how far a scan is, redrawn at most ten times a second; nothing when standard
+/// One line on standard error that shows how far a scan is, redrawn at most ten times a second; nothing when standard
 /// error is no terminal. One thread at a time.
 class ProgressLine
 {
 public:
-    /// Shows nothing unless `isWanted`.
-    explicit ProgressLine(bool isWanted = true);
+    /// Shows nothing unless `isShown`.
+    explicit ProgressLine(bool isShown = true);
     ~ProgressLine();
     ProgressLine(const ProgressLine &) = delete;
     ProgressLine &operator=(const ProgressLine &) = delete;

@@ -184,7 +184,7 @@ void refuseUnwritable(const QString &path)
         throw UsageError{QStringLiteral("cannot write %1: %2").arg(path, probe.errorText())};
 }
 
-/// Turns the cache on, and says so when it can remember nothing new.
+/// Turns the cache on, and reports when nothing new can be stored in it.
 void useCache(const QString &dataDirectory)
 {
     setCacheRoot(dataDirectory);
@@ -210,7 +210,7 @@ void addEmptyFolders(ScanReport &report, const ScanOptions &options)
     report.result.unread = unread;
 }
 
-/// False, with the reason told, when the report could not be written.
+/// False, with the reason printed, when the report could not be written.
 bool writeTo(const QString &path, const ScanReport &report, const ReportStyle &style)
 {
     Output output;

@@ -128,7 +128,7 @@ void writeText(const ScanReport &report, const ReportStyle &style, Output &outpu
         output.write(summaryOf(report).toUtf8() + '\n');
 }
 
-/// Each path ends with a NUL byte, and an empty one stands between groups.
+/// Each path ends with a NUL byte, with an empty one between groups.
 void writeNul(const ScanReport &report, Output &output)
 {
     bool isFirst = true;

@@ -88,7 +88,7 @@ void readFilters(const QCommandLineParser &parser, ScanOptions &options)
     options.oneFileSystem = options.oneFileSystem || parser.isSet(oneFileSystemOption);
 }
 
-/// What is no folder counts as a file; the walk tells whether it is one.
+/// What is no folder counts as a file; the walk finds out whether it is one.
 void readLists(const QCommandLineParser &parser, ScanOptions &options)
 {
     for (const QString &list : parser.values(filesFromOption)) {

@@ -11,7 +11,7 @@ namespace MirrixCli {
 
 namespace {
 
-/// What may stand as the value of an option.
+/// What the value of an option may be.
 struct OptionWords
 {
     QString command;
@@ -59,7 +59,7 @@ QString valueTable(const QList<CommandHelp> &commands, const QString &form)
     return table;
 }
 
-/// A line of `form` for what may stand elsewhere: %1 the command and the beginning of the word, %2 the words.
+/// A line of `form` for what may come elsewhere: %1 the command and the beginning of the word, %2 the words.
 QString wordTable(const QList<CommandHelp> &commands, const QString &form)
 {
     QString table;

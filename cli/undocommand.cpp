@@ -47,7 +47,7 @@ QString runMeant(const QCommandLineParser &parser)
     return {};
 }
 
-/// A batch's progress as a line; `paths` tells the path of the file at a place.
+/// A batch's progress as a line; `paths` gives the path of the file at an index.
 template <typename PathAt>
 BatchProgress shownOn(ProgressLine &line, const QString &phase, PathAt pathAt)
 {
@@ -119,8 +119,7 @@ void addUndoOptions(QCommandLineParser &parser)
 {
     parser.addOption(
         {applyOption,
-         QStringLiteral(
-             "Bring the files back. Without it, nothing is changed; what would come back is only printed.")});
+         QStringLiteral("Bring the files back. Without it, nothing is changed; the files are only listed.")});
     parser.addPositionalArgument(QStringLiteral("RUN"),
                                  QStringLiteral("The run to undo, named as in \"history\", or \"last\"."));
 }

@@ -7,8 +7,8 @@ namespace MirrixCli {
 /// Declares the options of "undo".
 void addUndoOptions(QCommandLineParser &parser);
 
-/// Runs "undo": prints what of a cleaning run would come back, or brings it back. What cannot come back is named on
-/// standard error. Throws UsageError.
+/// Runs "undo": prints which files of a cleaning run can be restored, or restores them. What cannot be restored is
+/// named on standard error. Throws UsageError.
 [[nodiscard]] ExitStatus runUndo(const QCommandLineParser &parser);
 
 } // namespace MirrixCli

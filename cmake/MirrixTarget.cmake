@@ -6,7 +6,7 @@ set(MIRRIX_SANITIZE "" CACHE STRING "Sanitizers to build with, as the compiler n
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    # Without this sloppiness the cache gives up on every source that uses a precompiled header.
+    # Without this sloppiness the cache skips every source that uses a precompiled header.
     set(launcher ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE_PROGRAM})
     set(CMAKE_CXX_COMPILER_LAUNCHER ${launcher})
     set(CMAKE_C_COMPILER_LAUNCHER ${launcher})

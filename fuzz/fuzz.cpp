@@ -204,7 +204,7 @@ void fuzzRuleKey(const QByteArray &input)
     FileEntry entry;
     entry.path = QString::fromUtf8(input.mid(line + 1));
     entry.size = qHash(input) % 100000;
-    entry.modifiedMs = qint64(qHash(entry.path)); // any, as a file system may tell it
+    entry.modifiedMs = qint64(qHash(entry.path)); // any, as a file system may report it
     demand(buildRuleKey(entry, options, true) == buildRuleKey(entry, options, true), "keys are the same each time");
     FileEntry twin = entry;
     static_cast<void>(groupByRuleKeys({entry, twin}, options, true));

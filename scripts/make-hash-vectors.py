@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Prints the expected digests in tests/core/data/hash-vectors.json.
 
-Files hold the pattern of patternBytes() in tests/support/temptree.h. Every window is cut out here anew, from its
+Files hold the pattern of patternBytes() in tests/support/temptree.h. Every window is cut out here again, from its
 definition, and hashed by Python's hashlib and the b3sum program, so that the tests do not check the program by itself.
 
     scripts/make-hash-vectors.py > tests/core/data/hash-vectors.json

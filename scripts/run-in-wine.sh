@@ -3,7 +3,7 @@
 # under Wine never reaches a pipe by itself. The exit status is the program's.
 #
 # WINDOWS_SDK names the prefix with the libraries (default: .deps/winsdk); WINEPREFIX the Wine folder to use (default:
-# one of this checkout, made on first use). Tests need no display; what shows a window wants one (xvfb-run).
+# one of this checkout, made on first use). Tests need no display; what shows a window needs one (xvfb-run).
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)

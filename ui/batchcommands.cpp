@@ -23,7 +23,7 @@ namespace {
 
 using MirrixCore::DuplicateGroup;
 
-/// Said where files are given up for copies that are not known to be equal.
+/// Shown where files are removed for copies that are not known to be equal.
 QString comparisonNote(const CheckedFiles &files)
 {
     return files.areContentsEqual() ? QString() : Text::tr("部分组不是按内容匹配的，处理前不会比较这些文件的内容。");
@@ -107,7 +107,7 @@ void BatchCommands::perform(const std::function<void()> &command)
         return;
     m_isBusy = true;
     command();
-    m_isBusy = false;
+    m_isBusy = false; // before the signal: quitting waits for it and asks again
     emit finished();
     if (!m_runToShow.isEmpty())
         emit historyRequested(std::exchange(m_runToShow, {}));
@@ -117,7 +117,7 @@ bool BatchCommands::changeMarks(const char *status, const MarkChange &change)
 {
     if (m_results.groups.isEmpty())
         return false;
-    // Looking at the paths of a million files takes longer than a window may stand still.
+    // Looking at the paths of a million files takes longer than a window may be blocked.
     SelectionMarks marks = m_results.marks;
     const QList<DuplicateGroup> groups = m_results.groups;
     FileProgressDialog dialog(Text::tr("正在更新勾选…"), m_window);
@@ -163,7 +163,7 @@ CleaningResult BatchCommands::clean(const QString &label, CleaningPlan plan, con
     return result;
 }
 
-void BatchCommands::tellDone(const QString &text, const CleaningResult &result)
+void BatchCommands::showDone(const QString &text, const CleaningResult &result)
 {
     const QString title = Text::tr("完成");
     const QString note = spaceNote(result.space);
@@ -213,7 +213,7 @@ void BatchCommands::backUpChecked()
         return;
     const CleaningResult result = clean(Text::tr("正在备份移动文件… (%1/%2)"), planFor(CleaningMethod::Backup),
                                         [&](QStringList &) { return files->items(); });
-    tellDone(Text::tr("已备份移动 %1 个文件。%2\n请重新扫描以刷新结果。")
+    showDone(Text::tr("已备份移动 %1 个文件。%2\n请重新扫描以刷新结果。")
                  .arg(QString::number(result.count), failureText(result)),
              result);
 }
@@ -245,7 +245,7 @@ void BatchCommands::backUpAndRemove(const CheckedFiles &files, const RemovalChoi
     if (!result.errors.isEmpty())
         m_prompts.warn(m_window, Text::tr("备份警告"),
                        Text::tr("部分文件备份失败：\n%1").arg(result.errors.join(QLatin1Char('\n'))));
-    tellDone(Text::tr("已备份并移除 %1 个文件。请重新扫描以刷新结果。").arg(result.count), result);
+    showDone(Text::tr("已备份并移除 %1 个文件。请重新扫描以刷新结果。").arg(result.count), result);
 }
 
 void BatchCommands::removeDirectly(const CheckedFiles &files, const RemovalChoice &choice)
@@ -268,7 +268,7 @@ void BatchCommands::removeDirectly(const CheckedFiles &files, const RemovalChoic
     if (!rest.isEmpty())
         rest += QLatin1Char('\n');
     rest += Text::tr("请重新扫描以刷新结果。");
-    tellDone(Text::tr("已处理 %1 个文件。%2").arg(QString::number(result.count), rest), result);
+    showDone(Text::tr("已处理 %1 个文件。%2").arg(QString::number(result.count), rest), result);
 }
 
 BatchResult BatchCommands::linkAtFreePaths(const CheckedFiles &files, const RemovalChoice &choice)
@@ -325,7 +325,7 @@ void BatchCommands::restore(const QString &folder, const QList<BackupEntry> &cho
     QString text;
     static_cast<void>(run(Text::tr("正在恢复文件… (%1/%2)"), [&](const BatchControl &control) {
         result = restoreBackups(folder, chosen, control);
-        // Here, too, since a record for each of very many files takes a second.
+        // Off the interface thread, too, since records for very many files take a second.
         QList<LogEntry> records;
         for (const BackupEntry &entry : std::as_const(result.restored))
             records.append(restoredEvent(entry));

@@ -20,8 +20,8 @@ struct RemovalChoice;
 struct Settings;
 
 /// What is done to all results at once: setting marks, and removing, backing up and restoring files with the questions
-/// before and the account after. Each command returns when it is over; meanwhile the user can do nothing else in the
-/// window, and a further command is ignored. Work on many files goes on off the interface thread.
+/// before and the summary after. Each command returns when it is over; until then the user can do nothing else in the
+/// window, and a further command is ignored. Work on many files runs off the interface thread.
 class BatchCommands : public QObject
 {
     Q_OBJECT
@@ -50,10 +50,10 @@ public:
     /// Puts files back that the user chooses from the backup folder of the settings.
     void restoreBackup();
 
-    /// Whether a command is under way, its boxes included.
+    /// Whether a command is running, its boxes included.
     [[nodiscard]] bool isBusy() const { return m_isBusy; }
 
-    /// Asks the batch under way, if any, to stop after the current file.
+    /// Asks the running batch, if any, to stop after the current file.
     void stop() { emit stopRequested(); }
 
 signals:
@@ -89,16 +89,17 @@ private:
     [[nodiscard]] CleaningPlan planFor(CleaningMethod method) const;
 
     /// The box at the end of a run.
-    void tellDone(const QString &text, const CleaningResult &result);
+    void showDone(const QString &text, const CleaningResult &result);
 
-    /// The ticked files once the user has said what is to happen to groups of which no copy would stay. Nothing when
-    /// there are none, which the user is told with `noneText`, or when the user gives up.
+    /// The ticked files once the user has said what is to happen to groups of which no copy would stay. No value when
+    /// there are none, in which case the user sees `noneText`, or when the user cancels.
     [[nodiscard]] std::optional<CheckedFiles> filesToClean(const QString &noneText);
 
     void backUpAndRemove(const CheckedFiles &files, const RemovalChoice &choice);
     void removeDirectly(const CheckedFiles &files, const RemovalChoice &choice);
     [[nodiscard]] BatchResult linkAtFreePaths(const CheckedFiles &files, const RemovalChoice &choice);
-    /// What may be put back, and what of it the user wants. Large, so made and freed off the interface thread.
+    /// The files that may be restored, and those that the user chose. Large, so made and freed off the interface
+    /// thread.
     struct RestoreList
     {
         QList<BackupEntry> entries;

@@ -20,7 +20,7 @@ QString progressLabel(ExportFormat format)
     return format == ExportFormat::Copies ? Text::tr("正在复制文件… (%1/%2)") : Text::tr("正在导出… (%1/%2)");
 }
 
-/// What the results are now, whatever becomes of them while they are written.
+/// The results as they are now, unaffected by changes while they are written.
 ExportRecords recordsOf(const ResultSet &results)
 {
     return {results.groups,

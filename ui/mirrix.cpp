@@ -138,6 +138,7 @@ void Mirrix::buildLayout()
 
 void Mirrix::buildTray()
 {
+    // Without a tray, closing to it would make the program unreachable.
     if (!m_settings.trayEnabled || !TrayIcon::isAvailable())
         return;
     m_tray = new TrayIcon(this);
@@ -172,7 +173,7 @@ void Mirrix::connectPages()
             [this](const QString &source) { m_display->showStatus([source] { return translated(source); }); });
     connect(&m_actions->commands(), &BatchCommands::historyRequested, this, &Mirrix::openHistory);
     connect(&m_actions->commands(), &BatchCommands::finished, this, [this] {
-        if (m_quitWanted)
+        if (m_quitRequested)
             quitCompletely();
     });
     connect(new QShortcut(QKeySequence(Qt::Key_F5), this), &QShortcut::activated, this, &Mirrix::startScan);
@@ -403,7 +404,7 @@ void Mirrix::closeEvent(QCloseEvent *event)
 {
     if (!m_quitting && m_tray && m_tray->isVisible() && m_settings.closeToTray) {
         hide();
-        m_tray->tellStillRunning();
+        m_tray->notifyStillRunning();
         event->ignore();
         return;
     }
@@ -416,7 +417,7 @@ void Mirrix::quitCompletely()
     if (m_quitting)
         return; // quitting closes the window, which asks for it again
     if (m_actions->commands().isBusy()) {
-        m_quitWanted = true; // once the file in hand is done with
+        m_quitRequested = true; // once the current file is finished
         m_actions->commands().stop();
         return;
     }

@@ -28,7 +28,7 @@ class WizardSidebar;
 namespace MirrixUi {
 
 /// The main window: the frame around the three pages of the wizard and the flow of one scan. It has a namespace of its
-/// own because that of the rest bears its name.
+/// own because the class has the same name as the others' namespace.
 class Mirrix : public QMainWindow
 {
     Q_OBJECT
@@ -86,7 +86,7 @@ private:
     qint32 m_scannedMode = 0; ///< of the scan that the results are of
     bool m_scanning = false;
     bool m_quitting = false;
-    bool m_quitWanted = false; ///< quit when the batch under way is over
+    bool m_quitRequested = false; ///< quit when the running batch has ended
 
     ::Mirrix::WizardSidebar *m_sidebar = nullptr;
     QLabel *m_trail = nullptr;

@@ -22,7 +22,7 @@ public:
     [[nodiscard]] BatchCommands &commands() { return m_commands; }
 
 signals:
-    /// The user wants the results gone.
+    /// The user wants to clear the results.
     void clearRequested();
 
 private:

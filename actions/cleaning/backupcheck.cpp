@@ -17,7 +17,7 @@ using MirrixCore::ContentHashAlgorithm;
 const QString md5Prefix = QStringLiteral("md5:");
 const QString blake3Prefix = QStringLiteral("blake3:");
 
-/// Whether the old path says plainly where it leads and the backup is none of the store's own files.
+/// Whether the old path is absolute and clean and the backup is none of the store's own files.
 bool isTrustworthy(const BackupEntry &entry)
 {
     const QString original = MirrixCore::cleanedPath(entry.original);
@@ -26,11 +26,11 @@ bool isTrustworthy(const BackupEntry &entry)
         !QDir::isAbsolutePath(original) || fileNameOf(original).isEmpty())
         return false;
     const QString name = fileNameOf(entry.backup);
-    const bool isPassing = name.startsWith(QLatin1String(".mirrix-"), Qt::CaseInsensitive) && !isAsideName(name);
-    return !name.isEmpty() && !isPassing && !name.startsWith(QLatin1String("backup_index."), Qt::CaseInsensitive);
+    const bool isTemporary = name.startsWith(QLatin1String(".mirrix-"), Qt::CaseInsensitive) && !isAsideName(name);
+    return !name.isEmpty() && !isTemporary && !name.startsWith(QLatin1String("backup_index."), Qt::CaseInsensitive);
 }
 
-/// Nothing for a digest that another version of the program has written.
+/// No value for a digest that another version of the program has written.
 std::optional<ContentHashAlgorithm> algorithmOf(const QString &digest)
 {
     if (digest.startsWith(md5Prefix))

@@ -9,13 +9,13 @@
 
 namespace Mirrix {
 
-/// What can be said of a backup without restoring it.
+/// The state of a backup, as far as it is known without restoring it.
 enum class BackupState
 {
     Intact,
     Missing,    ///< no file there
     Damaged,    ///< its size or content is not that of the file that was backed up
-    Unreadable, ///< the system would not say
+    Unreadable, ///< the system did not allow reading it
     Refused     ///< the entry names what cannot be a backup, or an old path that leads elsewhere than it says
 };
 

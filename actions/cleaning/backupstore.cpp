@@ -54,6 +54,7 @@ BatchResult backupFiles(const QString &folder, const QStringList &paths, const B
     QList<BackupEntry> planned;
     for (const QString &path : paths)
         planned.append(places.entryFor(path, pathState(path).sizeBytes, digests.value(planned.size())));
+    // Listed before any file moves, so that after a crash each can be found.
     if (!session.announce(planned)) {
         for (const QString &path : paths)
             result.errors.append(backupFailureText(path));
@@ -123,7 +124,7 @@ BackupPlaces::BackupPlaces(const QString &folder)
 
 BackupEntry BackupPlaces::entryFor(const QString &path, qint64 sizeBytes, const QString &digest) const
 {
-    constexpr qsizetype mostBytes = 255 - 27; // what file systems allow, and what stands before the name
+    constexpr qsizetype mostBytes = 255 - 27; // what file systems allow, less what precedes the name
     const quint32 random = QRandomGenerator::system()->generate();
     const QString name = QStringLiteral("%1__%2__").arg(m_time).arg(random, 8, 16, QLatin1Char('0')) +
                          shortenedName(fileNameOf(path), mostBytes);

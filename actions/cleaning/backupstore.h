@@ -19,17 +19,17 @@ namespace Mirrix {
 [[nodiscard]] BatchResult backupFiles(const QString &folder, const QStringList &paths, const BatchControl &control = {},
                                       const QStringList &digests = {});
 
-/// What a restore came to.
+/// The outcome of a restore.
 struct RestoreResult : BatchResult
 {
     QList<BackupEntry> restored; ///< located, in the order of the entries
-    QStringList notes;           ///< what could not be tidied up after files that are back, translated
+    QStringList notes;           ///< what could not be tidied up after files that were restored, translated
 };
 
-/// Puts files back where they came from; what stands there is never overwritten. Entries are not trusted: they lead to
-/// files beside the index or set aside beside their old path, whatever else they say. A file whose size or digest is
-/// not that of its entry is refused and stays. A file is restored, with a note, even when its backup cannot be removed,
-/// as on a read-only volume; the entry stays then.
+/// Puts files back where they came from; an existing file there is never overwritten. Entries are not trusted: they
+/// lead to files in the index's folder or to files set aside in their old folder, whatever else they say. A file whose
+/// size or digest is not that of its entry is refused and stays. A file is restored, with a note, even when its backup
+/// cannot be removed, as on a read-only volume; the entry stays then.
 [[nodiscard]] RestoreResult restoreBackups(const QString &folder, const QList<BackupEntry> &entries,
                                            const BatchControl &control = {});
 
@@ -43,16 +43,16 @@ class BackupPlaces
 public:
     explicit BackupPlaces(const QString &folder);
 
-    /// The entry for the file `path`, which holds `sizeBytes`. Nothing is looked at.
+    /// The entry for the file `path`, which holds `sizeBytes`. Does not access the disk.
     [[nodiscard]] BackupEntry entryFor(const QString &path, qint64 sizeBytes, const QString &digest) const;
 
-    /// The same for a file that is to be set aside beside itself.
+    /// The same for a file that is to be set aside in its own folder.
     [[nodiscard]] BackupEntry asideEntryFor(const QString &path, qint64 sizeBytes, const QString &digest) const;
 
 private:
     QString m_folder;
     qint64 m_atMs;
-    QString m_time; ///< asking for the local time is dear
+    QString m_time; ///< asking for the local time is expensive
 };
 
 /// A planned entry after its file was moved: with the size that the file has now, and without the digest when that is

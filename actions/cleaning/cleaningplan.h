@@ -10,7 +10,7 @@
 
 namespace Mirrix {
 
-/// What the scan saw of a file, as far as it matters for giving it up.
+/// What the scan recorded of a file, as far as its removal needs it.
 struct ScannedFile
 {
     QString path;
@@ -29,7 +29,7 @@ struct CleaningItem
     ScannedFile kept;            ///< with an empty path: the user wants no copy to stay
     QString linkTarget;          ///< where a link is to lead, other than to the kept copy; usually empty
     QString digest;              ///< of the content as the scan knew it, "md5:HEX" or "blake3:HEX"; empty = unknown
-    bool isEqualContent = false; ///< both are to hold the same bytes, which is looked at before anything is done
+    bool isEqualContent = false; ///< both are to hold the same bytes, which is checked before anything is done
 
     [[nodiscard]] bool hasKept() const { return !kept.path.isEmpty(); }
 };
@@ -42,7 +42,7 @@ struct CleaningPlan
 {
     CleaningMethod method = CleaningMethod::Recycle;
     QString targetFolder;               ///< of Move
-    QString backupFolder;               ///< absolute; also lists what is set aside while it is worked on
+    QString backupFolder;               ///< absolute; its index also lists what is set aside during the run
     bool comparesWholeContents = false; ///< before moving, too, not only before destroying
     QString rule;                       ///< what chose the files, for the record; may be empty
     bool isBackupBeforeRemoval = false; ///< backed up because the user asked for that in the removal dialog
@@ -56,8 +56,8 @@ struct CleaningPlan
 /// "newest", "oldest", "shallowest" or "deepest".
 [[nodiscard]] QString ruleName(KeepRule rule);
 
-/// Which file of a group stays by a rule, and which ones go. Files that lie where copies are put away neither stay nor
-/// go by a rule.
+/// Which file of a group a rule keeps, and which ones it removes. Files in bins, backup folders and snapshots are
+/// neither kept nor removed by a rule.
 struct GroupChoice
 {
     qsizetype kept = -1; ///< -1: no file of the group may be kept

@@ -27,6 +27,7 @@ CleaningRecord::CleaningRecord(const CleaningPlan &plan, const CleaningServices 
 
 QStringList CleaningRecord::begin()
 {
+    // Writing nothing proves that the log can be written, before any file is touched.
     if (!m_services.log.append(QList<LogEntry>()))
         return {unrecordedText(m_services.log.filePath())};
     QList<PathState> states;

@@ -14,8 +14,8 @@ namespace Mirrix {
 
 struct CleaningServices;
 
-/// What is kept of a run while it goes on: the journal says for each file what was planned and done, the backup index
-/// lists each file that may be away from its place, and the log gets its line at the end. One run, one thread.
+/// What is recorded of a run in progress: the journal says for each file what was planned and done, the backup index
+/// lists each file that may not be at its old path, and the log gets its line at the end. One run, one thread.
 class CleaningRecord
 {
 public:
@@ -24,7 +24,7 @@ public:
     /// Writes down what is going to happen. Empty, or the reasons for which nothing may be done.
     [[nodiscard]] QStringList begin();
 
-    /// Where the file of an item goes: into the backup folder, or aside; empty where the method decides that itself.
+    /// The path to which an item's file is moved or set aside; empty where the method decides that itself.
     [[nodiscard]] QString placeOf(qsizetype item) const;
 
     /// What was done with an item, and what that freed and holds. False when it could not be written down.

@@ -15,7 +15,7 @@ namespace Mirrix {
 
 namespace {
 
-/// A run under way.
+/// A run in progress.
 class Run
 {
 public:
@@ -59,7 +59,7 @@ private:
                                                     : QList{clean(items.constFirst(), first, isStopped)};
         bool isNoted = true;
         for (qsizetype i = 0; i < items.size(); ++i)
-            isNoted = note(first + i, outcomes[i]) && isNoted;
+            isNoted = note(first + i, outcomes[i]) && isNoted; // all of them, even after one failed
         return isNoted;
     }
 

@@ -11,25 +11,26 @@ namespace Mirrix {
 class CreatedLink
 {
 public:
-    /// By a method that makes none there is no link anywhere.
+    /// With a method that makes no links, none is ever found.
     CreatedLink(const RunItem &item, CleaningMethod method);
 
-    /// Whether the link stands at the file's old path: a symbolic one by what it leads to, a hard one by its identity.
-    /// A file that took its place, or a link to another file, is not ours.
+    /// Whether the link is at the file's old path: a symbolic one by what it leads to, a hard one by its identity. A
+    /// file that took its place, or a link to another file, is not ours.
     [[nodiscard]] bool isInPlace() const { return isOurs(m_item.original); }
 
     /// Whether it is at `path`.
     [[nodiscard]] bool isOurs(const QString &path) const;
 
-    /// Sets it aside where it stands in place, looking again under the new name. False when it is not out of the way.
+    /// Sets it aside if it is in place, and checks again under the new name that it is ours. False when the old path is
+    /// not free.
     [[nodiscard]] bool setAside() const;
 
     void putBack() const;
 
-    /// Removes what setAside has set aside, now or before a crash. False when it is still there.
+    /// Removes what setAside has set aside, in this run or before a crash. False when it is still there.
     bool removeAside() const;
 
-    /// Where a copy of the file is begun.
+    /// The temporary path under which a new copy of the file is written.
     [[nodiscard]] QString partPath() const;
 
 private:

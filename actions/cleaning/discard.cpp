@@ -22,7 +22,7 @@ QString undeletableText(const CleaningItem &item)
     return text(QT_TRANSLATE_NOOP("Mirrix", "无法删除: %1"), item.file.path);
 }
 
-/// One surplus file that stands aside, and what is done with it.
+/// One surplus file that has been set aside, and what is done with it.
 class Discard
 {
 public:
@@ -32,7 +32,7 @@ public:
         , m_asidePath(asidePath)
     {}
 
-    /// What speaks against removing the file; everything up to the flush.
+    /// Why the file may not be removed, everything up to the flush checked; empty when it may.
     [[nodiscard]] QString proofProblem(DurableFiles &durable, VolumeTraits &volumes, const StopQuery &isStopped)
     {
         QString problem = isBesideKept() ? sameFileText(m_item.file.path) : keptProblem(m_item, volumes);
@@ -53,7 +53,7 @@ public:
         return problem.isEmpty() ? changeProblem() : problem;
     }
 
-    /// Removes the file, after the link stands where there is to be one.
+    /// Removes the file, once the link, if there is to be one, is in place.
     [[nodiscard]] QString act()
     {
         if (isLinking(m_method)) {
@@ -61,6 +61,7 @@ public:
             if (!problem.isEmpty())
                 return problem;
         }
+        // A network drive may remove the file and report an error.
         if (m_surplus.remove(m_asidePath) || pathState(m_asidePath).kind == PathState::Kind::Missing)
             return {};
         if (isLinking(m_method) && leadsTo(m_item.file.path, linkTarget())) // ours, not another program's
@@ -73,9 +74,10 @@ public:
 
     [[nodiscard]] CleaningOutcome putBack(const QString &problem)
     {
-        m_surplus.close();
+        m_surplus.close(); // Windows does not rename a file that is open
         m_kept.close();
-        // A second try, since what was in the way may have passed: nobody looks for the file under the other name.
+        // A second try, since the obstacle may have been temporary, and the user would not look for the file under the
+        // temporary name.
         for (int attempt = 0; attempt < 2; ++attempt) {
             if (renameExclusively(m_asidePath, m_item.file.path) == FileFault::None)
                 return {problem, {}};
@@ -85,7 +87,7 @@ public:
     }
 
 private:
-    /// Whether the name under which the file is set aside shows in the kept file's folder, too: then both folders are
+    /// Whether the name under which the file is set aside appears in the kept file's folder, too: then both folders are
     /// one, and so are files of one name. A file system on top of another may remember a name that is gone, but not one
     /// that it has never seen.
     [[nodiscard]] bool isBesideKept() const
@@ -109,7 +111,7 @@ private:
         return {};
     }
 
-    /// Whether both still are what was compared, at their places.
+    /// Whether both are still what was compared, and in their places.
     [[nodiscard]] QString changeProblem() const
     {
         if (!m_surplus.isUnchanged())
@@ -125,7 +127,7 @@ private:
         const bool isMade = m_method == CleaningMethod::HardLink
                                 ? createHardLink(m_item.file.path, linkTarget(), &problem)
                                 : createSymbolicLink(m_item.file.path, linkTarget(), &problem);
-        // Between the last look at the kept file and the making of the link another may have taken its place.
+        // Between the last check of the kept file and the creation of the link, another file may have taken its place.
         if (isMade && m_kept.isAt(m_item.kept.path))
             return {};
         if (isMade)
@@ -154,6 +156,8 @@ CleaningOutcome discard(const CleaningItem &item, CleaningMethod method, const Q
         problem = accessProblem(item.file.path, item.kept.path);
     if (!problem.isEmpty())
         return {problem, {}};
+    // Set aside before the proof: if the kept path leads to this very file, it is gone now; and another program with
+    // the opposite rule can no longer find this file as its kept copy.
     if (before.isUndeletable || renameExclusively(item.file.path, asidePath) != FileFault::None)
         return {undeletableText(item), {}};
     Discard step(item, method, asidePath);

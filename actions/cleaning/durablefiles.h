@@ -13,8 +13,8 @@ namespace Mirrix {
 class DurableFiles
 {
 public:
-    /// Flushes files that will soon be asked for, and each of their folders once. What fails here, or is being written
-    /// these seconds, is left to ensure. Blocks; `isStopped` ends it.
+    /// Flushes files that will soon be asked for, and each of their folders once. What fails here, or has been written
+    /// in the last seconds, is left to ensure. Blocks; `isStopped` ends it.
     void prepare(const QStringList &paths, const StopQuery &isStopped);
 
     /// Makes sure that the file, which is at `path`, and its name are on the disk. False when they did not get there.

@@ -36,6 +36,7 @@ QList<RunItem> plannedItems(const QStringList &folders)
 /// Empty, or why the folder stays.
 QString removalProblem(const QString &folder)
 {
+    // On Windows the call would remove a link to a folder as well.
     const bool isFolder = pathState(folder).kind == PathState::Kind::Folder;
     return isFolder && removeEmptyFolder(folder) == FileFault::None
                ? QString()

@@ -22,6 +22,7 @@ bool FolderAliases::isSameFile(const CleaningItem &item)
 
 bool FolderAliases::areOne(const QString &folder, const QString &other)
 {
+    // A new file in one folder that appears in the other proves that they are one.
     const QString probe = temporaryName(joinedPath(folder, {}), QStringLiteral(".part"));
     const bool isMade = makeEmptyFile(probe) == FileFault::None;
     const bool areOne = isMade && pathState(joinedPath(other, fileNameOf(probe))).kind != PathState::Kind::Missing;

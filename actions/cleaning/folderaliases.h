@@ -9,8 +9,8 @@
 
 namespace Mirrix {
 
-/// Finds out whether two folders are one by different paths, where the system's numbers do not tell: one file system on
-/// top of another has numbers of its own. One thread at a time.
+/// Finds out whether two folders are one by different paths, where the system's numbers do not show it: one file system
+/// on top of another has numbers of its own. One thread at a time.
 class FolderAliases
 {
 public:

@@ -16,7 +16,7 @@ QString text(const char *source, const QString &path)
     return QCoreApplication::translate("Mirrix", source).arg(path);
 }
 
-/// Both files open; false with the reason when one cannot be had.
+/// Opens both files; false with the reason when one cannot be opened.
 bool openBoth(const CleaningItem &item, HeldFile &file, HeldFile &kept, QString &problem)
 {
     if (!file.open(item.file.path, HeldFile::Purpose::Remove))
@@ -49,6 +49,7 @@ QString itemProblem(const CleaningItem &item, PathState *surplus)
     const PathState kept = pathState(item.kept.path);
     if (!isAsScanned(kept, item.kept))
         return keptChangedText(item);
+    // Unknown identities count as the same file: keeping a copy too many loses nothing.
     if (!file.identity.isOtherThan(kept.identity))
         return text(QT_TRANSLATE_NOOP("Mirrix", "与要保留的文件可能是同一个文件，未处理: %1"), item.file.path);
     return {};
@@ -71,7 +72,7 @@ QString contentProblem(const CleaningItem &item, bool comparesWholeContents, con
 {
     if (!item.hasKept() || !item.isEqualContent || item.file.sizeBytes == 0)
         return {};
-    if (!comparesWholeContents) {
+    if (!comparesWholeContents) { // samples are enough: the file is moved, not destroyed
         const bool agree = MirrixCore::sampledByteSimilarity(item.file.path, item.kept.path) == 100;
         return agree ? QString() : differsText(item.file.path);
     }

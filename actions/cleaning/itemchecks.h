@@ -10,25 +10,25 @@
 namespace Mirrix {
 
 // What a scan found may no longer be so when it is acted on. Texts are translated and name the file; empty means that
-// nothing speaks against acting. Nothing is changed on the disk. Thread-safe.
+// the file may be processed. Nothing is changed on the disk. Thread-safe.
 
 /// Whether `state` is that of the plain file that the scan saw.
 [[nodiscard]] bool isAsScanned(const PathState &state, const ScannedFile &file);
 
 /// Whether the surplus file is a plain file of the size, time and (where the scan noted it) number that the scan saw,
-/// and so is the kept one, and both are two files as far as the system can tell. Two looks at the disk. `surplus`,
-/// where given, gets what the surplus file is.
+/// and so is the kept one, and both are two files as far as the system knows. Asks the disk twice. `surplus`, where
+/// given, gets what the surplus file is.
 [[nodiscard]] QString itemProblem(const CleaningItem &item, PathState *surplus = nullptr);
 
-/// Whether the kept file stands where it should once the surplus file has left its place: had both paths led to one
-/// file by way of mounts, links or letter case, it is gone now. Empty for an item without a kept file.
+/// Whether the kept file is where it should be once the surplus file has left its place: had both paths led to one file
+/// by way of mounts, links or letter case, it is gone now. Empty for an item without a kept file.
 [[nodiscard]] QString keptProblem(const CleaningItem &item, VolumeTraits &volumes);
 
-/// Whether both, still at their places, agree in their sample blocks, at most 20 KiB each, or in all bytes. Nothing is
-/// looked at where the group is not one of equal contents.
+/// Whether both, still in their places, agree in their sample blocks, at most 20 KiB each, or in all bytes. Nothing is
+/// read where the group is not one of equal contents.
 [[nodiscard]] QString contentProblem(const CleaningItem &item, bool comparesWholeContents, const StopQuery &isStopped);
 
-/// Whether a link to `target` may take the place of `file`: with another owner or other permissions, somebody would
+/// Whether a link to `target` may take the place of `file`: with another owner or other permissions, some user would
 /// gain or lose access.
 [[nodiscard]] QString accessProblem(const QString &file, const QString &target);
 

@@ -24,7 +24,7 @@ QString obstacle(const RecycleBin &bin, const CleaningItem &item, const Recyclin
     return problem.isEmpty() ? contentProblem(item, checks.comparesWholeContents, checks.isStopped) : problem;
 }
 
-/// What has become of a file that was handed to the bin.
+/// The outcome for a file that was handed to the bin, as the disk shows it.
 CleaningOutcome outcomeOf(const RecycleBin &bin, const CleaningItem &item, const QString &placed, VolumeTraits &volumes)
 {
     const PathState::Kind left = pathState(item.file.path).kind;

@@ -11,7 +11,7 @@
 
 namespace Mirrix {
 
-/// What is looked at before a file is handed to the bin.
+/// What is checked before a file is handed to the bin.
 struct RecyclingChecks
 {
     bool comparesWholeContents = false;
@@ -22,8 +22,8 @@ struct RecyclingChecks
 
 /// Sends the surplus files of `items`, at most as many as one call of the bin takes, to the bin. Before, each is
 /// compared with its kept file, in samples or in all bytes; afterwards the kept file must still be there, else the
-/// surplus file comes back. The outcomes are in the order of the items; `batchErrors` gets what the bin says of the
-/// whole batch. The disk, not the bin's answer, tells what was done. Blocks.
+/// surplus file is put back. The outcomes are in the order of the items; `batchErrors` gets the bin's messages on the
+/// whole batch. The disk, not the bin's answer, decides what counts as done. Blocks.
 [[nodiscard]] QList<CleaningOutcome> recycle(const RecycleBin &bin, const QList<CleaningItem> &items,
                                              const RecyclingChecks &checks, QStringList &batchErrors);
 

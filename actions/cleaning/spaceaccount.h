@@ -9,7 +9,7 @@
 
 namespace Mirrix {
 
-/// What cleaning comes to on the disks, in bytes.
+/// How cleaning changes the space on the disks, in bytes.
 struct Space
 {
     qint64 freedBytes = 0;        ///< free now
@@ -30,7 +30,7 @@ class SpaceAccount
 public:
     SpaceAccount(CleaningMethod method, const QString &targetFolder);
 
-    /// One more file given up; the sizes as of freeableBytes.
+    /// One more file removed; the sizes as of freeableBytes.
     void add(qint64 sizeBytes, qint64 allocatedBytes, const MirrixCore::FileIdentity &identity);
 
     [[nodiscard]] const Space &total() const { return m_total; }
@@ -44,7 +44,7 @@ private:
     Space m_total;
 };
 
-/// What a plan would come to, going by what the scan noted. Looks at the target folder only.
+/// What a plan would free and hold, by what the scan noted. Accesses the target folder only.
 [[nodiscard]] Space estimatedSpace(const CleaningPlan &plan);
 
 } // namespace Mirrix

@@ -14,7 +14,7 @@ public:
     {}
 
     /// Whether it is, by whatever name, the folder of the file `path` or one above it: moving the file there would not
-    /// take it out of the way. Looks at the disk once for each folder.
+    /// take it out of the way. Asks the disk once for each folder.
     [[nodiscard]] bool holds(const QString &path);
 
     /// Whether it is `folder` or one above it.

@@ -21,12 +21,13 @@ QString linkTarget(const CleaningItem &item)
     return item.linkTarget.isEmpty() ? item.kept.path : item.linkTarget;
 }
 
-/// What speaks against putting a link in the file's place.
+/// Why no link can take the file's place; empty when one can.
 QString linkObstacle(const CleaningItem &item, const PathState &file)
 {
     const PathState target = pathState(linkTarget(item));
     if (target.kind != PathState::Kind::File)
         return text(QT_TRANSLATE_NOOP("Mirrix", "链接目标不是可用的文件: %1"), linkTarget(item));
+    // Unknown identities count as the same: the link would lead nowhere once its target is moved.
     if (!file.identity.isOtherThan(target.identity))
         return text(QT_TRANSLATE_NOOP("Mirrix", "与要保留的文件可能是同一个文件，未处理: %1"), item.file.path);
     return accessProblem(item.file.path, linkTarget(item));
@@ -64,6 +65,7 @@ CleaningOutcome transfer(const CleaningItem &item, CleaningMethod method, const 
         return {text(QT_TRANSLATE_NOOP("Mirrix", "目标已存在: %1"), to), {}};
     if (fault != FileFault::None)
         return {failureText(item, method), {}};
+    // Checked again now that the file has left its place: a kept path that led to the same file is gone.
     problem = keptProblem(item, volumes);
     const bool wantsLink = problem.isEmpty() && isLinking(method);
     if (wantsLink && method == CleaningMethod::BackupAndHardLink)

@@ -16,7 +16,7 @@ namespace Mirrix {
 
 namespace {
 
-/// An undo under way.
+/// An undo in progress.
 class Undo
 {
 public:

@@ -22,7 +22,7 @@ QString text(const char *source, const QString &path)
     return QCoreApplication::translate("Mirrix", source).arg(path);
 }
 
-/// One file on its way back.
+/// One file being restored.
 class Returning
 {
 public:
@@ -138,6 +138,7 @@ private:
 
     void tidyUp()
     {
+        // The link is removed only now, with the file in place.
         const PathState now = pathState(m_item.original);
         const bool hasMarks = now.modifiedExact == m_item.modifiedExact && now.mode == m_item.mode;
         if (!m_link.removeAside())

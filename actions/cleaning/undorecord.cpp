@@ -32,6 +32,7 @@ UndoRecord::UndoRecord(const UndoPlan &plan, const CleaningServices &services)
 QStringList UndoRecord::begin(const QList<qsizetype> &items)
 {
     const QString &log = m_services.log.filePath();
+    // Writing nothing proves that the log can be written, before any file is touched.
     if (!m_services.log.append(QList<LogEntry>()))
         return {text(QT_TRANSLATE_NOOP("Mirrix", "无法写入操作记录，未处理任何文件: %1"), log)};
     const RunHeader &undone = m_plan.run.summary.header;
@@ -81,7 +82,7 @@ bool UndoRecord::note(qsizetype position, const UndoSource &source, const Undone
         if (source.way == UndoSource::Way::Backup && !result.isLeft)
             m_stores[folderOf(source.from)]->gone.append(entry);
     }
-    constexpr qint64 longestMs = 400;
+    constexpr qint64 longestMs = 400; // of outcomes that a kill may leave unrecorded
     return m_sinceWritten.elapsed() < longestMs || writePending();
 }
 

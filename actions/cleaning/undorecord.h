@@ -16,7 +16,7 @@
 
 namespace Mirrix {
 
-/// What is kept of an undo while it goes on: its own journal, that of the run that is undone, the indexes of backup
+/// What is recorded of an undo in progress: its own journal, that of the run that is undone, the indexes of backup
 /// folders, and at the end the log. Neither journal says that a file is back before its name is on the disk. One thread
 /// at a time.
 class UndoRecord
@@ -24,7 +24,7 @@ class UndoRecord
 public:
     UndoRecord(const UndoPlan &plan, const CleaningServices &services);
 
-    /// Writes down which items of the run are to come back. Empty, or the reasons for which nothing may be done.
+    /// Writes down which items of the run are to be restored. Empty, or the reasons for which nothing may be done.
     [[nodiscard]] QStringList begin(const QList<qsizetype> &items);
 
     /// Keeps other programs from the backup folder that holds the source, if it lies in one.

@@ -11,16 +11,16 @@
 
 namespace Mirrix {
 
-/// From where one file of a run can come back.
+/// Where one file of a run can be restored from.
 struct UndoSource
 {
     enum class Way
     {
         None,   ///< the run did nothing with it, or it was undone
-        Home,   ///< it is at its place again, which the record does not know
+        Home,   ///< it is in its place again, which the record does not say
         Backup, ///< from the backup folder
         Folder, ///< from where it was moved
-        Aside,  ///< from beside its place
+        Aside,  ///< from the name it was set aside under
         Bin,
         Copy,      ///< made again from the kept copy
         EmptyFile, ///< made again, since there is nothing in it
@@ -29,7 +29,7 @@ struct UndoSource
 
     Way way = Way::None;
     QString from;
-    QString problem = {}; ///< why it cannot come back, translated; empty when it can
+    QString problem = {}; ///< why it cannot be restored, translated; empty when it can
     QString digest = {};  ///< of its content, as BackupEntry::digest; may be empty
     BinEntry bin = {};
 };
@@ -60,7 +60,7 @@ private:
     BinContents m_bins;
 };
 
-/// Whether a plain file of the recorded size and time stands there. File systems that know whole seconds only may have
+/// Whether a plain file of the recorded size and time is there. File systems that know whole seconds only may have
 /// rounded the time.
 [[nodiscard]] bool isAsRecorded(const PathState &state, const RunItem &item);
 

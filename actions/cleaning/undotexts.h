@@ -4,7 +4,7 @@
 
 namespace Mirrix {
 
-// Why a file cannot come back. Texts are translated and name the file's old path; `where` is the other path.
+// Why a file cannot be restored. Texts are translated and name the file's old path; `where` is the other path.
 
 [[nodiscard]] QString notBackText(const QString &path);
 [[nodiscard]] QString occupiedText(const QString &path);

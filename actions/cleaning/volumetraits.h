@@ -6,7 +6,7 @@
 
 namespace Mirrix {
 
-/// Remembers during one run what its volumes are like: asking the system for each file costs as much as another look at
+/// Caches the properties of the volumes of one run: asking the system for each file costs as much as another check of
 /// the file. One thread at a time.
 class VolumeTraits
 {

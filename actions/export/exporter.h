@@ -38,13 +38,13 @@ struct ExportOutcome
 
 /// Writes the results to `request.path`. A list or script takes the place of an earlier file only when it is whole;
 /// otherwise the disk is left as it was. Copies go under their own names into a folder made as needed; none replaces a
-/// file, each failure is told, and what was copied before a cancellation stays. `modeName` and `now` are for the text
-/// report. Blocks; run it off the interface thread. Thread-safe.
+/// file, each failure is reported, and what was copied before a cancellation stays. `modeName` and `now` are for the
+/// text report. Blocks; run it off the interface thread. Thread-safe.
 [[nodiscard]] ExportOutcome writeExport(const ExportRecords &records, const ExportRequest &request,
                                         const QString &modeName, const QDateTime &now,
                                         const BatchProgress &progress = {});
 
-/// What a file of this format is called when nobody says otherwise: "Mirrix_20240131_0915.csv". Empty for copies.
+/// The default name of a file of this format: "Mirrix_20240131_0915.csv". Empty for copies.
 [[nodiscard]] QString defaultExportName(ExportFormat format, const QDateTime &now);
 
 } // namespace Mirrix

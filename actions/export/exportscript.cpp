@@ -27,8 +27,8 @@ bool isPlain(QChar character)
     return character >= u' ' && !QStringView(u"\"*<>?|").contains(character);
 }
 
-/// Whether Windows takes the path as it stands. It cuts dots and blanks off the ends of names, and what follows a colon
-/// is a stream of the file.
+/// Whether Windows takes the path literally. It cuts dots and blanks off the ends of names, and what follows a colon is
+/// a stream of the file.
 bool isNameable(QStringView path)
 {
     if (!std::all_of(path.begin(), path.end(), isPlain) || path.indexOf(u':', 2) >= 0 || path.startsWith(u':'))

@@ -10,8 +10,8 @@ namespace Mirrix {
 ///
 /// that deletes exactly this file or none: the paths have native separators, percent signs are doubled, and a file that
 /// such a line cannot name (what a wildcard, a name that Windows trims, or a line too long for cmd.exe would hit is
-/// another one) stands in a remark and is told in `refusals`. Below "@echo off" the script turns cmd.exe to UTF-8 when
-/// a path needs it, ending where that fails, and turns the expansion of "!" off when a path has one. A script of
+/// another one) is written as a remark and reported in `refusals`. Below "@echo off" the script turns cmd.exe to UTF-8
+/// when a path needs it, ending where that fails, and turns the expansion of "!" off when a path has one. A script of
 /// redacted paths is for reading: their asterisks name no folder. UTF-8, lines ended by "\r\n". False when the sink or
 /// the progress ended it early. Thread-safe.
 [[nodiscard]] bool writeDeletionScript(const ExportRecords &records, const ExportOptions &options, const ByteSink &sink,

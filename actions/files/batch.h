@@ -7,7 +7,7 @@
 
 namespace Mirrix {
 
-/// Told how many of how many files are done, before each file is begun. False ends the batch there; what was done stays
+/// Called with the number of files done and of all, before each file. False ends the batch there; what was done stays
 /// done. May be empty. Called from the thread that runs the batch.
 using BatchProgress = std::function<bool(qsizetype done, qsizetype total)>;
 

@@ -28,7 +28,7 @@ QByteArray noteBytes(const QString &path)
     return reader.readAt(0, bytes.data(), bytes.size()) == bytes.size() ? bytes : QByteArray();
 }
 
-/// What stands in the first group of a note, such as "Path=..."; empty when it does not.
+/// The value of such a line as "Path=..." in the first group of a trash info file; empty when it is not there.
 QByteArray valueOf(const QList<QByteArray> &lines, QByteArrayView key)
 {
     for (qsizetype i = 1; i < lines.size() && !lines[i].startsWith('['); ++i) {

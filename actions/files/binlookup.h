@@ -15,7 +15,7 @@ namespace Mirrix {
 
 // Finds what lies in the system's bins and puts it back.
 
-/// A folder of thrown-away files.
+/// A folder of recycled files.
 struct BinFolder
 {
     enum class Layout
@@ -33,21 +33,20 @@ struct BinFolder
 struct BinEntry
 {
     QString filePath;
-    QString infoPath;     ///< the note on it
-    QString original;     ///< where it came from; forward slashes
-    qint64 deletedMs = 0; ///< milliseconds since the Unix epoch; 0 = unknown
-    bool isDeletedInLocalTime =
-        false; ///< deletedMs counts from the epoch by the clock on the wall, as notes of a trash do
+    QString infoPath;                  ///< the note on it
+    QString original;                  ///< where it came from; forward slashes
+    qint64 deletedMs = 0;              ///< milliseconds since the Unix epoch; 0 = unknown
+    bool isDeletedInLocalTime = false; ///< deletedMs is local time as if it were UTC
 };
 
 /// What a note in a trash says, given the text of a .trashinfo file: original and deletedMs (to the second, in local
-/// time). A relative path counts from `top`. Nothing when it names no path.
+/// time). A relative path counts from `top`. No value when it names no path.
 [[nodiscard]] std::optional<BinEntry> readTrashNote(QByteArrayView text, const QString &top);
 
 /// The same of a $I file of Windows Vista or later.
 [[nodiscard]] std::optional<BinEntry> readRecycleNote(QByteArrayView bytes);
 
-/// The entry of the file `filePath` that lies in a bin. Nothing when it or its note is not there.
+/// The entry of the file `filePath` that lies in a bin. No value when it or its note is not there.
 [[nodiscard]] std::optional<BinEntry> binEntryAt(const QString &filePath);
 
 /// This user's bins that may hold a file that lay at `path`. They need not exist.
@@ -64,7 +63,7 @@ public:
     {}
 
     /// The latest entry that came from `original` (absolute), has this size and modification time (0 = any), was not
-    /// thrown away more than an hour before `recycledNotBeforeMs` (notes can be that wrong), and still is a plain file.
+    /// recycled more than an hour before `recycledNotBeforeMs` (notes can be that wrong), and still is a plain file.
     [[nodiscard]] std::optional<BinEntry> find(const QString &original, qint64 sizeBytes, qint64 modifiedMs,
                                                qint64 recycledNotBeforeMs);
 

@@ -8,8 +8,8 @@ namespace Mirrix {
 [[nodiscard]] inline bool lockExclusively(QLockFile &lock)
 {
     constexpr int timeoutMs = 5000;
-    // A program killed while it made the lock leaves an empty one, which only its age gives away. The age of a lock
-    // that is held does no harm: the system itself keeps others from taking it.
+    // A program killed while it made the lock leaves an empty one, which only its age shows. The age of a lock that is
+    // held does no harm: the system itself keeps others from taking it.
     constexpr int staleMs = 500;
     lock.setStaleLockTime(staleMs);
     if (lock.tryLock(0))

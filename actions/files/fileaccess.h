@@ -4,7 +4,7 @@
 
 namespace Mirrix {
 
-/// Whether the same people may do the same with both files: owner, group, permission bits and access lists agree, as
+/// Whether both files grant the same users the same access: owner, group, permission bits and access lists agree, as
 /// far as the system has them. What cannot be read counts as different. Follows links. Thread-safe.
 [[nodiscard]] bool haveSameAccess(const QString &one, const QString &other);
 

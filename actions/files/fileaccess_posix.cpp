@@ -17,7 +17,7 @@ namespace Mirrix {
 
 namespace {
 
-/// What lets people in. The file is not opened for reading, which it may forbid.
+/// Who may access a file. It is not opened for reading, which its permissions may forbid.
 class Access
 {
 public:

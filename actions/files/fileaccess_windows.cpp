@@ -15,20 +15,20 @@ namespace {
 /// Owner and access list as text; null where they cannot be read.
 QString accessTextOf(const QString &path)
 {
-    constexpr SECURITY_INFORMATION wanted = OWNER_SECURITY_INFORMATION | DACL_SECURITY_INFORMATION;
+    constexpr SECURITY_INFORMATION parts = OWNER_SECURITY_INFORMATION | DACL_SECURITY_INFORMATION;
     std::wstring native = MirrixCore::longPath(MirrixCore::absolutePath(path));
     PSECURITY_DESCRIPTOR descriptor = nullptr;
-    if (GetNamedSecurityInfoW(native.data(), SE_FILE_OBJECT, wanted, nullptr, nullptr, nullptr, nullptr, &descriptor) !=
+    if (GetNamedSecurityInfoW(native.data(), SE_FILE_OBJECT, parts, nullptr, nullptr, nullptr, nullptr, &descriptor) !=
         ERROR_SUCCESS)
         return {};
     LPWSTR text = nullptr;
     QString result;
-    if (ConvertSecurityDescriptorToStringSecurityDescriptorW(descriptor, SDDL_REVISION_1, wanted, &text, nullptr)) {
+    if (ConvertSecurityDescriptorToStringSecurityDescriptorW(descriptor, SDDL_REVISION_1, parts, &text, nullptr)) {
         result = QString::fromWCharArray(text);
         LocalFree(text);
     }
     LocalFree(descriptor);
-    // Whether a right came with the folder or was given to the file makes no difference to whom it lets in.
+    // Whether a right was inherited from the folder or given to the file makes no difference to who has access.
     result.remove(QRegularExpression(QStringLiteral("D:[A-Z]*(?=\\()")));
     return result.replace(QRegularExpression(QStringLiteral("\\((\\w+);[A-Z]*;")), QStringLiteral("(\\1;;"));
 }

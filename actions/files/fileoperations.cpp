@@ -169,8 +169,8 @@ bool leadsTo(const QString &path, const QString &target)
     if (!reader.open(path) || !reader.readState())
         return false;
     const MirrixCore::FileIdentity reached = MirrixCore::fileStatus(path).identity;
-    const MirrixCore::FileIdentity wanted = MirrixCore::fileStatus(target).identity;
-    return reached.isSameAs(wanted) || (!reached.isOtherThan(wanted) && haveSameContent(path, target));
+    const MirrixCore::FileIdentity expected = MirrixCore::fileStatus(target).identity;
+    return reached.isSameAs(expected) || (!reached.isOtherThan(expected) && haveSameContent(path, target));
 }
 
 } // namespace Mirrix

@@ -33,7 +33,7 @@ bool copyToFolder(const QString &path, const QString &folder, QString *error = n
 bool createHardLink(const QString &linkPath, const QString &targetPath, QString *error = nullptr);
 
 /// Makes the free path `linkPath` a symbolic link to the existing file `targetPath`, relative where both lie on one
-/// volume, and looks whether it leads there.
+/// volume, and checks that it leads there.
 bool createSymbolicLink(const QString &linkPath, const QString &targetPath, QString *error = nullptr);
 
 /// Removes files one after the other by `method`. `targetFolder` is for Move, `linkTarget` for the links, which are

@@ -19,7 +19,8 @@ Comparison compareContents(HeldFile &one, HeldFile &other, const StopQuery &isSt
     for (qint64 offset = 0; offset < size; offset += pieceBytes) {
         if (offset > 0 && isStopped && isStopped())
             return Comparison::Stopped;
-        if (!one.isUnchanged() || !other.isUnchanged()) // whoever wants to write need not wait for the end
+        // Checked here, too, so that a program that wants to write need not wait for the end.
+        if (!one.isUnchanged() || !other.isUnchanged())
             return Comparison::Different;
         const qint64 length = std::min(pieceBytes, size - offset);
         if (one.readAt(offset, onePiece.data(), length) != length ||

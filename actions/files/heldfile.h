@@ -11,9 +11,9 @@
 namespace Mirrix {
 
 /// A plain file held open while it is proved to be a copy, so that the file compared is the file acted on, whatever
-/// happens to its path meanwhile. Others can not write into it unnoticed: Windows refuses them, Linux reports them (by
-/// a read lease where the file system has those, else by the change time). Never opened through a link at the end of
-/// the path. Movable, not thread-safe.
+/// happens to its path. Others cannot write into it unnoticed: Windows refuses them, Linux reports them (by a read
+/// lease where the file system has those, else by the change time). Never opened through a link at the end of the path.
+/// Movable, not thread-safe.
 class HeldFile
 {
 public:
@@ -28,7 +28,8 @@ public:
     HeldFile(HeldFile &&) noexcept;
     HeldFile &operator=(HeldFile &&) noexcept;
 
-    /// False when it is no plain file, cannot be read, or is being written by another program; isInUse tells the last.
+    /// False when it is no plain file, cannot be read, or is being written by another program; isInUse reports the
+    /// last.
     [[nodiscard]] bool open(const QString &path, Purpose purpose);
     [[nodiscard]] bool isInUse() const;
 
@@ -38,8 +39,8 @@ public:
     /// As FileReader::readAt.
     [[nodiscard]] qint64 readAt(qint64 offset, char *buffer, qint64 length);
 
-    /// Whether size, modification time and, but for renaming, change time are what they were at the opening, and
-    /// nobody has tried to write into it since.
+    /// Whether size, modification time and, but for renaming, change time are what they were at the opening, and no
+    /// program has tried to write into it since.
     [[nodiscard]] bool isUnchanged() const;
 
     /// Whether `path` itself, not through a link, is this file.
@@ -49,11 +50,10 @@ public:
     /// may only read can not be flushed on Windows and counts as being there.
     [[nodiscard]] bool flush();
 
-    /// Deletes the file, which must be at `path` and nowhere else be expected to stay, and closes it. False when it was
-    /// not deleted; it is closed then, too.
+    /// Deletes the file, which must be at `path`, and closes it. False when it was not deleted; it is closed then, too.
     [[nodiscard]] bool remove(const QString &path);
 
-    /// Lets it go.
+    /// Closes the file and releases it to other programs.
     void close();
 
 private:

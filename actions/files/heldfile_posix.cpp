@@ -20,19 +20,19 @@ struct HeldFile::State
     bool isInUse = false;
     bool hasLease = false;
 
-    /// A read lease is refused while anybody has the file open for writing, and makes whoever wants to open it so wait
-    /// until it is given back. It catches writes that fall into one tick of the clock behind the change time.
+    /// A read lease is refused while any process has the file open for writing, and makes one that opens it for writing
+    /// wait until it is given back. It catches writes that fall into one tick of the clock behind the change time.
     [[nodiscard]] bool takeLease()
     {
-        // When the lease is to be given back, the system sends a signal; this one is ignored unless somebody asks for
-        // it, the default one would end the program.
+        // The system asks for the lease by a signal. SIGURG is ignored by default; the usual one, SIGIO, would end the
+        // program.
         if (fcntl(descriptor, F_SETSIG, SIGURG) != 0)
             return true;
         hasLease = fcntl(descriptor, F_SETLEASE, F_RDLCK) == 0;
         return hasLease || errno != EAGAIN; // network and user file systems have none; nor have files of others
     }
 
-    [[nodiscard]] bool isLeaseWanted() const { return hasLease && fcntl(descriptor, F_GETLEASE) != F_RDLCK; }
+    [[nodiscard]] bool isLeaseBroken() const { return hasLease && fcntl(descriptor, F_GETLEASE) != F_RDLCK; }
 
     void close()
     {
@@ -105,7 +105,7 @@ qint64 HeldFile::readAt(qint64 offset, char *buffer, qint64 length)
 bool HeldFile::isUnchanged() const
 {
     struct stat info = {};
-    if (m_state->isLeaseWanted() || fstat(m_state->descriptor, &info) != 0)
+    if (m_state->isLeaseBroken() || fstat(m_state->descriptor, &info) != 0)
         return false;
     const PathState now = pathStateFrom(info);
     const PathState &then = m_state->opened;

@@ -18,7 +18,7 @@ struct HeldFile::State
 
     [[nodiscard]] bool openWith(const std::wstring &path, DWORD access)
     {
-        // Only readers may share it: nobody writes, renames or deletes it while it is held.
+        // Only readers may share it, so that no other program writes, renames or deletes it while it is held.
         file = UniqueHandle(CreateFileW(path.c_str(), access, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
                                         FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
         isInUse = !file && GetLastError() == ERROR_SHARING_VIOLATION;
@@ -70,8 +70,8 @@ qint64 HeldFile::readAt(qint64 offset, char *buffer, qint64 length)
         place.Offset = static_cast<DWORD>(position);
         place.OffsetHigh = static_cast<DWORD>(position >> 32);
         DWORD count = 0;
-        const auto wanted = static_cast<DWORD>(std::min<qint64>(length - done, 1 << 30));
-        if (!ReadFile(m_state->file.get(), buffer + done, wanted, &count, &place))
+        const auto requested = static_cast<DWORD>(std::min<qint64>(length - done, 1 << 30));
+        if (!ReadFile(m_state->file.get(), buffer + done, requested, &count, &place))
             return GetLastError() == ERROR_HANDLE_EOF ? done : -1;
         if (count == 0)
             break;
@@ -100,6 +100,7 @@ bool HeldFile::flush()
 
 bool HeldFile::remove(const QString &path)
 {
+    // By its handle, so that no other file is hit that has taken the path. Deleted once the handle is closed.
     FILE_DISPOSITION_INFO disposition = {};
     disposition.DeleteFile = TRUE;
     const bool isMarked =

@@ -24,12 +24,13 @@ bool openWhole(FileReader &reader, const QString &path)
     return true;
 }
 
-/// Removes a file whose copy is on the disk, unless it was written into meanwhile. False when it is still there.
+/// Removes a file whose copy is on the disk, unless it has been written to since. False when it is still there.
 bool removeCopied(const QString &path, const PathState &before)
 {
     if (pathState(path).isSameFileAs(before) && removeFile(path) == FileFault::None)
         return true;
-    // Another took it away, or a network drive did as told and says otherwise: then the copy is all there is.
+    // Another program removed it, or a network drive removed it and still reported an error: then the copy is all there
+    // is.
     return pathState(path).kind == PathState::Kind::Missing;
 }
 
@@ -51,12 +52,12 @@ FileFault moveFile(const QString &from, const QString &to)
     const FileFault renamed = renameExclusively(from, to);
     if (renamed != FileFault::OtherVolume)
         return renamed;
-    if (before.isUndeletable)
+    if (before.isUndeletable) // a copy would be made whose source cannot be removed
         return FileFault::Failed;
     const FileFault copied = copyFile(from, to);
     if (copied != FileFault::None || removeCopied(from, before))
         return copied;
-    static_cast<void>(removeOwnCopy(to));
+    static_cast<void>(removeOwnCopy(to)); // the source is still there, perhaps with newer content
     return FileFault::Failed;
 }
 
@@ -67,6 +68,7 @@ FileFault restoreFile(const QString &from, const QString &to, bool &isLeft)
     if (before.kind != PathState::Kind::File)
         return before.kind == PathState::Kind::Missing ? FileFault::Missing : FileFault::Failed;
     const FileFault renamed = renameExclusively(from, to);
+    // On a read-only volume the rename fails, but copying works.
     if (renamed != FileFault::OtherVolume && renamed != FileFault::Failed)
         return renamed;
     const FileFault copied = copyFile(from, to);
@@ -76,14 +78,16 @@ FileFault restoreFile(const QString &from, const QString &to, bool &isLeft)
 
 FileFault copyFile(const QString &from, const QString &to)
 {
-    const QString passing = temporaryName(to, QStringLiteral(".part"));
-    FileFault fault = copyToNewFile(from, passing);
+    // Under a temporary name, so that a crash leaves no half copy that looks like the file.
+    const QString partPath = temporaryName(to, QStringLiteral(".part"));
+    FileFault fault = copyToNewFile(from, partPath);
     if (fault != FileFault::None)
         return fault;
-    fault = haveSameContent(from, passing) ? renameExclusively(passing, to) : FileFault::Failed;
+    fault = haveSameContent(from, partPath) ? renameExclusively(partPath, to) : FileFault::Failed;
+    // The new name must be on the disk, too, before a caller removes the source.
     if (fault == FileFault::None && flushFolder(folderOf(to)))
         return FileFault::None;
-    static_cast<void>(removeOwnCopy(fault == FileFault::None ? to : passing));
+    static_cast<void>(removeOwnCopy(fault == FileFault::None ? to : partPath));
     return fault == FileFault::None ? FileFault::Failed : fault;
 }
 
@@ -97,6 +101,7 @@ bool makeFolders(const QString &path)
     const QString parent = folderOf(folder);
     if (parent != folder && !parent.isEmpty() && !makeFolders(parent))
         return false;
+    // Another program may have made it in between.
     return makeFolder(folder) == FileFault::None ||
            MirrixCore::fileStatus(folder).kind == MirrixCore::FileStatus::Kind::Folder;
 }

@@ -8,16 +8,16 @@
 
 namespace Mirrix {
 
-// What is done with whole files, safe against crashes, full disks and others at work: at any time the content lies
+// Operations on whole files, safe against crashes, full disks and other programs at work: at any time the content lies
 // whole at one of the two paths, and nothing is ever replaced. Thread-safe.
 
-/// Moves the plain file `from` to the free path `to`, to another volume too: then it is copied under a passing name,
+/// Moves the plain file `from` to the free path `to`, to another volume too: then it is copied under a temporary name,
 /// written through, compared and renamed into place before the source is removed. On failure the source is as it was
-/// and nothing stands at `to`. A source that is marked read-only where that forbids deleting is only renamed.
+/// and nothing is at `to`. A source that is marked read-only where that forbids deleting is only renamed.
 [[nodiscard]] FileFault moveFile(const QString &from, const QString &to);
 
 /// Puts the backup `from` back at the free path `to`. Unlike moveFile it copies whatever keeps the file from being
-/// renamed, and keeps the copy when `from` cannot be removed, as on a read-only volume: that is success, told by
+/// renamed, and keeps the copy when `from` cannot be removed, as on a read-only volume: that is success, and sets
 /// `isLeft`.
 [[nodiscard]] FileFault restoreFile(const QString &from, const QString &to, bool &isLeft);
 
@@ -39,7 +39,8 @@ namespace Mirrix {
 
 using MirrixCore::joinedPath;
 
-/// A fresh name for a file that stands beside `path` for a moment: ".mirrix-", 16 hex digits, and ".part" or ".aside".
+/// A new name for a file that is in the folder of `path` only for a short time: ".mirrix-", 16 hex digits, and ".part"
+/// or ".aside".
 [[nodiscard]] QString temporaryName(const QString &path, const QString &suffix);
 
 } // namespace Mirrix

@@ -39,7 +39,7 @@ public:
 
     [[nodiscard]] int get() const { return m_number; }
 
-    /// Some file systems tell of a failed write only here.
+    /// Some file systems report a failed write only here.
     [[nodiscard]] bool close() { return ::close(std::exchange(m_number, -1)) == 0; }
 
 private:
@@ -88,7 +88,7 @@ bool copyAroundHoles(int from, int to, off_t begin, off_t size)
             return false;
         begin = lseek(from, end, SEEK_DATA);
     }
-    if (errno != ENXIO)
+    if (errno != ENXIO) // which means that only a hole follows
         return false;
     // Not all file systems lengthen a file without a byte being written.
     return ftruncate(to, size) == 0 || pwrite(to, "", 1, size - 1) == 1;
@@ -96,7 +96,7 @@ bool copyAroundHoles(int from, int to, off_t begin, off_t size)
 
 bool copyContent(int from, int to, const struct stat &info)
 {
-    const bool isSparse = info.st_blocks * 512 < info.st_size; // told in blocks of 512 bytes everywhere
+    const bool isSparse = info.st_blocks * 512 < info.st_size; // st_blocks counts 512 bytes on every file system
     const off_t begin = isSparse ? lseek(from, 0, SEEK_DATA) : 0;
     const bool areHolesKnown = isSparse && (begin >= 0 || errno == ENXIO);
     return areHolesKnown ? copyAroundHoles(from, to, begin, info.st_size)
@@ -154,16 +154,18 @@ bool copyAttributes(int from, int to, const struct stat &info, const FileMarks *
 
 FileFault copyToNewFile(const QString &from, const QString &to, const FileMarks *marks)
 {
+    // A link that has taken the file's place is not followed, and a pipe does not block.
     const Descriptor source(openPath(pathBytes(from), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
     struct stat info = {};
     if (source.get() < 0 || fstat(source.get(), &info) != 0 || !S_ISREG(info.st_mode))
         return FileFault::Failed;
+    // For this user alone until the source's permissions are set.
     Descriptor target(openPath(pathBytes(to), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
     if (target.get() < 0)
         return errno == EEXIST ? FileFault::Occupied : FileFault::Failed;
     bool isWhole = copyContent(source.get(), target.get(), info) &&
                    copyAttributes(source.get(), target.get(), info, marks) && fsync(target.get()) == 0;
-    // So that whoever compares the two reads what the disk has got.
+    // So that a later comparison of the two reads what is on the disk, not what is in the cache.
     posix_fadvise(target.get(), 0, 0, POSIX_FADV_DONTNEED);
     isWhole = target.close() && isWhole;
     if (!isWhole)

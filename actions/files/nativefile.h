@@ -9,7 +9,7 @@ namespace Mirrix {
 // The system calls that change users' files. They take every legal name, never replace anything, and never follow a
 // link at the end of a path. Relative paths count from the current folder. Thread-safe.
 
-/// What stands at a path itself: a link is told as such.
+/// What is at a path itself: a link is reported as a link.
 struct PathState
 {
     enum class Kind
@@ -19,7 +19,7 @@ struct PathState
         Link,
         Folder,
         Other,  ///< devices, pipes, files whose content is not on this machine
-        Unknown ///< the system would not say
+        Unknown ///< the system returned an error
     };
 
     Kind kind = Kind::Unknown;
@@ -48,14 +48,14 @@ enum class FileFault
 {
     None,
     Missing,     ///< the file to act on does not exist
-    Occupied,    ///< something stands at the new path
+    Occupied,    ///< the new path is taken
     OtherVolume, ///< both paths must lie on one volume
     NoRight,     ///< symbolic links need a right that this user lacks (Windows)
     Failed
 };
 
 /// Renames within one volume; the new path must be free. Where the file system can neither rename without replacing nor
-/// make hard links (fusefat and its like), a file put there between the last look and the rename, two system calls
+/// make hard links (fusefat and its like), a file put there between the last check and the rename, two system calls
 /// apart, would be replaced.
 [[nodiscard]] FileFault renameExclusively(const QString &from, const QString &to);
 
@@ -94,10 +94,10 @@ struct FileMarks
 /// Makes an empty file at the free path `path`.
 [[nodiscard]] FileFault makeEmptyFile(const QString &path);
 
-/// Makes one folder. Occupied when something, perhaps a folder, stands there.
+/// Makes one folder. Occupied when something, perhaps a folder, is there.
 [[nodiscard]] FileFault makeFolder(const QString &path);
 
-/// Removes a folder, and only one that holds nothing: the system refuses any other. A link to a folder is not told from
+/// Removes a folder, and only one that holds nothing: the system refuses any other. A link to a folder is treated like
 /// one (Windows); see pathState.
 [[nodiscard]] FileFault removeEmptyFolder(const QString &path);
 

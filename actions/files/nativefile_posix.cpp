@@ -71,7 +71,7 @@ int addName(const QByteArray &from, const QByteArray &to)
 }
 
 /// For file systems that cannot rename without replacing but know hard links, such as network drives. A crash in
-/// between leaves the file under both names. Nothing when a link cannot be made.
+/// between leaves the file under both names. No value when a link cannot be made.
 std::optional<FileFault> linkAndUnlink(const QByteArray &from, const QByteArray &to)
 {
     if (addName(from, to) != 0) {
@@ -90,7 +90,7 @@ std::optional<FileFault> linkAndUnlink(const QByteArray &from, const QByteArray 
 enum class Claim
 {
     Held,
-    Lost, ///< another file stands there, or somebody has written into ours
+    Lost, ///< another file is there, or another program has written into ours
     Unknown
 };
 
@@ -103,7 +103,7 @@ Claim claimAt(const QByteArray &path, const struct stat &claim)
                                                                                               : Claim::Lost;
 }
 
-/// For those that know neither: an empty file of our own claims the name and is replaced.
+/// For file systems that know neither: an empty file of our own claims the name and is replaced.
 FileFault claimAndRename(const QByteArray &from, const QByteArray &to)
 {
     const int file = openPath(to, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
@@ -159,6 +159,7 @@ FileFault renameExclusively(const QString &from, const QString &to)
         });
     if (renamed == 0)
         return FileFault::None;
+    // Only these mean that the file system does not know the flag.
     if (errno != EINVAL && errno != ENOSYS && errno != EOPNOTSUPP)
         return faultOf(errno);
     const std::optional<FileFault> linked = linkAndUnlink(source, target);
@@ -218,6 +219,7 @@ bool flushFolder(const QString &folder)
     const int descriptor = openPath(pathBytes(folder), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor < 0)
         return true; // names may be made where they cannot be listed
+    // Other errors mean that the file system cannot flush folders.
     const bool isFlushed = fsync(descriptor) == 0 || (errno != EIO && errno != ENOSPC && errno != EDQUOT);
     close(descriptor);
     return isFlushed;

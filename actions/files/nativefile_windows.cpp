@@ -42,7 +42,7 @@ FileFault faultOf(DWORD code)
     }
 }
 
-/// Calls until it succeeds, for up to a second: a virus scanner that looks at a fresh file makes it fail for a while.
+/// Calls until it succeeds, for up to a second: a virus scanner that reads a new file makes it fail for a while.
 template <typename Call>
 FileFault retryWhileBusy(Call call)
 {
@@ -95,6 +95,7 @@ PathState pathStateOf(HANDLE file)
 
 PathState pathState(const QString &path)
 {
+    // Attributes alone can be read whatever sharing other programs allow.
     const UniqueHandle file(CreateFileW(wide(path).c_str(), FILE_READ_ATTRIBUTES,
                                         FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
                                         FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
@@ -113,7 +114,7 @@ bool mayReassignFileIds(const QString &)
 
 FileFault renameExclusively(const QString &from, const QString &to)
 {
-    // Without the flags to replace and to copy, both must be so.
+    // Without the flags to replace and to copy: the new path must be free and on the same volume.
     return retryWhileBusy(
         [source = wide(from), target = wide(to)] { return MoveFileExW(source.c_str(), target.c_str(), 0); });
 }

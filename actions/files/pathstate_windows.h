@@ -9,8 +9,8 @@ namespace Mirrix {
 inline constexpr DWORD settableAttributes = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM |
                                             FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
 
-/// What an open file or folder is, a link at the end of its path being told as such where it was opened so. Unknown
-/// where the system does not say.
+/// What an open file or folder is, a link at the end of its path being reported as a link where it was opened as one.
+/// Unknown where the system does not say.
 [[nodiscard]] PathState pathStateOf(HANDLE file);
 
 } // namespace Mirrix

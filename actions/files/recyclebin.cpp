@@ -12,7 +12,7 @@ namespace Mirrix {
 
 namespace {
 
-/// What the disk says counts; only where it does not say, what the system answered.
+/// The state of the disk counts; only where that is unknown, what the system answered.
 bool hasLeft(const QString &path, bool isSaidDone)
 {
     const PathState::Kind kind = pathState(path).kind;

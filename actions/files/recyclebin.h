@@ -8,7 +8,7 @@
 
 namespace Mirrix {
 
-/// The system's Recycle Bin or trash, as three things a batch needs of it. Tests put in one of their own.
+/// The system's Recycle Bin or trash, as the functions that a batch needs. Tests use their own.
 struct RecycleBin
 {
     /// What the system answers when it is handed files.
@@ -21,10 +21,11 @@ struct RecycleBin
 
     qsizetype batchSize = 1; ///< most files in one call of `send`
 
-    /// Whether the file would really go into a bin; when not, `send` would delete it for good or take more than it.
+    /// Whether the file would really go into a bin; when not, `send` would delete it for good or take other files with
+    /// it.
     std::function<bool(const QString &path)> canTake;
 
-    /// Sends existing files. The disk, not the answer, tells the outcome for each.
+    /// Sends existing files. The disk, not the answer, shows the outcome for each.
     std::function<Answer(const QStringList &paths)> send;
 
     /// Puts a file back that was just sent, from `placed` where that is known. False when it stays in the bin.

@@ -19,8 +19,8 @@ namespace {
 
 using MirrixCore::pathBytes;
 
-// The freedesktop.org trash: "files" holds what was thrown away, "info" a note on each. QFile::moveToTrash tries for
-// ever where a note cannot be written: on a full disk, or for a name near the longest.
+// The freedesktop.org trash: "files" holds what was recycled, "info" a note on each. QFile::moveToTrash never ends
+// where a note cannot be written: on a full disk, or for a name near the longest.
 
 bool isPrivateFolder(const QByteArray &path)
 {
@@ -28,7 +28,7 @@ bool isPrivateFolder(const QByteArray &path)
     return lstat(path.constData(), &info) == 0 && S_ISDIR(info.st_mode) && info.st_uid == geteuid();
 }
 
-/// Others may write into a volume's topmost folder, so what stands there already must be ours. Looked for first: making
+/// Others may write into a volume's topmost folder, so what exists there already must be ours. Looked for first: making
 /// a folder that is there costs several times as much.
 bool makePrivateFolder(const QString &path)
 {
@@ -67,7 +67,7 @@ QString nameInTrash(const QString &path, int attempt)
 }
 
 /// Renames into the trash or leaves the file where it is; nothing is copied or deleted. `placed`: where it is then.
-FileFault throwInto(const BinFolder &trash, const QString &path, QString &placed)
+FileFault moveInto(const BinFolder &trash, const QString &path, QString &placed)
 {
     const QString files = trash.folder + QLatin1String("/files/");
     const QString notes = trash.folder + QLatin1String("/info/");
@@ -79,6 +79,7 @@ FileFault throwInto(const BinFolder &trash, const QString &path, QString &placed
     for (int attempt = 0; fault == FileFault::Occupied && attempt < mostAttempts; ++attempt) {
         const QString name = nameInTrash(path, attempt);
         const QString notePath = notes + name + QLatin1String(".trashinfo");
+        // First the note: it reserves the name, and a file without one could not be restored.
         fault = writeNote(notePath, note);
         if (fault != FileFault::None)
             continue;
@@ -91,7 +92,7 @@ FileFault throwInto(const BinFolder &trash, const QString &path, QString &placed
     return fault;
 }
 
-/// A home without a usable trash belongs to no desktop: nobody would look for the file elsewhere either.
+/// A home without a usable trash belongs to no desktop session, so no user would look for the file elsewhere either.
 bool canTake(const QString &)
 {
     const QString trash = homeTrash().folder;
@@ -107,9 +108,9 @@ RecycleBin::Answer moveToTrash(const QStringList &paths)
     for (const QString &path : paths) {
         const QString absolute = MirrixCore::absolutePath(path);
         QString placed;
-        FileFault fault = throwInto(homeTrash(), absolute, placed);
+        FileFault fault = moveInto(homeTrash(), absolute, placed);
         if (fault == FileFault::OtherVolume)
-            fault = throwInto(volumeTrash(absolute), absolute, placed);
+            fault = moveInto(volumeTrash(absolute), absolute, placed);
         answer.placed.append(placed);
         if (fault != FileFault::None)
             answer.code = static_cast<int>(fault);

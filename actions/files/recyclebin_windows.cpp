@@ -32,8 +32,8 @@ std::optional<DWORD> registryNumber(const QString &key, const wchar_t *name)
     return status == ERROR_SUCCESS ? std::optional(value) : std::nullopt;
 }
 
-/// Whether the bin of the volume with this root ("C:\") is switched on and large enough. What the registry does not
-/// tell is the system's default, which is on.
+/// Whether the bin of the volume with this root ("C:\") is switched on and large enough. What is not in the registry is
+/// the system's default, which is on.
 bool isBinLargeEnough(const std::wstring &root, qint64 sizeBytes)
 {
     if (registryNumber(QStringLiteral("Policies\\Explorer"), L"NoRecycleFiles").value_or(0) != 0)
@@ -50,8 +50,8 @@ bool isBinLargeEnough(const std::wstring &root, qint64 sizeBytes)
     return !capacityMib || sizeBytes <= qint64(*capacityMib) * 1024 * 1024;
 }
 
-/// The volumes of one batch that were found to have a bin, or none, by their root. Asking takes the shell a look at all
-/// that is in the bin.
+/// The volumes of one batch that were found to have a bin, or none, by their root. To answer, the shell reads
+/// everything in the bin.
 class Volumes
 {
 public:
@@ -70,6 +70,7 @@ private:
     {
         SHQUERYRBINFO info = {};
         info.cbSize = sizeof info;
+        // On other drives the shell deletes for good, without asking.
         return GetDriveTypeW(root) == DRIVE_FIXED && SHQueryRecycleBinW(root, &info) == S_OK;
     }
 
@@ -108,6 +109,7 @@ QString shellPath(const QString &path)
 bool canTake(const QString &path, Volumes &volumes)
 {
     const QString native = shellPath(path);
+    // The shell takes no "\\?\" paths and so nothing longer.
     return native.size() < MAX_PATH && hasPlainNames(native) && !hasCompanionFolder(path) &&
            volumes.haveBinFor(native.toStdWString(), pathState(path).sizeBytes);
 }
@@ -126,7 +128,7 @@ RecycleBin::Answer callShell(const QStringList &paths)
     return {code, operation.fAnyOperationsAborted != FALSE};
 }
 
-/// The shell wants a thread with a single-threaded apartment; that of the caller may have another.
+/// The shell needs a thread with a single-threaded apartment; the caller's thread may have another kind.
 RecycleBin::Answer send(const QStringList &paths)
 {
     RecycleBin::Answer answer;

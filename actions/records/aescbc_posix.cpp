@@ -19,7 +19,7 @@ const uchar *bytesOf(QByteArrayView bytes)
     return reinterpret_cast<const uchar *>(bytes.data());
 }
 
-/// Both directions; the output stands behind `prefix`. Empty on failure.
+/// Both directions; the output is appended to `prefix`. Empty on failure.
 QByteArray run(QByteArrayView key, QByteArrayView vector, QByteArrayView input, QByteArrayView prefix,
                bool isEncrypting)
 {

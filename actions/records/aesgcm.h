@@ -27,7 +27,7 @@ public:
     /// key before. Empty on failure.
     [[nodiscard]] QByteArray encrypt(QByteArrayView nonce, QByteArrayView plain, QByteArrayView additional);
 
-    /// The text of what encrypt made, given the same nonce and additional data; may be empty. Nothing when it is not
+    /// The text of what encrypt made, given the same nonce and additional data; may be empty. No value when it is not
     /// authentic or the library fails.
     [[nodiscard]] std::optional<QByteArray> decrypt(QByteArrayView nonce, QByteArrayView encrypted,
                                                     QByteArrayView additional);

@@ -30,7 +30,7 @@ QString indexPath(const QString &folder)
     return joinedPath(folder, QStringLiteral("backup_index.json"));
 }
 
-/// The index as it stands, empty when there is none. Nothing when it is there and cannot be read.
+/// The index as it is, empty when there is none. No value when it exists but cannot be read.
 std::optional<QByteArray> indexText(const QString &folder)
 {
     const QString path = indexPath(folder);
@@ -100,13 +100,13 @@ QList<BackupEntry> locatedIn(const QString &folder, const QByteArray &text)
     return entries;
 }
 
-/// An index that holds no list would be overwritten as if it were empty; what it says may still be of use to somebody.
+/// An index that holds no list would be overwritten as if it were empty; what it says may still be useful.
 bool setDamagedAside(const QString &folder)
 {
-    const QString aside = joinedPath(folder, QStringLiteral("backup_index.damaged%1.json"));
+    const QString damagedPath = joinedPath(folder, QStringLiteral("backup_index.damaged%1.json"));
     FileFault fault = FileFault::Occupied;
     for (int number = 1; fault == FileFault::Occupied; ++number)
-        fault = renameExclusively(indexPath(folder), aside.arg(number));
+        fault = renameExclusively(indexPath(folder), damagedPath.arg(number));
     return fault == FileFault::None || fault == FileFault::Missing;
 }
 
@@ -132,6 +132,7 @@ QList<BackupEntry> locatedEntries(const QString &folder, bool *isRead)
 
 BackupEntry locatedEntry(const QString &folder, const BackupEntry &entry)
 {
+    // Only the name is taken from the entry: the folder may have been moved, and the index is not trusted.
     BackupEntry located = entry;
     const QString name = fileNameOf(entry.backup);
     const QString besideIndex = joinedPath(MirrixCore::cleanedPath(MirrixCore::absolutePath(folder)), name);
@@ -144,7 +145,7 @@ BackupEntry locatedEntry(const QString &folder, const BackupEntry &entry)
 bool hasBackupFile(const BackupEntry &located)
 {
     const PathState::Kind kind = pathState(located.backup).kind;
-    return kind == PathState::Kind::File || kind == PathState::Kind::Unknown;
+    return kind == PathState::Kind::File || kind == PathState::Kind::Unknown; // what cannot be read is not gone
 }
 
 QList<BackupEntry> restorableEntries(const QString &folder, bool *isRead)
@@ -191,7 +192,7 @@ bool BackupIndexSession::remove(const QList<BackupEntry> &restored)
 {
     if (!takeOver())
         return false;
-    QSet<QString> names; // not paths: where a file was found cannot be told any more
+    QSet<QString> names; // not paths: where a file was found is no longer known here
     for (const BackupEntry &entry : restored)
         names.insert(fileNameOf(entry.backup));
     m_earlier.removeIf([&names](const BackupEntry &entry) { return names.contains(fileNameOf(entry.backup)); });

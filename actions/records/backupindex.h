@@ -51,13 +51,13 @@ struct BackupEntry
 bool saveBackupIndex(const QString &folder, const QList<BackupEntry> &entries);
 
 /// Sole access to a backup folder for the length of a batch, and its index, kept so that no file in it is ever
-/// unlisted: all entries of the batch are written before the first file moves, and those that came to nothing are taken
+/// unlisted: all entries of the batch are written before the first file moves, and those that were not used are taken
 /// out at the end. Two writes, whatever the length. An entry whose file is missing stays, unless its old path still
 /// holds a file of its size: then a crash kept it from being moved, or from being taken out once it was restored.
 class BackupIndexSession
 {
 public:
-    /// Makes the folder as needed and waits some seconds for other programs to be done with it.
+    /// Makes the folder as needed and waits some seconds for other programs to finish with it.
     explicit BackupIndexSession(const QString &folder);
 
     /// Writes what was there and `planned`. False when the folder is in use or cannot be written: then nothing may be

@@ -6,7 +6,7 @@
 
 namespace Mirrix {
 
-/// The ways in which a surplus copy is given up.
+/// The ways in which a surplus copy is removed.
 enum class CleaningMethod
 {
     Recycle,

@@ -22,7 +22,7 @@ struct BackupEntry;
 /// `count` files were marked by a rule, number as in the list of keep rules.
 [[nodiscard]] LogEntry markedByRuleEvent(int rule, qsizetype count);
 
-/// `count` files were given up by a method; `isBackupBeforeRemoval`: backed up because the user asked for that in the
+/// `count` files were removed by a method; `isBackupBeforeRemoval`: backed up because the user asked for that in the
 /// removal dialog.
 [[nodiscard]] LogEntry cleaningEvent(CleaningMethod method, bool isBackupBeforeRemoval, qsizetype count);
 

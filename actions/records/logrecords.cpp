@@ -18,8 +18,8 @@ QByteArray jsonText(const QString &text)
     return array.sliced(1, array.size() - 2);
 }
 
-/// Reads a text exactly as withLogRecords writes it. A log of years is told to be whole so in a fraction of the time
-/// that building all its values takes.
+/// Reads a text exactly as withLogRecords writes it. A log of years is recognised as whole in this way in a fraction of
+/// the time that building all its values takes.
 class OwnForm
 {
 public:

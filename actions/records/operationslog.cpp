@@ -18,7 +18,7 @@ namespace Mirrix {
 
 namespace {
 
-/// The file's bytes; none when it does not exist. Nothing when it exists and cannot be read.
+/// The file's bytes; empty when it does not exist. No value when it exists and cannot be read.
 std::optional<QByteArray> storedBytes(const QString &path)
 {
     QFile file(path);
@@ -48,7 +48,7 @@ bool OperationsLog::append(const QList<LogEntry> &records)
         return false;
     const std::optional<QByteArray> stored = storedBytes(m_filePath);
     if (!stored)
-        return false;
+        return false; // replacing the file would lose all earlier records
     const QByteArray key = operationsLogKey();
     const QByteArray encrypted = encryptAesCbc(key, withLogRecords(decryptAesCbc(key, *stored), records));
     return !encrypted.isEmpty() && replaceFile(m_filePath, encrypted);

@@ -17,8 +17,8 @@ struct LogEntry
 };
 
 /// The journal of what the program did: one file, encrypted with a key of this machine, so that it can be read only
-/// where it was written. A file that does not decrypt reads as empty and gives way to the next record. One thread at a
-/// time; several programs may share the file. Cost: every call reads, and append rewrites, the whole file.
+/// where it was written. A file that does not decrypt reads as empty and is replaced by the next record. One thread at
+/// a time; several programs may share the file. Cost: every call reads, and append rewrites, the whole file.
 class OperationsLog
 {
 public:

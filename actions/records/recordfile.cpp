@@ -41,7 +41,7 @@ RecordReader::Outcome RecordReader::read(QByteArray &text)
         return hasFailed() ? Outcome::Failed : head.isEmpty() ? Outcome::End : Outcome::Cut;
     const qint64 length = qFromLittleEndian<quint32>(head.constData());
     if (length < gcmNonceBytes + gcmTagBytes || length > mostRecordBytes)
-        return length == 0 ? Outcome::Cut : Outcome::Damaged;
+        return length == 0 ? Outcome::Cut : Outcome::Damaged; // zeros: space that a power cut left unwritten
     const QByteArray body = m_file.read(length);
     if (body.size() != length)
         return hasFailed() ? Outcome::Failed : Outcome::Cut;
@@ -94,7 +94,7 @@ bool RecordWriter::flush()
         m_flushed = m_end;
         return true;
     }
-    cutBackTo(m_flushed);
+    cutBackTo(m_flushed); // the disk may hold any part of the rest; the caller appends it again
     return false;
 }
 

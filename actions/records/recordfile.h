@@ -31,7 +31,7 @@ public:
     {
         Record,
         End,
-        Cut,     ///< the file ends inside a record, or goes on with the zeros that a power cut leaves
+        Cut,     ///< the file ends inside a record, or in the zeros that a power cut leaves
         Damaged, ///< the next record is too long or not authentic
         Failed   ///< the disk would not read
     };
@@ -70,7 +70,7 @@ public:
     /// Makes the file; it must not exist.
     [[nodiscard]] bool create(const QString &path);
 
-    /// Goes on in a file after `position`; what stands behind it is cut off.
+    /// Continues a file after `position`; what follows it is cut off.
     [[nodiscard]] bool resume(const QString &path, RecordPosition position);
 
     /// Hands a record to the system. When it cannot be written whole, the file ends with the record before.

@@ -17,7 +17,7 @@ namespace Mirrix {
 
 namespace {
 
-/// Takes the records of one journal in their order, the files only where they are wanted.
+/// Takes the records of one journal in their order, the files only where they are asked for.
 class JournalReplay
 {
 public:
@@ -51,7 +51,7 @@ public:
     }
 
 private:
-    /// A copied or renamed journal goes by its file's name, which is what others will look for.
+    /// A copied or renamed journal is known by its file's name, by which it will be opened.
     void nameAfter(const QString &path)
     {
         RunHeader &header = m_run.summary.header;

@@ -16,8 +16,8 @@ struct RunSummary
     RunHeader header; ///< id and, where nothing else is known, time are those of the file's name
     RunTally::Totals totals;
     bool isReadable = false; ///< also when nothing was written yet: such a run did nothing
-    bool isComplete = false; ///< the run came to its end, or was cancelled
-    bool isDamaged = false;  ///< more stands in the journal than can be read
+    bool isComplete = false; ///< the run ended normally, or was cancelled
+    bool isDamaged = false;  ///< the journal contains more than can be read
     QString message;         ///< on what is damaged or cannot be read; empty otherwise
 };
 

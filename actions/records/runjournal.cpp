@@ -20,15 +20,15 @@ namespace Mirrix {
 
 namespace {
 
-constexpr int flushEveryMs = 500;
+constexpr int flushEveryMs = 500; // of outcomes that a power cut may cost
 
 QString unwritableText(const QString &path, const QString &reason)
 {
     return QCoreApplication::translate("Mirrix", "无法写入清理记录: %1 (%2)").arg(path, reason);
 }
 
-/// The end of the last record that can be read. Nothing when that is the start, and when the disk would not read: what
-/// it reads another time must not be cut off.
+/// The end of the last record that can be read. No value when that is the start, and on a read error: what can be read
+/// later must not be cut off.
 std::optional<RecordPosition> endOfJournal(const QString &path)
 {
     RecordReader reader(runJournalKey());
@@ -102,7 +102,7 @@ bool RunJournalWriter::create(const QString &dataDirectory, RunHeader header, co
         return true;
     }
     m_records->close();
-    QFile::remove(m_path);
+    QFile::remove(m_path); // without a whole plan no file is touched, so there is no run to list
     close();
     return false;
 }
@@ -134,7 +134,7 @@ bool RunJournalWriter::outcome(const ItemOutcome &outcome)
     m_outcomes.append(rowText(outcome));
     if (m_sinceFlush.elapsed() >= flushEveryMs)
         return flush();
-    constexpr qsizetype enoughForARecord = 256;
+    constexpr qsizetype enoughForARecord = 256; // rows; each record costs a nonce, a tag and a write
     if (!m_hasFailed && m_outcomes.size() - m_handedOver >= enoughForARecord)
         m_hasFailed = !writeOutcomes();
     return !m_hasFailed;

@@ -42,7 +42,7 @@ public:
     /// done.
     [[nodiscard]] bool create(const QString &dataDirectory, RunHeader header, const QList<RunItem> &items);
 
-    /// Goes on with the journal of an earlier run, whose damaged end, if any, is cut off. False when there is none that
+    /// Continues the journal of an earlier run, whose damaged end, if any, is cut off. False when there is none that
     /// can be read, or another program writes to it.
     [[nodiscard]] bool resume(const QString &dataDirectory, const QString &id);
 
@@ -83,7 +83,7 @@ private:
 };
 
 /// Adds outcomes with the state Undone to the journal of an earlier run, and waits until they are on the disk. False,
-/// with the reason in `error` where wanted, when that failed. For many files over a longer time, use resume.
+/// with the reason in `error`, if given, when that failed. For many files over a longer time, use resume.
 [[nodiscard]] bool appendUndone(const QString &dataDirectory, const QString &id, const QList<ItemOutcome> &outcomes,
                                 QString *error = nullptr);
 

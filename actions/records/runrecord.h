@@ -10,7 +10,7 @@
 
 namespace Mirrix {
 
-// What is kept about one cleaning run: what it was, the files it was to act on, and what was done with each.
+// The record of one cleaning run: what it was, the files it was to act on, and what was done with each.
 
 /// The method of a run that removed empty folders; its items are these.
 inline const QString emptyFoldersMethod = QStringLiteral("empty-folders");
@@ -41,7 +41,7 @@ struct RunItem
     quint32 mode = 0;         ///< permissions (POSIX) or attributes (Windows)
     QString digest;           ///< "md5:..." or "blake3:..."; may be empty
     QString reason;           ///< why this file and not the kept one; may be empty
-    QString aside;            ///< path under which the file is set aside meanwhile; may be empty
+    QString aside;            ///< path under which the file is set aside during the run; may be empty
     QString linkTarget = {};  ///< where a link in its place leads, other than to the kept file; usually empty
 
     bool operator==(const RunItem &) const = default;

@@ -9,7 +9,7 @@ namespace {
 /// How many entries may wait: so few that they are written in well under a second.
 constexpr size_t mostWaiting = 256;
 
-/// How long a cancelled scan may go on writing.
+/// How long a cancelled scan may continue to write.
 constexpr qint64 cancelledWriteMs = 100;
 
 } // namespace
@@ -61,7 +61,7 @@ bool DigestWriter::startThread()
     try {
         if (!m_thread.joinable())
             m_thread = std::thread([this] { work(); });
-    } catch (const std::system_error &) { // whoever adds then writes
+    } catch (const std::system_error &) { // then add() writes itself
     }
     return m_thread.joinable();
 }

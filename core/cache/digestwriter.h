@@ -13,9 +13,9 @@
 
 namespace MirrixCore {
 
-/// Writes the digests of a scan into the fingerprint cache while it goes on, so that whatever ends the program costs
-/// only the last few: one thread, since the cache takes one entry at a time anyhow. Once the scan is cancelled, it goes
-/// on for a tenth of a second and drops the rest.
+/// Writes the digests of a scan into the fingerprint cache during the scan, so that a crash or kill loses only the last
+/// few. One thread, since the cache takes one entry at a time anyway. Once the scan is cancelled, it continues for a
+/// tenth of a second and drops the rest.
 class DigestWriter
 {
 public:

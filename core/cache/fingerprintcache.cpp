@@ -40,7 +40,7 @@ std::shared_mutex &cacheMutex()
 QByteArray readEntryFile(const QString &entryPath)
 {
     constexpr qint64 firstBytes = 512;    // an entry of ours is shorter
-    constexpr qint64 mostBytes = 1 << 20; // no entry of anybody's is longer
+    constexpr qint64 mostBytes = 1 << 20; // no valid entry is longer
     FileReader reader;
     if (!reader.open(entryPath) || !reader.readState()) // no pipe, no device
         return {};
@@ -63,7 +63,7 @@ bool writeEntryFile(const QString &entryPath, const QByteArray &text)
     const auto remove = [&] { return std::filesystem::remove(filesystemPath(entryPath), failure); };
     if (!openNatively(file, entryPath, mode) && !(remove() && openNatively(file, entryPath, mode)))
         return false;
-    if (file.write(text) != text.size()) // a full disk: half an entry is none, and only in the way
+    if (file.write(text) != text.size()) // a full disk: half an entry is useless, and would block a good one
         remove();
     return true;
 }
@@ -88,7 +88,7 @@ QByteArray digestIn(const QJsonObject &entry, const QString &key)
 {
     const QByteArray text = entry[key].toString().toLatin1();
     const QByteArray digest = QByteArray::fromHex(text);
-    if (digest.toHex() != text.toLower()) // fromHex passes over what is no digit
+    if (digest.toHex() != text.toLower()) // fromHex skips what is no digit
         return {};
     const bool isOfAny = entry[Key::algorithm].toString().isEmpty() && (digest.size() == 16 || digest.size() == 32);
     return isOfAny || digest.size() == currentDigestLength() ? digest : QByteArray();

@@ -111,13 +111,13 @@ Streaming stream(FileReader &reader, qint64 limitBytes, qint64 chunkBytes, const
     for (qint64 offset = 0; offset < limitBytes;) {
         if (isCancelled(cancelled))
             return Streaming::Cancelled;
-        const qint64 wanted = std::min(bufferBytes, limitBytes - offset);
-        const qint64 count = reader.readAt(offset, buffer.data(), wanted);
+        const qint64 length = std::min(bufferBytes, limitBytes - offset);
+        const qint64 count = reader.readAt(offset, buffer.data(), length);
         if (count < 0)
             return Streaming::Failed;
         add(QByteArrayView(buffer.constData(), count));
         offset += count;
-        if (count < wanted)
+        if (count < length)
             break;
     }
     return Streaming::Done;
@@ -140,7 +140,7 @@ QByteArray wholeDigest(const QString &path, Hasher &hasher, bool mayMap, const C
         };
         if (mapFileIntoSink(path, feed))
             return finished(reader, hasher.result(), notes);
-        hasher.reset();
+        hasher.reset(); // a part may have been fed before mapping failed
     }
     reader.expectSequentialReads();
     const Streaming outcome =
@@ -161,6 +161,7 @@ SmallFileDigests smallFileDigests(const QString &path, qint64 sizeBytes, bool fo
         return {};
     }
     QuickWindows windows(sizeBytes);
+    // One byte more than expected shows that the file has grown, without asking the system for its size.
     const qint64 count = reader.readAt(0, windows.head(), sizeBytes + 1);
     if (count != sizeBytes) {
         if (count < 0)
@@ -221,6 +222,7 @@ QByteArray prefixHash(const QString &path, qint64 limitBytes, const CancelQuery 
     if (!openAndRecord(reader, path, notes))
         return {};
     ContentHasher hasher(contentHashAlgorithm());
+    // Files of different sizes differ even where their beginnings are equal.
     hasher.addData(QByteArray::number(reader.sizeBytes()));
     const Streaming outcome =
         stream(reader, limitBytes, prefixChunkBytes, cancelled, [&](QByteArrayView bytes) { hasher.addData(bytes); });

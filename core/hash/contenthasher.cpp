@@ -6,8 +6,8 @@ namespace MirrixCore {
 
 namespace {
 
-/// The library finds out what the processor can do at its first use, and guards nothing meanwhile; so that comes before
-/// any thread of ours uses it.
+/// The library finds out what the processor can do at its first use, without a lock; so that comes before any thread of
+/// ours uses it.
 void findProcessorFeatures()
 {
     static const bool isDone = [] {

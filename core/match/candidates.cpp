@@ -8,7 +8,7 @@ namespace MirrixCore {
 
 namespace {
 
-/// Sorts short keys and then moves each candidate once: the candidates themselves are too long to be swapped about.
+/// Sorts short keys and then moves each candidate once: the candidates themselves are too large to be swapped often.
 void sortBy(Candidates &candidates, Digest Candidate::*digest)
 {
     std::vector<std::pair<quint64, quint32>> order(candidates.size());
@@ -35,7 +35,7 @@ Candidates filesOfSharedSize(const QList<FileEntry> &files)
 {
     QHash<qint64, quint32> filesOfSize;
     for (const FileEntry &file : files) {
-        if (file.size > 0)
+        if (file.size > 0) // empty files are all equal, and a search of their own
             ++filesOfSize[file.size];
     }
     Candidates candidates;
@@ -72,9 +72,9 @@ qsizetype moveSharedToFront(Candidates &candidates)
         count += std::ssize(run);
     }
     ordered.reserve(candidates.size());
-    for (const bool wanted : {true, false}) {
+    for (const bool isFront : {true, false}) {
         for (size_t i = 0; i < candidates.size(); ++i) {
-            if (isShared[i] == wanted)
+            if (isShared[i] == isFront)
                 ordered.push_back(candidates[i]);
         }
     }

@@ -14,7 +14,7 @@ namespace MirrixCore {
 struct Candidate
 {
     quint32 file = 0; ///< index into the matcher's input
-    Digest quick;     ///< what the cheap first stage tells; files of different ones are different
+    Digest quick;     ///< result of the cheap first stage; files whose values differ are different
     Digest full;      ///< what makes files duplicates
 };
 
@@ -30,7 +30,7 @@ using Run = std::span<Candidate>;
 [[nodiscard]] std::vector<Run> runsOf(Candidates &candidates, Digest Candidate::*digest);
 
 /// Brings the candidates that share a quick digest with another to the front, runs together, and takes the others' full
-/// digests from them, which nobody needs; returns how many are in front.
+/// digests from them, which are never needed; returns how many are in front.
 [[nodiscard]] qsizetype moveSharedToFront(Candidates &candidates);
 
 } // namespace MirrixCore

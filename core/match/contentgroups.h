@@ -10,7 +10,7 @@ namespace MirrixCore {
 enum class Shared
 {
     Full,        ///< the full one, of the whole content
-    QuickAndFull ///< both, since neither tells everything
+    QuickAndFull ///< both, since neither covers the whole content
 };
 
 /// Adds a group for each digest, or pair of them, that two or more candidates share, keyed by the lower-case hex digits

@@ -55,7 +55,7 @@ struct NameSignature
 [[nodiscard]] NameSignature nameSignature(QStringView name);
 
 /// How often each unit occurs in a name, hashed to 32 places, up to 255. One edit changes at most two of them by one.
-/// Tells long names apart, in which nearly all units occur twice.
+/// Distinguishes long names, in which nearly all units occur twice.
 using UnitCounts = std::array<quint8, 32>;
 
 [[nodiscard]] UnitCounts unitCounts(QStringView name);

@@ -37,7 +37,7 @@ public:
             collectGroups(candidates, m_files, Shared::Full, true, result);
             finishContentGroups(result, m_context);
         }
-        m_writer.finish();
+        m_writer.finish(); // also when cancelled: what was hashed need not be hashed again
         result.unread = m_unread.take();
         return result;
     }
@@ -63,7 +63,7 @@ private:
         if (file.size <= quickCoversBytes) {
             const SmallFileDigests digests = smallFileDigests(file.path, file.size, m_usesCache, &notes);
             candidate.full = Digest(m_unread.accepted(file, digests.full, notes));
-            candidate.quick = m_usesCache ? Digest(digests.quick) : candidate.full; // which tells the same
+            candidate.quick = m_usesCache ? Digest(digests.quick) : candidate.full; // it distinguishes as well
         } else {
             candidate.quick = Digest(m_unread.accepted(file, quickHash(file.path, &notes), notes));
         }

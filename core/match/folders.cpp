@@ -43,7 +43,7 @@ struct Item
 
 constexpr qint32 emptyFile = -1;
 constexpr qint32 unequal = -2;          ///< known to be equal to nothing
-constexpr qint32 firstFolderClass = -3; ///< and downwards
+constexpr qint32 firstFolderClass = -3; ///< and downwards, so that no folder has the number of a file's content
 
 using Items = std::vector<Item>;
 
@@ -120,7 +120,7 @@ private:
         }
     }
 
-    /// Whether its number tells it from all other files, and others may share it.
+    /// Whether the file's number on its volume identifies it, and it has other names.
     static bool hasFurtherNames(const FileEntry &file)
     {
         return file.hasFileId && file.fileIndex != 0 && file.linkCount > 1;

@@ -18,7 +18,7 @@ namespace MirrixCore {
 /// without a valid one join no group. Two pictures are compared only if the primary hash of one and some variant of the
 /// other have the same upper 16 bits, their lowest apart: near-linear in the number of pictures, at the price of some
 /// that are missed. Similarity passes on: the ends of a group may be further apart. Members and groups in list order,
-/// which has no influence on who belongs together; no group when `cancelled` answers true.
+/// which has no influence on the groups; no group when `cancelled` answers true.
 [[nodiscard]] QList<DuplicateGroup> groupSimilarImages(const QList<FileEntry> &files,
                                                        const std::vector<ImageFeature> &features,
                                                        const ScanOptions &options, const CancelQuery &cancelled);

@@ -21,7 +21,7 @@ FeatureRequest requestOf(const ScanOptions &options)
             options.imageUseRawPreview};
 }
 
-/// Brings a remembered feature into the form that `request` would give. An entry does not say with which request it was
+/// Brings a cached feature into the form that `request` would give. An entry does not say with which request it was
 /// made, but the number of its variants does, as long as none is missing because two were equal; of the rare others
 /// nothing is returned, and they are computed again.
 std::optional<ImageFeature> fitted(ImageFeature feature, const FeatureRequest &request)
@@ -29,12 +29,12 @@ std::optional<ImageFeature> fitted(ImageFeature feature, const FeatureRequest &r
     if (request.withHistogram && feature.histogram.isEmpty())
         return {};
     const qsizetype turns = request.allowRotation ? 4 : 1;
-    const qsizetype wanted = turns * (request.allowMirror ? 2 : 1);
+    const qsizetype requested = turns * (request.allowMirror ? 2 : 1);
     QList<quint64> &variants = feature.variants;
-    if (variants.size() == wanted)
+    if (variants.size() == requested)
         return feature;
-    if (!request.allowMirror && (wanted == 1 || variants.size() == mostVariants))
-        variants.resize(wanted); // those that are not mirrored come first
+    if (!request.allowMirror && (requested == 1 || variants.size() == mostVariants))
+        variants.resize(requested); // those that are not mirrored come first
     else if (variants.size() == mostVariants)
         variants = {variants[0], variants[mostVariants / 2]};
     else
@@ -97,6 +97,7 @@ private:
         if (m_needsSizes)
             setSize(file, pictureSize(picture.bytes));
         const ImageFeature feature = imageFeatureOf(picture.bytes, m_request, m_context.cancelled);
+        // The feature of a file that has changed since the walk would be cached under the old size and time.
         const bool isAsListed = picture.sizeBytes == file.size && picture.modifiedMs == file.modifiedMs;
         if (m_usesCache && isAsListed)
             storeImageFeature(file.path, file.size, file.modifiedMs, feature);

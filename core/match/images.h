@@ -5,7 +5,7 @@
 
 namespace MirrixCore {
 
-/// Groups pictures that look alike; see groupSimilarImages. What cannot be decoded joins no group. Remembers features
+/// Groups pictures that look similar; see groupSimilarImages. What cannot be decoded joins no group. Caches features
 /// where a cache is set. Cancelled: counts without groups.
 [[nodiscard]] ScanResult matchImages(QList<FileEntry> files, const ScanContext &context);
 

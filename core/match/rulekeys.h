@@ -13,9 +13,9 @@ namespace MirrixCore {
 /// search mode. Thread-safe.
 [[nodiscard]] QString buildRuleKey(const FileEntry &entry, const ScanOptions &options, bool includeMedia);
 
-/// Groups files whose rule keys are equal; with `similarNames`, those of them whose names are alike as well, and then
+/// Groups files whose rule keys are equal; with `similarNames`, those of them whose names are similar as well, and then
 /// files without a key too. Members in input order, groups by waste. Without groups when `cancelled` answers true.
-/// Reports under the phase "metadata", the names that are compared once more.
+/// Reports under the phase "metadata", the names that are compared again.
 [[nodiscard]] ScanResult groupByRuleKeys(const QList<FileEntry> &files, const ScanOptions &options, bool includeMedia,
                                          const CancelQuery &cancelled = {}, const ProgressCallback &progress = {});
 

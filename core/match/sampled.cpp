@@ -58,7 +58,7 @@ private:
             Digest(m_unread.accepted(file, prefixHash(file.path, m_limit, m_context.cancelled, &notes), notes));
     }
 
-    /// The digest of the whole file is the one that exact scans remember.
+    /// The digest of the whole file is the one that exact scans cache.
     void hashWhole(Candidate &candidate)
     {
         const FileEntry &file = m_files[candidate.file];

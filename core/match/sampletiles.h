@@ -9,7 +9,7 @@
 
 namespace MirrixCore {
 
-/// Files of one size, and which of them are alike. Files go by their position in it.
+/// Files of one size, and which of them are similar. Files are referred to by their position in it.
 struct SizeClass
 {
     SizeClass(qint64 fileBytes, std::vector<quint32> members, int leastPercent);
@@ -19,10 +19,10 @@ struct SizeClass
 
     qint64 sizeBytes;            ///< of each file
     qint64 sampledBytes;         ///< bytes in the samples of each
-    qint64 fewestEqual;          ///< bytes that the samples of two files alike have in common at least
+    qint64 fewestEqual;          ///< fewest bytes that the samples of two similar files have in common
     std::vector<quint32> files;  ///< indices into the matcher's input, ascending
     UnionFind sets;              ///< by position
-    std::vector<quint8> percent; ///< the lowest that joined a set, where its number stands; 100 before
+    std::vector<quint8> percent; ///< the lowest that joined a set, at the set's number; 100 before
 };
 
 /// Some files of a class with their samples in memory.
@@ -57,7 +57,7 @@ struct PairBlock
     size_t fromB = 0;
 };
 
-/// Two files alike, by their positions.
+/// Two similar files, by their positions.
 struct SimilarPair
 {
     qint32 a = 0;

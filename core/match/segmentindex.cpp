@@ -17,11 +17,11 @@ SegmentIndex::SegmentIndex(const std::vector<QString> &names, qint32 limit)
 {
     for (const QString &name : names)
         m_lengths[name.size()];
-    // As many places are looked at for each name as there are pieces, shifts and lengths; a look costs as much as
-    // dismissing several names.
-    constexpr qint64 namesPerLook = 8;
+    // For each name there are as many look-ups as pieces, shifts and lengths; a look-up costs as much as dismissing
+    // several names.
+    constexpr qint64 namesPerLookup = 8;
     const qint64 reach = std::min<qint64>(std::ssize(m_lengths), 2 * qint64(limit) + 1);
-    const bool mayCutFinely = (qint64(limit) + 2) * (qint64(limit) + 1) * reach * namesPerLook < std::ssize(names);
+    const bool mayCutFinely = (qint64(limit) + 2) * (qint64(limit) + 1) * reach * namesPerLookup < std::ssize(names);
     for (auto &[length, pieces] : m_lengths)
         pieces = piecesOf(length, mayCutFinely);
     size_t entries = 0;
@@ -62,7 +62,7 @@ SegmentIndex::SegmentIndex(const std::vector<QString> &names, qint32 limit)
     });
 }
 
-/// Even pieces. With many edits, or names shorter than those, one empty piece, which stands in every name.
+/// Even pieces. With many edits, or names shorter than those, one empty piece, which every name contains.
 std::vector<SegmentIndex::Piece> SegmentIndex::piecesOf(qsizetype length, bool mayCutFinely) const
 {
     const qsizetype count = qsizetype(m_limit) + 2;

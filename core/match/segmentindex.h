@@ -11,7 +11,7 @@
 namespace MirrixCore {
 
 /// Finds which of many names can be within a number of edits of another, without looking at all of them. Every name is
-/// cut into two pieces more than edits are allowed, so at least two pieces of a name near enough stand unchanged in the
+/// cut into two pieces more than edits are allowed, so at least two pieces of a name near enough are unchanged in the
 /// other, shifted by no more than the edits around them can do (Li, Deng, Wang, Feng: "Pass-Join", 2011). The commonest
 /// piece of each name ("IMG_", this year) is left out; one of the two is always among the others. Names go by their
 /// number. Takes about 35 bytes a piece.

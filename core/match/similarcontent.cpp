@@ -198,6 +198,7 @@ private:
         const Digest before = std::exchange(member.digest, {});
         if (readSamples(file.path, file.size, samples, notes))
             member.digest = digestOf({samples, tile.sizeClass->sampledBytes});
+        // Read again for another tile: other samples mean that the file has changed during the scan.
         if (!before.isEmpty() && !member.digest.isEmpty() && member.digest != before) {
             notes.hasChanged = true;
             member.digest = {};
@@ -263,10 +264,10 @@ private:
         std::map<qint32, QList<FileEntry>> members;
         for (size_t i = 0; i < files.files.size(); ++i)
             members[files.sets.find(static_cast<qint32>(i))].append(m_files[files.files[i]]);
-        for (const auto &[root, alike] : members) {
+        for (const auto &[root, similar] : members) {
             const int percent = files.percent[static_cast<size_t>(root)];
-            if (alike.size() >= 2)
-                groups.append({QStringLiteral("SIM:%1%").arg(percent), alike, wasteOf(alike)});
+            if (similar.size() >= 2)
+                groups.append({QStringLiteral("SIM:%1%").arg(percent), similar, wasteOf(similar)});
         }
     }
 

@@ -28,7 +28,7 @@ public:
         m_names.reserve(static_cast<size_t>(members.size()));
         for (const FileEntry &member : members) {
             if (isCancelled(cancelled))
-                return; // and find will give up at once
+                return; // and find returns at once
             m_names.push_back(normalizedBaseName(member.path, options));
             longest = std::max(longest, m_names.back().size());
         }
@@ -50,7 +50,7 @@ public:
                 continue;
             m_cluster[i] = count;
             std::vector<qint32> reached = {static_cast<qint32>(i)};
-            for (size_t next = 0; next < reached.size(); ++next) { // which grows meanwhile
+            for (size_t next = 0; next < reached.size(); ++next) { // which grows in the loop
                 if (isCancelled(m_cancelled))
                     return {};
                 takeNear(reached[next], reached);

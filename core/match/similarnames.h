@@ -20,7 +20,7 @@ class StageProgress;
 /// Groups of two or more members whose names are within `nameTolerance` edits, directly or through others. A pair is
 /// only compared when the longer name has the higher index, so the order of `members` counts; on purpose. `keyForm` is
 /// "%1|SFN:%2" (bucket key, name of the first member) or "%1|SFN". Groups that lie in one folder are dropped when the
-/// options ask for it. Takes time by the square of the members of like length at worst; gives up, without groups, when
+/// options ask for it. Takes quadratic time in the members of similar length at worst; returns no groups when
 /// `cancelled` answers true. Counts each member in `progress`, when given.
 [[nodiscard]] QList<DuplicateGroup> clusterSimilarNames(const QString &bucketKey, const QList<FileEntry> &members,
                                                         const ScanOptions &options, const QString &keyForm,

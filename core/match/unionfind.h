@@ -17,7 +17,7 @@ public:
         std::iota(m_parent.begin(), m_parent.end(), 0);
     }
 
-    /// The number that stands for the set of `x`. Halves the path on its way up.
+    /// The representative of the set of `x`. Halves the path on its way up.
     qint32 find(qint32 x)
     {
         while (m_parent[static_cast<size_t>(x)] != x) {
@@ -28,7 +28,7 @@ public:
         return x;
     }
 
-    /// Makes one set of the sets of `i` and `j`; the number that stood for the former stands for both.
+    /// Makes one set of the sets of `i` and `j`; the representative of the former represents both.
     void join(qint32 i, qint32 j) { m_parent[static_cast<size_t>(find(j))] = find(i); }
 
 private:

@@ -12,7 +12,7 @@ namespace MirrixCore {
 class UnreadFiles
 {
 public:
-    /// `digest`, or an empty one when the file could not be read or changed meanwhile, which is noted.
+    /// `digest`, or an empty one when the file could not be read or changed during reading, which is noted.
     [[nodiscard]] QByteArray accepted(const FileEntry &file, const QByteArray &digest, const HashNotes &notes);
 
     /// Notes why `file` could not be used; nothing when its reading was cancelled.

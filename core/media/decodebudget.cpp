@@ -20,12 +20,13 @@ DecodeBudget &DecodeBudget::ofProcess()
 
 bool DecodeBudget::isTurnOf(const void *waiter, qint64 bytes) const
 {
+    // One that needs more than the whole budget is decoded alone.
     return m_waiting.front() == waiter && (m_takenBytes == 0 || m_takenBytes + bytes <= m_totalBytes);
 }
 
 bool DecodeBudget::take(qint64 bytes, const CancelQuery &cancelled)
 {
-    constexpr std::chrono::milliseconds pollInterval(50);
+    constexpr std::chrono::milliseconds pollInterval(50); // `cancelled` can only be asked
     if (bytes <= 0 || bytes > 2 * m_totalBytes)
         return bytes <= 0;
     std::unique_lock lock(m_mutex);

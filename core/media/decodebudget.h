@@ -11,7 +11,7 @@
 namespace MirrixCore {
 
 /// The memory that pictures may take while they are decoded, shared by all threads: a few bytes can promise a picture
-/// of a gigabyte. Who wants more than is left waits, first come, first served. Thread-safe.
+/// of a gigabyte. A caller that asks for more than is left waits, first come, first served. Thread-safe.
 class DecodeBudget
 {
 public:
@@ -23,8 +23,8 @@ public:
     [[nodiscard]] qint64 totalBytes() const { return m_totalBytes; }
 
     /// Takes `bytes`, and waits for them as long as others hold them. More than the total is given to one alone, but
-    /// never more than twice the total: false then, and when `cancelled` meanwhile. A thread that holds some must not
-    /// take more.
+    /// never more than twice the total: false then, and when `cancelled` while waiting. A thread that holds some must
+    /// not take more.
     [[nodiscard]] bool take(qint64 bytes, const CancelQuery &cancelled);
 
     /// Gives back what was taken.

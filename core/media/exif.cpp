@@ -26,7 +26,7 @@ const ExifEntry *entryOf(const Exif &exif, ExifIfd folder, int tag)
     return exif_content_get_entry(exif->ifd[folder], static_cast<ExifTag>(tag));
 }
 
-/// A text as it stands in the file. It should be ASCII, cameras write UTF-8.
+/// A text as the file has it. It should be ASCII, cameras write UTF-8.
 QString textOf(const Exif &exif, ExifIfd folder, ExifTag tag)
 {
     const ExifEntry *entry = entryOf(exif, folder, tag);

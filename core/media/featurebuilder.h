@@ -7,7 +7,7 @@
 
 namespace MirrixCore {
 
-/// The number of grey levels a histogram tells apart.
+/// The number of grey levels in a histogram.
 inline constexpr int histogramBins = 64;
 
 /// Turns pixel counts into the stored form of a histogram.

@@ -5,7 +5,7 @@
 
 namespace MirrixCore {
 
-/// What the head of a picture tells that OpenCV decodes, and Qt not, or only where a plug-in of its is installed.
+/// What the head of a picture says that OpenCV decodes and Qt does not, or only where one of its plug-ins is installed.
 struct HeaderSize
 {
     /// WebP, TIFF, JPEG 2000, OpenEXR, Radiance, Sun raster, the float or the arbitrary form of PPM.

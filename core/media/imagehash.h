@@ -22,7 +22,7 @@ struct FeatureRequest
 
 /// The feature of a picture's encoded bytes, by OpenCV or, for what that cannot decode, by Qt; the two give different
 /// hashes. Invalid for what neither decodes, for pictures of more than 2^28 pixels or of more memory than the process
-/// may use for one (DecodeBudget). Waits for that memory while others decode; invalid when `cancelled` meanwhile.
+/// may use for one (DecodeBudget). Waits for that memory while others decode; invalid when `cancelled` while waiting.
 /// Decodes once. Thread-safe.
 [[nodiscard]] ImageFeature imageFeatureOf(const QByteArray &bytes, const FeatureRequest &request,
                                           const CancelQuery &cancelled = {});

@@ -55,13 +55,14 @@ const Library *library()
     return isLoaded ? &functions : nullptr;
 }
 
-/// Hands the file to the library piece by piece, from where it wants to read. It could open the file itself, but not
+/// Hands the file to the library piece by piece, from the offsets it asks for. It could open the file itself, but not
 /// under every name, and on Linux only under names that suit the locale.
 void feed(const Library &functions, void *handle, FileReader &reader)
 {
     constexpr qint64 pieceBytes = 64 * 1024;
-    constexpr qint64 mostBytes = 256 * 1024 * 1024; // a head and a tail are a few; a broken file may want more and more
-    constexpr size_t isFinished = 8;                // bit 3 of the answer
+    // A head and a tail are a few MiB; a broken file could make the library ask for more without end.
+    constexpr qint64 mostBytes = 256 * 1024 * 1024;
+    constexpr size_t isFinished = 8; // bit 3 of the answer
     constexpr auto nowhere = static_cast<quint64>(-1);
     const qint64 size = reader.sizeBytes();
     std::vector<char> piece(pieceBytes);
@@ -77,13 +78,13 @@ void feed(const Library &functions, void *handle, FileReader &reader)
         const auto *bytes = reinterpret_cast<const quint8 *>(piece.data());
         if (functions.addBuffer(handle, bytes, static_cast<size_t>(count)) & isFinished)
             break;
-        const quint64 wanted = functions.nextOffset(handle);
-        if (wanted == nowhere)
+        const quint64 next = functions.nextOffset(handle);
+        if (next == nowhere)
             continue;
-        if (wanted >= static_cast<quint64>(size))
+        if (next >= static_cast<quint64>(size))
             break;
-        offset = static_cast<qint64>(wanted);
-        functions.beginBuffer(handle, static_cast<quint64>(size), wanted);
+        offset = static_cast<qint64>(next);
+        functions.beginBuffer(handle, static_cast<quint64>(size), next);
     }
     functions.endBuffer(handle);
 }

@@ -40,7 +40,7 @@ QSize sizeOf(const MediaInfoFile &file, Stream stream)
     return {file.value(stream, QStringLiteral("Width")).toInt(), file.value(stream, QStringLiteral("Height")).toInt()};
 }
 
-/// What MediaInfo tells of a picture.
+/// What MediaInfo reports about a picture.
 void readImageStream(FileEntry &entry)
 {
     MediaInfoFile file;

@@ -11,8 +11,8 @@ namespace MirrixCore::MediaMetadata {
 [[nodiscard]] bool isNeeded(const ScanOptions &options);
 
 /// Fills the media members of those `files` that are of the options' kind by their extension, in place and in parallel
-/// on Qt's global thread pool; blocks until done. What a file does not tell stays empty or 0, and nothing is said of
-/// files that cannot be read. Phase "metadata". Asks `cancelled` before each file.
+/// on Qt's global thread pool; blocks until done. What a file does not state stays empty or 0, and nothing is reported
+/// about files that cannot be read. Phase "metadata". Asks `cancelled` before each file.
 void enrich(QList<FileEntry> &files, const ScanOptions &options, const ProgressCallback &progress,
             const CancelQuery &cancelled);
 
@@ -22,8 +22,8 @@ void enrich(QList<FileEntry> &files, const ScanOptions &options, const ProgressC
 void enrich(FileEntry &entry, SearchMode kind, bool withTags = false);
 
 /// What is known of one file for people to read: size and time, and the media members and tags of the kind that its
-/// extension tells; of videos also the dimensions. A missing file gives a record with nothing but its path. Opens the
-/// file several times: not for the interface's thread. Thread-safe.
+/// extension indicates; of videos also the dimensions. A missing file gives a record with nothing but its path. Opens
+/// the file several times: not for the interface's thread. Thread-safe.
 [[nodiscard]] FileEntry readPreviewFacts(const QString &path);
 
 } // namespace MirrixCore::MediaMetadata

@@ -7,7 +7,7 @@
 extern "C" bool mirrixOpenCvFeature(const QByteArray &bytes, const MirrixCore::FeatureRequest &request,
                                     MirrixCore::ImageFeature &feature);
 
-/// The version of OpenCV at work, such as "4.6.0".
+/// The version of OpenCV in use, such as "4.6.0".
 extern "C" const char *mirrixOpenCvVersion();
 
 namespace MirrixCore {

@@ -7,8 +7,8 @@ namespace MirrixCore {
 
 namespace {
 
-// Debian's OpenCV brings some 130 libraries along, which takes 60 to 110 ms and 50 MB: too much for a program that
-// only compares bytes.
+// Debian's OpenCV pulls in some 130 libraries, which takes 60 to 110 ms and 50 MB: too much for a program that only
+// compares bytes.
 QFunctionPointer resolveInModule(const char *name)
 {
     const QString folder = QCoreApplication::applicationDirPath();

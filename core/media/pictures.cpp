@@ -14,7 +14,7 @@ namespace MirrixCore {
 
 namespace {
 
-constexpr qint64 mostFileBytes = qint64(1) << 30;
+constexpr qint64 mostFileBytes = qint64(1) << 30; // which are held in memory
 
 } // namespace
 

@@ -12,7 +12,7 @@ namespace MirrixCore {
 struct PictureBytes
 {
     QByteArray bytes;      ///< what a decoder takes; empty when the file could not be read
-    qint64 sizeBytes = -1; ///< of the file; -1 when it could not be read or changed meanwhile
+    qint64 sizeBytes = -1; ///< of the file; -1 when it could not be read or changed during reading
     qint64 modifiedMs = 0; ///< of the file, milliseconds since the Unix epoch
 };
 
@@ -21,8 +21,8 @@ struct PictureBytes
 /// `cancelled`. Thread-safe.
 [[nodiscard]] PictureBytes readPicture(const QString &path, bool useRawPreview, const CancelQuery &cancelled = {});
 
-/// Width and height in pixels as the head of a picture's encoded bytes tells them, before any turning; invalid where Qt
-/// does not know the format. Decodes nothing.
+/// Width and height in pixels as the head of a picture's encoded bytes state them, before any rotation; invalid where
+/// Qt does not know the format. Decodes nothing.
 [[nodiscard]] QSize pictureSize(const QByteArray &bytes);
 
 /// The same for a file, of which little more than the head is read. Knows RAW files as well.

@@ -17,7 +17,7 @@ public:
     {}
 
     /// The low halves of a difference hash and of an average hash. The upper four rows of each would have to be enough
-    /// for ever: remembered hashes are compared with new ones.
+    /// permanently: cached hashes are compared with new ones.
     [[nodiscard]] quint64 hash() const
     {
         const QImage averages = scaled(8, 8);

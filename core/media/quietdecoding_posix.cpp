@@ -26,6 +26,7 @@ void filterCStandardError()
     FILE *filter = fopencookie(nullptr, "w", functions);
     if (!filter)
         return;
+    // Unbuffered, so that a text is filtered while the thread that wrote it is still decoding.
     std::setvbuf(filter, nullptr, _IONBF, 0);
     originalStream = stderr;
     stderr = filter;

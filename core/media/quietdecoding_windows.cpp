@@ -7,7 +7,7 @@
 
 namespace MirrixCore {
 
-// The C runtime offers no way to look at who writes, so the stream goes nowhere for the whole process. The console
+// The C runtime does not let us see which thread writes, so the stream goes nowhere for the whole process. The console
 // program has a stream of its own by then, and the system's handle stays what it was.
 void filterCStandardError()
 {

@@ -16,7 +16,7 @@ namespace MirrixCore {
 [[nodiscard]] QByteArray embeddedPreview(const QString &path);
 
 /// A RAW file developed at half its width and height with the camera's white balance, as 8-bit PPM or PGM. May wait for
-/// the memory it takes (DecodeBudget), with nothing as the answer when `cancelled` meanwhile.
+/// the memory it takes (DecodeBudget), and returns nothing when `cancelled` while waiting.
 [[nodiscard]] QByteArray developedRaw(const QString &path, const CancelQuery &cancelled = {});
 
 /// Width and height of the picture a RAW file holds, in pixels, before any turning.

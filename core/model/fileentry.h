@@ -40,14 +40,14 @@ struct FileEntry
     double longitude = 0; ///< degrees, east positive; valid with hasGps
     bool hasGps = false;
 
-    FilePlace place = FilePlace::Ordinary; ///< whether the file lies where copies are put away
+    FilePlace place = FilePlace::Ordinary; ///< whether the file lies in a bin, backup or snapshot
 
     QMap<QString, QString> tags; ///< further tag values by name; empty unless a rule or the preview asks for them
 
     bool operator==(const FileEntry &) const = default;
 };
 
-/// What goes when a content of `sizeBytes` goes, of which `allocatedBytes` are taken on the volume: holes take nothing.
+/// The space freed when a content of `sizeBytes` is removed that takes `allocatedBytes` on the volume: holes take none.
 /// What a volume takes beyond the content, and what is unknown (below 0), is not counted.
 [[nodiscard]] constexpr qint64 freeableBytes(qint64 sizeBytes, qint64 allocatedBytes)
 {

@@ -2,8 +2,8 @@
 
 namespace MirrixCore {
 
-/// Where a file lies, as far as it matters for cleaning: copies that were put away are listed, but are never the copy
-/// to keep, since whoever empties such a place would lose the last one.
+/// Where a file lies, as far as it matters for cleaning: copies in a bin, backup or snapshot are listed, but are never
+/// the copy to keep, since emptying such a place would lose the last one.
 enum class FilePlace
 {
     Ordinary,

@@ -118,7 +118,8 @@ bool fromJson(const QJsonValue &json, bool &value)
 
 bool fromJson(const QJsonValue &json, qint64 &value)
 {
-    // toInteger answers its default for fractions and for doubles beyond 64 bits; two defaults tell that from a hit.
+    // toInteger answers its default for fractions and for doubles beyond 64 bits; two different defaults distinguish
+    // that from a value.
     if (!json.isDouble() || json.toInteger(0) != json.toInteger(1))
         return false;
     value = json.toInteger();

@@ -152,7 +152,7 @@ QString unknownOption(const QString &name)
     return QStringLiteral("unknown option \"%1\"").arg(name);
 }
 
-/// The JSON value that a command-line text stands for; undefined when it is not JSON.
+/// The JSON value of a command-line text; undefined when it is not JSON.
 QJsonValue valueFromText(const OptionField &entry, const QString &text)
 {
     if (entry.isText)

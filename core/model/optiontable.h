@@ -11,7 +11,7 @@ namespace MirrixCore {
 // The one table that maps every option's name to its member. The console, saved profiles and tests all go through it.
 // A new option is one line in optiontable.cpp. Thread-safe.
 
-/// What people are told about an option.
+/// What the documentation says about an option.
 struct ScanOptionInfo
 {
     QString name;
@@ -38,7 +38,7 @@ struct ScanOptionInfo
 /// the first option that is unknown or has a value of another type; `options` is then unchanged.
 [[nodiscard]] QString scanOptionsFromJson(const QJsonObject &json, ScanOptions &options);
 
-/// Sets one option from a text as a command line gives it. Texts are taken as they stand; lists of texts are either a
+/// Sets one option from a text as a command line gives it. Strings are taken literally; lists of strings are either a
 /// JSON array or parts separated by commas; everything else is JSON. Returns as scanOptionsFromJson does.
 [[nodiscard]] QString setScanOption(ScanOptions &options, const QString &name, const QString &text);
 

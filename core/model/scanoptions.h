@@ -38,7 +38,7 @@ enum class AudioDepth : qint32
     Whole = 0,
     First2MiB = 1,
     First512KiB = 2,
-    Exact = 3, ///< by the digests that exact scans remember
+    Exact = 3, ///< by the digests that exact scans cache
     IgnoreContent = 4
 };
 
@@ -79,8 +79,8 @@ struct ScanOptions
     // Where to look.
     QStringList roots; ///< folders or drive roots to walk
     QStringList files; ///< single files to take besides, if they pass the filters; with any, folders are not compared
-    /// Settings of roots. A root without an entry is walked whole; it is examined as the entries are when these all
-    /// want the same, else for content duplicates.
+    /// Settings of roots. A root without an entry is walked whole; it is examined as the entries are when these all ask
+    /// for the same, else for content duplicates.
     QList<ScanLocation> locations;
     bool showRemaining = false; ///< without locations: list all files that are in no group
     QStringList excludeFolders; ///< folders never entered
@@ -161,7 +161,7 @@ struct ScanOptions
     qint32 keepRule = 0;
     qint64 largeFileMinBytes = 104857600;
 
-    // The numbers above as what they stand for. A number outside its enumeration gives a value that no case handles.
+    // The numbers above as enumerations. A number outside its enumeration gives a value that no case handles.
     [[nodiscard]] SearchMode mode() const { return static_cast<SearchMode>(searchMode); }
     [[nodiscard]] ContentMatch contentMatching() const { return static_cast<ContentMatch>(contentMatch); }
     [[nodiscard]] AudioDepth audioDepth() const { return static_cast<AudioDepth>(mediaCompareDepth); }

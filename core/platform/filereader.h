@@ -16,7 +16,7 @@ public:
     FileReader(FileReader &&) noexcept;
     FileReader &operator=(FileReader &&) noexcept;
 
-    /// Opens `path` for reading, without looking at it further. False on failure; errorText tells why.
+    /// Opens `path` for reading, without looking at it further. False on failure; errorText says why.
     [[nodiscard]] bool open(const QString &path);
 
     /// Takes down size and modification time of the open file. False, with the file closed, when that fails or when it
@@ -30,13 +30,13 @@ public:
     [[nodiscard]] qint64 modifiedMs() const;
 
     /// Reads up to `length` bytes at `offset`. Returns the number read, less than `length` only at the end of the file,
-    /// or -1 on an error; errorText tells why.
+    /// or -1 on an error; errorText says why.
     [[nodiscard]] qint64 readAt(qint64 offset, char *buffer, qint64 length);
 
     /// How many calls of readAt have gone to the file since it was opened.
     [[nodiscard]] int readCount() const;
 
-    /// Tells the system that the file will be read from start to end.
+    /// Announces to the system that the file will be read from start to end.
     void expectSequentialReads();
 
     /// Whether size and modification time, to the system's full resolution, still are what they were at

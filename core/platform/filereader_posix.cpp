@@ -51,7 +51,7 @@ bool FileReader::open(const QString &path)
     m_state->closeFile();
     m_state->readCount = 0;
     m_state->info = {};
-    // Without O_NONBLOCK, a pipe that took the file's place since the walk would block for ever.
+    // Without O_NONBLOCK, a pipe that took the file's place since the walk would block forever.
     m_state->descriptor = openPath(pathBytes(path), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
     return m_state->descriptor >= 0 || m_state->fail(errno);
 }
@@ -91,7 +91,7 @@ qint64 FileReader::readAt(qint64 offset, char *buffer, qint64 length)
             return -1;
         }
         done += count;
-        // Drives of the network and of programs may give less than asked before the end, too.
+        // Network and user file systems may return less than asked for before the end, too.
         if (count == 0 || (done < length && offset + done >= m_state->info.st_size))
             break;
     }

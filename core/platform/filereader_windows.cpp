@@ -27,7 +27,8 @@ FileReader &FileReader::operator=(FileReader &&) noexcept = default;
 bool FileReader::open(const QString &path)
 {
     m_state->readCount = 0;
-    // Without the flag for backup semantics a folder cannot be opened, which is what is wanted.
+    // Without the flag for backup semantics a folder cannot be opened, as intended. Everything is shared: hashing must
+    // not keep other programs from writing, renaming or deleting the file.
     m_state->file = UniqueHandle(CreateFileW(longPath(path).c_str(), GENERIC_READ,
                                              FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                                              OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
@@ -74,15 +75,15 @@ qint64 FileReader::readAt(qint64 offset, char *buffer, qint64 length)
         at.Offset = static_cast<DWORD>(position);
         at.OffsetHigh = static_cast<DWORD>(position >> 32);
         DWORD count = 0;
-        const auto wanted = static_cast<DWORD>(std::min(length - done, largestRead));
-        if (!ReadFile(m_state->file.get(), buffer + done, wanted, &count, &at)) {
+        const auto requested = static_cast<DWORD>(std::min(length - done, largestRead));
+        if (!ReadFile(m_state->file.get(), buffer + done, requested, &count, &at)) {
             if (GetLastError() == ERROR_HANDLE_EOF)
                 break;
             m_state->error = lastErrorText();
             return -1;
         }
         done += count;
-        if (count < wanted)
+        if (count < requested)
             break;
     }
     return done;
@@ -95,7 +96,7 @@ int FileReader::readCount() const
 
 void FileReader::expectSequentialReads()
 {
-    // Said when the file was opened.
+    // FILE_FLAG_SEQUENTIAL_SCAN, given at opening, does this.
 }
 
 bool FileReader::isUnchanged() const

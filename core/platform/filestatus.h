@@ -51,7 +51,7 @@ struct FileStatus
 };
 
 /// Reads what `path` leads to without opening its content. Missing with an empty reason means that nothing is there;
-/// with a reason, that the system would not say. Thread-safe.
+/// with a reason, that the system returned an error. Thread-safe.
 [[nodiscard]] FileStatus fileStatus(const QString &path);
 
 } // namespace MirrixCore

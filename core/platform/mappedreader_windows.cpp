@@ -10,7 +10,7 @@ namespace MirrixCore {
 
 namespace {
 
-/// The view that the current thread reads, and where to go on when reading it faults.
+/// The view that the current thread reads, and where to continue when reading it faults.
 struct ViewGuard
 {
     const char *begin = nullptr;
@@ -21,7 +21,7 @@ struct ViewGuard
 
 thread_local ViewGuard *currentGuard = nullptr;
 
-/// Turns a fault inside the current view into a second return from RtlCaptureContext in feedGuarded. MinGW has no
+/// Turns a fault inside the current view into a second return from RtlCaptureContext in copyGuarded. MinGW has no
 /// __try, so this is a vectored handler; it answers only for addresses inside the view. A failing drive raises
 /// EXCEPTION_IN_PAGE_ERROR; Wine raises an access violation for a file that was cut short.
 LONG CALLBACK onFault(EXCEPTION_POINTERS *exception)

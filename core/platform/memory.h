@@ -5,7 +5,7 @@
 namespace MirrixCore {
 
 /// How much memory this process may use at most, in bytes: the machine's, or less where the system allows less; 0 when
-/// it does not tell. Thread-safe.
+/// it does not say. Thread-safe.
 [[nodiscard]] qint64 memoryBytes();
 
 } // namespace MirrixCore

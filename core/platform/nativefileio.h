@@ -13,7 +13,7 @@ namespace MirrixCore {
 [[nodiscard]] bool isQtPath(const QString &path);
 
 /// Opens `path` as QFile::open would: ReadOnly, or WriteOnly, which makes or empties the file, with NewOnly only makes
-/// it. False on failure; `reason`, when given, tells why.
+/// it. False on failure; `reason`, when given, says why.
 [[nodiscard]] bool openNatively(QFile &file, const QString &path, QIODevice::OpenMode mode, QString *reason = nullptr);
 
 } // namespace MirrixCore

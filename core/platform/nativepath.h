@@ -19,7 +19,7 @@ namespace MirrixCore {
 /// Windows UTF-8 in which a lone surrogate is written as three bytes.
 [[nodiscard]] QByteArray pathBytes(const QString &path);
 
-/// The path that `bytes` stand for; pathBytes gives them back unchanged.
+/// The path that `bytes` encode; pathBytes gives them back unchanged.
 [[nodiscard]] QString pathFromBytes(QByteArrayView bytes);
 
 /// The path for libraries that open files themselves, in the units and the form of the system's calls. Its c_str() is
@@ -37,7 +37,7 @@ namespace MirrixCore {
 /// would not say.
 [[nodiscard]] QString canonicalPath(const QString &path);
 
-/// A text that is equal for all spellings of one path that this system does not tell apart by its rules on letter case.
+/// A text that is equal for all spellings of one path that this system's rules on letter case treat as the same.
 [[nodiscard]] QString pathCaseKey(const QString &path);
 
 /// The program's command line without loss, the program's name first.

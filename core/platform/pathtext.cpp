@@ -9,7 +9,7 @@ namespace MirrixCore {
 QString cleanedPath(const QString &path)
 {
     const QString clean = QDir::cleanPath(QDir::fromNativeSeparators(path));
-    // "C:" alone means the current folder of that drive to the system, and the whole drive to everybody else.
+    // "C:" alone means the current folder of that drive to the system, and the whole drive to users.
     const bool isBareDrive = clean.size() == 2 && clean[1] == QLatin1Char(':') && clean[0].isLetter();
     return isBareDrive ? clean + QLatin1Char('/') : clean;
 }

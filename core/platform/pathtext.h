@@ -19,7 +19,7 @@ namespace MirrixCore {
 [[nodiscard]] bool isBelow(QStringView path, QStringView folder);
 
 /// Whether `path` is `folder` or lies below it. Case is ignored and backslashes count as slashes; a sibling whose name
-/// merely begins alike is not below.
+/// only begins with the same characters is not below.
 [[nodiscard]] bool isUnderFolder(const QString &path, const QString &folder);
 
 /// The folder part of a file's path, with its slash only at a root ("C:/", "/").

@@ -7,7 +7,7 @@
 namespace MirrixCore {
 
 /// Encodes UTF-16 as UTF-8, handing each lone surrogate to `writeLone(char16_t, QByteArray &)`, which appends what
-/// stands for it.
+/// represents it.
 template <typename WriteLone>
 QByteArray encodeWithSurrogates(const QString &text, WriteLone writeLone)
 {

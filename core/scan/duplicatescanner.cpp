@@ -155,7 +155,7 @@ ScanResult matchLocations(const QList<FileEntry> &files, const ScanContext &cont
 void addFolders(ScanResult &result, const QList<FileEntry> &files, const FolderNotes &folders,
                 const ScanOptions &options)
 {
-    if (options.files.isEmpty()) // else folders stand for some of their files only
+    if (options.files.isEmpty()) // else folders contain only some of their files here
         result.folderGroups = findDuplicateFolders(files, folders, result, options);
     if (options.duplicateFoldersOnly) {
         keepGroupsOfDuplicateFolders(result.groups, result.folderGroups);

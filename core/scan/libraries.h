@@ -9,7 +9,7 @@ namespace MirrixCore {
 struct LibraryInfo
 {
     QString name;
-    QString version; ///< as the library itself tells; empty when it does not or is missing
+    QString version; ///< as the library itself reports it; empty when it does not or is missing
     QString licence; ///< SPDX expression
 };
 

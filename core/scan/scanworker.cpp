@@ -14,7 +14,7 @@ const char unknownFailure[] = QT_TRANSLATE_NOOP("Mirrix", "扫描过程中发生
 
 void ScanWorker::start(MirrixCore::ScanOptions options)
 {
-    m_cancelled.exchange(false);
+    m_cancelled.exchange(false); // so a cancel that comes before this point is lost: callers repeat it
     ScanResult result;
     try {
         result = DuplicateScanner::scan(
@@ -23,7 +23,7 @@ void ScanWorker::start(MirrixCore::ScanOptions options)
     } catch (const std::exception &error) {
         emit failed(QString::fromUtf8(error.what()));
         return;
-    } catch (...) {
+    } catch (...) { // not a std::exception; none may leave a slot
         emit failed(QString::fromUtf8(unknownFailure));
         return;
     }

@@ -8,21 +8,21 @@
 
 namespace MirrixCore {
 
-int creatableThreads(int wanted)
+int creatableThreads(int count)
 {
-    // All at once, as they will be needed. Not by std::latch, with which the MinGW library sometimes waits for ever.
+    // All at once, as they will be needed. Not by std::latch, with which the MinGW library sometimes waits forever.
     std::mutex mutex;
     std::condition_variable changed;
     bool mayEnd = false;
     std::vector<std::thread> threads;
-    threads.reserve(static_cast<size_t>(std::max(wanted, 0)));
+    threads.reserve(static_cast<size_t>(std::max(count, 0)));
     try {
-        while (std::ssize(threads) < wanted)
+        while (std::ssize(threads) < count)
             threads.emplace_back([&] {
                 std::unique_lock lock(mutex);
                 changed.wait(lock, [&] { return mayEnd; });
             });
-    } catch (const std::system_error &) { // what there is will do
+    } catch (const std::system_error &) { // as many as the system allows
     }
     {
         const std::lock_guard lock(mutex);

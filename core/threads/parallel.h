@@ -11,7 +11,7 @@
 namespace MirrixCore {
 
 /// While one lives, the global thread pool runs one task more than its size. Qt 6.4 fills large areas of a window on
-/// that pool and waits for it: with every thread busy for long, the interface would stand still.
+/// that pool and waits for it: with every thread busy for long, the interface would freeze.
 class SpareThread
 {
 public:
@@ -21,9 +21,9 @@ public:
     SpareThread &operator=(const SpareThread &) = delete;
 };
 
-/// How many of `wanted` threads the system lets this process have now. Qt's pool counts a thread that the system has
-/// refused as one at work for ever, so this is asked before the pool is.
-[[nodiscard]] int creatableThreads(int wanted);
+/// How many of `count` threads the system lets this process have now. Qt's pool counts a thread that the system has
+/// refused as busy forever, so this is asked before the pool is.
+[[nodiscard]] int creatableThreads(int count);
 
 /// Calls `task(i)` for each i in 0..count-1 on Qt's global thread pool; returns when all are done. A task writes only
 /// what belongs to its index. The calling thread takes no task unless the system refuses all others, so the pool's size

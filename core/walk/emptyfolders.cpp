@@ -93,7 +93,7 @@ private:
         m_stack.pop_back();
         if (!folder.reader.errorText().isEmpty()) {
             m_unread.append({folder.path, folder.reader.errorText()});
-            folder.isEmpty = false;
+            folder.isEmpty = false; // the part that was not read may hold anything
         }
         if (folder.isEmpty && !m_roots.contains(folder.path))
             m_found.append(folder.path);

@@ -146,18 +146,18 @@ private:
         }
     }
 
-    /// By way of their folders, which tell of a file what the walk needs without opening or following it.
+    /// Through their folders, which list what the walk needs to know of a file without opening or following it.
     void takeSingleFiles()
     {
-        QMap<QString, NamesByKey> wanted; // by folder
+        QMap<QString, NamesByKey> namesByFolder;
         for (const QString &listed : m_options.files) {
             const QString file = cleanedPath(listed);
             const qsizetype slash = file.lastIndexOf(QLatin1Char('/'));
             const QString name = file.mid(slash + 1);
             if (slash >= 0)
-                wanted[cleanedPath(file.left(slash + 1))].insert(pathCaseKey(name), name);
+                namesByFolder[cleanedPath(file.left(slash + 1))].insert(pathCaseKey(name), name);
         }
-        for (auto it = wanted.begin(); it != wanted.end() && !isCancelled(m_cancelled); ++it)
+        for (auto it = namesByFolder.begin(); it != namesByFolder.end() && !isCancelled(m_cancelled); ++it)
             takeFilesOf(it.key(), it.value());
     }
 
@@ -190,14 +190,14 @@ private:
             note(joinedPath(folder, name), error.isEmpty() ? QStringLiteral("no such file") : error);
     }
 
-    /// Whether single files of `folder` are left out with it: nobody has named it or those above it as roots.
+    /// Whether single files of `folder` are left out with it: neither it nor a folder above it is a root.
     bool isLeftOutWhole(const QString &folder, const QString &realPath) const
     {
         const QStringList above = folder.split(QLatin1Char('/'), Qt::SkipEmptyParts);
-        const auto isUnwanted = [this](const QString &name) { return m_filter.excludesName(name); };
+        const auto isExcluded = [this](const QString &name) { return m_filter.excludesName(name); };
         return m_rules.excludes(folder, false) || (!realPath.isEmpty() && m_rules.excludes(realPath, false)) ||
                (m_rules.needsIdentities() && m_rules.isListed(fileStatus(folder).identity)) ||
-               std::any_of(above.begin(), above.end(), isUnwanted);
+               std::any_of(above.begin(), above.end(), isExcluded);
     }
 
     void walkFolder(const QString &folder, const QString &realFolder)
@@ -293,8 +293,9 @@ private:
     }
 
     /// Opens a folder for reading unless an overlapping root has been walked through it before.
-    void push(const QString &path, const QString &realPath, FilePlace place, bool isLinkWanted)
+    void push(const QString &path, const QString &realPath, FilePlace place, bool followsLink)
     {
+        // One root alone overlaps with nothing, so a set of all its folders would be memory for nothing.
         if (m_options.roots.size() > 1 || !m_options.files.isEmpty()) {
             const QString key = pathCaseKey(path);
             if (m_visited.contains(key))
@@ -302,8 +303,8 @@ private:
             m_visited.insert(key);
         }
         const bool isFlat = !m_flatFolders.isEmpty() && m_flatFolders.contains(path.toLower());
-        FolderReader reader = m_stack.empty() ? FolderReader(path, isLinkWanted)
-                                              : FolderReader(m_stack.back().reader, path, isLinkWanted);
+        FolderReader reader =
+            m_stack.empty() ? FolderReader(path, followsLink) : FolderReader(m_stack.back().reader, path, followsLink);
         m_stack.push_back(
             {path.size(), realPath, place, std::move(reader), !isFlat, m_files.size(), true, false, {}, false});
         m_path = path;
@@ -311,8 +312,8 @@ private:
             m_stack[m_stack.size() - 1 - mostOpenFolders].reader.release();
     }
 
-    /// Whether a folder link leads anywhere but back to a folder that is being walked. Noted as unread when that cannot
-    /// be told, since following it might never end.
+    /// Whether a folder link leads elsewhere than back to a folder that is being walked. Noted as unread when that is
+    /// unknown, since following it might never end.
     bool mayFollow(const QString &path)
     {
         const FileStatus target = fileStatus(path);

@@ -32,6 +32,7 @@ bool isRecycleBin(const QString &path, QStringView name)
     if (isOneOf(name, {QLatin1String("$RECYCLE.BIN"), QLatin1String("RECYCLER"), QLatin1String("RECYCLED"),
                        QLatin1String(".Trash"), QLatin1String(".Trashes")}))
         return true;
+    // Users have folders of this name, too; a trash by the freedesktop.org rules holds "files".
     if (isOneOf(name, {QLatin1String("Trash")}))
         return fileStatus(path + QLatin1String("/files")).kind == FileStatus::Kind::Folder;
     return isBinOfUser(name);

@@ -7,12 +7,12 @@
 
 namespace MirrixCore {
 
-// Told from names and from what lies in a folder, without a look at the files. Thread-safe.
+// Recognised by names and by what lies in a folder, without opening any file. Thread-safe.
 
 /// Whether a file of this name makes the folder that holds it a backup folder.
 [[nodiscard]] bool isBackupIndex(QStringView name);
 
-/// The place of a folder whose parent lies in `parent`, as far as names tell it: the parent's, unless that is ordinary.
+/// The place of a folder whose parent lies in `parent`, as far as names show it: the parent's, unless that is ordinary.
 /// Asks the disk only about a folder called "Trash".
 [[nodiscard]] FilePlace placeOfFolder(const QString &path, FilePlace parent);
 

@@ -8,7 +8,7 @@
 
 namespace MirrixCore {
 
-/// One entry of a folder, as the folder itself tells it.
+/// One entry of a folder, as the folder itself lists it.
 struct FolderItem
 {
     enum class Kind
@@ -35,12 +35,12 @@ struct FolderItem
 class FolderReader
 {
 public:
-    /// Opens `folder`, an absolute clean path. A link is followed only when wanted; where the system cannot tell at the
-    /// opening (Windows), it always is.
-    explicit FolderReader(const QString &folder, bool isLinkWanted = true);
+    /// Opens `folder`, an absolute clean path. A link is followed only with `followsLink`; where the system cannot
+    /// distinguish one when opening (Windows), it always is.
+    explicit FolderReader(const QString &folder, bool followsLink = true);
 
     /// The same for a folder that lies in the one that `parent` reads, found from there while it is open.
-    FolderReader(const FolderReader &parent, const QString &folder, bool isLinkWanted);
+    FolderReader(const FolderReader &parent, const QString &folder, bool followsLink);
 
     ~FolderReader();
     FolderReader(FolderReader &&) noexcept;
@@ -50,7 +50,7 @@ public:
     /// missing.
     [[nodiscard]] bool next(FolderItem &item);
 
-    /// Reads the rest of the folder into memory and closes it, where open folders are short (POSIX).
+    /// Reads the rest of the folder into memory and closes it, where the number of open folders is limited (POSIX).
     void release();
 
     /// Why the folder could not be opened or read to its end; empty otherwise.

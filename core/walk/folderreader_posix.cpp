@@ -43,13 +43,13 @@ qint64 epochMs(const statx_timestamp &time)
     return epochMsFrom(time.tv_sec, time.tv_nsec);
 }
 
-/// Fills `item` from the file `name` below the open folder. False when the entry has vanished meanwhile.
+/// Fills `item` from the file `name` below the open folder. False when the entry has vanished since.
 bool readItem(int folder, const char *name, FolderItem &item)
 {
-    // statx rather than fstatat: it alone tells when a file was created.
+    // statx rather than fstatat: it alone returns when a file was created.
     struct statx info = {};
-    constexpr unsigned wanted = STATX_BASIC_STATS | STATX_BTIME;
-    if (statx(folder, name, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT, wanted, &info) != 0) {
+    constexpr unsigned fields = STATX_BASIC_STATS | STATX_BTIME;
+    if (statx(folder, name, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT, fields, &info) != 0) {
         if (errno == ENOENT)
             return false;
         item.reason = systemErrorText(errno);
@@ -72,9 +72,9 @@ bool isDots(const char *name)
     return name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'));
 }
 
-int openFlags(bool isLinkWanted)
+int openFlags(bool followsLink)
 {
-    return O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK | (isLinkWanted ? 0 : O_NOFOLLOW);
+    return O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK | (followsLink ? 0 : O_NOFOLLOW);
 }
 
 } // namespace
@@ -97,20 +97,20 @@ void FolderReader::State::start(int descriptor)
     }
 }
 
-FolderReader::FolderReader(const QString &folder, bool isLinkWanted)
+FolderReader::FolderReader(const QString &folder, bool followsLink)
     : m_state(std::make_unique<State>())
 {
-    m_state->start(openPath(pathBytes(folder), openFlags(isLinkWanted)));
+    m_state->start(openPath(pathBytes(folder), openFlags(followsLink)));
 }
 
-FolderReader::FolderReader(const FolderReader &parent, const QString &folder, bool isLinkWanted)
+FolderReader::FolderReader(const FolderReader &parent, const QString &folder, bool followsLink)
     : m_state(std::make_unique<State>())
 {
     if (DIR *above = parent.m_state->stream) {
         const QByteArray name = pathBytes(folder.mid(folder.lastIndexOf(QLatin1Char('/')) + 1));
-        m_state->start(openat(dirfd(above), name.constData(), openFlags(isLinkWanted)));
+        m_state->start(openat(dirfd(above), name.constData(), openFlags(followsLink)));
     } else {
-        m_state->start(openPath(pathBytes(folder), openFlags(isLinkWanted)));
+        m_state->start(openPath(pathBytes(folder), openFlags(followsLink)));
     }
 }
 
@@ -138,7 +138,7 @@ void FolderReader::release()
 bool FolderReader::State::read(FolderItem &item)
 {
     while (stream) {
-        errno = 0;
+        errno = 0; // readdir returns null at the end as well as on an error
         const dirent *entry = readdir(stream);
         if (!entry) {
             if (errno != 0)
@@ -148,6 +148,7 @@ bool FolderReader::State::read(FolderItem &item)
         if (isDots(entry->d_name))
             continue;
         item = FolderItem();
+        // Only files need their sizes and times; some file systems leave the kind of an entry unknown.
         const bool needsRead = entry->d_type == DT_REG || entry->d_type == DT_UNKNOWN;
         if (entry->d_type == DT_DIR)
             item.kind = FolderItem::Kind::Folder;

@@ -66,8 +66,8 @@ FolderReader::FolderReader(const QString &folder, bool)
         m_state->error = lastErrorText();
 }
 
-FolderReader::FolderReader(const FolderReader &, const QString &folder, bool isLinkWanted)
-    : FolderReader(folder, isLinkWanted)
+FolderReader::FolderReader(const FolderReader &, const QString &folder, bool followsLink)
+    : FolderReader(folder, followsLink)
 {}
 
 FolderReader::~FolderReader() = default;

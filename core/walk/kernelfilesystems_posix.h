@@ -5,7 +5,7 @@
 
 namespace MirrixCore {
 
-/// File systems whose files are made up by the kernel: reading them tells nothing, hangs, or changes the system.
+/// File systems whose files are made up by the kernel: reading them is useless, hangs, or changes the system.
 inline bool isKernelFileSystem(const struct statfs &info)
 {
     switch (static_cast<unsigned long>(info.f_type)) {

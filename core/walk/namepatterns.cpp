@@ -15,7 +15,7 @@ qsizetype setLength(QStringView pattern)
     return pattern.indexOf(u']', first + 1) + 1;
 }
 
-/// `members`: what stands between the brackets.
+/// `members`: what is between the brackets.
 bool isInSet(QChar character, QStringView members)
 {
     const bool isNegated = members.startsWith(u'!');
@@ -31,7 +31,7 @@ bool isInSet(QChar character, QStringView members)
     return isMember != isNegated;
 }
 
-/// How much of `pattern` stands for one character, if for `character`; else 0.
+/// The length of the part at the front of `pattern` that matches `character`; 0 when it does not match.
 qsizetype oneCharacter(QChar character, QStringView pattern)
 {
     if (const qsizetype length = setLength(pattern); length > 0)

@@ -6,10 +6,10 @@
 
 namespace MirrixCore {
 
-/// Whether a file's name, without its folder, matches a pattern of a shell: "*" stands for any characters, "?" for one,
-/// "[ab0-9]" for one of those, "[!ab]" for one that is none of them. A bracket that is never closed stands for itself,
-/// and so does a star in brackets. Names that are no proper Unicode match as well: no regular expression does.
-/// Compares as they stand: fold the case of both before. Thread-safe.
+/// Whether a file's name, without its folder, matches a pattern of a shell: "*" matches any characters, "?" one,
+/// "[ab0-9]" one of those, "[!ab]" one that is none of them. A bracket that is never closed matches itself, and so does
+/// a star in brackets. Names that are not valid Unicode match as well: no regular expression does. Compares
+/// case-sensitively: fold the case of both before. Thread-safe.
 [[nodiscard]] bool matchesPattern(QStringView name, QStringView pattern);
 
 /// Patterns of the names under which version control keeps its files and folders.

@@ -17,11 +17,10 @@ struct OwnFiles
     bool operator==(const OwnFiles &) const = default;
 };
 
-/// Tells all walks what to leave out, whatever path leads to it. Call once at start-up, before the first scan.
-/// Thread-safe.
+/// Sets what all walks leave out, whatever path leads to it. Call once at start-up, before the first scan. Thread-safe.
 void setOwnFiles(const OwnFiles &files);
 
-/// What was told last. Thread-safe.
+/// What was set last. Thread-safe.
 [[nodiscard]] OwnFiles ownFiles();
 
 /// Recognises the own files during a walk.

@@ -59,6 +59,7 @@ FolderRules::FolderRules(const ScanOptions &options)
     , m_system(options.skipSystemFolders ? nativelyComparablePaths(systemFolders()) : QStringList())
     , m_skipHidden(options.skipHidden)
 {
+    // A walk may reach an excluded folder by another path: through a link, in other letter case, through a mount.
     for (const QString &folder : options.excludeFolders) {
         const FileIdentity identity = folder.isEmpty() ? FileIdentity() : fileStatus(folder).identity;
         if (!identity.isKnown)

@@ -4,7 +4,7 @@
 
 namespace MirrixCore {
 
-// What the file attributes of Windows tell, by the numbers of its interface; here and not among its calls, so that it
+// What the file attributes of Windows mean, by the numbers of its interface; here and not among its calls, so that it
 // is tested everywhere.
 
 inline constexpr quint32 hiddenAttribute = 0x2;

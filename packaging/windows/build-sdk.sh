@@ -27,7 +27,7 @@ with_cmake() {
     cmake --install "$work/build/$name"
 }
 
-# with_autotools SOURCE OPTION...: libtool makes a DLL only when told at the link that nothing stays undefined.
+# with_autotools SOURCE OPTION...: libtool makes a DLL only when the link options say that nothing stays undefined.
 with_autotools() {
     cd "${1:?nothing to unpack}"
     shift

@@ -51,7 +51,7 @@ private slots:
     }
 
     /// A shell's limit on the size of files ends a write in its middle, as a full disk does, and needs no rights. The
-    /// test runs once more below it.
+    /// test runs again below it.
     void keepsTheOldFileOnAFullDisk()
     {
         const QString limited = qEnvironmentVariable("MIRRIX_LIMITED_FILE");

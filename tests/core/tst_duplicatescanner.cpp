@@ -76,7 +76,7 @@ private slots:
         const auto row = columns<QString, QString, QString>({"contentFolders", "emptyFolders", "groups"});
         row("no location", u"Data"_s, QString(), u"Data/1 Data/2"_s);
         row("side by side", u"Data"_s, u"Other"_s, u"Data/1 Data/2|Other/empty"_s);
-        row("names that begin alike", u"Data2"_s, u"Data"_s, u"Data/empty|Data2/1 Data2/2"_s);
+        row("names with the same beginning", u"Data2"_s, u"Data"_s, u"Data/empty|Data2/1 Data2/2"_s);
         row("innermost wins", u"Out"_s, u"Out/In"_s, u"Out/1 Out/2|Out/In/empty"_s);
         row("innermost of three wins", u"Out Out/In/Deep"_s, u"Out/In"_s,
             u"Out/1 Out/2 Out/In/Deep/1 Out/In/Deep/2|Out/In/empty"_s);

@@ -14,7 +14,7 @@
 
 namespace {
 
-/// What the walk takes, in alphabetical order; a file taken twice stands twice.
+/// What the walk takes, in alphabetical order; a file taken twice is listed twice.
 QString walked(const TempTree &tree, const ScanOptions &options)
 {
     return sortedText({relativePaths(enumerateFiles(options, {}, {}), tree)});
@@ -317,7 +317,7 @@ private slots:
         QCOMPARE(walked(tree, optionsFor(tree, {u"link"_s})), u"link/b"_s);
     }
 
-    /// Opening a pipe that nobody writes to would hang the walk.
+    /// Opening a pipe that no process writes to would hang the walk.
     void opensNoPipes()
     {
         const TempTree tree;
@@ -358,7 +358,7 @@ private slots:
     }
 
     /// More folders below each other than descriptors, under a path longer than the system takes at once. Each folder
-    /// has something left to read when the walk comes back to it.
+    /// has something left to read when the walk returns to it.
     void walksDeepTrees()
     {
         const TempTree tree;

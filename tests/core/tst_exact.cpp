@@ -66,7 +66,7 @@ private slots:
         const TempTree tree;
         const QByteArray content = patternBytes(mib);
         tree.writeAll(u"a b"_s, content);
-        tree.write(u"lastbyte"_s, withByteChanged(content, mib - 1)); // told by its tail
+        tree.write(u"lastbyte"_s, withByteChanged(content, mib - 1)); // differs in its tail
         tree.write(u"behindhead"_s, withByteChanged(content, quickWindowBytes));
         tree.write(u"beforetail"_s, withByteChanged(content, mib - quickWindowBytes - 1));
         tree.writeAll(u"empty1 empty2"_s, "");
@@ -181,7 +181,7 @@ private slots:
         row("line break and backslash", u"a\nb\\c"_s, "a\nb\\c");
     }
 
-    /// Listed, looked up, read and remembered under just this name and no other.
+    /// Listed, looked up, read and cached under just this name and no other.
     void findsOddNames()
     {
         QFETCH(QString, name);
@@ -355,7 +355,7 @@ private slots:
         QCOMPARE(phases, QStringList({Phase::Enumerating, Phase::QuickHash, Phase::FullHash}));
     }
 
-    /// Nothing shows better that a file was not read than content that nobody notices.
+    /// Nothing shows better that a file was not read than changed content that stays unnoticed.
     void readsAgainOnlyWhatWasTouched()
     {
         const TempTree cache;
@@ -445,8 +445,8 @@ private slots:
         QVERIFY(cacheEntryOf(path).contains(u"full"_s));
     }
 
-    /// Entries that somebody else has made or damaged: links, pipes, folders, cut and changed texts. The digests of a
-    /// whole entry for the file's very state are the only ones that are believed.
+    /// Entries that others have made or damaged: links, pipes, folders, cut and changed texts. The digests of a whole
+    /// entry for the file's very state are the only ones that are believed.
     void survivesHostileCache()
     {
         // Done to an entry whose digests would make all files equal if they were believed.

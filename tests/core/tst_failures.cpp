@@ -63,8 +63,8 @@ private slots:
         row("grown beyond small", exact, Phase::Enumerating, u"grown large"_s, smallBytes);
     }
 
-    /// Two files of four change at the end of a phase. Neither may count as equal to anything, nor be remembered for
-    /// the state that the walk saw.
+    /// Two files of four change at the end of a phase. Neither may count as equal to anything, nor be cached for the
+    /// state that the walk saw.
     void dropsWhatFailsMeanwhile()
     {
         QFETCH(QByteArray, mode);

@@ -23,7 +23,7 @@ const QByteArray full = QByteArray::fromHex("ffeeddccbbaa99887766554433221100");
 constexpr qint64 size = 1234;
 constexpr qint64 modified = 1700000000123;
 
-/// "quick", "full", both or neither, as found for a state; "wrong" for digests that nobody has stored.
+/// "quick", "full", both or neither, as found for a state; "wrong" for digests that were never stored.
 QString found(const QString &path = file, qint64 sizeBytes = size, qint64 modifiedMs = modified)
 {
     QByteArray quickDigest = "old";
@@ -112,7 +112,7 @@ private slots:
             row(kind, QLatin1String(kind));
     }
 
-    /// Somebody put it there. Nothing hangs, nothing is written through it, and the entry takes its place.
+    /// Another program put it there. Nothing hangs, nothing is written through it, and the entry takes its place.
     void entryThatIsNoPlainFile()
     {
         QFETCH(QString, kind);

@@ -133,7 +133,7 @@ private slots:
     void followsWantedLinksOnly()
     {
         if (!namesAreBytes)
-            QSKIP("not told at the opening");
+            QSKIP("not distinguished when opening");
         const TempTree tree;
         tree.write(u"folder/file"_s, "x");
         QVERIFY(tree.symbolicLink(u"folder"_s, u"link"_s));

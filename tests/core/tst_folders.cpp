@@ -7,8 +7,8 @@
 
 namespace {
 
-/// A scan of files given as "path=content" texts, content "-" standing for an empty file: files of equal content, two
-/// or more, make a group.
+/// A scan of files given as "path=content" texts, content "-" meaning an empty file: files of equal content, two or
+/// more, make a group.
 struct MadeScan
 {
     /// A number behind a content, as in "1#7", is the file's own: files that share it are names of one file.

@@ -94,7 +94,7 @@ private slots:
         write(u"b.png"_s, encoded(scaled(scene(1), 640, 400)));
         QCOMPARE(groups(), u"a.png b.png"_s);
         m_options.imageSameAspect = true;
-        QCOMPARE(groups(), QString()); // the features are remembered, the sizes are not
+        QCOMPARE(groups(), QString()); // the features are cached, the sizes are not
     }
 
     void rawFilesByTheirPreview()
@@ -115,7 +115,7 @@ private slots:
         write(u"b.png"_s, encoded(scene(1)));
         m_tree->setModified(u"photos/b.png"_s, 1600000000000);
         QCOMPARE(groups(), u"a.png b.png"_s);
-        // What nobody can know to be no picture without reading it.
+        // What cannot be recognised as no picture without reading it.
         write(u"b.png"_s, QByteArray(encoded(scene(1)).size(), 'x'));
         m_tree->setModified(u"photos/b.png"_s, 1600000000000);
         QCOMPARE(groups(), u"a.png b.png"_s);
@@ -131,7 +131,7 @@ private slots:
     }
 
     /// Entries made for one request serve another, or are made again where they cannot.
-    void rememberedVariantsFitTheRequest()
+    void cachedVariantsFitTheRequest()
     {
         write(u"a.png"_s, encoded(scene(1)));
         write(u"b.png"_s, encoded(scene(1).transformed(QTransform().rotate(180))));

@@ -102,7 +102,7 @@ private slots:
         QCOMPARE(totals[Phase::PrefixHash], 2);
     }
 
-    /// Files of one size and opening whose samples differ stay apart, whoever else is there.
+    /// Files of one size and opening whose samples differ stay apart, whatever other files there are.
     void keepsDifferentSamplesApart()
     {
         const TempTree tree;
@@ -150,7 +150,7 @@ private slots:
         const QString first = tree.path(u"a"_s);
         storeQuickAndFull(first, 30000, 1600000000000, quickHash(first), QByteArray(16, 'x'));
         QCOMPARE(scan(tree, SearchMode::Audio, 0).groups.size(), 0);
-        QCOMPARE(scan(tree, SearchMode::Audio, 1).groups.size(), 1); // openings are not remembered
+        QCOMPARE(scan(tree, SearchMode::Audio, 1).groups.size(), 1); // openings are not cached
     }
 };
 

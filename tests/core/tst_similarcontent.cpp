@@ -80,7 +80,7 @@ private slots:
         const QByteArray headChanged = changed(base, 0, 4096);       // one block of five: 80 %
         const QByteArray tailToo = changed(headChanged, 19200, 800); // 76.1 % and 96.1 %
         row("differ where no sample is", 100, {base, changed(base, 4500, 1)}, u"SIM:100%: a b"_s);
-        row("just alike enough", 80, {base, headChanged}, u"SIM:80%: a b"_s);
+        row("just similar enough", 80, {base, headChanged}, u"SIM:80%: a b"_s);
         row("just too different", 81, {base, headChanged}, {});
         row("one byte too different", 80, {base, changed(headChanged, 19999, 1)}, {});
         row("in a chain", 78, {tailToo, base, headChanged}, u"SIM:80%: a b c"_s);

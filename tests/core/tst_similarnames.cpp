@@ -250,12 +250,12 @@ private slots:
     /// Asked for each name when it is taken in and again when its neighbours are sought.
     void stopsWhenCancelled()
     {
-        for (const int patience : {0, 2, 4, 5}) {
+        for (const int allowed : {0, 2, 4, 5}) {
             int asked = 0;
-            const auto cancelled = [&] { return ++asked > patience; };
+            const auto cancelled = [&] { return ++asked > allowed; };
             const QList<FileEntry> files = filesNamed(QStringList(4, u"aa"_s));
             QVERIFY(clusterSimilarNames({}, files, {}, u"%1|SFN"_s, cancelled).isEmpty());
-            QVERIFY(asked <= patience + 2);
+            QVERIFY(asked <= allowed + 2);
         }
     }
 };

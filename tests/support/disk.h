@@ -46,7 +46,7 @@ using DiskTree = QMap<QString, QByteArray>;
 [[nodiscard]] inline DiskTree treeBelow(const QString &folder)
 {
     DiskTree tree;
-    // Only names from here: what Qt tells of a file is of another one where the name ends with a dot.
+    // Only names from here: Qt reports on another file where the name ends with a dot.
     QDirIterator it(folder, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
     while (it.hasNext()) {
         const QString path = it.next();
@@ -89,7 +89,7 @@ using DiskTree = QMap<QString, QByteArray>;
     return qEnvironmentVariable("MIRRIX_SMALL_DISK");
 }
 
-/// Runs the current row once more by a shell script that sets the scene in the folder "$0" and then executes the test,
+/// Runs the current row again by a shell script that sets the scene in the folder "$0" and then executes the test,
 /// "$@". False, with the reason in `problem`, when that run failed; "no scene" where the scene cannot be set.
 [[nodiscard]] inline bool passesInScene(const QString &script, QByteArray &problem)
 {
@@ -116,7 +116,7 @@ using DiskTree = QMap<QString, QByteArray>;
         QByteArray problem;                                                                                            \
         const bool isPassed = MirrixTest::passesInScene(QStringLiteral(script), problem);                              \
         if (problem == "no scene")                                                                                     \
-            QSKIP("the system lets nobody set up " sign);                                                              \
+            QSKIP("the system does not allow setting up " sign);                                                       \
         QVERIFY2(isPassed, problem.constData());                                                                       \
         return;                                                                                                        \
     }

@@ -25,7 +25,7 @@ struct TiffField
 [[nodiscard]] TiffField tiffLong(quint16 tag, quint32 number);
 [[nodiscard]] TiffField tiffRationals(quint16 tag, const QList<std::pair<quint32, quint32>> &numbers);
 
-/// A little-endian TIFF file, put together from its end: what is added tells the offset to refer to it by.
+/// A little-endian TIFF file, put together from its end: adding something returns the offset to refer to it by.
 class TiffFile
 {
 public:

@@ -9,7 +9,7 @@
 
 namespace MirrixTest {
 
-/// Answers every question from a script, in order, and remembers what was asked. An unanswered question is a No.
+/// Answers every question from a script, in order, and records what was asked. An unanswered question is a No.
 class ScriptedPrompts : public Mirrix::Prompts
 {
 public:

@@ -8,7 +8,7 @@
 namespace {
 
 /// What the user can put the focus into with the Tab key, in one state of a window. Of the buttons of a choice the
-/// chosen one stands for all; the arrow keys go on from there.
+/// chosen one represents all; the arrow keys continue from there.
 QSet<QWidget *> tabStops(const QWidget &window)
 {
     QSet<QWidget *> stops;

@@ -82,7 +82,7 @@ private slots:
         QTimer clicker;
         connect(&clicker, &QTimer::timeout, &scene.window, [&scene] {
             QVERIFY(scene.commands.isBusy());
-            scene.commands.removeChecked(); // ignored meanwhile
+            scene.commands.removeChecked(); // ignored until the end
             if (auto *dialog = qobject_cast<FileProgressDialog *>(QApplication::activeModalWidget()))
                 dialog->close();
         });
@@ -139,7 +139,7 @@ private slots:
         Scene scene;
         scene.addGroup(u"a* b* deep/a*"_s, "the only content");
         const auto before = treeBelow(scene.tree.path());
-        scene.prompts.choices = {2, 1, 0}; // give up, go on, and untick one
+        scene.prompts.choices = {2, 1, 0}; // cancel, continue, and untick one
         scene.commands.moveCheckedToBackup();
         QCOMPARE(scene.takeAsked(), QStringList(u"没有保留的副本|有 1 组将不会留下任何副本。"_s));
         QCOMPARE(treeBelow(scene.tree.path()), before);

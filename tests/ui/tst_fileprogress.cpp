@@ -47,7 +47,7 @@ private slots:
             }
         });
         QVERIFY(!dialog.isVisible() && dialog.isStopped());
-        QCOMPARE(done, 2); // the one under way was finished
+        QCOMPARE(done, 2); // the current one was finished
     }
 
     /// Last: no event loop runs after it.
@@ -55,7 +55,7 @@ private slots:
     {
         FileProgressDialog dialog(u"Working"_s, nullptr);
         QTimer::singleShot(0, &dialog, [] { QCoreApplication::exit(); });
-        // Without the stop this would go on for ever.
+        // Without the stop this would never end.
         runUnderProgress(dialog, [](const BatchProgress &progress) {
             while (progress(0, 1))
                 QThread::yieldCurrentThread();

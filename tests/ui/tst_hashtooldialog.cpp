@@ -66,7 +66,7 @@ private slots:
         QVERIFY(scene.isMarked(0) && !scene.isMarked(1) && scene.isMarked(2));
         QVERIFY(scene.table()->topLevelItem(0)->foreground(1).color().lightness() < 80);
 
-        // A file that is gone has no hash, and the one that was its equal stands alone.
+        // A file that is gone has no hash, and the one that was equal to it has no match.
         QVERIFY(QFile::remove(third));
         scene.dialog.computeRows(false);
         QVERIFY(scene.column(1).endsWith(u'|'));
@@ -132,7 +132,7 @@ private slots:
         for (int thread = 0; thread < 2; ++thread)
             pool->start([&gate] { gate.acquire(); });
         QTimer::singleShot(0, &scene.dialog, [&] {
-            scene.dialog.computeRows(false); // refused: one is under way
+            scene.dialog.computeRows(false); // refused: one is running
             emit part<QProgressDialog>(scene.dialog, u"HashProgress"_s)->canceled();
             gate.release(2);
         });

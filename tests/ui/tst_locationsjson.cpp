@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// "A:" stands for the root that absolute paths begin with on this system.
+/// "A:" is replaced with the root that absolute paths begin with on this system.
 QString here(QString text)
 {
     return text.replace(u"A:"_s, QDir::rootPath().startsWith(u'/') ? u""_s : u"C:"_s);

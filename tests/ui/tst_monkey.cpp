@@ -72,7 +72,7 @@ public:
     }
     void warn(QWidget *, const QString &, const QString &) override { look(); }
     void fail(QWidget *, const QString &, const QString &) override { look(); }
-    /// Some questions stand between the dialog and the deed; others are about backups, or about runs of any files.
+    /// Some questions come between the dialog and the action; others are about backups, or about runs of any files.
     bool ask(QWidget *, const QString &title, const QString &, const QString &) override
     {
         const bool mayDestroy = m_mayDestroy;

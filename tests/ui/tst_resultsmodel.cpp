@@ -173,7 +173,7 @@ private slots:
         QTRY_COMPARE(shown.groups(), u"120"_s);
         QCOMPARE(shown.results.marks.markedInAll(), 2);
         shown.model.setPathFilter(u"/a/"_s);
-        shown.model.reload(); // new results forget the filter
+        shown.model.reload(); // new results clear the filter
         QCOMPARE(shown.groups(), u"012"_s);
     }
 

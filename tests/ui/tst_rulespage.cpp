@@ -148,7 +148,7 @@ private slots:
         QTest::keyClick(rule, Qt::Key_Up);
         QCOMPARE(tags().rows.last().rule, 0);
         auto *tag = qobject_cast<QComboBox *>(table->cellWidget(0, 0));
-        tag->setEditText(u" 流派 "_s); // a label of the list stands for its tag
+        tag->setEditText(u" 流派 "_s); // a label of the list means its tag
         QCOMPARE(tags().rows.first().name, u"Genre"_s);
         tag->setEditText(u"Mood"_s);
         QCOMPARE(tags().rows.first().name, u"Mood"_s);

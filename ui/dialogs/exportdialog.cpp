@@ -158,12 +158,12 @@ ExportFormat ExportDialog::format() const
 void ExportDialog::takeFormat()
 {
     const QString suffix = suffixOf(m_pathFormat);
-    const QString wanted = suffixOf(format());
+    const QString newSuffix = suffixOf(format());
     const QString path = m_path->text();
-    if (suffix.isEmpty() != wanted.isEmpty())
+    if (suffix.isEmpty() != newSuffix.isEmpty())
         m_path->clear();
     else if (!suffix.isEmpty() && path.endsWith(suffix, Qt::CaseInsensitive))
-        m_path->setText(path.chopped(suffix.size()) + wanted);
+        m_path->setText(path.chopped(suffix.size()) + newSuffix);
     m_pathFormat = format();
     const bool hasDetails = m_pathFormat == ExportFormat::Csv || m_pathFormat == ExportFormat::TextReport;
     m_includeKeyAndTime->setEnabled(hasDetails);

@@ -16,8 +16,8 @@ namespace Mirrix {
 
 class Prompts;
 
-/// Asks what the results are to become and where. Does nothing itself and tests nothing: whoever opened it reads the
-/// request after it was accepted.
+/// Asks what the results are to become and where. Writes and checks nothing itself: the caller reads the request after
+/// it was accepted.
 class ExportDialog : public QDialog
 {
     Q_OBJECT

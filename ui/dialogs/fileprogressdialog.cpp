@@ -109,14 +109,14 @@ BatchProgress bindFileProgressDialog(FileProgressDialog &dialog)
 
 void runUnderProgress(FileProgressDialog &dialog, const std::function<void(const BatchProgress &)> &work)
 {
-    constexpr int momentMs = 20; // a dialog that flashes up says less than none
+    constexpr int momentMs = 20; // a dialog that only flashes up cannot be read
     const BatchProgress progress = bindFileProgressDialog(dialog);
     const std::unique_ptr<QThread> thread(QThread::create([&work, &progress] { work(progress); }));
     QObject::connect(thread.get(), &QThread::finished, &dialog, &QDialog::accept);
     thread->start();
     if (!thread->wait(momentMs))
         dialog.exec();
-    if (thread->isRunning())
+    if (thread->isRunning()) // the application is ending, which closes dialogs
         dialog.stop();
     thread->wait();
 }

@@ -41,7 +41,7 @@ QString methodText(int method)
     return {};
 }
 
-/// What a choice comes to; %1 stands for the number of files and %2 for their size.
+/// The effect of a choice; %1 is the number of files and %2 their size.
 QString outcomePattern(const RemovalChoice &choice, bool areContentsEqual)
 {
     const bool backsUp = choice.backsUpFirst;

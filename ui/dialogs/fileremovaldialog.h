@@ -31,8 +31,8 @@ struct RemovalChoice
 /// What the dialog starts with.
 [[nodiscard]] RemovalChoice initialRemovalChoice(const Settings &settings);
 
-/// Asks how a number of files are to be removed. Does nothing itself and tests nothing: whoever opened it reads the
-/// choice after it was accepted.
+/// Asks how a number of files are to be removed. Removes and checks nothing itself: the caller reads the choice after
+/// it was accepted.
 class FileRemovalDialog : public QDialog
 {
     Q_OBJECT
@@ -42,8 +42,8 @@ public:
 
     [[nodiscard]] RemovalChoice choice() const;
 
-    /// What is said of the outcome: the files' sizes together, and whether each has an equal copy that stays, from
-    /// which it could be made again.
+    /// What the note on the effect is based on: the files' total size, and whether each has an equal copy that stays,
+    /// from which it could be made again.
     void setFiles(qint64 totalBytes, bool areContentsEqual);
 
     /// A line below the question; none when empty. Translated.

@@ -74,7 +74,7 @@ public:
         : m_table(table)
         , m_blocker(table.model())
     {
-        // A sorted table would move its rows under the hands of who fills them.
+        // A sorted table would move its rows while they are filled.
         m_table.setSortingEnabled(false);
     }
     ~TableFreeze()
@@ -302,7 +302,7 @@ void HashToolDialog::computeRows(bool onlyMissing)
     {
         const TableFreeze freeze(*m_table);
         for (const Task &task : std::as_const(tasks)) {
-            // Of a file that cannot be read nothing is known any more; one that was not reached stays as it was.
+            // The old values of a file that cannot be read are cleared; one that was not reached stays as it was.
             if (task.hash.isEmpty() && !isWhole)
                 continue;
             task.row->setText(HashColumn, task.hash);
@@ -330,7 +330,7 @@ bool HashToolDialog::runTasks(QList<Task> &tasks, HashChoice choice)
     progress.setMinimumDuration(shownAfterMs);
     progress.setValue(0);
 
-    // A step waits for the one before: the dialog handles events while it paints, and would sink ever deeper.
+    // A step waits for the one before: the dialog handles events while it paints, and would recurse without end.
     const auto step = [&] {
         progress.setValue(count);
         isStepPosted = false;
@@ -419,7 +419,7 @@ void HashToolDialog::dragEnterEvent(QDragEnterEvent *event)
 {
     if (m_isBusy || !event->mimeData()->hasUrls())
         return;
-    event->setDropAction(Qt::CopyAction); // a move would make the giver delete the files
+    event->setDropAction(Qt::CopyAction); // after a move the source would delete the files
     event->accept();
 }
 
@@ -433,7 +433,7 @@ void HashToolDialog::dropEvent(QDropEvent *event)
     }
     event->setDropAction(Qt::CopyAction);
     event->accept();
-    // Whoever drags waits until this returns.
+    // The program that the files are dragged from waits until this returns.
     QMetaObject::invokeMethod(
         this, [this, paths] { addPaths(paths); }, Qt::QueuedConnection);
 }

@@ -18,28 +18,28 @@ namespace Mirrix {
 
 namespace {
 
-/// A plan, and what of it is wanted, as the question before shows it.
-struct WantedUndo
+/// A plan, and the part of it the user chose, as the question before shows it.
+struct ChosenUndo
 {
     UndoPlan plan;
     QList<UndoStep> possible;
     QStringList problems;
 };
 
-WantedUndo wantedUndo(UndoPlan plan, const QList<qsizetype> &items)
+ChosenUndo chosenUndo(UndoPlan plan, const QList<qsizetype> &items)
 {
-    WantedUndo wanted;
+    ChosenUndo result;
     const QSet<qsizetype> chosen(items.begin(), items.end());
     for (const UndoStep &step : std::as_const(plan.steps)) {
         if (!chosen.isEmpty() && !chosen.contains(step.item))
             continue;
         if (step.problem.isEmpty())
-            wanted.possible.append(step);
+            result.possible.append(step);
         else
-            wanted.problems.append(step.problem);
+            result.problems.append(step.problem);
     }
-    wanted.plan = std::move(plan);
-    return wanted;
+    result.plan = std::move(plan);
+    return result;
 }
 
 /// What the boxes say: files are put back, or after an undo removed again.
@@ -108,30 +108,30 @@ CleaningServices HistoryCommands::services() const
 bool HistoryCommands::undo(const RunHeader &run, const QList<qsizetype> &items)
 {
     const UndoTexts texts(run);
-    const QString runId = run.id; // the list of runs may be read again meanwhile
-    WantedUndo wanted;
+    const QString runId = run.id; // the list of runs may be read again before the end
+    ChosenUndo chosen;
     QString problems;
     FileProgressDialog planning(Text::tr("正在检查文件… (%1/%2)"), m_window);
     runUnderProgress(planning, [&](const BatchProgress &progress) {
         const QString backups = backupFolderPath(m_settings.backupRoot);
-        wanted = wantedUndo(planUndo(m_settings.directory, runId, progress, backups), items);
-        problems = texts.problems(wanted.problems);
+        chosen = chosenUndo(planUndo(m_settings.directory, runId, progress, backups), items);
+        problems = texts.problems(chosen.problems);
     });
     UndoResult result;
     QString outcome;
-    const bool goesOn = !planning.isStopped() && !wanted.possible.isEmpty() &&
-                        m_prompts.ask(m_window, texts.title(), texts.question(wanted.possible.size()) + problems);
-    if (!planning.isStopped() && wanted.possible.isEmpty()) {
+    const bool goesOn = !planning.isStopped() && !chosen.possible.isEmpty() &&
+                        m_prompts.ask(m_window, texts.title(), texts.question(chosen.possible.size()) + problems);
+    if (!planning.isStopped() && chosen.possible.isEmpty()) {
         m_prompts.inform(m_window, texts.title(), texts.nothing() + problems);
     } else if (goesOn) {
         FileProgressDialog working(texts.working(), m_window);
         runUnderProgress(working, [&](const BatchProgress &progress) {
-            result = undoRun(wanted.plan, wanted.possible, services(), progress);
+            result = undoRun(chosen.plan, chosen.possible, services(), progress);
             outcome = texts.outcome(result);
         });
         m_prompts.inform(m_window, Text::tr("完成"), outcome);
     }
-    discardInBackground(std::move(wanted));
+    discardInBackground(std::move(chosen));
     discardInBackground(std::move(result));
     return goesOn;
 }

@@ -14,16 +14,16 @@ class OperationsLog;
 class Prompts;
 struct Settings;
 
-/// What the cleaning history offers, with the questions before and the account after. Each command returns when it is
-/// over, and whether records may have changed; work on files goes on off the interface thread meanwhile.
+/// What the cleaning history offers, with the questions before and the summary after. Each command returns when it is
+/// over, and whether records may have changed; work on files runs off the interface thread.
 class HistoryCommands
 {
 public:
     /// Keeps references to everything; `window` is the parent of all boxes.
     HistoryCommands(const Settings &settings, Prompts &prompts, OperationsLog &log, QWidget *window);
 
-    /// Brings files of a run back, or puts those away again that an undo has brought back: those with these indices in
-    /// its list, or all.
+    /// Restores files of a run, or removes again those that an undo has restored: those with these indices in its list,
+    /// or all.
     bool undo(const RunHeader &run, const QList<qsizetype> &items = {});
 
     /// Deletes what a run has left in the backup folder.

@@ -146,7 +146,7 @@ void HistoryDialog::connectParts()
         m_searchDelay->start();
     });
     connect(m_searchDelay, &QTimer::timeout, this, &HistoryDialog::search);
-    connect(m_model, &HistoryModel::filesWanted, this, &HistoryDialog::readFiles);
+    connect(m_model, &HistoryModel::filesRequested, this, &HistoryDialog::readFiles);
     const QItemSelectionModel *selection = m_tree->selectionModel();
     connect(selection, &QItemSelectionModel::selectionChanged, this, &HistoryDialog::updateControls);
     connect(selection, &QItemSelectionModel::currentChanged, this, &HistoryDialog::updateControls);

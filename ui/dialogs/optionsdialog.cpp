@@ -225,7 +225,7 @@ void OptionsDialog::onClearImageCache()
         Text::tr("将删除目录下的全部图片哈希/直方图缓存：\n%1\n\n下次图片扫描会重新计算，可能稍慢。是否继续？");
     if (!m_prompts.ask(this, Text::tr("清空图片特征缓存"), question.arg(m_cachePath->text())))
         return;
-    // Aside: the cache may be large, and a scan may hold its lock.
+    // In the background: the cache may be large, and a scan may hold its lock.
     m_clearCache->setEnabled(false);
     m_clearing.setFuture(QtConcurrent::run(backgroundThreads(), MirrixCore::clearImageFeatureCache));
 }

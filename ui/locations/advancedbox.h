@@ -16,7 +16,7 @@ namespace Mirrix {
 
 class Prompts;
 
-/// Keep rule, what a scan passes over, and the backup folder.
+/// Keep rule, what a scan skips, and the backup folder.
 class AdvancedBox : public QGroupBox
 {
     Q_OBJECT

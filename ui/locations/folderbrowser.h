@@ -12,8 +12,8 @@ class QTreeView;
 
 namespace Mirrix {
 
-/// The tree of the machine's folders with the arrow that hands the selected ones on. Folders are listed in a thread of
-/// the model's when they are opened, so that a dead network drive holds nobody up.
+/// The tree of the machine's folders with the arrow that adds the selected ones to the scan locations. Folders are
+/// listed in a thread of the model's when they are opened, so that a dead network drive does not block the window.
 class FolderBrowser : public QWidget
 {
     Q_OBJECT

@@ -33,16 +33,16 @@ public:
 
     [[nodiscard]] LocationsState state() const;
 
-    /// Shows a state; says nothing.
+    /// Shows a state; emits nothing.
     void setState(const LocationsState &state);
 
     /// Adds a row with the default switches. An empty path and a folder already in the table are ignored.
     void addLocation(const QString &path);
 
-    /// While a scan runs, nothing here can be changed; browsing goes on.
+    /// While a scan runs, nothing here can be changed; browsing stays possible.
     void setLocked(bool locked);
 
-    /// Adds up once more what the backup folder holds.
+    /// Adds up again what the backup folder holds.
     void refreshHeldBackups();
 
 signals:

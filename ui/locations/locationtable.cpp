@@ -85,7 +85,7 @@ LocationTable::LocationTable(QWidget *parent)
     setTextElideMode(Qt::ElideMiddle);
     setWordWrap(false);
     setShowGrid(false);
-    setTabKeyNavigation(false); // Tab goes on to the switches and out of the table
+    setTabKeyNavigation(false); // Tab moves to the switches and out of the table
     setDragDropMode(DropOnly);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
@@ -194,7 +194,7 @@ void LocationTable::addToggle(int row, Column column, bool LocationRow::*member)
     button->setCheckable(true);
     button->setFlat(true);
     button->setChecked(m_rows[row].*member);
-    const QString path = m_rows[row].path;
+    const QString path = m_rows[row].path; // not the row, which changes when others are removed
     connect(button, &QPushButton::toggled, this, [this, path, member](bool isOn) {
         const int index = indexOf(path);
         m_rows[index].*member = isOn;

@@ -10,8 +10,8 @@ class QPushButton;
 
 namespace Mirrix {
 
-/// The scan locations, one row each with its own switches. A folder stands in it once; folders dropped from a file
-/// manager become rows.
+/// The scan locations, one row each with its own switches. A folder is listed once; folders dropped from a file manager
+/// become rows.
 class LocationTable : public QTableWidget
 {
     Q_OBJECT
@@ -33,7 +33,7 @@ public:
     [[nodiscard]] const QList<LocationRow> &rows() const { return m_rows; }
     [[nodiscard]] QStringList paths() const;
 
-    /// Replaces all rows; says nothing.
+    /// Replaces all rows; emits nothing.
     void setRows(const QList<LocationRow> &rows);
 
     /// Adds rows with the default switches, but for empty paths and those already here.

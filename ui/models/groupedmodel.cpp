@@ -61,7 +61,7 @@ int GroupedModel::columnCount(const QModelIndex &) const
 
 bool GroupedModel::hasChildren(const QModelIndex &parent) const
 {
-    // Without a look at the list: views ask for each of 300,000 rows, and sorted ones lie scattered in memory.
+    // Without reading the list: views ask for each of 300,000 rows, and sorted ones lie scattered in memory.
     return parent.isValid() ? !isChild(parent) && parent.column() == 0 : m_order.count() > 0;
 }
 

@@ -38,8 +38,8 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
-    /// Orders the top rows by what the column stands for; -1 gives the list's order back. The rows move later, when a
-    /// pool thread has sorted a shared copy of the list; the latest call wins.
+    /// Orders the top rows by the column's values; -1 restores the list's order. The rows move later, when a pool
+    /// thread has sorted a shared copy of the list; the latest call wins.
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
     /// Shows only the top rows whose path, or a path below them, holds `words` without regard to case; with empty words

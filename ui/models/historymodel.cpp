@@ -62,7 +62,7 @@ void HistoryModel::showAll()
     m_shown.clear();
     m_rowOf.assign(m_runs.size(), -1);
     for (size_t run = 0; run < m_runs.size(); ++run) {
-        m_runs[run].isWanted = false;
+        m_runs[run].isRequested = false;
         if (m_matches && !m_matches->contains(m_runs[run].summary.header.id))
             continue;
         m_rowOf[run] = static_cast<int>(m_shown.size());
@@ -216,7 +216,7 @@ bool HistoryModel::canFetchMore(const QModelIndex &parent) const
     if (!parent.isValid() || !hasChildren(parent))
         return false;
     const Run &run = m_runs[runOf(parent)];
-    return !run.files && !run.isWanted;
+    return !run.files && !run.isRequested;
 }
 
 void HistoryModel::fetchMore(const QModelIndex &parent)
@@ -224,8 +224,8 @@ void HistoryModel::fetchMore(const QModelIndex &parent)
     if (!canFetchMore(parent))
         return;
     Run &run = m_runs[runOf(parent)];
-    run.isWanted = true;
-    emit filesWanted(run.summary.header.id);
+    run.isRequested = true;
+    emit filesRequested(run.summary.header.id);
 }
 
 Qt::ItemFlags HistoryModel::flags(const QModelIndex &index) const

@@ -87,7 +87,7 @@ public:
 
 signals:
     /// The files of a run are to be shown and are not known.
-    void filesWanted(const QString &runId);
+    void filesRequested(const QString &runId);
 
 private:
     static constexpr quintptr fileBit = quintptr(1) << (8 * sizeof(quintptr) - 1);
@@ -96,7 +96,7 @@ private:
     {
         RunSummary summary;
         std::shared_ptr<const StoredRun> files;
-        bool isWanted = false;
+        bool isRequested = false;
     };
 
     [[nodiscard]] size_t runOf(const QModelIndex &index) const { return index.internalId() & ~fileBit; }

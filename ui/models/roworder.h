@@ -21,7 +21,7 @@ struct Arrangement
     bool isFiltered = false;
 };
 
-/// Which item stands in which row of a model: a permutation, or a part of one, sorted and filtered off the interface
+/// Which item is in which row of a model: a permutation, or a part of one, sorted and filtered off the interface
 /// thread. Interface thread only.
 class RowOrder : public QObject
 {
@@ -35,7 +35,7 @@ public:
 
     ~RowOrder() override;
 
-    /// `count` items in their own order, all shown. Work under way is forgotten. O(1).
+    /// `count` items in their own order, all shown. Work in progress is dropped. O(1).
     void reset(qsizetype count);
 
     /// Rows, not items.

@@ -29,8 +29,8 @@ void PictureLoader::setFactsReader(FactsReader reader)
 void PictureLoader::request(QList<PictureRequest> requests)
 {
     const QMutexLocker lock(&m_mutex);
-    m_wanted = std::move(requests);
-    while (m_workers < std::min<qsizetype>(m_pool.maxThreadCount(), m_wanted.size())) {
+    m_pending = std::move(requests);
+    while (m_workers < std::min<qsizetype>(m_pool.maxThreadCount(), m_pending.size())) {
         ++m_workers;
         m_pool.start([this] { work(); });
     }
@@ -39,11 +39,11 @@ void PictureLoader::request(QList<PictureRequest> requests)
 void PictureLoader::work()
 {
     for (QMutexLocker lock(&m_mutex);; lock.relock()) {
-        if (m_wanted.isEmpty()) {
+        if (m_pending.isEmpty()) {
             --m_workers;
             return;
         }
-        const PictureRequest request = m_wanted.takeFirst();
+        const PictureRequest request = m_pending.takeFirst();
         const PictureReader readImage = m_readPicture;
         const FactsReader readFacts = m_readFacts;
         lock.unlock();

@@ -9,7 +9,7 @@
 
 namespace Mirrix {
 
-/// One file wanted by a view.
+/// One file whose picture a view asks for.
 struct PictureRequest
 {
     MirrixCore::FileEntry file;
@@ -23,8 +23,8 @@ struct LoadedPicture
     Picture picture;
 };
 
-/// Reads pictures on its own threads, what is wanted now before all else. Interface thread only; the destructor waits
-/// for the pictures being decoded.
+/// Reads pictures on its own threads, those asked for last before all others. Interface thread only; the destructor
+/// waits for the pictures being decoded.
 class PictureLoader : public QObject
 {
     Q_OBJECT
@@ -37,7 +37,7 @@ public:
     void setPictureReader(PictureReader reader);
     void setFactsReader(FactsReader reader);
 
-    /// Replaces everything that still waits, most urgent first. What is being decoded goes on and is still delivered.
+    /// Replaces everything that still waits, most urgent first. What is being decoded is finished and still delivered.
     void request(QList<PictureRequest> requests);
 
 signals:
@@ -47,7 +47,7 @@ private:
     void work();
 
     QMutex m_mutex; ///< for the members up to the pool
-    QList<PictureRequest> m_wanted;
+    QList<PictureRequest> m_pending;
     PictureReader m_readPicture = readPicture;
     FactsReader m_readFacts;
     int m_workers = 0;

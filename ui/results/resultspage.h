@@ -28,7 +28,7 @@ class ScanFooter;
 class ThumbnailView;
 
 /// The third step: what the last scan found, with check boxes, a preview and the batch actions. Shows a ResultSet in
-/// place and writes the user's ticks into its marks; what is done with them is the owner's affair.
+/// place and writes the user's ticks into its marks; the owner decides what is done with them.
 class ResultsPage : public QWidget
 {
     Q_OBJECT
@@ -73,7 +73,7 @@ signals:
     void removeRequested();
     void exportRequested();
 
-    /// Two pictures of one group should be compared; selectedFiles() tells which, and whether that is so.
+    /// Two pictures of one group should be compared; selectedFiles() says which, and whether that is so.
     void compareRequested();
 
     /// The user ticked or unticked something.

@@ -7,8 +7,8 @@
 namespace Mirrix {
 
 /// A tree over a GroupedModel that stays quick with 300,000 top rows. QTreeView lays every row out again at each change
-/// and would stand still for seconds with all of them expanded; so here "all expanded" is a promise, kept for the rows
-/// on screen and two pages around them. Clicks on the header sort the model, a third click gives the list's own order
+/// and would freeze for seconds with all of them expanded; so here "all expanded" is a promise, kept for the rows on
+/// screen and two pages around them. Clicks on the header sort the model, a third click restores the list's own order
 /// back.
 class ResultsTree : public QTreeView
 {
@@ -23,10 +23,10 @@ public:
     /// second time, in another language, makes columns wider where that is needed.
     void fitColumns(int stretched, const QStringList &samples);
 
-    /// To call after a reset: expands the first `count` top rows and forgets the order by column.
+    /// To call after a reset: expands the first `count` top rows and resets the order by column.
     void resetView(int count);
 
-    /// To call after another reset: expands the first `count` top rows, or all where that was wished; the order stays.
+    /// To call after another reset: expands the first `count` top rows, or all where that was chosen; the order stays.
     void expandAgain(int count);
 
     void expandEverything();

@@ -43,7 +43,7 @@ public:
     /// The files whose cells meet the heights `top` to `bottom`, in order.
     [[nodiscard]] std::vector<FilePlace> filesBetween(int top, int bottom) const;
 
-    /// The file `columns` cells and `rows` rows of cells away, across groups; the nearest there is at the ends.
+    /// The file `columns` cells and `rows` rows of cells away, across groups; the nearest one at the ends.
     [[nodiscard]] FilePlace moved(FilePlace from, int columns, int rows) const;
 
 private:

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int pictureSide = 128;
 constexpr int margin = 8;
-constexpr int cacheKiB = 64 * 1024;
+constexpr int cacheKiB = 64 * 1024; // some 1,000 thumbnails
 
 } // namespace
 
@@ -54,11 +54,11 @@ void ThumbnailView::arrange()
     verticalScrollBar()->setRange(0, std::max(0, m_layout.height() - viewport()->height()));
     verticalScrollBar()->setPageStep(viewport()->height());
     verticalScrollBar()->setSingleStep(cell.height() / 3);
-    wantVisible();
+    requestVisible();
     viewport()->update();
 }
 
-void ThumbnailView::wantVisible()
+void ThumbnailView::requestVisible()
 {
     if (!isVisible())
         return;
@@ -185,13 +185,13 @@ void ThumbnailView::resizeEvent(QResizeEvent *event)
 void ThumbnailView::showEvent(QShowEvent *event)
 {
     QAbstractScrollArea::showEvent(event);
-    wantVisible();
+    requestVisible();
 }
 
 void ThumbnailView::scrollContentsBy(int, int dy)
 {
     viewport()->scroll(0, dy);
-    wantVisible();
+    requestVisible();
 }
 
 void ThumbnailView::select(FilePlace place, bool adds)

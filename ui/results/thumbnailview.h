@@ -54,7 +54,7 @@ protected:
 
 private:
     void arrange();
-    void wantVisible();
+    void requestVisible();
     void store(const LoadedPicture &loaded);
     void select(FilePlace place, bool adds);
     void toggle(FilePlace place);

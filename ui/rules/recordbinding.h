@@ -11,8 +11,8 @@
 
 namespace Mirrix {
 
-/// Ties controls to the members of a record, so that one list serves to read the controls, to show a record and to
-/// learn of changes. The controls must live as long as the binding is used.
+/// Ties controls to the members of a record, so that one list serves to read the controls, to show a record and to be
+/// notified of changes. The controls must live as long as the binding is used.
 template <class Record>
 class RecordBinding
 {

@@ -21,7 +21,7 @@ public:
         const auto *control = qobject_cast<QWidget *>(watched);
         if (event->type() != QEvent::Wheel || !control || control->hasFocus())
             return QObject::eventFilter(watched, event);
-        event->ignore(); // goes on to the scroll area
+        event->ignore(); // passed on to the scroll area
         return true;
     }
 };

@@ -33,7 +33,7 @@ void showName(QComboBox *combo, const QString &name)
         combo->setEditText(name);
 }
 
-/// A label of the list stands for its tag, also when typed; any other text for itself.
+/// A label of the list means its tag, also when typed; any other text means itself.
 QString shownName(const QComboBox *combo)
 {
     const QString text = combo->currentText().trimmed();
@@ -167,7 +167,7 @@ void TagTable::addOfferedRow()
     emit changed();
 }
 
-/// The page scrolls, so the table is as high as its rows. New rows stand last in the tab order until told otherwise.
+/// The page scrolls, so the table is as high as its rows. New rows come last in the tab order unless it is set.
 void TagTable::arrangeRows()
 {
     QWidget *previous = this;

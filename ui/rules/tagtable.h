@@ -19,7 +19,7 @@ class TagTable : public QGroupBox
 public:
     using NamesFunction = QList<TagName> (*)();
 
-    /// `names` gives the tags offered, in the language of the moment.
+    /// `names` gives the tags offered, in the current language.
     explicit TagTable(NamesFunction names, QWidget *parent = nullptr);
 
     [[nodiscard]] TagRules state() const;

@@ -7,19 +7,20 @@ namespace Mirrix {
 
 namespace {
 
-/// While the application object goes: later, at the end of the process, libraries that the work uses may be gone.
+/// Runs while the application object is destroyed: at the end of the process, libraries that the work uses may already
+/// be unloaded.
 void endWork()
 {
     backgroundThreads()->clear();
     backgroundThreads()->waitForDone();
 }
 
-struct AsideThreads : QThreadPool
+struct BackgroundPool : QThreadPool
 {
-    AsideThreads() { qAddPostRoutine(endWork); }
+    BackgroundPool() { qAddPostRoutine(endWork); }
 };
 
-Q_GLOBAL_STATIC(AsideThreads, pool)
+Q_GLOBAL_STATIC(BackgroundPool, pool)
 
 } // namespace
 

@@ -7,11 +7,11 @@
 
 namespace Mirrix {
 
-/// The threads for what the window has done aside: reading, sorting, freeing. Not the global pool: a scan keeps that
-/// one busy for minutes. Thread-safe.
+/// The threads for the window's background work: reading, sorting, freeing. Not the global pool: a scan keeps that one
+/// busy for minutes. Thread-safe.
 [[nodiscard]] QThreadPool *backgroundThreads();
 
-/// Frees what may be a million records without holding up the interface.
+/// Frees what may be a million records without blocking the interface.
 template <typename Value>
 void discardInBackground(Value &&value)
 {

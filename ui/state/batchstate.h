@@ -12,7 +12,7 @@ enum class ResultsTab
     Remaining
 };
 
-/// What decides about the batch actions.
+/// What the batch actions depend on.
 struct BatchState
 {
     ResultsTab tab = ResultsTab::Duplicates;
@@ -23,7 +23,7 @@ struct BatchState
     [[nodiscard]] bool isActive() const { return !isScanning && hasGroups && tab == ResultsTab::Duplicates; }
 };
 
-/// Why the batch actions rest, or how many files are ticked.
+/// Why the batch actions are disabled, or how many files are ticked.
 [[nodiscard]] QString batchNote(const BatchState &state);
 
 } // namespace Mirrix

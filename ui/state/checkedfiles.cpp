@@ -29,7 +29,7 @@ qsizetype keptFile(const SelectionMarks &marks, qsizetype group, const QList<Fil
     return first;
 }
 
-/// Whether a copy stays that nobody empties away.
+/// Whether a copy stays outside of bins, backups and snapshots, which may be emptied.
 bool keepsCopy(const SelectionMarks &marks, qsizetype group, const QList<FileEntry> &files)
 {
     const qsizetype kept = keptFile(marks, group, files);
@@ -46,10 +46,10 @@ qsizetype groupOf(const QString &path, const QList<DuplicateGroup> &groups)
 {
     if (path.isEmpty())
         return -1;
-    const QString wanted = comparable(path);
+    const QString key = comparable(path);
     for (qsizetype group = 0; group < groups.size(); ++group) {
         for (const FileEntry &file : groups[group].files) {
-            if (MirrixCore::pathCaseKey(file.path) == wanted)
+            if (MirrixCore::pathCaseKey(file.path) == key)
                 return group;
         }
     }
@@ -166,7 +166,7 @@ void untickOneInEach(SelectionMarks &marks, const QList<DuplicateGroup> &groups,
         if (marks.markedIn(group) == 0 || keepsCopy(marks, group, files))
             continue;
         const qsizetype kept = chooseInGroup(files, rule).kept;
-        marks.setMarked(group, std::max<qsizetype>(kept, 0), false);
+        marks.setMarked(group, std::max<qsizetype>(kept, 0), false); // the first where all are in bins or backups
     }
 }
 

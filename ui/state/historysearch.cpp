@@ -25,13 +25,13 @@ RunMatches searchRuns(const QString &dataDirectory, const QList<SearchedRun> &ru
                       const std::atomic<bool> &isStopped)
 {
     RunMatches matches;
-    const QString wanted = QDir::fromNativeSeparators(words);
+    const QString part = QDir::fromNativeSeparators(words);
     for (const SearchedRun &run : runs) {
         if (isStopped)
             break;
         std::vector<quint32> found = run.files
-                                         ? matchesIn(*run.files, wanted, isStopped)
-                                         : matchesIn(readRun(runJournalPath(dataDirectory, run.id)), wanted, isStopped);
+                                         ? matchesIn(*run.files, part, isStopped)
+                                         : matchesIn(readRun(runJournalPath(dataDirectory, run.id)), part, isStopped);
         if (!found.empty())
             matches.insert(run.id, std::move(found));
     }

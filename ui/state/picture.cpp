@@ -32,9 +32,9 @@ bool openRaw(const QString &path, QBuffer &encoded)
     return !bytes.isEmpty() && encoded.open(QIODevice::ReadOnly);
 }
 
-/// What decoding takes. Drawings are drawn as small as they are wanted; Qt itself keeps to its limit where the size is
-/// not known before.
-qint64 wantedBytes(const QImageReader &reader, QSize size)
+/// The memory that decoding takes. Drawings are drawn at the size asked for; Qt itself keeps to its limit where the
+/// size is not known before.
+qint64 neededBytes(const QImageReader &reader, QSize size)
 {
     constexpr qint64 mega = 1024 * 1024;
     if (!size.isValid())
@@ -46,14 +46,15 @@ qint64 wantedBytes(const QImageReader &reader, QSize size)
 Picture readFrom(QIODevice *device, QSize bounds)
 {
     QImageReader reader(device);
-    reader.setDecideFormatFromContent(true);
+    reader.setDecideFormatFromContent(true); // the suffix may be wrong
     reader.setAutoTransform(true);
     const QSize size = reader.size();
     if (reader.transformation().testFlag(QImageIOHandler::TransformationRotate90))
         bounds.transpose();
     if (size.isValid() && (size.width() > bounds.width() || size.height() > bounds.height()))
+        // A very narrow picture would be scaled to a side of 0.
         reader.setScaledSize(size.scaled(bounds, Qt::KeepAspectRatio).expandedTo({1, 1}));
-    const MirrixCore::DecodeShare memory(wantedBytes(reader, size));
+    const MirrixCore::DecodeShare memory(neededBytes(reader, size));
     const QImage image = memory.isGranted() ? reader.read() : QImage();
     if (!image.isNull())
         return {image, Picture::Problem::None};

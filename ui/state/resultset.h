@@ -6,7 +6,7 @@
 namespace Mirrix {
 
 /// What the last scan found and what of it is ticked. Owned by the main window; the models of the results page read it
-/// in place, so it must not change without telling them.
+/// in place, so it must not change without their being notified.
 struct ResultSet
 {
     QList<MirrixCore::DuplicateGroup> groups;

@@ -11,7 +11,7 @@ namespace {
 
 constexpr qint64 bytesPerMegabyte = 1 << 20;
 
-/// Whether a scan that was told "the mode's own extensions" looks for exactly these, RAW files being wanted or not.
+/// Whether a scan with "the mode's own extensions" looks for exactly these, with or without RAW files.
 bool isListOfMode(const QStringList &extensions, qint32 mode, bool withRaw)
 {
     RulesState rules;

@@ -20,7 +20,7 @@ enum class TagRule : qint32
 /// One row of a tag table.
 struct TagRow
 {
-    QString name;    ///< as the engine knows the tag, see tagnames.h; any other text the user typed stands as it is
+    QString name;    ///< as the engine knows the tag, see tagnames.h; any other text the user typed is unchanged
     qint32 rule = 1; ///< a TagRule
 
     bool operator==(const TagRow &) const = default;

@@ -165,7 +165,7 @@ void addModeRules(const RulesState &rules, ScanOptions &options)
     }
 }
 
-/// What an empty list of wanted extensions stands for in a mode.
+/// What an empty list of extensions means in a mode.
 QStringList extensionsOfMode(qint32 mode, bool withRaw)
 {
     const auto searchMode = static_cast<MirrixCore::SearchMode>(mode);
@@ -196,7 +196,7 @@ ScanOptions scanOptionsFrom(const LocationsState &locations, const RulesState &r
     addFilters(locations.advanced, rules.fileTypes, options);
     addGeneralRules(rules.general, options);
     addDateRanges(rules.fileTypes, options);
-    options.readFileIdentity = true; // for the look at a file just before it is removed
+    options.readFileIdentity = true; // for the check of a file just before it is removed
     options.collapseHardLinks = rules.ignoreHardLinks;
     options.largeFileMinBytes = largeFileBytes;
     if (!rules.fileTypes.useModeExtensions)

@@ -6,8 +6,8 @@
 
 namespace Mirrix {
 
-/// The options of a scan as the pages of locations and rules stand. Only the tab of the chosen mode counts, the general
-/// rules on names, sizes, dates and paths in every mode. Dates are taken in local time. Pure.
+/// The options of a scan as the pages of locations and rules are set. Only the tab of the chosen mode counts, the
+/// general rules on names, sizes, dates and paths in every mode. Dates are taken in local time. Pure.
 [[nodiscard]] MirrixCore::ScanOptions scanOptionsFrom(const LocationsState &locations, const RulesState &rules);
 
 /// The greatest distance of image hashes that a similarity level (0 to 4) accepts; a level beyond counts as the

@@ -12,10 +12,10 @@ namespace Mirrix {
 /// What a phase is called in the window; a phase without a name shows its key.
 [[nodiscard]] QString phaseName(const QString &phase);
 
-/// One line on where the scan stands.
+/// One line on the progress of the scan.
 [[nodiscard]] QString progressText(const MirrixCore::ScanProgress &progress);
 
-/// Where the progress bar is to stand, 0 to 100; nothing when it is to stay where it is.
+/// The value of the progress bar, 0 to 100; no value when it is to stay as it is.
 [[nodiscard]] std::optional<int> progressPercent(const MirrixCore::ScanProgress &progress);
 
 /// The figures of a finished scan in one line.

@@ -9,7 +9,7 @@ namespace Mirrix {
 
 // What the cleaning history says of runs and files, in the current language.
 
-/// How the files of a run were given up, such as "Moved to backup + Symbolic link"; for an undoing, that it is one.
+/// How the files of a run were removed, such as "Moved to backup + Symbolic link"; for an undo, that it is one.
 [[nodiscard]] QString runMethodText(const RunHeader &run);
 
 /// The same for a method.
@@ -18,7 +18,7 @@ namespace Mirrix {
 /// The method of the run that `run` undid; empty where it is no undo.
 [[nodiscard]] QString undoneMethodText(const RunHeader &run);
 
-/// Whether the run came to its end, was undone or undid another.
+/// Whether the run ended normally, was undone or undid another.
 [[nodiscard]] QString runStateText(const RunSummary &run);
 
 /// What a run did with a file, and why not where it failed.

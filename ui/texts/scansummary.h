@@ -6,7 +6,7 @@
 
 namespace Mirrix {
 
-/// What the question before a scan tells about it: several lines, translated. Interface thread only.
+/// What the question before a scan says about it: several lines, translated. Interface thread only.
 [[nodiscard]] QString scanSummary(const MirrixCore::ScanOptions &options);
 
 } // namespace Mirrix

@@ -4,7 +4,7 @@ namespace Mirrix {
 
 namespace {
 
-constexpr int insistMs = 50;
+constexpr int cancelRetryMs = 50;
 
 }
 
@@ -13,7 +13,7 @@ ScanThread::ScanThread(QObject *parent)
     , m_worker(std::make_unique<MirrixCore::ScanWorker>())
 {
     m_worker->moveToThread(&m_thread);
-    m_cancelRetry.setInterval(insistMs);
+    m_cancelRetry.setInterval(cancelRetryMs);
     connect(&m_cancelRetry, &QTimer::timeout, this, [this] { m_worker->cancel(); });
     connect(m_worker.get(), &MirrixCore::ScanWorker::finished, &m_cancelRetry, &QTimer::stop);
     connect(m_worker.get(), &MirrixCore::ScanWorker::failed, &m_cancelRetry, &QTimer::stop);
@@ -25,7 +25,7 @@ ScanThread::~ScanThread()
     m_thread.quit();
     do
         m_worker->cancel();
-    while (!m_thread.wait(insistMs));
+    while (!m_thread.wait(cancelRetryMs));
 }
 
 void ScanThread::start(const MirrixCore::ScanOptions &options)

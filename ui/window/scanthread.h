@@ -30,7 +30,7 @@ public:
 private:
     QThread m_thread;
     std::unique_ptr<MirrixCore::ScanWorker> m_worker; ///< lives longer than its thread runs
-    QTimer m_cancelRetry; ///< repeats the wish to cancel: the worker forgets one that reaches it before it has begun
+    QTimer m_cancelRetry; ///< repeats cancel(): a worker drops one that reaches it before it has started
 };
 
 } // namespace Mirrix

@@ -45,7 +45,7 @@ void TrayIcon::hide()
     m_icon->hide();
 }
 
-void TrayIcon::tellStillRunning()
+void TrayIcon::notifyStillRunning()
 {
     constexpr int shownMs = 2500;
     m_icon->showMessage(QStringLiteral("Mirrix"), Text::tr("程序仍在托盘运行。可通过托盘菜单一键完整退出。"),

@@ -25,8 +25,8 @@ public:
     [[nodiscard]] bool isVisible() const;
     void hide();
 
-    /// Tells that the program goes on without its window.
-    void tellStillRunning();
+    /// Notifies the user that the program keeps running without its window.
+    void notifyStillRunning();
 
     void setToolTip(const QString &text);
     void retranslate();

@@ -79,7 +79,7 @@ void visit(const QWidget &window, const ForSplitter &splitter, const ForHeader &
     }
 }
 
-bool recallPlace(QWidget &window, const QJsonObject &memory)
+bool restorePlace(QWidget &window, const QJsonObject &memory)
 {
     const QList<int> numbers = toNumbers(memory[placeKey]);
     if (numbers.size() != 4)
@@ -106,7 +106,7 @@ QJsonObject windowMemory(const QWidget &window, const QJsonObject &earlier)
     visit(
         window,
         [&splitters](const QSplitter &splitter) {
-            const QList<int> sizes = splitter.sizes();
+            const QList<int> sizes = splitter.sizes(); // all 0 before it was shown
             if (std::any_of(sizes.begin(), sizes.end(), [](int size) { return size > 0; }))
                 splitters[splitter.objectName()] = toJson(sizes);
         },
@@ -118,7 +118,7 @@ QJsonObject windowMemory(const QWidget &window, const QJsonObject &earlier)
 
 void restoreWindow(QWidget &window, const QJsonObject &memory, const QSize &ideal)
 {
-    if (!recallPlace(window, memory))
+    if (!restorePlace(window, memory))
         window.setGeometry(firstPlace(ideal, QGuiApplication::primaryScreen()->availableGeometry()));
     if (memory[maximizedKey].toBool())
         window.setWindowState(window.windowState() | Qt::WindowMaximized);
