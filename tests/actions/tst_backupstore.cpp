@@ -1,10 +1,7 @@
 #include "actions/cleaning/backupstore.h"
 
 #include "core/platform/nativepath.h"
-#include "tests/support/disk.h"
-#include "tests/support/probes.h"
-#include "tests/support/tables.h"
-#include "tests/support/temptree.h"
+#include "tests/actions/actiontest.h"
 
 #include <QDateTime>
 #include <QJsonArray>
@@ -12,20 +9,13 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 #include <QSet>
-#include <QTest>
 
-#include <memory>
-
-using namespace Mirrix;
-using namespace MirrixTest;
-using namespace Qt::StringLiterals;
-
-class BackupStoreTest : public QObject
+class BackupStoreTest : public ActionTest
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_tree = std::make_unique<TempTree>(); }
+    void init() { renew(); }
 
     void thereAndBack()
     {
@@ -62,7 +52,7 @@ private slots:
         QCOMPARE(loadBackupIndex(store()), (QList<BackupEntry>{entries[0], entries[2]}));
         QCOMPARE(restoreBackups(store(), {entries[0], entries[2]}).count, 2);
         QCOMPARE(source(), before);
-        QCOMPARE(contentOf(indexPath()), QByteArray("[]"));
+        QCOMPARE(contentOf(indexPath()), "[]");
         QCOMPARE(treeBelow(store()).keys(), QStringList{u"backup_index.json"_s});
     }
 
@@ -74,7 +64,7 @@ private slots:
         QCOMPARE(backupFiles(store(), {path}).count, 1);
         QCOMPARE(restoreBackups(store(), restorableEntries(store())).count, 1);
         QFile file;
-        FILE *stream = std::fopen((QFile::encodeName(m_tree->path()) + "/a\xFF\xC3(").constData(), "rb");
+        FILE *stream = std::fopen((QFile::encodeName(at({})) + "/a\xFF\xC3(").constData(), "rb");
         QVERIFY(stream && file.open(stream, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle));
         QCOMPARE(file.readAll(), QByteArray("odd"));
     }
@@ -117,7 +107,7 @@ private slots:
         for (int i = 0; i < 3; ++i)
             std::filesystem::last_write_time(exactNative(paths[i]), now - std::chrono::hours(ages[i] * 24 * 365));
         const DiskTree before = source();
-        const auto other = folderOnOtherVolume(m_tree->path());
+        const auto other = folderOnOtherVolume(at({}));
         for (const QString &folder : {store(), other ? other->path() : store()}) {
             QCOMPARE(backupFiles(folder, paths).errors, QStringList());
             QVERIFY(source().isEmpty());
@@ -130,8 +120,7 @@ private slots:
     {
         const QStringList paths = fill({u"good"_s, u"folder/inside"_s});
         m_tree->write(u"store/deep/lies here"_s, "x");
-        const QStringList bad = {m_tree->path(u"src/missing"_s), m_tree->path(u"src/folder"_s),
-                                 m_tree->path(u"store/deep/lies here"_s)};
+        const QStringList bad = {at(u"src/missing"_s), at(u"src/folder"_s), at(u"store/deep/lies here"_s)};
         BatchControl control;
         control.guard = [](const QString &path) { return path.endsWith(u"inside"_s) ? u"refused"_s : QString(); };
         const BatchResult result = backupFiles(store(), bad + paths, control);
@@ -198,11 +187,11 @@ private slots:
         const QStringList paths = fill({u"file"_s});
         QCOMPARE(backupFiles(store(), paths).count, 1);
         m_tree->write(u"src/file"_s, "newer");
-        const DiskTree before = treeBelow(m_tree->path());
+        const DiskTree before = treeAt({});
         QString error;
         QVERIFY(!restoreBackup(store(), loadBackupIndex(store()).constFirst(), &error));
         QCOMPARE(error, u"原路径已存在文件，已取消恢复: "_s + paths[0]);
-        QCOMPARE(treeBelow(m_tree->path()), before);
+        QCOMPARE(treeAt({}), before);
     }
 
     /// Only an entry whose file is at its old path, as a crash leaves it, goes with the next write.
@@ -211,7 +200,7 @@ private slots:
         const QStringList paths = fill({u"1"_s, u"2"_s, u"3"_s, u"4"_s});
         QCOMPARE(backupFiles(store(), paths.first(3)).count, 3);
         QList<BackupEntry> entries = loadBackupIndex(store());
-        entries.append({m_tree->path(u"away/x"_s), m_tree->path(u"away/.mirrix-0.aside"_s), 1, 1});
+        entries.append({at(u"away/x"_s), at(u"away/.mirrix-0.aside"_s), 1, 1});
         QVERIFY(saveBackupIndex(store(), entries));
         QVERIFY(QFile::remove(entries[0].backup));
         QVERIFY(QFile::rename(entries[2].backup, paths[2]));
@@ -227,7 +216,7 @@ private slots:
         const QStringList paths = fill({u"1"_s, u"2"_s});
         const DiskTree before = source();
         QCOMPARE(backupFiles(store(), {paths[0]}).count, 1);
-        const QString moved = m_tree->path(u"mounted elsewhere"_s);
+        const QString moved = at(u"mounted elsewhere"_s);
         QVERIFY(QDir().rename(store(), moved));
         QCOMPARE(backupFiles(moved, {paths[1]}).count, 1);
         const QList<BackupEntry> entries = restorableEntries(moved);
@@ -337,19 +326,19 @@ private slots:
             m_tree->write(name, name.toUtf8());
         if (backup.endsWith(u"link"_s) && !m_tree->symbolicLink(u"src/victim"_s, backup))
             QSKIP("no symbolic links");
-        const QString to = original.isEmpty() ? u"new"_s : m_tree->path() + u'/' + original;
-        QVERIFY(saveBackupIndex(store(), {{to, m_tree->path() + u'/' + backup, 0, 1}}));
-        const DiskTree before = treeBelow(m_tree->path());
+        const QString to = original.isEmpty() ? u"new"_s : at({}) + u'/' + original;
+        QVERIFY(saveBackupIndex(store(), {{to, at({}) + u'/' + backup, 0, 1}}));
+        const DiskTree before = treeAt({});
         const RestoreResult result = restoreBackups(store(), loadBackupIndex(store()));
         QCOMPARE(result.errors.size(), 1);
         QCOMPARE(result.count, 0);
-        QCOMPARE(treeBelow(m_tree->path()), before);
+        QCOMPARE(treeAt({}), before);
     }
 
 private:
-    [[nodiscard]] QString store() const { return m_tree->path(u"store/deep"_s); }
+    [[nodiscard]] QString store() const { return at(u"store/deep"_s); }
     [[nodiscard]] QString indexPath() const { return store() + u"/backup_index.json"_s; }
-    [[nodiscard]] DiskTree source() const { return treeBelow(m_tree->path(u"src"_s)); }
+    [[nodiscard]] DiskTree source() const { return treeAt(u"src"_s); }
     /// Writes files below src and returns their paths.
     QStringList fill(const QStringList &names) const
     {
@@ -360,8 +349,6 @@ private:
         }
         return paths;
     }
-
-    std::unique_ptr<TempTree> m_tree;
 };
 
 QTEST_GUILESS_MAIN(BackupStoreTest)

@@ -2,20 +2,10 @@
 
 #include "actions/files/recyclebin.h"
 #include "core/platform/nativepath.h"
-#include "tests/support/disk.h"
-#include "tests/support/probes.h"
-#include "tests/support/tables.h"
-#include "tests/support/temptree.h"
+#include "tests/actions/actiontest.h"
 
 #include <QDateTime>
-#include <QTest>
 #include <QtEndian>
-
-#include <memory>
-
-using namespace Mirrix;
-using namespace MirrixTest;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -48,12 +38,12 @@ QByteArray trashNote(const QByteArray &path, const QDateTime &deleted)
 
 } // namespace
 
-class BinLookupTest : public QObject
+class BinLookupTest : public ActionTest
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_tree = std::make_unique<TempTree>(); }
+    void init() { renew(); }
 
     void trashNotes_data()
     {
@@ -103,9 +93,9 @@ private slots:
     void findsAndPutsBack()
     {
         QFETCH(int, version);
-        const QString original = m_tree->path(u"lost folder/ä.txt"_s);
+        const QString original = at(u"lost folder/ä.txt"_s);
         const auto layout = version == 0 ? BinFolder::Layout::Trash : BinFolder::Layout::RecycleBin;
-        const BinFolder bin = {layout, m_tree->path(u".Trash-1"_s), m_tree->path()};
+        const BinFolder bin = {layout, at(u".Trash-1"_s), at({})};
         const auto throwAway = [&](const QString &name, const QByteArray &content, const QDateTime &deleted) {
             const QString file = version == 0 ? u".Trash-1/files/%1"_s.arg(name) : u".Trash-1/$R%1"_s.arg(name);
             m_tree->write(file, content);
@@ -147,11 +137,11 @@ private slots:
         if (!namesAreBytes)
             QSKIP("the bin of this system does not tell where it puts files");
         const QByteArray before = qgetenv("XDG_DATA_HOME");
-        qputenv("XDG_DATA_HOME", QFile::encodeName(m_tree->path(u"share"_s)));
+        qputenv("XDG_DATA_HOME", QFile::encodeName(at(u"share"_s)));
         m_tree->makeFolder(u"share/Trash"_s);
         const qint64 started = QDateTime::currentMSecsSinceEpoch();
         const QString one = m_tree->writeNamedByBytes("a\xFF%\n", "one");
-        const QStringList placed = systemRecycleBin().send({one, m_tree->path(u"missing"_s)}).placed;
+        const QStringList placed = systemRecycleBin().send({one, at(u"missing"_s)}).placed;
         const std::optional<BinEntry> found = findInBin(one, 3, 0, started);
         before.isNull() ? qunsetenv("XDG_DATA_HOME") : qputenv("XDG_DATA_HOME", before);
         QCOMPARE(placed.size(), 2);
@@ -161,9 +151,6 @@ private slots:
         QCOMPARE(putBackFromBin(*found), FileFault::None);
         QCOMPARE(contentAt(MirrixCore::filesystemPath(one)), "one");
     }
-
-private:
-    std::unique_ptr<TempTree> m_tree;
 };
 
 QTEST_GUILESS_MAIN(BinLookupTest)

@@ -1,5 +1,4 @@
 #include "actions/cleaning/backupstore.h"
-#include "actions/cleaning/cleaningrun.h"
 #include "actions/cleaning/undo.h"
 #include "actions/files/nativefile.h"
 #include "actions/records/operationslog.h"
@@ -9,22 +8,14 @@
 #include "core/cache/fingerprintcache.h"
 #include "core/cache/imagefeaturecache.h"
 #include "core/hash/contenthasher.h"
+#include "tests/actions/actiontest.h"
 #include "tests/actions/exportscene.h"
-#include "tests/support/disk.h"
-#include "tests/support/tables.h"
-#include "tests/support/temptree.h"
 
 #include <QCoreApplication>
 #include <QJsonDocument>
 #include <QProcess>
-#include <QTest>
 
-#include <memory>
-
-using namespace Mirrix;
 using namespace MirrixCore;
-using namespace MirrixTest;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -168,7 +159,7 @@ void act(const QString &name, const QString &root, const QString &store)
 
 } // namespace
 
-class CrashesTest : public QObject
+class CrashesTest : public ActionTest
 {
     Q_OBJECT
 
@@ -212,7 +203,7 @@ private slots:
                 m_start = m_start % stride + 1; // other calls for each kind
                 for (int when = m_start; when < 200; when += stride) {
                     prepare(action, isOnOtherVolume);
-                    const bool isThrough = runsThrough(call, when, {u"--act"_s, action, m_tree->path(), m_store});
+                    const bool isThrough = runsThrough(call, when, {u"--act"_s, action, at({}), m_store});
                     action.contains(u"undo"_s) ? checkUndo() : check(action);
                     if (QTest::currentTestFailed()) {
                         qWarning("killed at %s %d", qPrintable(call), when);
@@ -270,31 +261,31 @@ private slots:
 private:
     void prepare(const QString &name, bool isOnOtherVolume)
     {
-        m_tree = std::make_unique<TempTree>();
-        m_other = isOnOtherVolume ? folderOnOtherVolume(m_tree->path()) : nullptr;
-        m_store = m_other ? m_other->path() : m_tree->path(u"store"_s);
+        renew();
+        m_other = isOnOtherVolume ? folderOnOtherVolume(at({})) : nullptr;
+        m_store = m_other ? m_other->path() : at(u"store"_s);
         const bool areCopies = methodOf(name).has_value();
         m_tree->makeFolder(u"target"_s);
         m_tree->makeFolder(u"share"_s); // the bin is there only if it is on the volume of the home folder
-        qputenv("HOME", m_tree->path().toUtf8());
-        qputenv("XDG_DATA_HOME", m_tree->path(u"share"_s).toUtf8());
+        qputenv("HOME", at({}).toUtf8());
+        qputenv("XDG_DATA_HOME", at(u"share"_s).toUtf8());
         m_tree->write(u"keeper"_s, copies);
         for (const QString &file : names)
             m_tree->write(u"src/"_s + file, areCopies ? copies : "content of " + file.toLatin1());
-        m_before = treeBelow(m_tree->path(u"src"_s));
-        OperationsLog(m_tree->path(u"log"_s)).append({{1, u"first"_s, u"old"_s}});
+        m_before = treeAt(u"src"_s);
+        OperationsLog(at(u"log"_s)).append({{1, u"first"_s, u"old"_s}});
         if (name.startsWith(u"undo"_s))
-            clean(name, m_tree->path(), m_store, {m_tree->path(u"src/one"_s), m_tree->path(u"src/two"_s)});
+            clean(name, at({}), m_store, {at(u"src/one"_s), at(u"src/two"_s)});
         if (name.startsWith(u"restore"))
-            act(u"back up"_s, m_tree->path(), m_store);
+            act(u"back up"_s, at({}), m_store);
         if (name == u"restore, killed before") // when the first copy was in place and its source still there
-            QVERIFY(!runsThrough(u"unlinkat"_s, 1, {u"--act"_s, name, m_tree->path(), m_store}));
+            QVERIFY(!runsThrough(u"unlinkat"_s, 1, {u"--act"_s, name, at({}), m_store}));
     }
 
     void sweep(const QString &call, const QString &action, bool isOnOtherVolume);
     void check(const QString &action) const
     {
-        const QList<LogEntry> log = OperationsLog(m_tree->path(u"log"_s)).readAll();
+        const QList<LogEntry> log = OperationsLog(at(u"log"_s)).readAll();
         QVERIFY(log.size() == 1 || log.size() == 2);
         QCOMPARE(log.constFirst().detail, u"old"_s);
         const QByteArray index = contentOf(m_store + u"/backup_index.json"_s);
@@ -305,35 +296,35 @@ private:
         const QList<BackupEntry> left = loadBackupIndex(m_store);
         for (const BackupEntry &entry : restored.restored)
             QVERIFY(!left.contains(entry));
-        QVERIFY(OperationsLog(m_tree->path(u"log"_s)).append(u"next"_s, QString()));
+        QVERIFY(OperationsLog(at(u"log"_s)).append(u"next"_s, QString()));
         for (const QString &name : names) {
-            if (action == u"delete" && !QFile::exists(m_tree->path(u"src/"_s + name)))
+            if (action == u"delete" && !QFile::exists(at(u"src/"_s + name)))
                 continue; // the equal file is looked at below
-            const QByteArray content = contentOf(m_tree->path(u"src/"_s + name));
+            const QByteArray content = contentOf(at(u"src/"_s + name));
             QVERIFY2(m_before[name].startsWith(content + " @"),
                      qPrintable(name + u" holds "_s + QString::fromUtf8(content)));
         }
-        DiskTree after = treeBelow(m_tree->path(u"src"_s));
+        DiskTree after = treeAt(u"src"_s);
         after.removeIf(
             [](const auto &file) { return file.key().endsWith(u".part"_s); }); // begun copies may stay behind
         if (!action.contains(u"link"_s) && action != u"delete")
             QCOMPARE(after, m_before);
-        QCOMPARE(contentOf(m_tree->path(u"keeper"_s)), copies);
+        QCOMPARE(contentOf(at(u"keeper"_s)), copies);
     }
 
     /// Whatever was killed, the history names what is not where it was, the next undo leaves everything as it was
     /// before the cleaning, and nothing else behind, and another finds nothing to do.
     void checkUndo() const
     {
-        const DiskTree now = treeBelow(m_tree->path(u"src"_s));
-        const QStringList named = namedInHistory(m_tree->path());
+        const DiskTree now = treeAt(u"src"_s);
+        const QStringList named = namedInHistory(at({}));
         for (const QString &name : names)
             QVERIFY2(now.value(name) == m_before[name] || named.contains(name), qPrintable(name + u" is not named"_s));
-        QVERIFY(undo(m_tree->path()) >= 0);
-        QCOMPARE(treeBelow(m_tree->path(u"src"_s)), m_before);
-        QCOMPARE(contentOf(m_tree->path(u"keeper"_s)), copies);
+        QVERIFY(undo(at({})) >= 0);
+        QCOMPARE(treeAt(u"src"_s), m_before);
+        QCOMPARE(contentOf(at(u"keeper"_s)), copies);
         QVERIFY(restorableEntries(m_store).isEmpty());
-        QCOMPARE(undo(m_tree->path()), 0);
+        QCOMPARE(undo(at({})), 0);
     }
 
     /// Runs this program under a tracer that kills it before its n-th call of a kind; whether it ended by itself. The
@@ -349,7 +340,6 @@ private:
         return process.waitForFinished() && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
     }
 
-    std::unique_ptr<TempTree> m_tree;
     std::unique_ptr<QTemporaryDir> m_other;
     QString m_store;
     DiskTree m_before;

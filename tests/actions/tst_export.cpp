@@ -1,18 +1,8 @@
 #include "actions/export/exporter.h"
 #include "actions/export/exportscript.h"
 #include "actions/export/exporttexts.h"
+#include "tests/actions/actiontest.h"
 #include "tests/actions/exportscene.h"
-#include "tests/support/disk.h"
-#include "tests/support/tables.h"
-#include "tests/support/temptree.h"
-
-#include <QTest>
-
-#include <memory>
-
-using namespace Mirrix;
-using namespace MirrixTest;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -45,12 +35,12 @@ QString native(const QString &path)
 
 } // namespace
 
-class ExportTest : public QObject
+class ExportTest : public ActionTest
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_tree = std::make_unique<TempTree>(); }
+    void init() { renew(); }
 
     void texts_data()
     {
@@ -120,18 +110,18 @@ private slots:
     {
         ExportRecords records =
             recordsOf({m_tree->write(u"one/a.txt"_s, "first"), m_tree->write(u"two/a.txt"_s, "second"),
-                       m_tree->write(u"two/中%1.txt"_s, "third"), m_tree->path(u"missing"_s)});
+                       m_tree->write(u"two/中%1.txt"_s, "third"), at(u"missing"_s)});
         records.isChecked = [](qsizetype, qsizetype file) { return file != 0; };
-        const ExportRequest request = {ExportFormat::Copies, m_tree->path(u"new/deep"_s), everything};
+        const ExportRequest request = {ExportFormat::Copies, at(u"new/deep"_s), everything};
         const ExportOutcome outcome = writeExport(records, request, {}, now);
         QVERIFY(outcome.isDone);
         QCOMPARE(outcome.message, u"已复制 2 个文件"_s);
         QCOMPARE(outcome.errors.size(), 2); // a name taken, and no such file
-        QCOMPARE(contentOf(m_tree->path(u"new/deep/a.txt"_s)), "first");
-        QCOMPARE(contentOf(m_tree->path(u"new/deep/中%1.txt"_s)), "third");
-        const ExportRequest ticked = {ExportFormat::Copies, m_tree->path(u"ticked"_s), checkedOnly};
+        QCOMPARE(contentOf(at(u"new/deep/a.txt"_s)), "first");
+        QCOMPARE(contentOf(at(u"new/deep/中%1.txt"_s)), "third");
+        const ExportRequest ticked = {ExportFormat::Copies, at(u"ticked"_s), checkedOnly};
         QCOMPARE(writeExport(records, ticked, {}, now).message, u"已复制 2 个文件"_s);
-        QCOMPARE(contentOf(m_tree->path(u"ticked/a.txt"_s)), "second");
+        QCOMPARE(contentOf(at(u"ticked/a.txt"_s)), "second");
     }
 
     void failures_data()
@@ -149,12 +139,12 @@ private slots:
         QFETCH(QString, place);
         QFETCH(QString, message);
         m_tree->write(u"folder/file"_s, "x");
-        const DiskTree before = treeBelow(m_tree->path());
-        const ExportRequest request = {format, m_tree->path(place), everything};
+        const DiskTree before = treeAt({});
+        const ExportRequest request = {format, at(place), everything};
         const QString expected = message.contains(u"%1"_s) ? message.arg(request.path) : message;
         QCOMPARE(writeExport(trickyRecords(), request, {}, now), (ExportOutcome{false, false, expected, {}}));
-        QCOMPARE(treeBelow(m_tree->path()), before);
-        QVERIFY(!QFileInfo::exists(m_tree->path(u"missing"_s)));
+        QCOMPARE(treeAt({}), before);
+        QVERIFY(!QFileInfo::exists(at(u"missing"_s)));
     }
 
     void fullDisk()
@@ -176,17 +166,14 @@ private slots:
         const auto stopAtSecond = [](qsizetype done, qsizetype) { return done == 0; };
         for (int number = 0; number < 4; ++number) {
             const bool isCopy = static_cast<ExportFormat>(number) == ExportFormat::Copies;
-            const QString target = m_tree->path(isCopy ? u"copies"_s : u"out"_s);
+            const QString target = at(isCopy ? u"copies"_s : u"out"_s);
             const ExportRequest request = {static_cast<ExportFormat>(number), target, everything};
             const ExportOutcome outcome = writeExport(recordsOf(paths), request, {}, now, stopAtSecond);
             QVERIFY(outcome.isCancelled);
             QCOMPARE(outcome.isDone, isCopy);
         }
-        QCOMPARE(treeBelow(m_tree->path()).keys(), (QStringList{u"a"_s, u"b"_s, u"copies/a"_s}));
+        QCOMPARE(treeAt({}).keys(), (QStringList{u"a"_s, u"b"_s, u"copies/a"_s}));
     }
-
-private:
-    std::unique_ptr<TempTree> m_tree;
 };
 
 QTEST_GUILESS_MAIN(ExportTest)

@@ -1,18 +1,11 @@
 #include "actions/export/exportscript.h"
 
+#include "tests/actions/actiontest.h"
 #include "tests/actions/exportscene.h"
-#include "tests/support/disk.h"
-#include "tests/support/tables.h"
-#include "tests/support/temptree.h"
 
 #include <QProcess>
 #include <QSet>
 #include <QStandardPaths>
-#include <QTest>
-
-using namespace Mirrix;
-using namespace MirrixTest;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -34,7 +27,7 @@ Script scriptOf(const QStringList &paths, const ExportOptions &options = everyth
 
 } // namespace
 
-class ExportScriptTest : public QObject
+class ExportScriptTest : public ActionTest
 {
     Q_OBJECT
 

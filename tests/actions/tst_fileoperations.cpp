@@ -3,19 +3,9 @@
 #include "actions/files/movefile.h"
 #include "actions/files/recyclebin.h"
 #include "core/platform/nativepath.h"
-#include "tests/support/disk.h"
-#include "tests/support/probes.h"
-#include "tests/support/tables.h"
-#include "tests/support/temptree.h"
+#include "tests/actions/actiontest.h"
 
 #include <QDateTime>
-#include <QTest>
-
-#include <memory>
-
-using namespace Mirrix;
-using namespace MirrixTest;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -63,12 +53,12 @@ BatchResult run(Act act, const QString &path, const QString &folder, const QStri
 
 Q_DECLARE_METATYPE(Act)
 
-class FileOperationsTest : public QObject
+class FileOperationsTest : public ActionTest
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_tree = std::make_unique<TempTree>(); }
+    void init() { renew(); }
 
     void matrix_data()
     {
@@ -106,8 +96,8 @@ private slots:
         QFETCH(QString, name);
         QFETCH(Act, act);
         QFETCH(QString, error);
-        const QString path = m_tree->path(u"src/"_s + name);
-        const QString folder = m_tree->path(u"new/dst"_s);
+        const QString path = at(u"src/"_s + name);
+        const QString folder = at(u"new/dst"_s);
         const QString moved = u"new/dst/"_s + fileNameOf(name);
         const QString keeper = m_tree->write(u"keep"_s, "kept");
         m_tree->write(u"src/a.tx"_s, "beside"); // what careless calls would take instead
@@ -125,7 +115,7 @@ private slots:
             QFile::setPermissions(path, QFileDevice::ReadOwner);
         if (condition == u"missing"_s && act == Act::SymbolicLink && !m_tree->symbolicLink(u"keep"_s, u"probe"_s))
             error = u"无法创建符号链接: %1"_s;
-        DiskTree expected = treeBelow(m_tree->path());
+        DiskTree expected = treeAt({});
 
         const BatchResult result = run(act, path, folder, keeper);
 
@@ -140,11 +130,11 @@ private slots:
             QCOMPARE(result.errors, QStringList());
             QCOMPARE(result.count, 1);
         } else {
-            error.replace(u"%3"_s, folder).replace(u"%2"_s, m_tree->path(moved)).replace(u"%1"_s, path);
+            error.replace(u"%3"_s, folder).replace(u"%2"_s, at(moved)).replace(u"%1"_s, path);
             QCOMPARE(result.errors, QStringList{error});
             QCOMPARE(result.count, 0);
         }
-        QCOMPARE(treeBelow(m_tree->path()), expected);
+        QCOMPARE(treeAt({}), expected);
         QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     }
 
@@ -157,10 +147,10 @@ private slots:
         const Act copyNew = [](const QString &source, const QString &target) { return copyToNewFile(source, target); };
         for (const Act act : {Act(renameExclusively), Act(moveFile), Act(copyFile), copyNew}) {
             QCOMPARE(act(from, to), FileFault::Occupied);
-            QCOMPARE(contentOf(from), QByteArray("one"));
-            QCOMPARE(contentOf(to), QByteArray("other"));
+            QCOMPARE(contentOf(from), "one");
+            QCOMPARE(contentOf(to), "other");
         }
-        QCOMPARE(treeBelow(m_tree->path()).size(), 2);
+        QCOMPARE(treeAt({}).size(), 2);
     }
 
     /// Names that differ in case or composition alone are two or one, as the file system has it; no content is lost.
@@ -170,10 +160,10 @@ private slots:
         for (const QStringList &names : twins) {
             const QString first = m_tree->write(u"one/"_s + names[0], "first");
             const QString second = m_tree->write(u"two/"_s + names[1], "second");
-            QVERIFY(moveToFolder(first, m_tree->path(u"target"_s)));
-            const bool areTwo = moveToFolder(second, m_tree->path(u"target"_s));
-            QCOMPARE(contentOf(m_tree->path(u"target/"_s + names[0])), QByteArray("first"));
-            QCOMPARE(contentOf(areTwo ? m_tree->path(u"target/"_s + names[1]) : second), QByteArray("second"));
+            QVERIFY(moveToFolder(first, at(u"target"_s)));
+            const bool areTwo = moveToFolder(second, at(u"target"_s));
+            QCOMPARE(contentOf(at(u"target/"_s + names[0])), "first");
+            QCOMPARE(contentOf(areTwo ? at(u"target/"_s + names[1]) : second), "second");
             QCOMPARE(QFile::exists(second), !areTwo);
         }
     }
@@ -195,19 +185,19 @@ private slots:
         QFile holder(path);
         QVERIFY(holder.open(QIODevice::ReadOnly));
         const auto method = act == Act::Move ? RemovalMethod::Move : RemovalMethod::Delete;
-        const BatchResult refused = removeFiles(method, {path}, m_tree->path(u"target"_s), {});
+        const BatchResult refused = removeFiles(method, {path}, at(u"target"_s), {});
         QCOMPARE(refused.count, 0);
         QCOMPARE(refused.errors.size(), 1);
-        QCOMPARE(contentOf(path), QByteArray("content"));
-        QVERIFY(treeBelow(m_tree->path(u"target"_s)).isEmpty());
+        QCOMPARE(contentOf(path), "content");
+        QVERIFY(treeAt(u"target"_s).isEmpty());
         holder.close();
-        QCOMPARE(removeFiles(method, {path}, m_tree->path(u"target"_s), {}).count, 1);
+        QCOMPARE(removeFiles(method, {path}, at(u"target"_s), {}).count, 1);
         QVERIFY(!QFile::exists(path));
     }
 
     void acrossVolumes()
     {
-        const auto other = folderOnOtherVolume(m_tree->path());
+        const auto other = folderOnOtherVolume(at({}));
         if (!other)
             QSKIP("no second volume");
         for (const int size : {0, 1, 3 << 20}) {
@@ -215,25 +205,25 @@ private slots:
             const QString path = m_tree->write(name, patternBytes(size));
             m_tree->setModified(name, modifiedMs);
             QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup);
-            DiskTree expected = treeBelow(m_tree->path());
+            DiskTree expected = treeAt({});
             QVERIFY(copyToFolder(path, other->path()));
             QCOMPARE(treeBelow(other->path()), expected);
             QVERIFY(!moveToFolder(path, other->path()));
-            QCOMPARE(treeBelow(m_tree->path()), expected);
+            QCOMPARE(treeAt({}), expected);
             QVERIFY(QFile::remove(other->filePath(name)));
             QVERIFY(moveToFolder(path, other->path()));
             QCOMPARE(treeBelow(other->path()), expected);
-            QVERIFY(treeBelow(m_tree->path()).isEmpty());
+            QVERIFY(treeAt({}).isEmpty());
             QVERIFY(QFile::remove(other->filePath(name)));
         }
         const QString readOnly =
             m_tree->write(u"read-only"_s, "content"); // where it cannot be removed, no copy is left
         QFile::setPermissions(readOnly, QFile::ReadOwner | QFile::ReadUser);
-        const DiskTree expected = treeBelow(m_tree->path());
+        const DiskTree expected = treeAt({});
         const bool isMoved = moveToFolder(readOnly, other->path());
         QCOMPARE(isMoved, deletesReadOnly());
-        QCOMPARE(treeBelow(isMoved ? other->path() : m_tree->path()), expected);
-        QVERIFY(treeBelow(isMoved ? m_tree->path() : other->path()).isEmpty());
+        QCOMPARE(treeBelow(isMoved ? other->path() : at({})), expected);
+        QVERIFY(treeBelow(isMoved ? at({}) : other->path()).isEmpty());
         for (const QString &path : {readOnly, other->filePath(u"read-only"_s)}) {
             QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
             QFile::remove(path);
@@ -258,15 +248,15 @@ private slots:
     void sparseFilesStaySparse()
     {
         QFETCH(const QList<int>, written);
-        const auto other = folderOnOtherVolume(m_tree->path());
+        const auto other = folderOnOtherVolume(at({}));
         if (!other || !namesAreBytes)
             QSKIP("no second volume, or no blocks to count");
-        QFile file(m_tree->path(u"sparse"_s));
+        QFile file(at(u"sparse"_s));
         QVERIFY(file.open(QIODevice::ReadWrite) && file.resize(64 << 20));
         for (const int offset : written)
             QVERIFY(file.seek(offset) && file.write("bytes") == 5);
         file.close();
-        const DiskTree before = treeBelow(m_tree->path());
+        const DiskTree before = treeAt({});
         QVERIFY(moveToFolder(file.fileName(), other->path()));
         QCOMPARE(treeBelow(other->path()), before);
         QProcess blocks;
@@ -281,7 +271,7 @@ private slots:
         MIRRIX_IN_SCENE("MIRRIX_NO_ATTRIBUTES",
                         "MIRRIX_NO_ATTRIBUTES=1 ASAN_OPTIONS=detect_leaks=0 exec strace -f -qq -o \"$0/trace\" "
                         "-e inject=fchmod,fchown,utimensat,fsetxattr,renameat2,linkat:error=ENOSYS \"$@\"");
-        const auto other = folderOnOtherVolume(m_tree->path());
+        const auto other = folderOnOtherVolume(at({}));
         if (!other)
             QSKIP("no second volume");
         const QString path = m_tree->write(u"file"_s, patternBytes(3 << 20));
@@ -291,7 +281,7 @@ private slots:
         const QString twin = m_tree->write(u"away/file"_s, "other");
         QCOMPARE(renameExclusively(twin, other->filePath(u"file"_s)), FileFault::Occupied);
         QCOMPARE(renameExclusively(twin, path), FileFault::None);
-        QCOMPARE(contentOf(path), QByteArray("other"));
+        QCOMPARE(contentOf(path), "other");
     }
 
     void fullDisk_data()
@@ -309,11 +299,11 @@ private slots:
         QFETCH(bool, fits);
         MIRRIX_ON_SMALL_DISK();
         const QString path = m_tree->write(u"file"_s, patternBytes(size));
-        const DiskTree before = treeBelow(m_tree->path());
+        const DiskTree before = treeAt({});
         QString error;
         QCOMPARE(moveToFolder(path, smallDisk(), &error), fits);
         QCOMPARE(error, fits ? QString() : u"无法移动: "_s + path);
-        QCOMPARE(treeBelow(m_tree->path()), fits ? DiskTree() : before);
+        QCOMPARE(treeAt({}), fits ? DiskTree() : before);
         QCOMPARE(treeBelow(smallDisk()), fits ? before : DiskTree());
     }
 
@@ -334,7 +324,7 @@ private slots:
         QCOMPARE(result.errors, QStringList{u"refused"_s});
         QVERIFY(result.isCancelled);
         QCOMPARE(reports, (QList<qsizetype>{4, 14, 24, 34}));
-        QCOMPARE(treeBelow(m_tree->path()).keys(), (QStringList{u"2"_s, u"4"_s}));
+        QCOMPARE(treeAt({}).keys(), (QStringList{u"2"_s, u"4"_s}));
     }
 
     void recyclesInBatches()
@@ -370,11 +360,11 @@ private slots:
         QFile::setPermissions(readOnly, QFile::ReadOwner);
         const QString refused = m_tree->write(u"refused"_s, "x");
         const QString tooLong = m_tree->write((QString(100, u'a') + u'/').repeated(3) + u"b"_s, "x");
-        const QString folder = m_tree->path(u"folder"_s);
+        const QString folder = at(u"folder"_s);
         m_tree->write(u"folder/inside"_s, "x");
-        const QString link = m_tree->path(u"link"_s);
+        const QString link = at(u"link"_s);
         const bool hasLink = m_tree->symbolicLink(u"folder/inside"_s, u"link"_s);
-        const QString missing = m_tree->path(u"missing"_s);
+        const QString missing = at(u"missing"_s);
         QStringList paths = {missing, folder, refused, tooLong, locked, readOnly, plain[5]};
         if (hasLink)
             paths.append(link);
@@ -406,7 +396,7 @@ private slots:
         errors += {u"批量移入回收站失败 (code 32, 392 个文件)"_s, u"未移入回收站，仍在原处: "_s + locked,
                    u"未移入回收站，仍在原处: "_s + readOnly};
         QCOMPARE(result.errors, errors);
-        QCOMPARE(contentOf(m_tree->path(u"folder/inside"_s)), QByteArray("x"));
+        QCOMPARE(contentOf(at(u"folder/inside"_s)), "x");
     }
 
     void recyclingTellsWhatTheDiskTells()
@@ -465,18 +455,15 @@ private slots:
         const QString path = m_tree->write(u"file"_s, "content");
         qputenv("XDG_DATA_HOME", QFile::encodeName(m_tree->write(u"no folder"_s, "")));
         const BatchResult refused = recycleFiles({path});
-        qputenv("XDG_DATA_HOME", QFile::encodeName(m_tree->path(u"new/share"_s)));
+        qputenv("XDG_DATA_HOME", QFile::encodeName(at(u"new/share"_s)));
         const BatchResult done = recycleFiles({path});
         before.isNull() ? qunsetenv("XDG_DATA_HOME") : qputenv("XDG_DATA_HOME", before);
         QCOMPARE(refused.errors, QStringList{u"无法放入回收站，已保留: "_s + path});
         QCOMPARE(done.errors, QStringList());
         QCOMPARE(done.count, 1);
         QVERIFY(!QFile::exists(path));
-        QCOMPARE(contentOf(m_tree->path(u"new/share/Trash/files/file"_s)), QByteArray("content"));
+        QCOMPARE(contentOf(at(u"new/share/Trash/files/file"_s)), "content");
     }
-
-private:
-    std::unique_ptr<TempTree> m_tree;
 };
 
 QTEST_GUILESS_MAIN(FileOperationsTest)

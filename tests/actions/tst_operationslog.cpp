@@ -1,9 +1,7 @@
 #include "actions/records/operationslog.h"
 
 #include "actions/records/aescbc.h"
-#include "tests/support/disk.h"
-#include "tests/support/tables.h"
-#include "tests/support/temptree.h"
+#include "tests/actions/actiontest.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
@@ -11,13 +9,6 @@
 #include <QFile>
 #include <QProcess>
 #include <QSysInfo>
-#include <QTest>
-
-#include <memory>
-
-using namespace Mirrix;
-using namespace MirrixTest;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -30,12 +21,12 @@ QByteArray machineKey()
 
 } // namespace
 
-class OperationsLogTest : public QObject
+class OperationsLogTest : public ActionTest
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_tree = std::make_unique<TempTree>(); }
+    void init() { renew(); }
 
     /// NIST SP 800-38A, F.2.6, with the padding block that any other implementation gives.
     void cipherVector()
@@ -67,7 +58,7 @@ private slots:
         QCOMPARE(entries[0].detail, QString());
         QVERIFY(entries[1] == (LogEntry{7, u"second"_s, u"日本 \"quoted\"\n"_s}));
         QCOMPARE(entries[2].detail, QString(QChar(0xDC80)));
-        QCOMPARE(QDir(m_tree->path(u"new/folder"_s)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+        QCOMPARE(QDir(at(u"new/folder"_s)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
                  QStringList{u"ops.log.enc"_s});
     }
 
@@ -161,14 +152,12 @@ private slots:
         QVERIFY(!OperationsLog(path()).append(u"a"_s, u"b"_s));
         // What is there but cannot be read is not replaced.
         m_tree->makeFolder(u"ops.log.enc"_s);
-        QVERIFY(!OperationsLog(m_tree->path(u"ops.log.enc"_s)).append(u"a"_s, u"b"_s));
-        QVERIFY(QFileInfo(m_tree->path(u"ops.log.enc"_s)).isDir());
+        QVERIFY(!OperationsLog(at(u"ops.log.enc"_s)).append(u"a"_s, u"b"_s));
+        QVERIFY(QFileInfo(at(u"ops.log.enc"_s)).isDir());
     }
 
 private:
-    [[nodiscard]] QString path() const { return m_tree->path(u"new/folder/ops.log.enc"_s); }
-
-    std::unique_ptr<TempTree> m_tree;
+    [[nodiscard]] QString path() const { return at(u"new/folder/ops.log.enc"_s); }
 };
 
 QTEST_GUILESS_MAIN(OperationsLogTest)

@@ -1,22 +1,13 @@
 #include "actions/records/runjournal.h"
 
 #include "actions/records/runhistory.h"
-#include "tests/support/disk.h"
-#include "tests/support/tables.h"
-#include "tests/support/temptree.h"
+#include "tests/actions/actiontest.h"
 
 #include <QCryptographicHash>
 #include <QDir>
 #include <QJsonDocument>
 #include <QSysInfo>
-#include <QTest>
 #include <QtEndian>
-
-#include <memory>
-
-using namespace Mirrix;
-using namespace MirrixTest;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -55,12 +46,12 @@ QList<qsizetype> recordEnds(const QByteArray &bytes)
 
 } // namespace
 
-class RunJournalTest : public QObject
+class RunJournalTest : public ActionTest
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_tree = std::make_unique<TempTree>(); }
+    void init() { renew(); }
 
     /// From the paper that defines the mode (McGrew and Viega), test case 16.
     void cipherVector()
@@ -221,8 +212,8 @@ private slots:
         QVERIFY(holder.resume(data(), id));
         QVERIFY(!second.resume(data(), id));
         m_tree->write(u"full/runs"_s, "a file where the folder should be");
-        QVERIFY(!second.create(m_tree->path(u"full"_s), header(), items()) && !second.errorText().isEmpty());
-        QCOMPARE(QDir(m_tree->path(u"full"_s)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+        QVERIFY(!second.create(at(u"full"_s), header(), items()) && !second.errorText().isEmpty());
+        QCOMPARE(QDir(at(u"full"_s)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
                  QStringList{u"runs"_s});
     }
 
@@ -275,7 +266,7 @@ private slots:
     }
 
 private:
-    [[nodiscard]] QString data() const { return m_tree->path(u"data"_s); }
+    [[nodiscard]] QString data() const { return at(u"data"_s); }
     [[nodiscard]] QString path() const { return runJournalPath(data(), id); }
     /// the bytes of a journal with one outcome a record
     [[nodiscard]] QByteArray written()
@@ -295,8 +286,6 @@ private:
         QFile::remove(path()); // a file system may wait for the disk when a file is cut to nothing
         m_tree->write(u"data/runs/"_s + id + u".journal"_s, bytes);
     }
-
-    std::unique_ptr<TempTree> m_tree;
 };
 
 QTEST_GUILESS_MAIN(RunJournalTest)

@@ -28,7 +28,7 @@ private slots:
         // Made with md5sum, sha1sum, sha256sum and b3sum, of "abc" and, for the fingerprints, of "3abc" and "3ab".
         const QByteArray blake3OfAbc = "6437b3ac38465133ffb63b75273a8db548c558465d79db03fd359c6cd5bd9d85";
         const QByteArray md5Of3abc = "2f4fe09bb4f6bb9ad8ee6e7579e8f5e1";
-        row("", md5OfAbc);
+        row("-- ", md5OfAbc);
         row("--algorithm md5 ", md5OfAbc);
         row("--algorithm sha1 ", "a9993e364706816aba3e25717850c26c9cd0d89d");
         row("--algorithm=sha256 ", "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad");
