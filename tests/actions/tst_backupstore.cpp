@@ -134,25 +134,20 @@ private slots:
         QCOMPARE(treeBelow(store()).size(), 3);
     }
 
-    void nothingMovesWithoutIndex_data()
-    {
-        const auto row = columns<QString>({"obstacle"});
-        row("a file instead of the folder", u"store"_s);
-        row("a folder instead of the index", u"store/deep/backup_index.json/x"_s);
-    }
-
     void nothingMovesWithoutIndex()
     {
-        QFETCH(QString, obstacle);
-        const QStringList paths = fill({u"one"_s, u"two"_s});
-        m_tree->write(obstacle, "x");
-        const DiskTree before = source();
         // A folder that stands for the index is set aside like any damaged index; then the batch may go on.
-        const BatchResult result = backupFiles(store(), paths);
-        QCOMPARE(result.count + source().size(), 2);
-        QCOMPARE(result.count == 0, source() == before);
-        QCOMPARE(restorableEntries(store()).size(), result.count);
-        QCOMPARE(result.errors.size(), 2 - result.count);
+        for (const QString &obstacle : {u"store"_s, u"store/deep/backup_index.json/x"_s}) {
+            renew();
+            const QStringList paths = fill({u"one"_s, u"two"_s});
+            m_tree->write(obstacle, "x");
+            const DiskTree before = source();
+            const BatchResult result = backupFiles(store(), paths);
+            QCOMPARE(result.count + source().size(), 2);
+            QCOMPARE(result.count == 0, source() == before);
+            QCOMPARE(restorableEntries(store()).size(), result.count);
+            QCOMPARE(result.errors.size(), 2 - result.count);
+        }
     }
 
     /// The store is full after the first file and the index: what did not get in is where it was, the rest is listed.
@@ -234,12 +229,12 @@ private slots:
         const QString md5 =
             u"md5:"_s + QLatin1String(QCryptographicHash::hash("content of 1", QCryptographicHash::Md5).toHex());
         const QString blake3 = u"blake3:c315b79a8e962d7125ff793567b79c48786d2f2b0754bdacb5b71c9216619f98"_s;
-        row("cut", QString(), QByteArray("content of"), false);
-        row("a byte flipped, MD5", md5, QByteArray("content oF 1"), false);
-        row("a byte flipped, BLAKE3", blake3, QByteArray("content oF 1"), false);
-        row("whole, MD5", md5.toUpper().replace(u"MD5"_s, u"md5"_s), QByteArray("content of 1"), true);
-        row("whole, BLAKE3", blake3, QByteArray("content of 1"), true);
-        row("digest of a later version", u"sha999:00"_s, QByteArray("content of 1"), true);
+        row("cut", QString(), "content of", false);
+        row("a byte flipped, MD5", md5, "content oF 1", false);
+        row("a byte flipped, BLAKE3", blake3, "content oF 1", false);
+        row("whole, MD5", md5.toUpper().replace(u"MD5"_s, u"md5"_s), "content of 1", true);
+        row("whole, BLAKE3", blake3, "content of 1", true);
+        row("digest of a later version", u"sha999:00"_s, "content of 1", true);
     }
 
     /// What differs from what was backed up stays in the folder and in the index.
@@ -262,23 +257,19 @@ private slots:
         QCOMPARE(loadBackupIndex(store()).first() == entries[0], !isRestored);
     }
 
-    void damagedIndexIsKept_data()
-    {
-        const auto row = columns<QByteArray>({"damaged"});
-        row("cut", QByteArray(R"([{"original": "/a", "backup)"));
-        row("zeros", QByteArray(200, '\0'));
-        row("of another version", QByteArray(R"({"version": 2, "entries": []})"));
-        row("nested too deeply", QByteArray(100'000, '[') + QByteArray(100'000, ']'));
-    }
-
     void damagedIndexIsKept()
     {
-        QFETCH(const QByteArray, damaged);
-        m_tree->write(u"store/deep/backup_index.json"_s, damaged);
-        QVERIFY(loadBackupIndex(store()).isEmpty());
-        QCOMPARE(backupFiles(store(), fill({u"1"_s})).count, 1);
-        QCOMPARE(loadBackupIndex(store()).size(), 1);
-        QCOMPARE(contentOf(store() + u"/backup_index.damaged1.json"_s), damaged);
+        const QByteArrayList damages = {R"([{"original": "/a", "backup)", QByteArray(200, '\0'),
+                                        R"({"version": 2, "entries": []})",
+                                        QByteArray(100'000, '[') + QByteArray(100'000, ']')};
+        for (const QByteArray &damaged : damages) {
+            renew();
+            m_tree->write(u"store/deep/backup_index.json"_s, damaged);
+            QVERIFY(loadBackupIndex(store()).isEmpty());
+            QCOMPARE(backupFiles(store(), fill({u"1"_s})).count, 1);
+            QCOMPARE(loadBackupIndex(store()).size(), 1);
+            QCOMPARE(contentOf(store() + u"/backup_index.damaged1.json"_s), damaged);
+        }
     }
 
     /// No part of an index tells of other files than the whole.

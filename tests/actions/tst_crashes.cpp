@@ -90,10 +90,6 @@ std::optional<CleaningMethod> methodOf(const QString &action)
 
 void clean(const QString &name, const QString &root, const QString &store, const QStringList &paths)
 {
-    const auto scanned = [](const QString &path) {
-        const PathState state = pathState(path);
-        return ScannedFile{path, state.sizeBytes, state.modifiedMs, state.identity};
-    };
     CleaningPlan plan;
     plan.method = methodOf(name).value();
     plan.backupFolder = store;
@@ -166,19 +162,14 @@ class CrashesTest : public ActionTest
 private slots:
     void killedAnywhere_data()
     {
-        QTest::addColumn<bool>("isOnOtherVolume");
-        QTest::newRow("back up") << false;
-        QTest::newRow("back up ") << true;
-        QTest::newRow("restore") << false;
-        QTest::newRow("restore ") << true;
-        QTest::newRow("restore, killed before") << true;
-        QTest::newRow("symlink") << false;
-        QTest::newRow("backup+hardlink") << false;
-        QTest::newRow("delete") << false;
-        QTest::newRow("log") << false;
+        const auto row = columns<bool>({"isOnOtherVolume"});
+        for (const char *action : {"back up", "restore", "symlink", "backup+hardlink", "delete", "log"})
+            row(action, false);
+        for (const char *action : {"back up ", "restore ", "restore, killed before"})
+            row(action, true);
         for (const char *method : {"recycle", "delete", "move", "symlink", "hardlink", "backup", "backup+hardlink"}) {
-            QTest::addRow("undo %s", method) << false;
-            QTest::addRow("%s, then undo", method) << false;
+            row(qPrintable(u"undo "_s + QLatin1String(method)), false);
+            row(qPrintable(QLatin1String(method) + u", then undo"_s), false);
         }
     }
 
@@ -351,14 +342,13 @@ int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.value(1) == u"--act") {
+    const QString task = arguments.value(1);
+    if (task == u"--act")
         act(arguments.value(2), arguments.value(3), arguments.value(4));
-        return 0;
-    }
-    if (arguments.value(1) == u"--write") {
+    if (task == u"--write")
         writeOwn(arguments.value(2), arguments.value(3), true);
+    if (task == u"--act" || task == u"--write")
         return 0;
-    }
     CrashesTest test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -153,32 +153,24 @@ private slots:
         }
     }
 
-    void garbage_data()
-    {
-        const auto row = columns<QByteArray>({"content"});
-        row("length of 4 GiB", QByteArray(4096, '\xFF'));
-        row("length without nonce and tag", QByteArray::fromHex("1b000000") + QByteArray(27, 'x'));
-        row("noise", patternBytes(5000));
-        RecordWriter foreign(QByteArray(32, 'k'));
-        const TempTree tree;
-        const QString path = tree.path(u"foreign"_s);
-        const bool isMade = foreign.create(path) && foreign.append(headerText(header())) && foreign.flush();
-        row("another machine's", (isMade ? contentOf(path) : QByteArray()));
-    }
-
     void garbage()
     {
-        QFETCH(QByteArray, content);
-        replace(content);
-        const QList<RunSummary> runs = listRuns(data());
-        QCOMPARE(runs.size(), 1);
-        QCOMPARE(runs[0].header.id, id);
-        QVERIFY(runs[0].header.startedMs > 0 && runs[0].message.contains(path()));
-        QVERIFY(!runs[0].isReadable && !runs[0].isComplete);
-        QString error;
-        QVERIFY(!appendUndone(data(), id, {{0, ItemState::Undone, {}, {}, {}, 0, 0}}, &error));
-        QVERIFY(error.contains(path()));
-        QCOMPARE(contentOf(path()), content);
+        RecordWriter foreign(QByteArray(32, 'k')); // another machine's
+        QVERIFY(foreign.create(at(u"foreign"_s)) && foreign.append(headerText(header())) && foreign.flush());
+        const QByteArray tooShort = QByteArray::fromHex("1b000000") + QByteArray(27, 'x'); // for nonce and tag
+        const QByteArray ofFourGibi(4096, '\xFF');
+        for (const QByteArray &content : {ofFourGibi, tooShort, patternBytes(5000), contentOf(at(u"foreign"_s))}) {
+            replace(content);
+            const QList<RunSummary> runs = listRuns(data());
+            QCOMPARE(runs.size(), 1);
+            QCOMPARE(runs[0].header.id, id);
+            QVERIFY(runs[0].header.startedMs > 0 && runs[0].message.contains(path()));
+            QVERIFY(!runs[0].isReadable && !runs[0].isComplete);
+            QString error;
+            QVERIFY(!appendUndone(data(), id, {{0, ItemState::Undone, {}, {}, {}, 0, 0}}, &error));
+            QVERIFY(error.contains(path()));
+            QCOMPARE(contentOf(path()), content);
+        }
     }
 
     void continuesAfterACut()

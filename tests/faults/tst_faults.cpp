@@ -3,6 +3,7 @@
 #include "tests/actions/exportscene.h"
 #include "tests/faults/scene.h"
 #include "tests/support/program.h"
+#include "tests/support/tables.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -66,11 +67,11 @@ class FaultsTest : public QObject
 private slots:
     void cleaning_data()
     {
-        QTest::addColumn<bool>("isOnOtherVolume");
-        QTest::addColumn<QString>("world");
-        const auto rows = [](const char *kind, bool isOnOtherVolume, const char *world, const QByteArrayList &methods) {
+        const auto row = columns<bool, QString>({"isOnOtherVolume", "world"});
+        const auto rows = [&row](const char *kind, bool isOnOtherVolume, const char *world,
+                                 const QByteArrayList &methods) {
             for (const QByteArray &method : methods)
-                QTest::addRow("%s%s", method.constData(), kind) << isOnOtherVolume << QString::fromLatin1(world);
+                row((method + kind).constData(), isOnOtherVolume, QString::fromLatin1(world));
         };
         rows("", false, "", {"recycle", "delete", "move", "symlink", "hardlink", "backup", "restore"});
         rows(" to another volume", true, "", {"move", "backup", "restore"});
@@ -98,18 +99,13 @@ private slots:
         });
     }
 
-    void staleDigests_data()
-    {
-        const auto row = columns<QString>({"method"});
-        for (const char *method : {"delete", "symlink"})
-            row(method, QString::fromLatin1(method));
-    }
+    void staleDigests_data() { methodRows({"delete", "symlink"}); }
 
     /// Whatever fails meanwhile, files that differ but have remembered digests in common are not destroyed for each
     /// other.
     void staleDigests()
     {
-        QFETCH(QString, method);
+        const QString method = QString::fromLatin1(QTest::currentDataTag());
         Scene undisturbed(method, false);
         undisturbed.makeDigestsStale();
         QVERIFY(undisturbed.run(undisturbed.arguments()).startsWith("1 of 3 files processed"));
@@ -120,17 +116,12 @@ private slots:
         });
     }
 
-    void undoing_data()
-    {
-        const auto row = columns<QString>({"method"});
-        for (const char *method : {"recycle", "delete", "move", "symlink", "hardlink", "backup"})
-            row(method, QString::fromLatin1(method));
-    }
+    void undoing_data() { methodRows({"recycle", "delete", "move", "symlink", "hardlink", "backup"}); }
 
     /// Whatever fails while a run is undone, nothing is lost, and undoing it once more brings everything back.
     void undoing()
     {
-        QFETCH(QString, method);
+        const QString method = QString::fromLatin1(QTest::currentDataTag());
         sweep(method, false, u"undo"_s, [](const Scene &scene, const Run &run, const Fault &fault) {
             // A file that is said not to be there can not be tidied up.
             return scene.problemAfterUndo(run.program, !fault.isPassing() || fault.code == ENOENT);
@@ -210,6 +201,13 @@ private slots:
     }
 
 private:
+    static void methodRows(const QByteArrayList &methods)
+    {
+        QTest::addColumn<int>("none");
+        for (const QByteArray &method : methods)
+            QTest::newRow(method.constData()) << 0;
+    }
+
     /// Runs `check` for every fault on every n-th call, and the flow before it, until the flow ends untouched. With
     /// "undo" for the action, the flow is to undo what the method did; with "stale", what is remembered of some files
     /// is not true any more.
@@ -256,18 +254,16 @@ private:
         QProcess process;
         scene.prepare(process);
         QProcessEnvironment environment = process.processEnvironment();
+        const std::pair<QString, QString> settings[] = {
+            {u"FOLDERS"_s, scene.folders().join(u':')},         {u"AT"_s, QString::number(number)},
+            {u"ERRNO"_s, QString::number(fault.code)},          {u"REPORT"_s, report},
+            {fault.isSticky ? u"STICKY"_s : u"FREE"_s, u"1"_s}, {fault.isCut ? u"CUT"_s : u"FREE"_s, u"1"_s}};
         environment.insert(u"LD_PRELOAD"_s, QStringLiteral(MIRRIX_FAULT_SHIM));
-        environment.insert(u"MIRRIX_FAULT_FOLDERS"_s, scene.folders().join(u':'));
-        environment.insert(u"MIRRIX_FAULT_AT"_s, QString::number(number));
-        environment.insert(u"MIRRIX_FAULT_ERRNO"_s, QString::number(fault.code));
-        environment.insert(u"MIRRIX_FAULT_REPORT"_s, report);
-        if (fault.isSticky)
-            environment.insert(u"MIRRIX_FAULT_STICKY"_s, u"1"_s);
+        for (const auto &[name, value] : settings)
+            environment.insert(u"MIRRIX_FAULT_"_s + name, value);
         if (!m_world.isEmpty())
             environment.insert(m_world.section(u'=', 0, 0),
                                QString(m_world.section(u'=', 1)).replace(u"ROOT"_s, scene.path({})));
-        if (fault.isCut)
-            environment.insert(u"MIRRIX_FAULT_CUT"_s, u"1"_s);
         process.setProcessEnvironment(environment);
         if (action.isEmpty() || action == u"undo" || action == u"stale")
             process.start(Program::builtExecutable(), scene.arguments());
