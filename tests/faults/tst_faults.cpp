@@ -75,10 +75,10 @@ private slots:
         };
         rows("", false, "", {"recycle", "delete", "move", "symlink", "hardlink", "backup", "restore"});
         rows(" to another volume", true, "", {"move", "backup", "restore"});
-        rows(" by links", false, "MIRRIX_FAULT_PLAIN_RENAME=1", {"recycle", "move", "symlink", "backup", "restore"});
-        rows(" by claims", false, "MIRRIX_FAULT_PLAIN_RENAME=2", {"recycle", "delete", "backup"});
-        rows(" without leases", false, "MIRRIX_FAULT_NO_LEASES=1", {"delete", "symlink"});
-        rows(" what was copied just now", false, "MIRRIX_FAULT_UNFLUSHED=ROOT/src/keep/a:ROOT/src/keep/b1",
+        rows(" by links", false, "PLAIN_RENAME=1", {"recycle", "move", "symlink", "backup", "restore"});
+        rows(" by claims", false, "PLAIN_RENAME=2", {"recycle", "delete", "backup"});
+        rows(" without leases", false, "NO_LEASES=1", {"delete", "symlink"});
+        rows(" what was copied just now", false, "UNFLUSHED=ROOT/src/keep/a:ROOT/src/keep/b1",
              {"delete", "symlink", "hardlink"});
     }
 
@@ -254,16 +254,20 @@ private:
         QProcess process;
         scene.prepare(process);
         QProcessEnvironment environment = process.processEnvironment();
-        const std::pair<QString, QString> settings[] = {
-            {u"FOLDERS"_s, scene.folders().join(u':')},         {u"AT"_s, QString::number(number)},
-            {u"ERRNO"_s, QString::number(fault.code)},          {u"REPORT"_s, report},
-            {fault.isSticky ? u"STICKY"_s : u"FREE"_s, u"1"_s}, {fault.isCut ? u"CUT"_s : u"FREE"_s, u"1"_s}};
-        environment.insert(u"LD_PRELOAD"_s, QStringLiteral(MIRRIX_FAULT_SHIM));
-        for (const auto &[name, value] : settings)
+        const auto set = [&environment](const QString &name, const QString &value) {
             environment.insert(u"MIRRIX_FAULT_"_s + name, value);
+        };
+        environment.insert(u"LD_PRELOAD"_s, QStringLiteral(MIRRIX_FAULT_SHIM));
+        set(u"FOLDERS"_s, scene.folders().join(u':'));
+        set(u"AT"_s, QString::number(number));
+        set(u"ERRNO"_s, QString::number(fault.code));
+        set(u"REPORT"_s, report);
+        if (fault.isSticky)
+            set(u"STICKY"_s, u"1"_s);
+        if (fault.isCut)
+            set(u"CUT"_s, u"1"_s);
         if (!m_world.isEmpty())
-            environment.insert(m_world.section(u'=', 0, 0),
-                               QString(m_world.section(u'=', 1)).replace(u"ROOT"_s, scene.path({})));
+            set(m_world.section(u'=', 0, 0), m_world.section(u'=', 1).replace(u"ROOT"_s, scene.path({})));
         process.setProcessEnvironment(environment);
         if (action.isEmpty() || action == u"undo" || action == u"stale")
             process.start(Program::builtExecutable(), scene.arguments());
@@ -273,7 +277,7 @@ private:
         return {program, contentOf(report).trimmed()};
     }
 
-    QString m_world; ///< a variable for the shim, "NAME=value", which tells of the file systems
+    QString m_world; ///< a variable for the shim, "MIRRIX_FAULT_" left out, which tells of the file systems
 };
 
 int main(int argc, char **argv)

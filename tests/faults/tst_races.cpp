@@ -154,12 +154,10 @@ Findings lookAt(const TempTree &tree)
 QStringList commandFor(const QString &method, const TempTree &tree, const QString &keep = u"newest"_s,
                        const QString &side = {})
 {
-    const QStringList common = {u"--data-dir"_s, tree.path(u"data"_s + side), tree.path(u"src"_s)};
-    if (method == u"scan")
-        return QStringList{u"scan"_s} + common;
-    const QStringList clean = QStringList{u"clean"_s, u"--keep"_s, keep, u"--apply"_s, u"--method"_s, method} + common;
-    const bool needsTarget = method != u"delete" && method != u"recycle";
-    return needsTarget ? clean + QStringList{u"--target"_s, tree.path(u"target"_s + side)} : clean;
+    QString line = method == u"scan" ? u"scan"_s : u"clean --keep %1 --apply --method %2"_s.arg(keep, method);
+    if (method != u"scan" && method != u"delete" && method != u"recycle")
+        line += u" --target "_s + tree.path(u"target"_s + side);
+    return (line + u" --data-dir %1 %2"_s.arg(tree.path(u"data"_s + side), tree.path(u"src"_s))).split(u' ');
 }
 
 /// How many files the program says it dealt with.
@@ -294,11 +292,11 @@ private:
     int m_count = 0;
 };
 
-void addMethods(const QByteArrayList &methods)
+void addMethods(const QStringList &methods)
 {
     const auto row = columns<QString>({"method"});
-    for (const QByteArray &method : methods)
-        row(method.constData(), QString::fromLatin1(method));
+    for (const QString &method : methods)
+        row(qPrintable(method), method);
 }
 
 } // namespace
@@ -308,10 +306,7 @@ class RacesTest : public QObject
     Q_OBJECT
 
 private slots:
-    void everyContentStays_data()
-    {
-        addMethods({"scan", "delete", "move", "recycle", "symlink", "hardlink", "backup"});
-    }
+    void everyContentStays_data() { addMethods(u"scan delete move recycle symlink hardlink backup"_s.split(u' ')); }
 
     /// Whatever another process does meanwhile, a whole copy of each content is left, what was moved is whole, and the
     /// program tells no more than it did.
@@ -344,7 +339,7 @@ private slots:
         qInfo("%d of %d runs disturbed", disturbed, rounds);
     }
 
-    void contraryRules_data() { addMethods({"delete", "move", "recycle", "symlink", "hardlink", "backup"}); }
+    void contraryRules_data() { addMethods(u"delete move recycle symlink hardlink backup"_s.split(u' ')); }
 
     /// Each of two programs takes the other's kept files for surplus.
     void contraryRules()
