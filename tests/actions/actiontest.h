@@ -3,6 +3,7 @@
 // What the tests of what is done with users' files share. Included by tests only, hence the usings.
 
 #include "actions/cleaning/cleaningrun.h"
+#include "actions/files/nativefile.h"
 #include "core/platform/filestatus.h"
 #include "tests/support/disk.h"
 #include "tests/support/probes.h"
@@ -48,8 +49,8 @@ class ActionTest : public QObject
 {
 protected:
     void renew() { m_tree = std::make_unique<TempTree>(); }
-    [[nodiscard]] QString at(const QString &relative) const { return m_tree->path(relative); }
-    [[nodiscard]] DiskTree treeAt(const QString &relative) const { return treeBelow(at(relative)); }
+    [[nodiscard]] QString at(const QString &relative = {}) const { return m_tree->path(relative); }
+    [[nodiscard]] DiskTree treeAt(const QString &relative = {}) const { return treeBelow(at(relative)); }
 
     std::unique_ptr<TempTree> m_tree;
 };

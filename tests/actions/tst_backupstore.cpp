@@ -104,7 +104,7 @@ private slots:
         for (int i = 0; i < 3; ++i)
             std::filesystem::last_write_time(exactNative(paths[i]), now - std::chrono::hours(ages[i] * 24 * 365));
         const DiskTree before = source();
-        const auto other = folderOnOtherVolume(at({}));
+        const auto other = folderOnOtherVolume(at());
         for (const QString &folder : {store(), other ? other->path() : store()}) {
             QCOMPARE(backupFiles(folder, paths).errors, QStringList());
             QVERIFY(source().isEmpty());
@@ -179,11 +179,11 @@ private slots:
         const QStringList paths = fill({u"file"_s});
         QCOMPARE(backupFiles(store(), paths).count, 1);
         m_tree->write(u"src/file"_s, "newer");
-        const DiskTree before = treeAt({});
+        const DiskTree before = treeAt();
         QString error;
         QVERIFY(!restoreBackup(store(), loadBackupIndex(store()).constFirst(), &error));
         QCOMPARE(error, u"原路径已存在文件，已取消恢复: "_s + paths[0]);
-        QCOMPARE(treeAt({}), before);
+        QCOMPARE(treeAt(), before);
     }
 
     /// Only an entry whose file is at its old path, as a crash leaves it, goes with the next write.
@@ -256,7 +256,7 @@ private slots:
 
     void damagedIndexIsKept()
     {
-        const QByteArrayList damages = {R"([{"original": "/a", "backup)", QByteArray(200, '\0'),
+        const QByteArrayList damages = {"[{\"original\": \"/a\", \"backup", QByteArray(200, '\0'),
                                         R"({"version": 2, "entries": []})",
                                         QByteArray(100'000, '[') + QByteArray(100'000, ']')};
         for (const QByteArray &damaged : damages) {
@@ -314,13 +314,13 @@ private slots:
             m_tree->write(name, name.toUtf8());
         if (backup.endsWith(u"link"_s) && !m_tree->symbolicLink(u"src/victim"_s, backup))
             QSKIP("no symbolic links");
-        const QString to = original.isEmpty() ? u"new"_s : at({}) + u'/' + original;
-        QVERIFY(saveBackupIndex(store(), {{to, at({}) + u'/' + backup, 0, 1}}));
-        const DiskTree before = treeAt({});
+        const QString to = original.isEmpty() ? u"new"_s : at() + u'/' + original;
+        QVERIFY(saveBackupIndex(store(), {{to, at() + u'/' + backup, 0, 1}}));
+        const DiskTree before = treeAt();
         const RestoreResult result = restoreBackups(store(), loadBackupIndex(store()));
         QCOMPARE(result.errors.size(), 1);
         QCOMPARE(result.count, 0);
-        QCOMPARE(treeAt({}), before);
+        QCOMPARE(treeAt(), before);
     }
 
 private:

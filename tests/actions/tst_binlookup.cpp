@@ -95,7 +95,7 @@ private slots:
         QFETCH(int, version);
         const QString original = at(u"lost folder/ä.txt"_s);
         const auto layout = version == 0 ? BinFolder::Layout::Trash : BinFolder::Layout::RecycleBin;
-        const BinFolder bin = {layout, at(u".Trash-1"_s), at({})};
+        const BinFolder bin = {layout, at(u".Trash-1"_s), at()};
         const auto throwAway = [&](const QString &name, const QByteArray &content, const QDateTime &deleted) {
             const QString file = version == 0 ? u".Trash-1/files/%1"_s.arg(name) : u".Trash-1/$R%1"_s.arg(name);
             m_tree->write(file, content);

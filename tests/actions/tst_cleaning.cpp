@@ -1,6 +1,5 @@
 #include "actions/cleaning/backupstore.h"
 #include "actions/cleaning/emptyfolderremoval.h"
-#include "actions/files/nativefile.h"
 #include "actions/records/operationslog.h"
 #include "core/scan/duplicatescanner.h"
 #include "tests/actions/actiontest.h"
@@ -170,7 +169,7 @@ private slots:
             contents.insert(edited);
         QVERIFY(hasActed || early.isOpen());
         QVERIFY(!isWriterWaiting || !isDestroying(method) || result.count == 0);
-        const std::set<QByteArray> found = contentsBelow(at({}));
+        const std::set<QByteArray> found = contentsBelow(at());
         if (result.count == 1 && !early.isOpen() && contents.size() > 1) // written when everything was over
             contents.erase(found.count(edited) > 0 ? content : edited);
         for (const QByteArray &each : contents)
@@ -257,6 +256,8 @@ private slots:
             }
         }
     }
+
+    void aliasOfOneFile_data() { methodRows(); }
 
     /// A folder and an overlay of it show one file under two device numbers.
     void aliasOfOneFile()
@@ -351,9 +352,9 @@ private slots:
         if (!m_tree->hardLink(u"src/linked"_s, u"src/outside"_s) || !m_tree->hardLink(u"src/copy"_s, u"src/copy2"_s))
             QSKIP("no hard links");
         const ScannedFile kept = scanned(at(u"src/kept"_s));
-        const auto item = [&](const char *name) { return CleaningItem{scanned(at(name)), kept, {}, {}, true}; };
+        const auto item = [&](const QString &name) { return CleaningItem{scanned(at(name)), kept, {}, {}, true}; };
         CleaningPlan each = plan(CleaningMethod::Delete);
-        each.items = {item("src/linked"), item("src/copy"), item("src/copy2")};
+        each.items = {item(u"src/linked"_s), item(u"src/copy"_s), item(u"src/copy2"_s)};
         for (const auto &[method, space] : {std::pair(CleaningMethod::Backup, Space{0, 4, 0}),
                                             {CleaningMethod::Move, Space()},
                                             {CleaningMethod::Recycle, Space{0, 0, 4}},
@@ -367,7 +368,7 @@ private slots:
         sparse.close();
         if (pathState(sparse.fileName()).allocatedBytes != 0)
             QSKIP("no holes");
-        each.items = {item("src/sparse")};
+        each.items = {item(u"src/sparse"_s)};
         each.items[0].isEqualContent = false;
         QCOMPARE(estimatedSpace(each), Space());
         QCOMPARE(run(each).count, 1);

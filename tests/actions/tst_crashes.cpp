@@ -1,6 +1,5 @@
 #include "actions/cleaning/backupstore.h"
 #include "actions/cleaning/undo.h"
-#include "actions/files/nativefile.h"
 #include "actions/records/operationslog.h"
 #include "actions/records/runjournal.h"
 #include "app/settings.h"
@@ -188,25 +187,7 @@ private slots:
                                    u"fdatasync"_s, u"utimensat"_s, u"fchmod"_s};
         m_kills = 0;
         for (const QString &call : action.contains(u"before"_s) ? calls.first(7) : calls) {
-            sweep(call, action, isOnOtherVolume)
-            {
-                const int stride = std::max(1, qEnvironmentVariableIntValue("MIRRIX_KILL_STRIDE"));
-                m_start = m_start % stride + 1; // other calls for each kind
-                for (int when = m_start; when < 200; when += stride) {
-                    prepare(action, isOnOtherVolume);
-                    const bool isThrough = runsThrough(call, when, {u"--act"_s, action, at({}), m_store});
-                    action.contains(u"undo"_s) ? checkUndo() : check(action);
-                    if (QTest::currentTestFailed()) {
-                        qWarning("killed at %s %d", qPrintable(call), when);
-                        return;
-                    }
-                    if (isThrough)
-                        return;
-                    ++m_kills;
-                }
-                QFAIL("never ran through");
-            }
-
+            sweep(call, action, isOnOtherVolume);
             if (QTest::currentTestFailed())
                 return;
         }
@@ -253,12 +234,12 @@ private:
     void prepare(const QString &name, bool isOnOtherVolume)
     {
         renew();
-        m_other = isOnOtherVolume ? folderOnOtherVolume(at({})) : nullptr;
+        m_other = isOnOtherVolume ? folderOnOtherVolume(at()) : nullptr;
         m_store = m_other ? m_other->path() : at(u"store"_s);
         const bool areCopies = methodOf(name).has_value();
         m_tree->makeFolder(u"target"_s);
         m_tree->makeFolder(u"share"_s); // the bin is there only if it is on the volume of the home folder
-        qputenv("HOME", at({}).toUtf8());
+        qputenv("HOME", at().toUtf8());
         qputenv("XDG_DATA_HOME", at(u"share"_s).toUtf8());
         m_tree->write(u"keeper"_s, copies);
         for (const QString &file : names)
@@ -266,14 +247,32 @@ private:
         m_before = treeAt(u"src"_s);
         OperationsLog(at(u"log"_s)).append({{1, u"first"_s, u"old"_s}});
         if (name.startsWith(u"undo"_s))
-            clean(name, at({}), m_store, {at(u"src/one"_s), at(u"src/two"_s)});
+            clean(name, at(), m_store, {at(u"src/one"_s), at(u"src/two"_s)});
         if (name.startsWith(u"restore"))
-            act(u"back up"_s, at({}), m_store);
+            act(u"back up"_s, at(), m_store);
         if (name == u"restore, killed before") // when the first copy was in place and its source still there
-            QVERIFY(!runsThrough(u"unlinkat"_s, 1, {u"--act"_s, name, at({}), m_store}));
+            QVERIFY(!runsThrough(u"unlinkat"_s, 1, {u"--act"_s, name, at(), m_store}));
     }
 
-    void sweep(const QString &call, const QString &action, bool isOnOtherVolume);
+    void sweep(const QString &call, const QString &action, bool isOnOtherVolume)
+    {
+        const int stride = std::max(1, qEnvironmentVariableIntValue("MIRRIX_KILL_STRIDE"));
+        m_start = m_start % stride + 1; // other calls for each kind
+        for (int when = m_start; when < 200; when += stride) {
+            prepare(action, isOnOtherVolume);
+            const bool isThrough = runsThrough(call, when, {u"--act"_s, action, at(), m_store});
+            action.contains(u"undo"_s) ? checkUndo() : check(action);
+            if (QTest::currentTestFailed()) {
+                qWarning("killed at %s %d", qPrintable(call), when);
+                return;
+            }
+            if (isThrough)
+                return;
+            ++m_kills;
+        }
+        QFAIL("never ran through");
+    }
+
     void check(const QString &action) const
     {
         const QList<LogEntry> log = OperationsLog(at(u"log"_s)).readAll();
@@ -308,14 +307,14 @@ private:
     void checkUndo() const
     {
         const DiskTree now = treeAt(u"src"_s);
-        const QStringList named = namedInHistory(at({}));
+        const QStringList named = namedInHistory(at());
         for (const QString &name : names)
             QVERIFY2(now.value(name) == m_before[name] || named.contains(name), qPrintable(name + u" is not named"_s));
-        QVERIFY(undo(at({})) >= 0);
+        QVERIFY(undo(at()) >= 0);
         QCOMPARE(treeAt(u"src"_s), m_before);
         QCOMPARE(contentOf(at(u"keeper"_s)), copies);
         QVERIFY(restorableEntries(m_store).isEmpty());
-        QCOMPARE(undo(at({})), 0);
+        QCOMPARE(undo(at()), 0);
     }
 
     /// Runs this program under a tracer that kills it before its n-th call of a kind; whether it ended by itself. The

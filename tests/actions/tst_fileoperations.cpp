@@ -111,7 +111,7 @@ private slots:
             QFile::setPermissions(path, QFileDevice::ReadOwner);
         if (condition == u"missing"_s && act == Act::SymbolicLink && !m_tree->symbolicLink(u"keep"_s, u"probe"_s))
             error = u"无法创建符号链接: %1"_s;
-        DiskTree expected = treeAt({});
+        DiskTree expected = treeAt();
 
         const BatchResult result = run(act, path, folder, keeper);
 
@@ -130,7 +130,7 @@ private slots:
             QCOMPARE(result.errors, QStringList{error});
             QCOMPARE(result.count, 0);
         }
-        QCOMPARE(treeAt({}), expected);
+        QCOMPARE(treeAt(), expected);
         QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     }
 
@@ -146,7 +146,7 @@ private slots:
             QCOMPARE(contentOf(from), "one");
             QCOMPARE(contentOf(to), "other");
         }
-        QCOMPARE(treeAt({}).size(), 2);
+        QCOMPARE(treeAt().size(), 2);
     }
 
     /// Names that differ in case or composition alone are two or one, as the file system has it; no content is lost.
@@ -186,7 +186,7 @@ private slots:
 
     void acrossVolumes()
     {
-        const auto other = folderOnOtherVolume(at({}));
+        const auto other = folderOnOtherVolume(at());
         if (!other)
             QSKIP("no second volume");
         for (const int size : {0, 1, 3 << 20}) {
@@ -194,25 +194,25 @@ private slots:
             const QString path = m_tree->write(name, patternBytes(size));
             m_tree->setModified(name, modifiedMs);
             QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup);
-            DiskTree expected = treeAt({});
+            DiskTree expected = treeAt();
             QVERIFY(copyToFolder(path, other->path()));
             QCOMPARE(treeBelow(other->path()), expected);
             QVERIFY(!moveToFolder(path, other->path()));
-            QCOMPARE(treeAt({}), expected);
+            QCOMPARE(treeAt(), expected);
             QVERIFY(QFile::remove(other->filePath(name)));
             QVERIFY(moveToFolder(path, other->path()));
             QCOMPARE(treeBelow(other->path()), expected);
-            QVERIFY(treeAt({}).isEmpty());
+            QVERIFY(treeAt().isEmpty());
             QVERIFY(QFile::remove(other->filePath(name)));
         }
         const QString readOnly =
             m_tree->write(u"read-only"_s, "content"); // where it cannot be removed, no copy is left
         QFile::setPermissions(readOnly, QFile::ReadOwner | QFile::ReadUser);
-        const DiskTree expected = treeAt({});
+        const DiskTree expected = treeAt();
         const bool isMoved = moveToFolder(readOnly, other->path());
         QCOMPARE(isMoved, deletesReadOnly());
-        QCOMPARE(treeBelow(isMoved ? other->path() : at({})), expected);
-        QVERIFY(treeBelow(isMoved ? at({}) : other->path()).isEmpty());
+        QCOMPARE(treeBelow(isMoved ? other->path() : at()), expected);
+        QVERIFY(treeBelow(isMoved ? at() : other->path()).isEmpty());
         for (const QString &path : {readOnly, other->filePath(u"read-only"_s)}) {
             QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
             QFile::remove(path);
@@ -226,7 +226,7 @@ private slots:
 
     void sparseFilesStaySparse()
     {
-        const auto other = folderOnOtherVolume(at({}));
+        const auto other = folderOnOtherVolume(at());
         if (!other || !namesAreBytes)
             QSKIP("no second volume, or no blocks to count");
         for (const QList<int> &written : QList<QList<int>>{{0}, {(64 << 20) - 5}, {0, 10 << 20, 30 << 20}, {}}) {
@@ -235,7 +235,7 @@ private slots:
             for (const int offset : written)
                 QVERIFY(file.seek(offset) && file.write("bytes") == 5);
             file.close();
-            const DiskTree before = treeAt({});
+            const DiskTree before = treeAt();
             QVERIFY(moveToFolder(file.fileName(), other->path()));
             QCOMPARE(treeBelow(other->path()), before);
             QProcess blocks;
@@ -252,7 +252,7 @@ private slots:
         MIRRIX_IN_SCENE("MIRRIX_NO_ATTRIBUTES",
                         "MIRRIX_NO_ATTRIBUTES=1 ASAN_OPTIONS=detect_leaks=0 exec strace -f -qq -o \"$0/trace\" "
                         "-e inject=fchmod,fchown,utimensat,fsetxattr,renameat2,linkat:error=ENOSYS \"$@\"");
-        const auto other = folderOnOtherVolume(at({}));
+        const auto other = folderOnOtherVolume(at());
         if (!other)
             QSKIP("no second volume");
         const QString path = m_tree->write(u"file"_s, patternBytes(3 << 20));
@@ -279,11 +279,11 @@ private slots:
         MIRRIX_ON_SMALL_DISK();
         const bool fits = size <= 20480;
         const QString path = m_tree->write(u"file"_s, patternBytes(size));
-        const DiskTree before = treeAt({});
+        const DiskTree before = treeAt();
         QString error;
         QCOMPARE(moveToFolder(path, smallDisk(), &error), fits);
         QCOMPARE(error, fits ? QString() : u"无法移动: "_s + path);
-        QCOMPARE(treeAt({}), fits ? DiskTree() : before);
+        QCOMPARE(treeAt(), fits ? DiskTree() : before);
         QCOMPARE(treeBelow(smallDisk()), fits ? before : DiskTree());
     }
 
@@ -304,7 +304,7 @@ private slots:
         QCOMPARE(result.errors, QStringList{u"refused"_s});
         QVERIFY(result.isCancelled);
         QCOMPARE(reports, (QList<qsizetype>{4, 14, 24, 34}));
-        QCOMPARE(treeAt({}).keys(), (QStringList{u"2"_s, u"4"_s}));
+        QCOMPARE(treeAt().keys(), (QStringList{u"2"_s, u"4"_s}));
     }
 
     void recyclesInBatches()

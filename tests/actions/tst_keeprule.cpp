@@ -1,7 +1,10 @@
 #include "actions/cleaning/keeprule.h"
 
+#include "tests/support/tables.h"
+
 #include <QTest>
 
+using namespace MirrixTest;
 using namespace Mirrix;
 using namespace Qt::StringLiterals;
 

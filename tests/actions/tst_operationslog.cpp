@@ -73,26 +73,7 @@ private slots:
                             "{\"t\":2,\"a\":\"x\",\"d\":\"\xC3\xA9\"}]"));
     }
 
-    void continuesWhatIsAnArray_data()
-    {
-        const auto row = columns<QByteArray>({"content"});
-        const QByteArray own = R"({"t":1,"a":"x","d":"C:\\a\u001f\"]"})";
-        const QByteArray other = R"({ "a":"]", "t":1, "d":"d" })";
-        row("empty", "[]");
-        row("one", "[" + own + "]");
-        row("two", "[" + own + "," + own + "]");
-        row("negative time", R"([{"t":-1,"a":"","d":""}])");
-        row("empty, blanks", " [ ]\n");
-        row("another's form", "\n[\n" + other + "\n]\n");
-        row("missing members", "[{},1]");
-        // What the parser refuses, in the own form but for one thing.
-        for (const char *wrong : {"[,]", "[{\"t\":1,\"a\":\"\",\"d\":\"\"},]", "[{\"t\":,\"a\":\"\",\"d\":\"\"}]",
-                                  "[{\"t\":01,\"a\":\"\",\"d\":\"\"}]", "[{\"t\":1,\"a\":\"\n\",\"d\":\"\"}]",
-                                  "[{\"t\":1,\"a\":\"\\x\",\"d\":\"\"}]", "[{\"t\":1,\"a\":\"\\u12g4\",\"d\":\"\"}]",
-                                  "[{\"t\":1,\"a\":\"\xFF\",\"d\":\"\"}]", "[{\"t\":1,\"a\":\"\\\",\"d\":\"\"}]",
-                                  "[{\"t\":1,\"a\":\"\",\"d\":\"\"}]]", "[{\"t\":1,\"a\":\"\",\"d\":\"\"}{}]"})
-            row(wrong, QByteArray(wrong));
-    }
+    void continuesWhatIsAnArray_data();
 
     /// Whatever reads as records is kept, and whatever does not gives way: nothing is added to a text that stays
     /// unreadable.
@@ -107,18 +88,7 @@ private slots:
         QVERIFY(OperationsLog(path()).readAll() == expected);
     }
 
-    void unusableFiles_data()
-    {
-        const auto row = columns<QByteArray>({"content"});
-        row("empty", QByteArray());
-        row("shorter than the vector", QByteArray(15, 'x'));
-        row("the vector only", QByteArray(16, 'x'));
-        row("half a block", QByteArray(24, 'x'));
-        row("noise", patternBytes(512));
-        row("another machine's", encryptAesCbc(QByteArray(32, 'k'), R"([{"t":1,"a":"a","d":"d"}])"));
-        row("no array", encryptAesCbc(machineKey(), R"({"t":1,"a":"a","d":"d"})"));
-        row("cut short", encryptAesCbc(machineKey(), R"([{"t":1,"a":"a","d":"d"},{"t")"));
-    }
+    void unusableFiles_data();
 
     void unusableFiles()
     {
@@ -144,6 +114,41 @@ private slots:
 private:
     [[nodiscard]] QString path() const { return at(u"new/folder/ops.log.enc"_s); }
 };
+
+// Out of the class, where moc reads past raw strings.
+void OperationsLogTest::continuesWhatIsAnArray_data()
+{
+    const auto row = columns<QByteArray>({"content"});
+    const QByteArray own = "{\"t\":1,\"a\":\"x\",\"d\":\"C:\\\\a\\u001f\\\"]\"}";
+    const QByteArray other = R"({ "a":"]", "t":1, "d":"d" })";
+    row("empty", "[]");
+    row("one", "[" + own + "]");
+    row("two", "[" + own + "," + own + "]");
+    row("negative time", R"([{"t":-1,"a":"","d":""}])");
+    row("empty, blanks", " [ ]\n");
+    row("another's form", "\n[\n" + other + "\n]\n");
+    row("missing members", "[{},1]");
+    // What the parser refuses, in the own form but for one thing.
+    for (const char *wrong : {"[,]", "[{\"t\":1,\"a\":\"\",\"d\":\"\"},]", "[{\"t\":,\"a\":\"\",\"d\":\"\"}]",
+                              "[{\"t\":01,\"a\":\"\",\"d\":\"\"}]", "[{\"t\":1,\"a\":\"\n\",\"d\":\"\"}]",
+                              "[{\"t\":1,\"a\":\"\\x\",\"d\":\"\"}]", "[{\"t\":1,\"a\":\"\\u12g4\",\"d\":\"\"}]",
+                              "[{\"t\":1,\"a\":\"\xFF\",\"d\":\"\"}]", "[{\"t\":1,\"a\":\"\\\",\"d\":\"\"}]",
+                              "[{\"t\":1,\"a\":\"\",\"d\":\"\"}]]", "[{\"t\":1,\"a\":\"\",\"d\":\"\"}{}]"})
+        row(wrong, QByteArray(wrong));
+}
+
+void OperationsLogTest::unusableFiles_data()
+{
+    const auto row = columns<QByteArray>({"content"});
+    row("empty", QByteArray());
+    row("shorter than the vector", QByteArray(15, 'x'));
+    row("the vector only", QByteArray(16, 'x'));
+    row("half a block", QByteArray(24, 'x'));
+    row("noise", patternBytes(512));
+    row("another machine's", encryptAesCbc(QByteArray(32, 'k'), R"([{"t":1,"a":"a","d":"d"}])"));
+    row("no array", encryptAesCbc(machineKey(), R"({"t":1,"a":"a","d":"d"})"));
+    row("cut short", encryptAesCbc(machineKey(), R"([{"t":1,"a":"a","d":"d"},{"t")"));
+}
 
 QTEST_GUILESS_MAIN(OperationsLogTest)
 #include "tst_operationslog.moc"

@@ -134,17 +134,17 @@ private slots:
             QFile device(changed);
             QVERIFY(device.open(QIODevice::ReadWrite) && device.putChar('x'));
         }
-        const QString relative = QDir(at({})).relativeFilePath(changed);
+        const QString relative = QDir(at()).relativeFilePath(changed);
         if (verb == u"sneak" || verb == u"touch")
             m_tree->setModified(relative, modifiedMs + (verb == u"touch" ? 5 : 0));
-        const DiskTree before = treeAt({});
+        const DiskTree before = treeAt();
         const UndoResult undone = undo(cleaned.runId);
         const bool isForBoth = file == u"src/kept" || verb == u"rename" || verb == u"loose";
         QCOMPARE(undone.count, isForBoth ? 0 : 1);
         QCOMPARE(undone.errors.size(), isForBoth ? 2 : 1);
         QVERIFY2(undone.errors.constFirst().startsWith(message.arg(at(u"src/one"_s))),
                  qPrintable(undone.errors.first()));
-        const DiskTree after = treeAt({});
+        const DiskTree after = treeAt();
         for (const QString &name : before.keys()) {
             const bool isOther = !isForBoth && (name.endsWith(u"two"_s) || name.endsWith(u"two.trashinfo"_s));
             if (!isOther && !name.startsWith(u"data/"_s) && !name.startsWith(u"store/backup_index"_s))

@@ -32,7 +32,7 @@ protected:
         m_program = std::make_unique<Program>();
     }
 
-    [[nodiscard]] QString path(const QString &relative) const { return m_tree->path(relative); }
+    [[nodiscard]] QString path(const QString &relative = {}) const { return m_tree->path(relative); }
     [[nodiscard]] QString dataFolder() const { return m_program->dataFolder(); }
 
     [[nodiscard]] QStringList words(const QString &line) const

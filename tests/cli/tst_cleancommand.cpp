@@ -561,9 +561,10 @@ private:
     {
         QByteArray marks;
         for (const QString &folder : folders) {
-            const std::filesystem::path path = exactNative(path(u"src/"_s + folder));
-            marks += QByteArray::number(qint64(std::filesystem::last_write_time(path).time_since_epoch().count())) +
-                     ' ' + QByteArray::number(static_cast<int>(std::filesystem::status(path).permissions()), 8) + '\n';
+            const std::filesystem::path native = exactNative(path(u"src/"_s + folder));
+            marks += QByteArray::number(qint64(std::filesystem::last_write_time(native).time_since_epoch().count())) +
+                     ' ' + QByteArray::number(static_cast<int>(std::filesystem::status(native).permissions()), 8) +
+                     '\n';
         }
         return marks;
     }

@@ -101,7 +101,7 @@ private slots:
                                           {u"a\\nb"_s, "\\%1  a\\\\nb\n"},
                                           {u"*a\tb"_s, "%1  *a\tb\n"}}) {
             m_tree->write(name, "abc");
-            QCOMPARE(m_program->run({u"hash"_s, name}, path({})).output, QByteArray(shown).replace("%1", md5OfAbc));
+            QCOMPARE(m_program->run({u"hash"_s, name}, path()).output, QByteArray(shown).replace("%1", md5OfAbc));
         }
     }
 
@@ -173,7 +173,7 @@ private slots:
 private:
     [[nodiscard]] ProgramRun hash(const QString &line) const
     {
-        return m_program->run(words(u"hash "_s + line), path({}));
+        return m_program->run(words(u"hash "_s + line), path());
     }
 };
 

@@ -1,9 +1,12 @@
 #include "cli/progressline.h"
 
+#include "tests/support/tables.h"
+
 #include <QTest>
 
 #include <limits>
 
+using namespace MirrixTest;
 using namespace MirrixCli;
 using namespace MirrixCore;
 using namespace Qt::StringLiterals;

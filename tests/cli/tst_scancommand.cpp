@@ -75,7 +75,7 @@ private slots:
         const ProgramRun done = run(u"scan "_s + arguments);
         static const QRegularExpression time(u" in [0-9]+\\.[0-9][0-9] s\n$"_s);
         QVERIFY(time.match(QString::fromUtf8(done.output)).hasMatch());
-        QCOMPARE(QString::fromUtf8(done.output).remove(time), expected.replace(u"%1"_s, path({})));
+        QCOMPARE(QString::fromUtf8(done.output).remove(time), expected.replace(u"%1"_s, path()));
         QCOMPARE(done.errors, "");
         QCOMPARE(done.status, 0);
     }
@@ -161,7 +161,7 @@ private slots:
         m_tree->setModified(u"two/c, d.txt"_s, modifiedMs);
         const ProgramRun done = run(u"scan --format csv --hash md5 %1"_s);
         QCOMPARE(done.status, 0);
-        QStringList lines = QString::fromUtf8(done.output).remove(path({})).split(u'\n');
+        QStringList lines = QString::fromUtf8(done.output).remove(path()).split(u'\n');
         QCOMPARE(lines.takeFirst(), u"group,path,size,modified,key"_s);
         lines.sort();
         const QString tail = u"\",3,1234567890000,"_s + md5OfAbc;
@@ -215,7 +215,7 @@ private slots:
         m_tree->write(u"options.json"_s, "{\"maxSize\": 20}");
         m_tree->write(u"roots.json"_s, "{\"roots\": [\"" + path(u"one"_s).toUtf8() + "\"]}");
         if (line.contains(u"list"_s))
-            m_tree->write(u"list"_s, u"%1/one/a.txt\r\n%1/two\n\n"_s.arg(path({})).toUtf8());
+            m_tree->write(u"list"_s, u"%1/one/a.txt\r\n%1/two\n\n"_s.arg(path()).toUtf8());
         const ProgramRun done = scan(line);
         QCOMPARE(done.errors, "");
         QCOMPARE(done.status, 0);
@@ -326,7 +326,7 @@ private slots:
     void missingFoldersAreNamed()
     {
         const ProgramRun done = scan(u"%1/none %1/one %1/one/a.txt %1/two"_s);
-        QCOMPARE(QString::fromUtf8(done.errors).remove(path({})),
+        QCOMPARE(QString::fromUtf8(done.errors).remove(path()),
                  u"mirrix-cli: /none: no such folder\nmirrix-cli: /one/a.txt: not a folder\n"_s);
         QCOMPARE(groupsIn(done.output), theTwo);
         const QJsonObject expected = objectOf(R"({"unread": [{"path": "%1/none", "reason": "no such folder"},
@@ -378,7 +378,7 @@ private slots:
         m_tree->makeFolder(u"empty/sub"_s);
         const ProgramRun done = run(u"scan %1 "_s + QLatin1String(QTest::currentDataTag()));
         QString shown = QString::fromUtf8(done.output).replace(u'\0', u'|').replace(u'\x1b', u'^');
-        QTEST(shown.remove(path({}) + u'/'), "expected");
+        QTEST(shown.remove(path() + u'/'), "expected");
         QCOMPARE(done.errors, "");
     }
 
@@ -401,7 +401,7 @@ private slots:
              {u"one ./two/../two --exclude two/sub"_s, u"one ./two/../two --set excludeFolders=two/sub"_s,
               uR"(one ./two/../two --set locations=[{"path":"two","includeSubfolders":false}])"_s,
               u"--set roots=one,two --exclude two/sub"_s, u"--options conf/options.json"_s}) {
-            const ProgramRun done = m_program->run(words(u"scan --no-cache --format json "_s + given), path({}));
+            const ProgramRun done = m_program->run(words(u"scan --no-cache --format json "_s + given), path());
             QCOMPARE(done.errors, "");
             QCOMPARE(groupsIn(done.output), theTwo);
             QVERIFY2(jsonOf(done.output)[u"filesScanned"_s] == 2, qPrintable(given));
@@ -456,7 +456,7 @@ private slots:
         };
         QCOMPARE(inShell(u"d=$2/$(printf 'caf\\351'); exec \"$1\" scan --data-dir \"$d\"dir --output \"$d\"report "
                          "--options \"$2/$(printf '\\351').json\" \"$3\""_s,
-                         {tree.path(), path({})})
+                         {tree.path(), path()})
                      .errors,
                  "");
         QFile report;
@@ -469,7 +469,7 @@ private slots:
         const QByteArray answers =
             inShell(u"cli=$1; cd \"$2\"; shift 2; folder=$(printf 'x\\351'); for command; do "
                     "\"$cli\" $command \"$folder\" 2>&1 || echo status $?; done; ls"_s,
-                    {path({}), backup + u"--data-dir"_s, u"undo last --data-dir"_s, u"history --data-dir"_s,
+                    {path(), backup + u"--data-dir"_s, u"undo last --data-dir"_s, u"history --data-dir"_s,
                      u"log --data-dir"_s, u"restore --data-dir"_s, backup + u"--target"_s, u"restore --target"_s})
                 .output;
         QCOMPARE(answers.count("x\xE9: its name is not UTF-8\n"), 7);
@@ -493,7 +493,7 @@ private slots:
     void unwritableDataFolder()
     {
         const ProgramRun done = m_program->run(words(u"scan --data-dir %1/one/a.txt --format json %1"_s));
-        QCOMPARE(QString::fromUtf8(done.errors).remove(path({})),
+        QCOMPARE(QString::fromUtf8(done.errors).remove(path()),
                  u"mirrix-cli: cannot write to /one/a.txt/fingerprint_cache; digests will not be cached\n"_s);
         QCOMPARE(groupsIn(done.output), theTwo);
         QCOMPARE(done.status, 0);
@@ -650,7 +650,7 @@ private:
     /// JSON in which %1 stands for the tree's folder.
     [[nodiscard]] QJsonObject objectOf(const QByteArray &text) const
     {
-        return QJsonDocument::fromJson(QByteArray(text).replace("%1", path({}).toUtf8())).object();
+        return QJsonDocument::fromJson(QByteArray(text).replace("%1", path().toUtf8())).object();
     }
 
     /// The groups of a JSON report, in the form "one/a.txt|two/b.dat||three|four".
@@ -660,7 +660,7 @@ private:
         for (const QJsonValue &item : jsonOf(report)[u"groups"_s].toArray()) {
             QStringList paths;
             for (const QJsonValue &file : item[u"files"_s].toArray())
-                paths.append(file[u"path"_s].toString().remove(path({}) + u'/'));
+                paths.append(file[u"path"_s].toString().remove(path() + u'/'));
             paths.sort();
             groups.append(paths.join(u'|'));
         }

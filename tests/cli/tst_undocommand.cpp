@@ -11,10 +11,10 @@ private slots:
     {
         m_tree->writeAll(u"1/kept 1/copy"_s, "one");
         m_tree->writeAll(u"2/kept 2/copy"_s, "second");
-        const DiskTree before = treeBelow(path({}));
+        const DiskTree before = treeBelow(path());
         QCOMPARE(run(u"undo last --apply"_s).status, 1); // there is no run
         QCOMPARE(run(u"clean --keep newest --method delete --apply %1"_s).status, 0);
-        const DiskTree cleaned = treeBelow(path({}));
+        const DiskTree cleaned = treeBelow(path());
         QCOMPARE(cleaned.size(), 2);
         QFile early(dataFolder() + u"/runs/29990101-000000-0000.journal"_s); // of a run killed before it began
         QVERIFY(early.open(QIODevice::WriteOnly));
@@ -25,7 +25,7 @@ private slots:
             if (!cleaned.contains(name))
                 QVERIFY(told.output.contains(path(name).toUtf8() + "  <-  " + path(name.left(2)).toUtf8()));
         }
-        QCOMPARE(treeBelow(path({})), cleaned);
+        QCOMPARE(treeBelow(path()), cleaned);
 
         QVERIFY(QFile::remove(path(cleaned.firstKey())));
         const ProgramRun half = run(u"undo last"_s);
@@ -35,7 +35,7 @@ private slots:
         m_tree->write(cleaned.firstKey(), "one"); // the kept copy is there again
         const ProgramRun done = run(u"undo last --apply"_s);
         QVERIFY2(done.status == 0 && done.output.contains("1 of 1 files undone"), done.errors.constData());
-        DiskTree after = treeBelow(path({}));
+        DiskTree after = treeBelow(path());
         after[cleaned.firstKey()] = before[cleaned.firstKey()]; // written later
         QCOMPARE(after, before);
         QVERIFY(run(u"undo last --apply"_s).output.contains("0 of 0 files undone"));
