@@ -1,14 +1,4 @@
-#include "core/platform/nativepath.h"
-#include "tests/support/probes.h"
-#include "tests/support/program.h"
-#include "tests/support/temptree.h"
-
-#include <QTest>
-
-#include <memory>
-
-using namespace MirrixTest;
-using namespace Qt::StringLiterals;
+#include "tests/cli/clitest.h"
 
 namespace {
 
@@ -17,227 +7,175 @@ const QByteArray md5OfNothing = "d41d8cd98f00b204e9800998ecf8427e";
 
 } // namespace
 
-class HashCommandTest : public QObject
+class HashCommandTest : public CliTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void digests_data();
-    void digests();
-    void severalFiles();
-    void foldersAreSorted();
-    void relativePaths();
-    void failuresAreNamed();
-    void emptyFiles();
-    void escapedNames_data();
-    void escapedNames();
-    void namesOfBytes();
-    void pipeIsNotWaitedFor();
-    void closedOutputIsAFailure();
-    void mistakes_data();
-    void mistakes();
-
-private:
-    [[nodiscard]] ProgramRun hash(const QStringList &arguments) const
+    void init()
     {
-        return Program().run(QStringList{u"hash"_s} + arguments, m_tree->path());
+        renew();
+        m_tree->write(u"abc"_s, "abc");
+        m_tree->write(u"z"_s, {});
+        m_tree->makeFolder(u"empty"_s);
+        for (const QString &name : {u"b"_s, u"a/2"_s, u"a/10"_s, u"a/sub/x y"_s, u"ä"_s, u"c.d/e"_s, u"Z"_s})
+            m_tree->write(u"folder/"_s + name, "abc");
     }
 
-    std::unique_ptr<TempTree> m_tree;
+    void digests_data()
+    {
+        const auto row = columns<QByteArray>({"expected"});
+        // Made with md5sum, sha1sum, sha256sum and b3sum, of "abc" and, for the fingerprints, of "3abc" and "3ab".
+        const QByteArray blake3OfAbc = "6437b3ac38465133ffb63b75273a8db548c558465d79db03fd359c6cd5bd9d85";
+        const QByteArray md5Of3abc = "2f4fe09bb4f6bb9ad8ee6e7579e8f5e1";
+        row("-- ", md5OfAbc);
+        row("--algorithm md5 ", md5OfAbc);
+        row("--algorithm sha1 ", "a9993e364706816aba3e25717850c26c9cd0d89d");
+        row("--algorithm=sha256 ", "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad");
+        row("--algorithm blake3 ", blake3OfAbc);
+        row("--window full ", md5OfAbc);
+        row("--window quick ", md5Of3abc);
+        row("--window sample ", md5Of3abc);
+        row("--window prefix:2 ", "831eae3fa74b59c3c943ad25f7b952bf");
+        row("--window prefix:9 ", md5Of3abc);
+        row("--window prefix:0 ", md5OfAbc);
+        row("--window quick --algorithm blake3 ", "9d637507f93110d8271e5b9d26981a0612a690e517508f4e29c9f303f94f156e");
+        row("--window prefix:2 --algorithm blake3 ",
+            "f4ceef348e7aa39c8e2734c694200e629443c821e754653e2683fc7450ed869f");
+        row("--window prefix:0 --algorithm blake3 ", blake3OfAbc);
+    }
+
+    void digests()
+    {
+        QFETCH(QByteArray, expected);
+        const ProgramRun done = hash(QLatin1String(QTest::currentDataTag()) + path(u"abc"_s));
+        QCOMPARE(done.output, expected + "  " + path(u"abc"_s).toUtf8() + '\n');
+        QCOMPARE(done.errors, "");
+        QCOMPARE(done.status, 0);
+    }
+
+    void lines_data()
+    {
+        const auto row = columns<QByteArray, QByteArray>({"output", "errors"});
+        const QByteArray nothing = md5OfNothing + "  z\n";
+        const QByteArray abc = md5OfAbc + "  abc\n";
+        row("z abc z", nothing + abc + nothing, {});
+        QByteArray sorted;
+        for (const char *name : {"Z", "a/10", "a/2", "a/sub/x y", "b", "c.d/e", "\xC3\xA4"})
+            sorted += md5OfAbc + "  folder/" + name + '\n';
+        row("abc folder/ empty", abc + sorted, {});
+        row("./folder", sorted, {});
+        row("folder/../abc", md5OfAbc + "  folder/../abc\n", {}); // a file as it was named
+        row("--window quick z", {}, "mirrix-cli: z: nothing to hash\n");
+        const QByteArray md5OfZero = "cfcd208495d565ef66e7dff9f98764da  z\n"; // the size is all there is to hash
+        row("--window sample z", md5OfZero, {});
+        row("--window prefix:5 z", md5OfZero, {});
+    }
+
+    void lines()
+    {
+        QFETCH(QByteArray, errors);
+        const ProgramRun done = hash(QLatin1String(QTest::currentDataTag()));
+        QTEST(done.output, "output");
+        QCOMPARE(done.errors, errors);
+        QCOMPARE(done.status, errors.isEmpty() ? 0 : 1);
+    }
+
+    void failuresAreNamed()
+    {
+        const ProgramRun done = hash(u"none abc abc/below"_s);
+        QCOMPARE(done.output, md5OfAbc + "  abc\n");
+        const QList<QByteArray> lines = done.errors.split('\n');
+        QCOMPARE(lines.size(), 3);
+        QVERIFY2(lines[0].startsWith("mirrix-cli: none: ") && lines[0].size() > 18, lines[0].constData());
+        QVERIFY2(lines[1].startsWith("mirrix-cli: abc/below: ") && lines[1].size() > 23, lines[1].constData());
+        QCOMPARE(done.status, 1);
+    }
+
+    void escapedNames()
+    {
+        if (!namesAreBytes)
+            QSKIP("no file can have these names here");
+        for (const auto &[name, shown] : {std::pair(u"a\nb"_s, "\\%1  a\\nb\n"),
+                                          {u"a\rb"_s, "\\%1  a\\rb\n"},
+                                          {u"a\\nb"_s, "\\%1  a\\\\nb\n"},
+                                          {u"*a\tb"_s, "%1  *a\tb\n"}}) {
+            m_tree->write(name, "abc");
+            QCOMPARE(m_program->run({u"hash"_s, name}, path()).output, QByteArray(shown).replace("%1", md5OfAbc));
+        }
+    }
+
+    void namesOfBytes()
+    {
+        if (!namesAreBytes)
+            QSKIP("names are not bytes here");
+        const TempTree tree;
+        tree.writeNamedByBytes("caf\xE9", "abc");
+        tree.writeNamedByBytes("caf\xE8", "");
+        const QByteArray folder = tree.path().toUtf8();
+        const ProgramRun done = hash(tree.path());
+        QCOMPARE(done.output, md5OfNothing + "  " + folder + "/caf\xE8\n" + md5OfAbc + "  " + folder + "/caf\xE9\n");
+        QCOMPARE(done.status, 0);
+        QCOMPARE(hash(u"--window quick "_s + tree.path()).errors,
+                 "mirrix-cli: " + folder + "/caf\xE8: nothing to hash\n");
+    }
+
+    void pipeIsNotWaitedFor()
+    {
+        if (!makePipe(path(u"pipe"_s)))
+            QSKIP("no named pipes here");
+        const ProgramRun done = hash(u"pipe abc"_s);
+        QCOMPARE(done.output, md5OfAbc + "  abc\n");
+        QVERIFY2(done.errors.startsWith("mirrix-cli: pipe: "), done.errors.constData());
+        QCOMPARE(done.status, 1);
+    }
+
+    void closedOutputIsAFailure()
+    {
+        if (!takesNothing(u"/dev/full"_s))
+            QSKIP("no device that takes nothing");
+        const ProgramRun done = runOntoFullDevice(u"hash %1/abc"_s);
+        QVERIFY2(done.errors.startsWith("mirrix-cli: cannot write "), done.errors.constData());
+        QCOMPARE(done.status, 1);
+    }
+
+    void mistakes_data()
+    {
+        const auto add = columns<QString>({"message"});
+        const auto row = [&add](const QString &line, const QString &message) { add(qPrintable(line), message); };
+        row(u"--window full"_s, u"no file to hash"_s);
+        row(u"abc "_s, u"an empty file name"_s);
+        for (const QString &name : {u"MD5"_s, u"sha512"_s})
+            row(u"abc --algorithm "_s + name,
+                u"--algorithm must be md5, sha1, sha256 or blake3, not \"%1\""_s.arg(name));
+        for (const QString &name : {u"half"_s, u"Quick"_s, u"prefix"_s, u"prefix:"_s, u"prefix:-1"_s, u"prefix:1k"_s,
+                                    u"prefix:9223372036854775808"_s})
+            row(u"abc --window "_s + name, u"--window must be full, quick, sample or prefix:N, not \"%1\""_s.arg(name));
+        for (const auto &[window, algorithm] : {std::pair(u"quick"_s, u"sha1"_s),
+                                                {u"prefix:5"_s, u"sha256"_s},
+                                                {u"sample"_s, u"sha1"_s},
+                                                {u"sample"_s, u"blake3"_s}})
+            row(u"--window %1 --algorithm %2 abc"_s.arg(window, algorithm),
+                u"--window %1 cannot be used with --algorithm %2"_s.arg(window, algorithm));
+        row(u"--format json abc"_s, u"Unknown option 'format'."_s);
+        row(u"abc --algorithm"_s, u"Missing value after '--algorithm'."_s);
+    }
+
+    void mistakes()
+    {
+        QFETCH(QString, message);
+        const ProgramRun done = hash(QString::fromUtf8(QTest::currentDataTag()));
+        QCOMPARE(done.errors, usageErrorText(message));
+        QCOMPARE(done.output, "");
+        QCOMPARE(done.status, 2);
+    }
+
+private:
+    [[nodiscard]] ProgramRun hash(const QString &line) const
+    {
+        return m_program->run(words(u"hash "_s + line), path());
+    }
 };
-
-void HashCommandTest::init()
-{
-    m_tree = std::make_unique<TempTree>();
-    m_tree->write(u"abc"_s, "abc");
-}
-
-void HashCommandTest::digests_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QByteArray>("expected");
-    const auto row = [](const QString &arguments, const char *expected) {
-        QTest::newRow(qPrintable(arguments)) << arguments.split(u' ', Qt::SkipEmptyParts) << QByteArray(expected);
-    };
-    // Made with md5sum, sha1sum, sha256sum and b3sum, of "abc" and, for the fingerprints, of "3abc" and "3ab".
-    const char blake3OfAbc[] = "6437b3ac38465133ffb63b75273a8db548c558465d79db03fd359c6cd5bd9d85";
-    const char md5Of3abc[] = "2f4fe09bb4f6bb9ad8ee6e7579e8f5e1";
-    const char blake3Of3abc[] = "9d637507f93110d8271e5b9d26981a0612a690e517508f4e29c9f303f94f156e";
-    row(u" "_s, md5OfAbc.constData());
-    row(u"--algorithm md5"_s, md5OfAbc.constData());
-    row(u"--algorithm sha1"_s, "a9993e364706816aba3e25717850c26c9cd0d89d");
-    row(u"--algorithm=sha256"_s, "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad");
-    row(u"--algorithm blake3"_s, blake3OfAbc);
-    row(u"--window full"_s, md5OfAbc.constData());
-    row(u"--window quick"_s, md5Of3abc);
-    row(u"--window sample"_s, md5Of3abc);
-    row(u"--window prefix:2"_s, "831eae3fa74b59c3c943ad25f7b952bf");
-    row(u"--window prefix:9"_s, md5Of3abc);
-    row(u"--window prefix:0"_s, md5OfAbc.constData());
-    row(u"--window quick --algorithm blake3"_s, blake3Of3abc);
-    row(u"--window prefix:2 --algorithm blake3"_s, "f4ceef348e7aa39c8e2734c694200e629443c821e754653e2683fc7450ed869f");
-    row(u"--window prefix:0 --algorithm blake3"_s, blake3OfAbc);
-}
-
-void HashCommandTest::digests()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(QByteArray, expected);
-    const QString file = m_tree->path(u"abc"_s);
-    const ProgramRun run = hash(arguments + QStringList{file});
-    QCOMPARE(run.output, expected + "  " + file.toUtf8() + '\n');
-    QCOMPARE(run.errors, "");
-    QCOMPARE(run.status, 0);
-}
-
-void HashCommandTest::severalFiles()
-{
-    m_tree->write(u"z"_s, {});
-    const ProgramRun run = hash({u"z"_s, u"abc"_s, u"z"_s});
-    QCOMPARE(run.output, md5OfNothing + "  z\n" + md5OfAbc + "  abc\n" + md5OfNothing + "  z\n");
-    QCOMPARE(run.status, 0);
-}
-
-void HashCommandTest::foldersAreSorted()
-{
-    for (const QString &name : {u"b"_s, u"a/2"_s, u"a/10"_s, u"a/sub/x y"_s, u"ä"_s, u"c.d/e"_s, u"Z"_s})
-        m_tree->write(u"folder/"_s + name, "abc");
-    m_tree->makeFolder(u"empty"_s);
-    QByteArray expected = md5OfAbc + "  abc\n";
-    for (const char *name : {"Z", "a/10", "a/2", "a/sub/x y", "b", "c.d/e", "\xC3\xA4"})
-        expected += md5OfAbc + "  folder/" + name + '\n';
-    const ProgramRun run = hash({u"abc"_s, u"folder/"_s, u"empty"_s});
-    QCOMPARE(run.output, expected);
-    QCOMPARE(run.errors, "");
-    QCOMPARE(run.status, 0);
-}
-
-void HashCommandTest::relativePaths()
-{
-    m_tree->write(u"folder/f"_s, "abc");
-    QCOMPARE(hash({u"folder/../abc"_s}).output, md5OfAbc + "  folder/../abc\n"); // a file as it was named
-    QCOMPARE(hash({u"folder"_s}).output, md5OfAbc + "  folder/f\n");
-    QCOMPARE(hash({u"./folder"_s}).output, md5OfAbc + "  folder/f\n");
-}
-
-void HashCommandTest::failuresAreNamed()
-{
-    const ProgramRun run = hash({u"none"_s, u"abc"_s, u"abc/below"_s});
-    QCOMPARE(run.output, md5OfAbc + "  abc\n");
-    const QList<QByteArray> lines = run.errors.split('\n');
-    QCOMPARE(lines.size(), 3);
-    QVERIFY2(lines[0].startsWith("mirrix-cli: none: ") && lines[0].size() > 18, lines[0].constData());
-    QVERIFY2(lines[1].startsWith("mirrix-cli: abc/below: ") && lines[1].size() > 23, lines[1].constData());
-    QCOMPARE(run.status, 1);
-}
-
-void HashCommandTest::emptyFiles()
-{
-    m_tree->write(u"z"_s, {});
-    const ProgramRun run = hash({u"--window"_s, u"quick"_s, u"z"_s});
-    QCOMPARE(run.output, "");
-    QCOMPARE(run.errors, "mirrix-cli: z: nothing to hash\n");
-    QCOMPARE(run.status, 1);
-    // The size, "0", is all the others have to hash.
-    QCOMPARE(hash({u"--window"_s, u"sample"_s, u"z"_s}).output, "cfcd208495d565ef66e7dff9f98764da  z\n");
-    QCOMPARE(hash({u"--window"_s, u"prefix:5"_s, u"z"_s}).output, "cfcd208495d565ef66e7dff9f98764da  z\n");
-}
-
-void HashCommandTest::escapedNames_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("shown"); // behind the blanks
-    QTest::addColumn<bool>("isEscaped");
-    QTest::newRow("line break") << u"a\nb"_s << QByteArray("a\\nb") << true;
-    QTest::newRow("carriage return") << u"a\rb"_s << QByteArray("a\\rb") << true;
-    QTest::newRow("backslash") << u"a\\nb"_s << QByteArray("a\\\\nb") << true;
-    QTest::newRow("tab and star") << u"*a\tb"_s << QByteArray("*a\tb") << false;
-}
-
-void HashCommandTest::escapedNames()
-{
-    if (!namesAreBytes)
-        QSKIP("no file can have this name here");
-    QFETCH(QString, name);
-    QFETCH(QByteArray, shown);
-    QFETCH(bool, isEscaped);
-    m_tree->write(name, "abc");
-    QCOMPARE(hash({name}).output, (isEscaped ? "\\" : "") + md5OfAbc + "  " + shown + '\n');
-}
-
-void HashCommandTest::namesOfBytes()
-{
-    if (!namesAreBytes)
-        QSKIP("names are not bytes here");
-    const TempTree tree;
-    tree.writeNamedByBytes("caf\xE9", "abc");
-    tree.writeNamedByBytes("caf\xE8", "");
-    const QByteArray folder = tree.path().toUtf8();
-    const ProgramRun run = hash({tree.path()});
-    QCOMPARE(run.output, md5OfNothing + "  " + folder + "/caf\xE8\n" + md5OfAbc + "  " + folder + "/caf\xE9\n");
-    QCOMPARE(run.status, 0);
-    QCOMPARE(hash({u"--window"_s, u"quick"_s, tree.path()}).errors,
-             "mirrix-cli: " + folder + "/caf\xE8: nothing to hash\n");
-}
-
-void HashCommandTest::pipeIsNotWaitedFor()
-{
-    if (!makePipe(m_tree->path(u"pipe"_s)))
-        QSKIP("no named pipes here");
-    const ProgramRun run = hash({u"pipe"_s, u"abc"_s});
-    QCOMPARE(run.output, md5OfAbc + "  abc\n");
-    QVERIFY2(run.errors.startsWith("mirrix-cli: pipe: "), run.errors.constData());
-    QCOMPARE(run.status, 1);
-}
-
-void HashCommandTest::closedOutputIsAFailure()
-{
-    if (!takesNothing(u"/dev/full"_s))
-        QSKIP("no device that takes nothing");
-    const Program program;
-    QProcess process;
-    program.prepare(process, {u"hash"_s, m_tree->path(u"abc"_s)});
-    process.setStandardOutputFile(u"/dev/full"_s);
-    process.start();
-    const ProgramRun run = Program::ended(process);
-    QVERIFY2(run.errors.startsWith("mirrix-cli: cannot write "), run.errors.constData());
-    QCOMPARE(run.status, 1);
-}
-
-void HashCommandTest::mistakes_data()
-{
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<QString>("message");
-    const auto row = [](const QString &arguments, const QString &message) {
-        QTest::newRow(qPrintable(arguments)) << arguments << message;
-    };
-    const QString window = u"--window must be full, quick, sample or prefix:N, not \"%1\""_s;
-    const QString notMade = u"--window %1 cannot be used with --algorithm %2"_s;
-    row(u"--window full"_s, u"no file to hash"_s);
-    row(u"abc "_s, u"an empty file name"_s);
-    row(u"--algorithm MD5 abc"_s, u"--algorithm must be md5, sha1, sha256 or blake3, not \"MD5\""_s);
-    row(u"--algorithm sha512 abc"_s, u"--algorithm must be md5, sha1, sha256 or blake3, not \"sha512\""_s);
-    for (const QString &name : {u"half"_s, u"Quick"_s, u"prefix"_s, u"prefix:"_s, u"prefix:-1"_s, u"prefix:1k"_s,
-                                u"prefix:9223372036854775808"_s})
-        row(u"abc --window "_s + name, window.arg(name));
-    row(u"--window quick --algorithm sha1 abc"_s, notMade.arg(u"quick"_s, u"sha1"_s));
-    row(u"--window prefix:5 --algorithm sha256 abc"_s, notMade.arg(u"prefix:5"_s, u"sha256"_s));
-    row(u"--window sample --algorithm sha1 abc"_s, notMade.arg(u"sample"_s, u"sha1"_s));
-    row(u"--window sample --algorithm blake3 abc"_s, notMade.arg(u"sample"_s, u"blake3"_s));
-    row(u"--format json abc"_s, u"Unknown option 'format'."_s);
-    row(u"abc --algorithm"_s, u"Missing value after '--algorithm'."_s);
-}
-
-void HashCommandTest::mistakes()
-{
-    QFETCH(QString, arguments);
-    QFETCH(QString, message);
-    const ProgramRun run = hash(arguments.split(u' '));
-    QCOMPARE(run.errors, usageErrorText(message));
-    QCOMPARE(run.output, "");
-    QCOMPARE(run.status, 2);
-}
 
 QTEST_GUILESS_MAIN(HashCommandTest)
 #include "tst_hashcommand.moc"

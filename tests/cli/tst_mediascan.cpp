@@ -1,17 +1,8 @@
-#include "tests/support/disk.h"
+#include "tests/cli/clitest.h"
 #include "tests/support/mediafiles.h"
-#include "tests/support/program.h"
-#include "tests/support/temptree.h"
 
 #include <QBuffer>
 #include <QImage>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QTest>
-
-using namespace MirrixTest;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -29,109 +20,92 @@ QByteArray rings(int width, int height, const char *format)
 
 } // namespace
 
-class MediaScanTest : public QObject
+class MediaScanTest : public CliTest
 {
     Q_OBJECT
 
 private slots:
-    void images();
-    void brokenPicturesAreSilent();
-    void opensNothingForWriting_data();
-    void opensNothingForWriting();
+    void init() { renew(); }
+
+    void images()
+    {
+        m_tree->write(u"a.png"_s, rings(300, 200, "png"));
+        m_tree->write(u"b.jpg"_s, rings(300, 200, "jpg"));
+        for (int scans = 0; scans < 2; ++scans) {
+            const QJsonArray groups = scan(u"images --set imageSameDimensions=true"_s)[u"groups"_s].toArray();
+            QCOMPARE(m_run.errors, "");
+            QCOMPARE(m_run.status, 0);
+            QCOMPARE(groups.size(), 1);
+            const QJsonArray files = groups[0][u"files"_s].toArray();
+            QCOMPARE(files.size(), 2);
+            for (const QJsonValue &file : files) {
+                QCOMPARE(file[u"width"_s].toInt(), 300);
+                QCOMPARE(file[u"height"_s].toInt(), 200);
+            }
+        }
+        QVERIFY(QDir(dataFolder() + u"/image_feature_cache"_s).exists());
+    }
+
+    void brokenPicturesAreSilent()
+    {
+        int count = 0;
+        for (const char *format : {"png", "jpg", "bmp", "ppm"}) {
+            const QByteArray whole = rings(300, 200, format);
+            for (const QByteArray &bytes : {whole.first(whole.size() / 2), whole.first(30) + patternBytes(3000),
+                                            whole.first(whole.size() / 2) + patternBytes(3000), QByteArray()}) {
+                for (const QString &extension : {u"jpg"_s, u"dng"_s, u"tiff"_s})
+                    m_tree->write(u"broken/%1.%2"_s.arg(++count).arg(extension), bytes);
+            }
+        }
+        const QJsonObject report = scan(u"images --set imageSameShotTime=true"_s);
+        QCOMPARE(m_run.errors, "");
+        QCOMPARE(m_run.status, 0);
+        QVERIFY(report[u"filesScanned"_s].toInt() >= count);
+    }
+
+    void opensNothingForWriting_data()
+    {
+        const auto row = columns<QString>({"options"});
+        row("files", {});
+        row("similar content", u" --mode similar-content"_s);
+        row("images", u" --mode images --set imageSameShotTime=true"_s);
+        row("audio", u" --mode audio --set audioMatchDuration=true"_s);
+        row("video", u" --mode video --set videoMatchDuration=true"_s);
+    }
+
+    void opensNothingForWriting()
+    {
+        QFETCH(QString, options);
+        for (const QString &name : {u"a"_s, u"b"_s}) {
+            m_tree->write(u"in/"_s + name + u".png"_s, rings(300, 200, "png"));
+            m_tree->write(u"in/"_s + name + u".dng"_s, dngFile(rings(300, 200, "jpg"), 300, 200));
+            m_tree->write(u"in/"_s + name + u".mp4"_s, mp4File(2000, "title", "2024-05-01"));
+            for (const QString &format : {u"wav"_s, u"mp3"_s, u"flac"_s, u"ogg"_s, u"m4a"_s, u"wma"_s, u"ape"_s})
+                m_tree->write(u"in/"_s + name + u'.' + format, wavFile(2000));
+        }
+        ProgramRun done;
+        if (!traced(u"-o %1/trace -e trace=open,openat,openat2,creat,truncate"_s, u"scan %1/in"_s + options, done))
+            QSKIP("there is no strace");
+        QCOMPARE(done.status, 0);
+        int reads = 0;
+        for (const QByteArray &call : contentOf(path(u"trace"_s)).split('\n')) {
+            if (!call.contains(path(u"in/"_s).toUtf8()))
+                continue;
+            ++reads;
+            QVERIFY2(call.contains("O_RDONLY"), call.constData());
+        }
+        QVERIFY(reads > 0);
+    }
 
 private:
-    QJsonObject scan(const QStringList &arguments)
+    QJsonObject scan(const QString &mode)
     {
-        const QStringList all =
-            QStringList{u"scan"_s, u"--data-dir"_s, m_program.dataFolder(), u"--format"_s, u"json"_s} + arguments +
-            QStringList{m_tree.path()};
-        m_run = m_program.run(all);
+        m_run = run(u"scan %1 --format json --mode "_s + mode);
         return QJsonDocument::fromJson(m_run.output).object();
     }
 
-    Program m_program;
-    TempTree m_tree;
     ProgramRun m_run;
 };
-
-void MediaScanTest::images()
-{
-    m_tree.write(u"a.png"_s, rings(300, 200, "png"));
-    m_tree.write(u"b.jpg"_s, rings(300, 200, "jpg"));
-    for (int scans = 0; scans < 2; ++scans) {
-        const QJsonArray groups =
-            scan({u"--mode"_s, u"images"_s, u"--set"_s, u"imageSameDimensions=true"_s})[u"groups"_s].toArray();
-        QCOMPARE(m_run.errors, "");
-        QCOMPARE(m_run.status, 0);
-        QCOMPARE(groups.size(), 1);
-        const QJsonArray files = groups[0][u"files"_s].toArray();
-        QCOMPARE(files.size(), 2);
-        for (const QJsonValue &file : files) {
-            QCOMPARE(file[u"width"_s].toInt(), 300);
-            QCOMPARE(file[u"height"_s].toInt(), 200);
-        }
-    }
-    QVERIFY(QDir(m_program.dataFolder() + u"/image_feature_cache"_s).exists());
-}
-
-void MediaScanTest::brokenPicturesAreSilent()
-{
-    int count = 0;
-    for (const char *format : {"png", "jpg", "bmp", "ppm"}) {
-        const QByteArray whole = rings(300, 200, format);
-        for (const QByteArray &bytes : {whole.first(whole.size() / 2), whole.first(30) + patternBytes(3000),
-                                        whole.first(whole.size() / 2) + patternBytes(3000), QByteArray()}) {
-            for (const QString &extension : {u"jpg"_s, u"dng"_s, u"tiff"_s})
-                m_tree.write(u"broken/%1.%2"_s.arg(++count).arg(extension), bytes);
-        }
-    }
-    const QJsonObject report = scan({u"--mode"_s, u"images"_s, u"--set"_s, u"imageSameShotTime=true"_s});
-    QCOMPARE(m_run.errors, "");
-    QCOMPARE(m_run.status, 0);
-    QVERIFY(report[u"filesScanned"_s].toInt() >= count);
-}
-
-void MediaScanTest::opensNothingForWriting_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("files") << QStringList();
-    QTest::newRow("similar content") << QStringList{u"--mode"_s, u"similar-content"_s};
-    QTest::newRow("images") << QStringList{u"--mode"_s, u"images"_s, u"--set"_s, u"imageSameShotTime=true"_s};
-    QTest::newRow("audio") << QStringList{u"--mode"_s, u"audio"_s, u"--set"_s, u"audioMatchDuration=true"_s};
-    QTest::newRow("video") << QStringList{u"--mode"_s, u"video"_s, u"--set"_s, u"videoMatchDuration=true"_s};
-}
-
-void MediaScanTest::opensNothingForWriting()
-{
-    QFETCH(QStringList, arguments);
-    const TempTree tree;
-    for (const QString &name : {u"a"_s, u"b"_s}) {
-        tree.write(name + u".png"_s, rings(300, 200, "png"));
-        tree.write(name + u".dng"_s, dngFile(rings(300, 200, "jpg"), 300, 200));
-        tree.write(name + u".mp4"_s, mp4File(2000, "title", "2024-05-01"));
-        for (const QString &format : {u"wav"_s, u"mp3"_s, u"flac"_s, u"ogg"_s, u"m4a"_s, u"wma"_s, u"ape"_s})
-            tree.write(name + u'.' + format, wavFile(2000));
-    }
-    const QString trace = m_tree.path(u"trace"_s);
-    QProcess process;
-    m_program.prepare(process, {u"-E"_s, u"ASAN_OPTIONS=detect_leaks=0"_s, u"-f"_s, u"-qq"_s, u"-o"_s, trace, u"-e"_s,
-                                u"trace=open,openat,openat2,creat,truncate"_s, Program::builtExecutable(), u"scan"_s,
-                                u"--data-dir"_s, m_program.dataFolder(), tree.path()});
-    process.setProgram(u"strace"_s);
-    process.setArguments(process.arguments() + arguments);
-    process.start();
-    if (!process.waitForStarted())
-        QSKIP("there is no strace");
-    QCOMPARE(Program::ended(process).status, 0);
-    int reads = 0;
-    for (const QByteArray &call : contentOf(trace).split('\n')) {
-        if (!call.contains(tree.path().toUtf8() + '/'))
-            continue;
-        ++reads;
-        QVERIFY2(call.contains("O_RDONLY"), call.constData());
-    }
-    QVERIFY(reads > 0);
-}
 
 QTEST_GUILESS_MAIN(MediaScanTest)
 #include "tst_mediascan.moc"

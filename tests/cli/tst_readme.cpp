@@ -1,4 +1,5 @@
 #include "tests/support/program.h"
+#include "tests/support/tables.h"
 #include "tests/support/temptree.h"
 
 #include <QHash>
@@ -78,74 +79,70 @@ class ReadmeTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void runs_data();
-    void runs();
+    void initTestCase()
+    {
+        if (QStandardPaths::findExecutable(u"bash"_s).isEmpty())
+            QSKIP("no shell");
+        const QList<std::pair<QString, QByteArray>> files = {{u"Pictures/photo.jpg"_s, picture(false)},
+                                                             {u"Pictures/photo (1).jpg"_s, picture(false)},
+                                                             {u"Pictures/turned.jpg"_s, picture(true)},
+                                                             {u"photo.jpg"_s, picture(false)},
+                                                             {u"data/one.iso"_s, patternBytes(1 << 20)},
+                                                             {u"data/two.iso"_s, patternBytes(1 << 20)},
+                                                             {u"data/x.git/c.iso"_s, patternBytes(1 << 20)},
+                                                             {u"data/x.bak"_s, "old"},
+                                                             {u"data/tmp/y.bak"_s, "old"},
+                                                             {u"Music/song.mp3"_s, patternBytes(5000)},
+                                                             {u"Music/more/song.mp3"_s, patternBytes(5000)},
+                                                             {u"Music/other.mp3"_s, patternBytes(5000)},
+                                                             {u"Docs/reportA.txt"_s, "first"},
+                                                             {u"Docs/reportB.txt"_s, "second"},
+                                                             {u"Docs/empty.txt"_s, {}},
+                                                             {u"Backups/old/a"_s, "a"},
+                                                             {u"Backups/new/a"_s, "a"},
+                                                             {u"Backups/alone"_s, "a"},
+                                                             {u"disc.iso"_s, "disc"},
+                                                             {u"film.mkv"_s, "film"},
+                                                             {u"Before/first"_s, "before"},
+                                                             {u"Before/second"_s, "before"},
+                                                             {u"my-scan.json"_s, R"({"roots": ["Backups"]})"}};
+        for (const auto &[path, content] : files)
+            m_tree.write(path, content);
+        m_tree.makeFolder(u"Docs/nothing"_s);
+        const ProgramRun run = m_program.run(
+            {u"clean"_s, u"--keep"_s, u"oldest"_s, u"--method"_s, u"backup"_s, u"--apply"_s, m_tree.path(u"Before"_s)});
+        QCOMPARE(run.errors, "");
+    }
+
+    void runs_data()
+    {
+        const auto row = columns<QString>({"line"});
+        const QStringList lines = consoleLines();
+        QVERIFY(lines.size() > 20);
+        for (const QString &line : lines)
+            row(qPrintable(line), line);
+    }
+
+    void runs()
+    {
+        QFETCH(QString, line);
+        const QString known = QString(line).remove(QRegularExpression(u"^mirrix-cli "_s));
+        QVERIFY2(facts().contains(known), "this line has no fact to check");
+        QString script = QString(line).remove(u"~/"_s).replace(u" /data"_s, u" data"_s);
+        static const QRegularExpression output(u"--output (\\S+)"_s);
+        if (const QRegularExpressionMatch file = output.match(line); file.hasMatch())
+            script += u" && cat "_s + file.captured(1);
+        const ProgramRun run = m_program.runInShell(u"set -o pipefail; "_s + script, m_tree.path());
+        QCOMPARE(run.errors, "");
+        QCOMPARE(run.status, 0);
+        const QRegularExpression fact(facts()[known], QRegularExpression::DotMatchesEverythingOption);
+        QVERIFY2(fact.match(QString::fromUtf8(run.output)).hasMatch(), run.output.constData());
+    }
 
 private:
     Program m_program;
     TempTree m_tree;
 };
-
-void ReadmeTest::initTestCase()
-{
-    if (QStandardPaths::findExecutable(u"bash"_s).isEmpty())
-        QSKIP("no shell");
-    const QList<std::pair<QString, QByteArray>> files = {{u"Pictures/photo.jpg"_s, picture(false)},
-                                                         {u"Pictures/photo (1).jpg"_s, picture(false)},
-                                                         {u"Pictures/turned.jpg"_s, picture(true)},
-                                                         {u"photo.jpg"_s, picture(false)},
-                                                         {u"data/one.iso"_s, patternBytes(1 << 20)},
-                                                         {u"data/two.iso"_s, patternBytes(1 << 20)},
-                                                         {u"data/x.git/c.iso"_s, patternBytes(1 << 20)},
-                                                         {u"data/x.bak"_s, "old"},
-                                                         {u"data/tmp/y.bak"_s, "old"},
-                                                         {u"Music/song.mp3"_s, patternBytes(5000)},
-                                                         {u"Music/more/song.mp3"_s, patternBytes(5000)},
-                                                         {u"Music/other.mp3"_s, patternBytes(5000)},
-                                                         {u"Docs/reportA.txt"_s, "first"},
-                                                         {u"Docs/reportB.txt"_s, "second"},
-                                                         {u"Docs/empty.txt"_s, {}},
-                                                         {u"Backups/old/a"_s, "a"},
-                                                         {u"Backups/new/a"_s, "a"},
-                                                         {u"Backups/alone"_s, "a"},
-                                                         {u"disc.iso"_s, "disc"},
-                                                         {u"film.mkv"_s, "film"},
-                                                         {u"Before/first"_s, "before"},
-                                                         {u"Before/second"_s, "before"},
-                                                         {u"my-scan.json"_s, R"({"roots": ["Backups"]})"}};
-    for (const auto &[path, content] : files)
-        m_tree.write(path, content);
-    m_tree.makeFolder(u"Docs/nothing"_s);
-    const ProgramRun run = m_program.run(
-        {u"clean"_s, u"--keep"_s, u"oldest"_s, u"--method"_s, u"backup"_s, u"--apply"_s, m_tree.path(u"Before"_s)});
-    QCOMPARE(run.errors, "");
-}
-
-void ReadmeTest::runs_data()
-{
-    QTest::addColumn<QString>("line");
-    const QStringList lines = consoleLines();
-    QVERIFY(lines.size() > 20);
-    for (const QString &line : lines)
-        QTest::newRow(qPrintable(line)) << line;
-}
-
-void ReadmeTest::runs()
-{
-    QFETCH(QString, line);
-    const QString known = QString(line).remove(QRegularExpression(u"^mirrix-cli "_s));
-    QVERIFY2(facts().contains(known), "this line has no fact to check");
-    QString script = QString(line).remove(u"~/"_s).replace(u" /data"_s, u" data"_s);
-    static const QRegularExpression output(u"--output (\\S+)"_s);
-    if (const QRegularExpressionMatch file = output.match(line); file.hasMatch())
-        script += u" && cat "_s + file.captured(1);
-    const ProgramRun run = m_program.runInShell(u"set -o pipefail; "_s + script, m_tree.path());
-    QCOMPARE(run.errors, "");
-    QCOMPARE(run.status, 0);
-    const QRegularExpression fact(facts()[known], QRegularExpression::DotMatchesEverythingOption);
-    QVERIFY2(fact.match(QString::fromUtf8(run.output)).hasMatch(), run.output.constData());
-}
 
 QTEST_GUILESS_MAIN(ReadmeTest)
 #include "tst_readme.moc"

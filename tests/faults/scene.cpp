@@ -89,21 +89,14 @@ QStringList Scene::victims()
 
 QStringList Scene::arguments() const
 {
-    const QStringList common = {u"--data-dir"_s, path(u"data"_s)};
-    if (m_isUndo)
-        return QStringList{u"undo"_s} + common + QStringList{u"--apply"_s, u"last"_s};
-    if (m_method == u"restore")
-        return QStringList{u"restore"_s} + common + QStringList{u"--target"_s, m_target, u"--all"_s};
-    if (m_method == u"scan")
-        return QStringList{u"scan"_s} + common + QStringList{u"--threads"_s, u"1"_s,        u"--format"_s,
-                                                             u"json"_s,      u"--output"_s, path(u"report"_s),
-                                                             path(u"src"_s)};
-    QStringList arguments =
-        QStringList{u"clean"_s} + common +
-        QStringList{u"--threads"_s, u"1"_s, u"--keep"_s, u"oldest"_s, u"--method"_s, m_method, u"--apply"_s};
-    if (m_method != u"recycle" && m_method != u"delete")
-        arguments += {u"--target"_s, m_target};
-    return arguments + QStringList{path(u"src"_s)};
+    QString line = m_isUndo                 ? u"undo --apply last"_s
+                   : m_method == u"restore" ? u"restore --target %2 --all"_s
+                   : m_method == u"scan"    ? u"scan --threads 1 --format json --output %1/report %1/src"_s
+                                            : u"clean --threads 1 --keep oldest --apply %1/src --method "_s + m_method;
+    if (!m_isUndo && !QStringList{u"scan"_s, u"restore"_s, u"recycle"_s, u"delete"_s}.contains(m_method))
+        line += u" --target %2"_s;
+    QStringList words = (line + u" --data-dir %1/data"_s).split(u' ');
+    return words.replaceInStrings(u"%1"_s, path({})).replaceInStrings(u"%2"_s, m_target);
 }
 
 void Scene::prepare(QProcess &process) const

@@ -1,5 +1,6 @@
 #include "tests/support/disk.h"
 #include "tests/support/program.h"
+#include "tests/support/tables.h"
 #include "tests/support/temptree.h"
 
 #include <QDir>
@@ -153,12 +154,10 @@ Findings lookAt(const TempTree &tree)
 QStringList commandFor(const QString &method, const TempTree &tree, const QString &keep = u"newest"_s,
                        const QString &side = {})
 {
-    const QStringList common = {u"--data-dir"_s, tree.path(u"data"_s + side), tree.path(u"src"_s)};
-    if (method == u"scan")
-        return QStringList{u"scan"_s} + common;
-    const QStringList clean = QStringList{u"clean"_s, u"--keep"_s, keep, u"--apply"_s, u"--method"_s, method} + common;
-    const bool needsTarget = method != u"delete" && method != u"recycle";
-    return needsTarget ? clean + QStringList{u"--target"_s, tree.path(u"target"_s + side)} : clean;
+    QString line = method == u"scan" ? u"scan"_s : u"clean --keep %1 --apply --method %2"_s.arg(keep, method);
+    if (method != u"scan" && method != u"delete" && method != u"recycle")
+        line += u" --target "_s + tree.path(u"target"_s + side);
+    return (line + u" --data-dir %1 %2"_s.arg(tree.path(u"data"_s + side), tree.path(u"src"_s))).split(u' ');
 }
 
 /// How many files the program says it dealt with.
@@ -293,11 +292,11 @@ private:
     int m_count = 0;
 };
 
-void addMethods(const QByteArrayList &methods)
+void addMethods(const QStringList &methods)
 {
-    QTest::addColumn<QString>("method");
-    for (const QByteArray &method : methods)
-        QTest::newRow(method.constData()) << QString::fromLatin1(method);
+    const auto row = columns<QString>({"method"});
+    for (const QString &method : methods)
+        row(qPrintable(method), method);
 }
 
 } // namespace
@@ -307,136 +306,126 @@ class RacesTest : public QObject
     Q_OBJECT
 
 private slots:
-    void everyContentStays_data();
-    void everyContentStays();
-    void contraryRules_data();
-    void contraryRules();
-    void editsMeanwhile_data() { contraryRules_data(); }
-    void editsMeanwhile();
-};
+    void everyContentStays_data() { addMethods(u"scan delete move recycle symlink hardlink backup"_s.split(u' ')); }
 
-void RacesTest::everyContentStays_data()
-{
-    addMethods({"scan", "delete", "move", "recycle", "symlink", "hardlink", "backup"});
-}
-
-/// Whatever another process does meanwhile, a whole copy of each content is left, what was moved is whole, and the
-/// program tells no more than it did.
-void RacesTest::everyContentStays()
-{
-    QFETCH(QString, method);
-    const int rounds = std::max(3, qEnvironmentVariableIntValue("MIRRIX_RACE_ROUNDS") / 7);
-    int disturbed = 0;
-    for (int round = 0; round < rounds; ++round) {
-        const quint32 seed = QRandomGenerator::global()->generate();
-        const TempTree tree;
-        const Program program;
-        tree.makeFolder(u"target"_s);
-        for (int i = 0; i < fileCount; ++i)
-            tree.write(u"src/"_s + fileOf(i), contentOfKind(i % kindCount));
-        QProcess other;
-        other.start(QCoreApplication::applicationFilePath(),
-                    {u"--mutate"_s, tree.path(u"src"_s), QString::number(seed)});
-        QVERIFY(other.waitForStarted());
-        const ProgramRun run = program.run(commandFor(method, tree));
-        QCOMPARE(other.state(), QProcess::Running);
-        other.kill();
-        other.waitForFinished();
-        QVERIFY2(run.status == 0 || run.status == 1, run.errors.constData());
-        disturbed += run.status;
-        const QString problem = problemOf(method, lookAt(tree), run.output);
-        QVERIFY2(problem.isEmpty(),
-                 qPrintable(u"seed %1: %2\n"_s.arg(seed).arg(problem) + QString::fromUtf8(run.output + run.errors)));
-    }
-    qInfo("%d of %d runs disturbed", disturbed, rounds);
-}
-
-void RacesTest::contraryRules_data()
-{
-    addMethods({"delete", "move", "recycle", "symlink", "hardlink", "backup"});
-}
-
-/// Each of two programs takes the other's kept files for surplus.
-void RacesTest::contraryRules()
-{
-    QFETCH(QString, method);
-    const int rounds = std::max(34, qEnvironmentVariableIntValue("MIRRIX_RACE_ROUNDS") / 6);
-    int disturbed = 0;
-    for (int round = 0; round < rounds; ++round) {
-        const Pairs pairs(round % 2 ? 300 : 90000);
-        const Program programs[2];
-        QProcess processes[2];
-        for (int side = 0; side < 2; ++side)
-            programs[side].prepare(processes[side], commandFor(method, pairs.tree(), side ? u"newest"_s : u"oldest"_s,
-                                                               QString::number(side)));
-        for (QProcess &process : processes)
-            process.start();
-        qsizetype told = 0;
-        QByteArray said;
-        for (QProcess &process : processes) {
-            const ProgramRun run = Program::ended(process);
-            said += run.output + run.errors;
-            QVERIFY2(run.status == 0 || run.status == 1, said.constData());
+    /// Whatever another process does meanwhile, a whole copy of each content is left, what was moved is whole, and the
+    /// program tells no more than it did.
+    void everyContentStays()
+    {
+        QFETCH(QString, method);
+        const int rounds = std::max(3, qEnvironmentVariableIntValue("MIRRIX_RACE_ROUNDS") / 7);
+        int disturbed = 0;
+        for (int round = 0; round < rounds; ++round) {
+            const quint32 seed = QRandomGenerator::global()->generate();
+            const TempTree tree;
+            const Program program;
+            tree.makeFolder(u"target"_s);
+            for (int i = 0; i < fileCount; ++i)
+                tree.write(u"src/"_s + fileOf(i), contentOfKind(i % kindCount));
+            QProcess other;
+            other.start(QCoreApplication::applicationFilePath(),
+                        {u"--mutate"_s, tree.path(u"src"_s), QString::number(seed)});
+            QVERIFY(other.waitForStarted());
+            const ProgramRun run = program.run(commandFor(method, tree));
+            QCOMPARE(other.state(), QProcess::Running);
+            other.kill();
+            other.waitForFinished();
+            QVERIFY2(run.status == 0 || run.status == 1, run.errors.constData());
             disturbed += run.status;
-            told += toldCount(run.output);
+            const QString problem = problemOf(method, lookAt(tree), run.output);
+            QVERIFY2(problem.isEmpty(), qPrintable(u"seed %1: %2\n"_s.arg(seed).arg(problem) +
+                                                   QString::fromUtf8(run.output + run.errors)));
         }
-        QString problem = pairs.problem(method, told);
-        for (qsizetype i = 0; i < pairs.paths().size(); i += 2) {
-            if (contentOf(pairs.paths()[i]) != pairs.contentOf(i) &&
-                contentOf(pairs.paths()[i + 1]) != pairs.contentOf(i))
-                problem += u" lost: "_s + pairs.paths()[i];
-        }
-        QVERIFY2(problem.isEmpty(), problem.toUtf8() + '\n' + said);
+        qInfo("%d of %d runs disturbed", disturbed, rounds);
     }
-    qInfo("%d runs disturbed in %d rounds", disturbed, rounds);
-}
 
-/// Another program writes into files while they are compared and taken away: what it wrote last stays, and so does what
-/// it left alone.
-void RacesTest::editsMeanwhile()
-{
-    QFETCH(QString, method);
-    const int rounds = std::max(34, qEnvironmentVariableIntValue("MIRRIX_RACE_ROUNDS") / 6);
-    const bool isCompared = method == u"delete" || method.endsWith(u"link");
-    int disturbed = 0;
-    for (int round = 0; round < rounds; ++round) {
-        const Pairs pairs(isCompared ? 1 << 20 : 200000); // takes longer to compare than to come in
-        const Program program;
-        QHash<QString, ino_t> numbers;
-        for (const QString &path : pairs.paths()) {
-            struct stat status = {};
-            QVERIFY(lstat(path.toUtf8().constData(), &status) == 0);
-            numbers.insert(path, status.st_ino);
+    void contraryRules_data() { addMethods(u"delete move recycle symlink hardlink backup"_s.split(u' ')); }
+
+    /// Each of two programs takes the other's kept files for surplus.
+    void contraryRules()
+    {
+        QFETCH(QString, method);
+        const int rounds = std::max(34, qEnvironmentVariableIntValue("MIRRIX_RACE_ROUNDS") / 6);
+        int disturbed = 0;
+        for (int round = 0; round < rounds; ++round) {
+            const Pairs pairs(round % 2 ? 300 : 90000);
+            const Program programs[2];
+            QProcess processes[2];
+            for (int side = 0; side < 2; ++side)
+                programs[side].prepare(
+                    processes[side],
+                    commandFor(method, pairs.tree(), side ? u"newest"_s : u"oldest"_s, QString::number(side)));
+            for (QProcess &process : processes)
+                process.start();
+            qsizetype told = 0;
+            QByteArray said;
+            for (QProcess &process : processes) {
+                const ProgramRun run = Program::ended(process);
+                said += run.output + run.errors;
+                QVERIFY2(run.status == 0 || run.status == 1, said.constData());
+                disturbed += run.status;
+                told += toldCount(run.output);
+            }
+            QString problem = pairs.problem(method, told);
+            for (qsizetype i = 0; i < pairs.paths().size(); i += 2) {
+                if (contentOf(pairs.paths()[i]) != pairs.contentOf(i) &&
+                    contentOf(pairs.paths()[i + 1]) != pairs.contentOf(i))
+                    problem += u" lost: "_s + pairs.paths()[i];
+            }
+            QVERIFY2(problem.isEmpty(), problem.toUtf8() + '\n' + said);
         }
-        std::atomic_bool isOver = false;
-        auto editor = std::async(std::launch::async, [&, seed = QRandomGenerator::global()->generate()] {
-            return Editor(pairs.paths(), seed).run(isOver);
-        });
-        QProcess process;
-        program.prepare(process, commandFor(method, pairs.tree()));
-        process.start();
-        const ProgramRun run = Program::ended(process);
-        isOver = true;
-        const QHash<ino_t, QByteArray> stamps = editor.get();
-        QVERIFY2(run.status == 0 || run.status == 1, run.errors.constData());
-        disturbed += run.status;
-        QString problem = pairs.problem(method, toldCount(run.output));
-        QSet<QByteArray> left;
-        for (const DiskTree &tree : {treeBelow(pairs.tree().path()), treeBelow(program.dataFolder() + u"/.."_s)}) {
-            for (const QByteArray &file : tree)
-                left.insert(file.left(file.lastIndexOf(" @")));
-        }
-        for (qsizetype i = 0; i < pairs.paths().size(); ++i) {
-            const ino_t number = numbers[pairs.paths()[i]];
-            const bool isPairWritten = stamps.contains(number) || stamps.contains(numbers[pairs.paths()[i ^ 1]]);
-            const QByteArray content = stamps.value(number) + pairs.contentOf(i).mid(stamps.value(number).size());
-            if ((stamps.contains(number) || !isPairWritten) && !left.contains(content))
-                problem += u" lost: "_s + pairs.paths()[i];
-        }
-        QVERIFY2(problem.isEmpty(), problem.toUtf8() + '\n' + run.output + run.errors);
+        qInfo("%d runs disturbed in %d rounds", disturbed, rounds);
     }
-    qInfo("%d of %d runs disturbed", disturbed, rounds);
-}
+
+    void editsMeanwhile_data() { contraryRules_data(); }
+
+    /// Another program writes into files while they are compared and taken away: what it wrote last stays, and so does
+    /// what it left alone.
+    void editsMeanwhile()
+    {
+        QFETCH(QString, method);
+        const int rounds = std::max(34, qEnvironmentVariableIntValue("MIRRIX_RACE_ROUNDS") / 6);
+        const bool isCompared = method == u"delete" || method.endsWith(u"link");
+        int disturbed = 0;
+        for (int round = 0; round < rounds; ++round) {
+            const Pairs pairs(isCompared ? 1 << 20 : 200000); // takes longer to compare than to come in
+            const Program program;
+            QHash<QString, ino_t> numbers;
+            for (const QString &path : pairs.paths()) {
+                struct stat status = {};
+                QVERIFY(lstat(path.toUtf8().constData(), &status) == 0);
+                numbers.insert(path, status.st_ino);
+            }
+            std::atomic_bool isOver = false;
+            auto editor = std::async(std::launch::async, [&, seed = QRandomGenerator::global()->generate()] {
+                return Editor(pairs.paths(), seed).run(isOver);
+            });
+            QProcess process;
+            program.prepare(process, commandFor(method, pairs.tree()));
+            process.start();
+            const ProgramRun run = Program::ended(process);
+            isOver = true;
+            const QHash<ino_t, QByteArray> stamps = editor.get();
+            QVERIFY2(run.status == 0 || run.status == 1, run.errors.constData());
+            disturbed += run.status;
+            QString problem = pairs.problem(method, toldCount(run.output));
+            QSet<QByteArray> left;
+            for (const DiskTree &tree : {treeBelow(pairs.tree().path()), treeBelow(program.dataFolder() + u"/.."_s)}) {
+                for (const QByteArray &file : tree)
+                    left.insert(file.left(file.lastIndexOf(" @")));
+            }
+            for (qsizetype i = 0; i < pairs.paths().size(); ++i) {
+                const ino_t number = numbers[pairs.paths()[i]];
+                const bool isPairWritten = stamps.contains(number) || stamps.contains(numbers[pairs.paths()[i ^ 1]]);
+                const QByteArray content = stamps.value(number) + pairs.contentOf(i).mid(stamps.value(number).size());
+                if ((stamps.contains(number) || !isPairWritten) && !left.contains(content))
+                    problem += u" lost: "_s + pairs.paths()[i];
+            }
+            QVERIFY2(problem.isEmpty(), problem.toUtf8() + '\n' + run.output + run.errors);
+        }
+        qInfo("%d of %d runs disturbed", disturbed, rounds);
+    }
+};
 
 int main(int argc, char **argv)
 {
