@@ -218,6 +218,8 @@ private slots:
             [](const auto &file) { return file.value().startsWith(" @") && !file.key().startsWith(u".git/"_s); });
         QCOMPARE(left.size(), before.size() - 2);
         QCOMPARE(source(), left);
+        if (rowMethod() == u"recycle"_s && !namesAreBytes)
+            return; // Wine's bin is not one of Windows
         const ProgramRun undone = run(u"undo last --apply"_s);
         QCOMPARE(undone.errors, "");
         QCOMPARE(source(), before);
